@@ -1,0 +1,162 @@
+#include "tables/CapRows.h"
+
+#include <array>
+#include <string_view>
+
+#include "model/DataSet.h"
+#include "text/Format.h"
+
+namespace {
+
+constexpr std::array<std::string_view, 4> kShearKinds = {" %i LF", " %i LCL", " %i RCL", " %i RF"};
+constexpr std::array<std::string_view, 3> kMomentKinds = {" %i LF", " %i CL", " %i RF"};
+
+// By row code: 0 left row, 1 right row, 2 the only row, 3 both rows at one place.
+constexpr std::array<std::array<std::string_view, 4>, 2> kShearBearings = {{
+    {"Brg %i L LR", "Brg %i L RR", "Brg %i L", "Brg %i L"},
+    {"Brg %i R LR", "Brg %i R RR", "Brg %i R", "Brg %i R"},
+}};
+constexpr std::array<std::string_view, 4> kMomentBearings = {"Brg %i LR", "Brg %i RR", "Brg %i", "Brg %i"};
+
+// The key below its lines for the words of the supports; the member word stands behind each left text.
+struct KeyForm {
+    const char* leftShort;
+    const char* leftLong;
+    const char* rightShort;
+    const char* rightLong;
+};
+constexpr std::array<KeyForm, 4> kShearKey = {{
+    {"LF", "Left Face of ", "L", "Left Side of Bearing"},
+    {"RF", "Right Face of ", "R", "Right Side of Bearing"},
+    {"LCL", "Left Centerline of ", "LR", "Bearing Is In The Left Row"},
+    {"RCL", "Right Centerline of ", "RR", "Bearing Is In The Right Row"},
+}};
+constexpr std::array<KeyForm, 3> kMomentKey = {{
+    {"LF", "Left Face of ", "LR", "Bearing Is In The Left Row"},
+    {"RF", "Right Face of ", "RR", "Bearing Is In The Right Row"},
+    {"CL", "Centerline of ", nullptr, nullptr},
+}};
+
+template <std::size_t N>
+std::string_view At(const std::array<std::string_view, N>& list, int index) {
+    return index >= 0 && index < static_cast<int>(N) ? list[static_cast<std::size_t>(index)]
+                                                     : std::string_view{};
+}
+
+bool Holds(const CCapTable& table, int position, int slot, int kind) {
+    return position >= 0 && position < table.Positions() && slot >= 0 && slot < table.Slots() && kind >= 0 &&
+           kind < table.Kinds();
+}
+
+// The tables of one pier that a walk reads.
+struct Walk {
+    int table;
+    const CPier& pier;
+    int slot, extreme;
+    const std::function<void(const CCapRow&)>& visit;
+
+    bool IsShear() const { return table == kTableCapShear; }
+
+    void Support(std::size_t cursor) const {
+        const auto& list = IsShear() ? pier.m_ShearSupportList : pier.m_MomentSupportList;
+        const CCapTable& results = IsShear() ? pier.m_ShearSupports : pier.m_MomentSupports;
+        const CSupportLocation& place = list[cursor];
+        if (!Holds(results, place.m_nSupport, slot, place.m_nKind)) return;
+        CCapRow row;
+        row.sLabel = CapSupportLabel(table, pier.m_nStructureType, place.m_nSupport, place.m_nKind);
+        row.pEntry = &results.At(place.m_nSupport, slot, place.m_nKind, extreme);
+        visit(row);
+    }
+
+    void Bearing(std::size_t cursor) const {
+        const CBearingLocation& place = pier.m_BearingList[cursor];
+        const CCapTable& results = IsShear() ? pier.m_ShearBearings : pier.m_MomentBearings;
+        for (int side = 0; side < (IsShear() ? 2 : 1); ++side) {
+            const int kind = IsShear() ? place.Row() * 2 + side : place.Row();
+            if (!Holds(results, place.m_nBearing, slot, kind)) continue;
+            CCapRow row;
+            row.sLabel = CapBearingLabel(table, place, side);
+            row.pEntry = &results.At(place.m_nBearing, slot, kind, extreme);
+            row.bBearing = true;
+            // The left side goes by the flag of the element that starts at the bearing, though its result
+            // comes from the one that ends there: engineers know the rows at a cap's end in this form.
+            if (IsShear()) row.bSideHasResult = side == 0 ? place.m_bElementStarts : place.m_bElementEnds;
+            visit(row);
+        }
+    }
+};
+
+void AddWordLine(std::vector<CCapKeyLine>& key, int structureType, bool withBearing) {
+    CCapKeyLine line{{MemberShortName(structureType), MemberName(structureType)}, std::nullopt};
+    if (withBearing) line.right = CCapKeyEntry{"Brg", "Bearing"};
+    key.push_back(line);
+}
+
+template <std::size_t N>
+void AddLines(std::vector<CCapKeyLine>& key, const std::array<KeyForm, N>& forms, const std::string& word) {
+    for (const KeyForm& form : forms) {
+        CCapKeyLine line{{form.leftShort, form.leftLong + word}, std::nullopt};
+        if (form.rightShort != nullptr) line.right = CCapKeyEntry{form.rightShort, form.rightLong};
+        key.push_back(line);
+    }
+}
+
+}  // namespace
+
+void WalkCap(int table, const CPier& pier, int slot, int extreme,
+             const std::function<void(const CCapRow&)>& visit) {
+    const Walk walk{table, pier, slot, extreme, visit};
+    const int rows = walk.IsShear() ? pier.m_nCapShearPoints : pier.m_nCapMomentPoints;
+    int support = 0, bearing = 0;
+    for (int count = 0; count < rows;) {
+        const int next =
+            walk.IsShear() ? pier.NextShearPoint(support, bearing) : pier.NextMomentPoint(support, bearing);
+        if (next == 0) {
+            walk.Support(static_cast<std::size_t>(support++));
+            ++count;
+        } else if (next == 1) {
+            walk.Bearing(static_cast<std::size_t>(bearing++));
+            count += walk.IsShear() ? 2 : 1;
+        } else {
+            break;
+        }
+    }
+}
+
+std::string CapSupportLabel(int table, int structureType, int support, int kind) {
+    const bool shear = table == kTableCapShear;
+    const std::string_view form = shear ? At(kShearKinds, kind) : At(kMomentKinds, kind);
+    if (form.empty()) return shear ? "Invalid" : "";
+    return MemberShortName(structureType) + FormatNumbered(form, support + 1);
+}
+
+std::string CapBearingLabel(int table, const CBearingLocation& bearing, int side) {
+    const std::string_view form = table == kTableCapShear
+                                      ? At(kShearBearings[side == 0 ? 0 : 1], bearing.m_nRowCode)
+                                      : At(kMomentBearings, bearing.m_nRowCode);
+    return FormatNumbered(form, bearing.m_nBearing + 1);
+}
+
+std::string CCapKeyEntry::Text() const {
+    return (sShort.empty() ? sShort : PadRight(sShort, 3)) + " = " + sLong;
+}
+
+std::vector<CCapKeyLine> CapKey(int table) {
+    std::vector<CCapKeyLine> key;
+    std::string word = "Support";
+    if (g_DataSet.m_Piers.size() == 1) {
+        const int type = g_DataSet.FirstPier().m_nStructureType;
+        word = MemberName(type);
+        AddWordLine(key, type, true);
+    } else {
+        const bool bents = g_DataSet.HasStructureType(kTypePileBent);
+        if (g_DataSet.HasStructureType(kTypePier)) AddWordLine(key, kTypePier, !bents);
+        if (bents) AddWordLine(key, kTypePileBent, true);
+    }
+    if (table == kTableCapShear) {
+        AddLines(key, kShearKey, word);
+    } else {
+        AddLines(key, kMomentKey, word);
+    }
+    return key;
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/Pier.h"
+
+// What the two cap tables (kTableCapShear, kTableCapMoment) share in every format: the walk along the cap,
+// the labels of its rows, and the key below the last block.
+
+// One row of a block. The tests of a row without a result go in this order: the record's missing flag, then
+// bSideHasResult, then a negative load case.
+struct CCapRow {
+    std::string sLabel;                 // "Col 1 LF", "Brg 2 L LR"; not padded
+    const CCapEntry* pEntry = nullptr;  // never null during a walk
+    bool bBearing = false;
+    bool bSideHasResult = true;  // false on bearing rows of the shear table alone
+};
+
+// Visits the rows of a pier's block from left to right. Nothing is visited for a pier without a cap.
+void WalkCap(int table, const CPier& pier, int slot, int extreme,
+             const std::function<void(const CCapRow&)>& visit);
+
+// "Invalid" (shear) or empty (moment) for a location kind outside the list.
+std::string CapSupportLabel(int table, int structureType, int support, int kind);
+// side: 0 left, 1 right; the moment table has one row a bearing and no side.
+std::string CapBearingLabel(int table, const CBearingLocation& bearing, int side);
+
+struct CCapKeyEntry {
+    std::string sShort;  // "LF"
+    std::string sLong;   // "Left Face of Column"
+    // "LF  = Left Face of Column"; a structure type without a word gives " = ".
+    std::string Text() const;
+};
+struct CCapKeyLine {
+    CCapKeyEntry left;
+    std::optional<CCapKeyEntry> right;
+};
+// The lines of the key, by the structure types of all piers of the data set.
+std::vector<CCapKeyLine> CapKey(int table);
