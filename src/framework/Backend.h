@@ -1,0 +1,115 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// What a backend offers to the framework's classes. Two exist and one is linked: win32/ maps these calls
+// to windows, headless/ keeps each control as plain state and hands events to a sink.
+
+class CDialog;
+class CWnd;
+struct NativeWindow;                 // a window of the platform, or a record of the headless backend
+using WindowHandle = NativeWindow*;  // null: no window
+
+enum class MessageIcon { none, exclamation, question, error };
+enum class MessageButtons { ok, yesNo };
+enum class MessageAnswer { ok, yes, no };
+
+// A moment of the local clock; month and day count from 1, weekday from 0 for Sunday.
+struct LocalTime {
+    int year = 1970, month = 1, day = 1, weekday = 4;
+    int hour = 0, minute = 0, second = 0;
+};
+
+namespace backend {
+
+// Windows and controls.
+void SetText(WindowHandle window, const std::string& text);
+std::string Text(WindowHandle window);
+void Enable(WindowHandle window, bool enabled);
+bool IsEnabled(WindowHandle window);
+void Show(WindowHandle window, bool visible);
+bool IsVisible(WindowHandle window);
+void SetChecked(WindowHandle window, bool checked);
+bool IsChecked(WindowHandle window);
+void SetFocus(WindowHandle window);
+// Selection in an edit control, in characters; -1 as the end means the end of the text.
+void SelectEditText(WindowHandle window, int start, int end);
+
+void ComboAdd(WindowHandle window, const std::string& entry);
+void ComboSelect(WindowHandle window, int index);
+int ComboSelection(WindowHandle window);  // -1: none
+
+void SpinSetRange(WindowHandle window, int low, int high);
+void SpinSetPosition(WindowHandle window, int position);  // the buddy edit follows, with its change notice
+int SpinPosition(WindowHandle window);
+
+// The child of a dialog with that identifier; null when it has none.
+WindowHandle Control(WindowHandle dialog, int id);
+
+// Ties the object of a control to its window; a driver of the dialogs finds the grid's object this way.
+void AttachObject(WindowHandle window, CWnd& object);
+
+// Runs a dialog modally; returns the result given to EndDialog. -1: the window could not be made.
+int RunDialog(CDialog& dialog);
+void EndDialog(WindowHandle dialog, int result);
+
+MessageAnswer ShowMessage(const std::string& text, const std::string& title, MessageIcon icon,
+                          MessageButtons buttons);
+
+void BeginWaitCursor();
+void EndWaitCursor();
+int WaitCursorDepth();
+
+}  // namespace backend
+
+// Services of the platform that the product asks for by what they do.
+namespace services {
+
+// Starts `file` (a program, or a document in quotes) by the shell; an empty verb is the default one.
+// Returns the shell's code: above 32 is success, the others are told in session/OutputFiles.h.
+int ShellOpen(const std::string& verb, const std::string& file, const std::string& parameters);
+
+// Full path of the process's program, and of the module that the product lives in.
+std::string HostProgramPath();
+std::string ModulePath();
+
+// The text viewer's settings, by value name. False: there is no such value (the argument stays).
+bool ReadViewerNumber(const char* name, int& value);
+// Text values arrive only when they fit into `capacity` bytes, the terminating zero included.
+bool ReadViewerText(const char* name, unsigned capacity, std::string& value);
+
+LocalTime Now();
+
+// Sets the application's default printer to landscape or portrait, where it has one.
+void SetPrinterLandscape(bool landscape);
+
+// Loads the plot module and calls its export with the eight arguments of the plot call.
+enum class PlotModuleResult { called, moduleMissing, exportMissing };
+struct PlotModuleCall {
+    int format = 0;  // 0 spreadsheet, 1 otherwise
+    std::string dataFile, plot, family, version, zeroA, zeroB, argument;
+};
+PlotModuleResult CallPlotModule(const char* module, const char* exportName, const PlotModuleCall& call,
+                                std::string& systemText);
+
+// Whether `c` separates folders on this platform, and the separator that it writes itself.
+bool IsFolderSeparator(char c);
+char FolderSeparator();
+
+}  // namespace services
+
+// The application's name, the title of a message box without one of its own.
+inline constexpr const char* kApplicationName = "Lumerin";
+
+// The message box of the application; without a title of its own it carries the application's name.
+MessageAnswer AfxMessageBox(const std::string& text, MessageIcon icon = MessageIcon::exclamation,
+                            MessageButtons buttons = MessageButtons::ok);
+
+class CWaitCursor {
+  public:
+    CWaitCursor() { backend::BeginWaitCursor(); }
+    CWaitCursor(const CWaitCursor&) = delete;
+    CWaitCursor& operator=(const CWaitCursor&) = delete;
+    ~CWaitCursor() { backend::EndWaitCursor(); }
+};

@@ -1,0 +1,97 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "framework/ControlList.h"
+#include "framework/Window.h"
+
+class CDialog;
+
+inline constexpr int IDOK = 1;
+inline constexpr int IDCANCEL = 2;
+
+enum class Notice { clicked, textChanged, focusLost, selectionChanged };
+
+// Moves values between a dialog's members and its controls, in the direction that it carries.
+class CDataExchange {
+  public:
+    CDataExchange(CDialog& dialog, bool saveAndValidate) : m_dialog(dialog), m_bSave(saveAndValidate) {}
+    CDialog& m_dialog;
+    bool m_bSave;  // true: from the controls into the members
+};
+
+void DDX_Control(CDataExchange& exchange, int id, CWnd& control);
+void DDX_Check(CDataExchange& exchange, int id, int& value);
+// `firstId` is the first radio button of its group in the dialog's control list. The value is the position
+// of the checked button in the group, -1 when none is checked.
+void DDX_Radio(CDataExchange& exchange, int firstId, int& value);
+void DDX_Text(CDataExchange& exchange, int id, int& value);
+
+// The radio buttons of the group that `id` belongs to, in resource order; empty when `id` is no radio button.
+// A group begins at a button marked so and ends before the next such one or before another kind of control.
+std::vector<int> RadioGroupOf(const DialogSpec& spec, int id);
+
+// One line of a dialog's message map: identifiers first to last send the notice to the handler.
+template <class Dialog>
+struct CommandEntry {
+    Notice notice;
+    int firstId, lastId;
+    void (Dialog::*handler)(int id);
+};
+
+// A modal dialog. Handlers run on the caller's thread inside DoModal.
+class CDialog : public CWnd {
+  public:
+    static const CRuntimeClass classCDialog;
+
+    explicit CDialog(const DialogSpec& spec) : m_spec(spec) {}
+    const CRuntimeClass& GetRuntimeClass() const override { return classCDialog; }
+
+    // Returns the result of EndDialog; -1 when the dialog could not be made.
+    int DoModal() { return backend::RunDialog(*this); }
+    bool UpdateData(bool saveAndValidate = true);
+
+    void SetItemText(int id, const std::string& text);
+    std::string ItemText(int id) const;
+    void EnableItem(int id, bool enabled);
+    void ShowItem(int id, bool visible);
+
+    const DialogSpec& Spec() const { return m_spec; }
+
+    // Called by the backend.
+    virtual bool OnInitDialog();
+    virtual bool OnCommand(int id, Notice notice);  // true: handled
+    virtual bool OnHelpInfo(int controlId) { return controlId == kNoId; }
+    virtual void OnMouseMove() {}
+    virtual void OnOK() { EndDialog(IDOK); }
+    virtual void OnCancel() { EndDialog(IDCANCEL); }
+    virtual void DoDataExchange(CDataExchange&) {}
+    // A failure that a handler threw: told in a message box, the dialog lives on.
+    virtual void OnFileException(const std::string& text);
+
+    void EndDialog(int result) { backend::EndDialog(m_hWnd, result); }
+
+  protected:
+    // Runs the first entry that fits. False: none does.
+    template <class Dialog, std::size_t N>
+    static bool Dispatch(Dialog& dialog, const CommandEntry<Dialog> (&map)[N], int id, Notice notice) {
+        for (const CommandEntry<Dialog>& entry : map) {
+            if (entry.notice == notice && entry.firstId <= id && id <= entry.lastId) {
+                (dialog.*entry.handler)(id);
+                return true;
+            }
+        }
+        return false;
+    }
+
+  private:
+    const DialogSpec& m_spec;
+};
+
+inline const CRuntimeClass CDialog::classCDialog{"CDialog", &CWnd::classCWnd};
+
+// Runs one step of a dialog's message dispatch. A failure that the step throws is told by the dialog's
+// OnFileException and the dialog lives on; false then.
+bool RunGuarded(CDialog& dialog, const std::function<void()>& step);

@@ -1,0 +1,143 @@
+#include "framework/File.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+CFileException::Cause CauseOf(int osError) {
+    if (osError == ENOENT || osError == ENOTDIR) return CFileException::fileNotFound;
+    if (osError == EACCES || osError == EPERM) return CFileException::accessDenied;
+    return CFileException::generic;
+}
+
+std::string OpenFault(int osError) {
+    switch (CauseOf(osError)) {
+        case CFileException::fileNotFound:
+            return "the file was not found";
+        case CFileException::accessDenied:
+            return "access to the file was denied";
+        default:
+            return "the file could not be opened (" + std::generic_category().message(osError) + ")";
+    }
+}
+
+char LowerAscii(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool SameButForCase(const std::string& a, const std::string& b) {
+    if (a.size() != b.size()) return false;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (LowerAscii(a[i]) != LowerAscii(b[i])) return false;
+    }
+    return true;
+}
+
+// The entry of `folder` that is called `name` but for case; of several the first in byte order, so that the
+// choice does not depend on the file system's order. Empty: there is none.
+std::string EntryAnyCase(const fs::path& folder, const std::string& name) {
+    std::error_code failure;
+    std::string found;
+    fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, failure);
+    while (!failure && entry != fs::directory_iterator()) {
+        const std::string candidate = entry->path().filename().string();
+        if (SameButForCase(candidate, name) && (found.empty() || candidate < found)) found = candidate;
+        entry.increment(failure);
+    }
+    return found;
+}
+
+bool SeekTo(std::FILE* file, std::int64_t offset, int origin) {
+#ifdef _WIN32
+    return _fseeki64(file, offset, origin) == 0;
+#else
+    return fseeko(file, offset, origin) == 0;
+#endif
+}
+
+}  // namespace
+
+CFileException::CFileException(Cause cause, std::string fileName, const std::string& fault, long osError)
+    : m_cause(cause), m_lOsError(osError), m_strFileName(std::move(fileName)) {
+    m_strText = m_strFileName + ": " + fault;
+}
+
+std::string FindFileAnyCase(const std::string& path) {
+    std::error_code failure;
+    if (fs::exists(path, failure)) return path;
+    fs::path found;
+    for (const fs::path& part : fs::path(path)) {
+        fs::path next = found / part;
+        if (!fs::exists(next, failure)) {
+            const std::string entry = EntryAnyCase(found, part.string());
+            if (entry.empty()) return {};
+            next = found / entry;
+        }
+        found = std::move(next);
+    }
+    return found.string();
+}
+
+CFile::CFile(const std::string& path) {
+    CFileException failure(CFileException::none, path, "");
+    if (!Open(path, &failure)) throw failure;
+}
+
+bool CFile::Open(const std::string& path, CFileException* error) {
+    Close();
+    m_strPath = path;
+    std::error_code ignored;
+    const std::string found = FindFileAnyCase(path);
+    int osError = found.empty() ? ENOENT : 0;
+    if (osError == 0 && fs::is_directory(found, ignored)) osError = EISDIR;
+    if (osError == 0) {
+        errno = 0;
+        m_file.reset(std::fopen(found.c_str(), "rb"));
+        if (m_file != nullptr) return true;
+        osError = errno;
+    }
+    if (error != nullptr) *error = CFileException(CauseOf(osError), path, OpenFault(osError), osError);
+    return false;
+}
+
+unsigned CFile::ReadBytes(void* buffer, unsigned count) {
+    if (m_file == nullptr) {
+        throw CFileException(CFileException::fileNotFound, m_strPath, "the file is not open for reading");
+    }
+    const std::size_t got = std::fread(buffer, 1, count, m_file.get());
+    if (got < count && std::ferror(m_file.get()) != 0) {
+        throw CFileException(CFileException::generic, m_strPath, "the file could not be read", errno);
+    }
+    return static_cast<unsigned>(got);
+}
+
+void CFile::Seek(std::int64_t position) {
+    if (m_file == nullptr) {
+        throw CFileException(CFileException::fileNotFound, m_strPath, "the file is not open for reading");
+    }
+    if (position < 0 || !SeekTo(m_file.get(), position, SEEK_SET)) {
+        throw CFileException(CFileException::badFormat, m_strPath,
+                             "a position outside the file was asked for");
+    }
+}
+
+std::int64_t CFile::Length() const {
+    if (m_file == nullptr) return 0;
+    std::FILE* file = m_file.get();
+#ifdef _WIN32
+    const std::int64_t here = _ftelli64(file);
+    SeekTo(file, 0, SEEK_END);
+    const std::int64_t length = _ftelli64(file);
+#else
+    const std::int64_t here = ftello(file);
+    SeekTo(file, 0, SEEK_END);
+    const std::int64_t length = ftello(file);
+#endif
+    SeekTo(file, here, SEEK_SET);
+    return length;
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <exception>
+#include <memory>
+#include <string>
+
+// A failure of the result file layer. It carries the file and what is wrong with it; no reader catches it,
+// the dialog that is being shown tells it in a message box and lives on.
+class CFileException : public std::exception {
+  public:
+    enum Cause { none, generic, fileNotFound, accessDenied, endOfFile, badFormat, badCount };
+
+    CFileException(Cause cause, std::string fileName, const std::string& fault, long osError = 0);
+
+    const char* what() const noexcept override { return m_strText.c_str(); }
+
+    Cause m_cause = none;
+    long m_lOsError = 0;
+    std::string m_strFileName;
+    std::string m_strText;  // "<file>: <fault>"
+};
+
+// Where an existing file lies: `path` itself, or on a file system that tells case from case the one whose
+// folders and name differ from it in case alone. Empty: there is none.
+std::string FindFileAnyCase(const std::string& path);
+
+// A file opened for reading with sharing allowed for all. Reading fails with CFileException.
+class CFile {
+  public:
+    CFile() = default;
+    explicit CFile(const std::string& path);  // throws when the file can't be opened
+
+    // False: the file can't be opened; `error`, when given, tells why.
+    bool Open(const std::string& path, CFileException* error = nullptr);
+    void Close() { m_file.reset(); }
+    bool IsOpen() const { return m_file != nullptr; }
+
+    // Bytes read: fewer than `count` only at the end of the file. Throws on a closed file.
+    unsigned ReadBytes(void* buffer, unsigned count);
+    void Seek(std::int64_t position);  // from the start; throws when negative
+    std::int64_t Length() const;
+
+    const std::string& Path() const { return m_strPath; }
+
+  private:
+    struct Closer {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+    std::unique_ptr<std::FILE, Closer> m_file;
+    std::string m_strPath;
+};

@@ -1,0 +1,143 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "framework/Dialog.h"
+
+// The backend without a screen: a window is a record of its state, and whatever would leave the process
+// (message boxes, viewer starts, module calls) goes to a sink. The program `lumerin` and the tests install
+// the sink and the driver that presses the dialogs' buttons.
+
+struct NativeWindow {
+    const ControlSpec* spec = nullptr;  // null: the dialog itself
+    NativeWindow* parent = nullptr;
+    CWnd* object = nullptr;  // the object that the dialog bound to the control, if any
+    std::string text;
+    bool enabled = true, visible = true, checked = false;
+    std::vector<std::string> entries;  // of a combo box
+    int selection = -1;
+    int spinLow = 0, spinHigh = 100, spinPosition = 0;
+    int selectionStart = 0, selectionEnd = 0;  // of an edit control
+    // Of a dialog alone.
+    CDialog* dialog = nullptr;
+    std::vector<std::unique_ptr<NativeWindow>> controls;  // in resource order
+    NativeWindow* focus = nullptr;
+    bool ended = false;
+    int result = IDCANCEL;
+};
+
+namespace headless {
+
+// A dialog as its user sees it. Each action returns false when it is refused: no such control, or a disabled
+// or hidden one.
+class HeadlessDialog {
+  public:
+    explicit HeadlessDialog(NativeWindow& window) : m_window(window) {}
+
+    CDialog& Dialog() { return *m_window.dialog; }
+    const std::string& Title() const { return m_window.text; }
+    int ResourceId() const { return m_window.dialog->Spec().id; }
+    bool IsOpen() const { return !m_window.ended; }
+    const std::vector<std::unique_ptr<NativeWindow>>& Controls() const { return m_window.controls; }
+    NativeWindow* Find(int id) const;
+    // The first control of that kind; null when there is none.
+    NativeWindow* FindKind(ControlKind kind) const;
+
+    bool Click(int id);
+    bool TypeText(int id, const std::string& text);
+    bool Focus(int id);
+    bool SelectEntry(int id, int entry);
+    bool Spin(int id, bool up);
+    bool PressEscape();
+    bool PressReturn();
+    bool PressHelp(int id);
+    // An action of a control with behaviour of its own, with the dispatch's care for failures.
+    void Run(const std::function<void()>& step);
+    // Ends the dialog as a user would who wants to leave: by its button "Close", else by Cancel.
+    void Close();
+
+  private:
+    NativeWindow* FindUsable(int id) const;
+    NativeWindow& m_window;
+};
+
+struct Message {
+    std::string text, title;
+    MessageIcon icon = MessageIcon::none;
+    MessageButtons buttons = MessageButtons::ok;
+};
+
+// Where everything goes that would leave the process. The base accepts all of it in silence: questions get
+// State().answer, viewer starts State().shellCode, the plot module is there.
+class Sink {
+  public:
+    Sink() = default;
+    Sink(const Sink&) = delete;
+    Sink& operator=(const Sink&) = delete;
+    virtual ~Sink() = default;
+
+    virtual void OnDialogOpened(HeadlessDialog&) {}  // behind the dialog's initialisation
+    virtual MessageAnswer OnMessage(const Message& message);
+    virtual int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters);
+    virtual services::PlotModuleResult OnPlotModule(const std::string& module,
+                                                    const services::PlotModuleCall& call,
+                                                    std::string& systemText);
+    virtual void OnPrinterOrientation(bool /*landscape*/) {}
+};
+
+// Presses the buttons of a dialog that was just opened; may return with the dialog open, which closes it.
+// A dialog that is opened by a press calls the driver again, inside the press.
+using ModalDriver = std::function<void(HeadlessDialog&)>;
+void SetModalDriver(ModalDriver driver);
+
+// Null takes the sink away. The caller keeps it alive as long as it is installed.
+void SetSink(Sink* sink);
+
+struct Settings {
+    MessageAnswer answer = MessageAnswer::yes;  // to the next questions
+    int shellCode = 42;                         // any code above 32 is success
+    std::optional<LocalTime> clock;             // unset: LUMERIN_CLOCK, else the machine's clock
+    std::map<std::string, int> viewerNumbers;   // the text viewer's settings; absent by default
+    std::map<std::string, std::string> viewerTexts;
+    std::string programPath, modulePath;  // empty: those of the running program
+    ModalDriver driver;
+    Sink* sink = nullptr;
+    int waitCursorDepth = 0;
+};
+Settings& State();
+// All settings back to their first values, sink and driver included.
+void ResetState();
+
+// Keeps what it was told, for tests.
+class RecordingSink : public Sink {
+  public:
+    struct ShellStart {
+        std::string verb, file, parameters;
+    };
+    struct ModuleCall {
+        std::string module;
+        services::PlotModuleCall call;
+    };
+
+    void OnDialogOpened(HeadlessDialog& dialog) override { dialogs.push_back(dialog.Title()); }
+    MessageAnswer OnMessage(const Message& message) override;
+    int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters) override;
+    services::PlotModuleResult OnPlotModule(const std::string& module, const services::PlotModuleCall& call,
+                                            std::string& systemText) override;
+    void OnPrinterOrientation(bool landscape) override { orientations.push_back(landscape); }
+
+    std::vector<std::string> dialogs;
+    std::vector<Message> messages;
+    std::vector<ShellStart> starts;
+    std::vector<ModuleCall> calls;
+    std::vector<bool> orientations;
+    services::PlotModuleResult moduleResult = services::PlotModuleResult::called;
+    std::string moduleText;
+};
+
+}  // namespace headless

@@ -1,0 +1,119 @@
+#include <unistd.h>
+
+#include <array>
+#include <ctime>
+
+#include "framework/Clock.h"
+#include "framework/headless/Headless.h"
+
+// Message boxes, wait cursor and the services of the platform, from the settings and the sink.
+
+namespace {
+
+headless::Sink& CurrentSink() {
+    static headless::Sink silent;
+    headless::Sink* sink = headless::State().sink;
+    return sink == nullptr ? silent : *sink;
+}
+
+std::string RunningProgram() {
+    std::array<char, 4096> path{};
+    const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
+    return length > 0 ? std::string(path.data(), static_cast<std::size_t>(length)) : std::string();
+}
+
+}  // namespace
+
+namespace backend {
+
+MessageAnswer ShowMessage(const std::string& text, const std::string& title, MessageIcon icon,
+                          MessageButtons buttons) {
+    return CurrentSink().OnMessage({text, title, icon, buttons});
+}
+
+void BeginWaitCursor() {
+    ++headless::State().waitCursorDepth;
+}
+
+void EndWaitCursor() {
+    int& depth = headless::State().waitCursorDepth;
+    if (depth > 0) --depth;
+}
+
+int WaitCursorDepth() {
+    return headless::State().waitCursorDepth;
+}
+
+}  // namespace backend
+
+namespace services {
+
+int ShellOpen(const std::string& verb, const std::string& file, const std::string& parameters) {
+    return CurrentSink().OnShellOpen(verb, file, parameters);
+}
+
+std::string HostProgramPath() {
+    const std::string& path = headless::State().programPath;
+    return path.empty() ? RunningProgram() : path;
+}
+
+std::string ModulePath() {
+    const std::string& path = headless::State().modulePath;
+    if (!path.empty()) return path;
+    // The native program holds the module's code itself; its help files lie beside it all the same.
+    const std::string program = RunningProgram();
+    const std::size_t slash = program.rfind('/');
+    return program.substr(0, slash == std::string::npos ? 0 : slash + 1) + "Lumerin.dll";
+}
+
+bool ReadViewerNumber(const char* name, int& value) {
+    const auto& numbers = headless::State().viewerNumbers;
+    const auto found = numbers.find(name);
+    if (found == numbers.end()) return false;
+    value = found->second;
+    return true;
+}
+
+bool ReadViewerText(const char* name, unsigned capacity, std::string& value) {
+    const auto& texts = headless::State().viewerTexts;
+    const auto found = texts.find(name);
+    if (found == texts.end() || found->second.size() + 1 > capacity) return false;
+    value = found->second;
+    return true;
+}
+
+LocalTime Now() {
+    if (headless::State().clock) return *headless::State().clock;
+    LocalTime now;
+    if (ReadClockFromEnvironment(now)) return now;
+    const std::time_t seconds = std::time(nullptr);
+    std::tm local{};
+    if (localtime_r(&seconds, &local) == nullptr) return now;
+    now.year = local.tm_year + 1900;
+    now.month = local.tm_mon + 1;
+    now.day = local.tm_mday;
+    now.weekday = local.tm_wday;
+    now.hour = local.tm_hour;
+    now.minute = local.tm_min;
+    now.second = local.tm_sec;
+    return now;
+}
+
+void SetPrinterLandscape(bool landscape) {
+    CurrentSink().OnPrinterOrientation(landscape);
+}
+
+PlotModuleResult CallPlotModule(const char* module, const char* /*exportName*/, const PlotModuleCall& call,
+                                std::string& systemText) {
+    return CurrentSink().OnPlotModule(module, call, systemText);
+}
+
+bool IsFolderSeparator(char c) {
+    return c == '/' || c == '\\';
+}
+
+char FolderSeparator() {
+    return '/';
+}
+
+}  // namespace services
