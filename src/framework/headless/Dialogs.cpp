@@ -158,6 +158,17 @@ bool HeadlessDialog::Spin(int id, bool up) {
     return true;
 }
 
+bool HeadlessDialog::TypeCell(int row, int column, const std::string& text) {
+    NativeWindow* control = IsOpen() ? FindKind(ControlKind::grid) : nullptr;
+    if (control == nullptr || control->grid == nullptr || !control->enabled || !control->visible) return false;
+    bool typed = false;
+    Run([control, row, column, &text, &typed] {
+        backend::SetFocus(control);
+        typed = control->grid->TypeCell(row, column, text);
+    });
+    return typed;
+}
+
 bool HeadlessDialog::PressEscape() {
     if (!IsOpen()) return false;
     // A hidden Cancel button still takes the key, a disabled one does not.

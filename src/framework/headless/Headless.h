@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "framework/Dialog.h"
+#include "framework/headless/GridPeer.h"
 
 // The backend without a screen: a window is a record of its state, and whatever would leave the process
 // (message boxes, viewer starts, module calls) goes to a sink. The program `lumerin` and the tests install
@@ -17,6 +18,7 @@ struct NativeWindow {
     const ControlSpec* spec = nullptr;  // null: the dialog itself
     NativeWindow* parent = nullptr;
     CWnd* object = nullptr;  // the object that the dialog bound to the control, if any
+    GridPeer* grid = nullptr;  // of a grid control
     std::string text;
     bool enabled = true, visible = true, checked = false;
     std::vector<std::string> entries;  // of a combo box
@@ -53,6 +55,8 @@ class HeadlessDialog {
     bool Focus(int id);
     bool SelectEntry(int id, int entry);
     bool Spin(int id, bool up);
+    // Puts the grid's focus on the cell, types the text and Return.
+    bool TypeCell(int row, int column, const std::string& text);
     bool PressEscape();
     bool PressReturn();
     bool PressHelp(int id);

@@ -75,6 +75,7 @@ void SetFocus(WindowHandle window) {
     NativeWindow* before = dialog->focus;
     dialog->focus = window;
     if (IsKind(before, ControlKind::edit)) Notify(before, Notice::focusLost);
+    if (before != nullptr && before->grid != nullptr) before->grid->LoseFocus();
 }
 
 void SelectEditText(WindowHandle window, int start, int end) {
@@ -133,3 +134,16 @@ void AttachObject(WindowHandle window, CWnd& object) {
 }
 
 }  // namespace backend
+
+namespace headless {
+
+void AttachGrid(WindowHandle window, GridPeer& peer) {
+    if (window != nullptr) window->grid = &peer;
+}
+
+const ControlSpec& SpecOf(WindowHandle window) {
+    static constexpr ControlSpec none{ControlKind::text, kNoId, "", 0, 0, 0, 0, 0};
+    return window == nullptr || window->spec == nullptr ? none : *window->spec;
+}
+
+}  // namespace headless
