@@ -60,6 +60,7 @@ struct Walk {
     void Support(std::size_t cursor) const {
         const auto& list = IsShear() ? pier.m_ShearSupportList : pier.m_MomentSupportList;
         const CCapTable& results = IsShear() ? pier.m_ShearSupports : pier.m_MomentSupports;
+        if (cursor >= list.size()) return;
         const CSupportLocation& place = list[cursor];
         if (!Holds(results, place.m_nSupport, slot, place.m_nKind)) return;
         CCapRow row;
@@ -69,6 +70,7 @@ struct Walk {
     }
 
     void Bearing(std::size_t cursor) const {
+        if (cursor >= pier.m_BearingList.size()) return;
         const CBearingLocation& place = pier.m_BearingList[cursor];
         const CCapTable& results = IsShear() ? pier.m_ShearBearings : pier.m_MomentBearings;
         for (int side = 0; side < (IsShear() ? 2 : 1); ++side) {
