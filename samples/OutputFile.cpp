@@ -1,0 +1,40 @@
+#include "samples/OutputFile.h"
+
+#include <cerrno>
+#include <cstring>
+
+namespace samples {
+namespace {
+
+constexpr std::size_t blockSize = std::size_t{1} << 20;
+
+}  // namespace
+
+OutputFile::OutputFile(const std::filesystem::path& path)
+    : m_path(path), m_file(std::fopen(path.string().c_str(), "wb")) {
+    if (!m_file) Fail();
+    std::setvbuf(m_file.get(), nullptr, _IONBF, 0);
+    m_block.reserve(blockSize);
+}
+
+void OutputFile::Write(std::span<const char> bytes) {
+    m_block.insert(m_block.end(), bytes.begin(), bytes.end());
+    if (m_block.size() >= blockSize) Flush();
+}
+
+void OutputFile::Flush() {
+    if (m_block.empty()) return;
+    if (std::fwrite(m_block.data(), 1, m_block.size(), m_file.get()) != m_block.size()) Fail();
+    m_block.clear();
+}
+
+void OutputFile::Close() {
+    Flush();
+    if (std::fclose(m_file.release()) != 0) Fail();
+}
+
+void OutputFile::Fail() const {
+    throw SampleError("cannot write " + m_path.string() + ": " + std::strerror(errno));
+}
+
+}  // namespace samples

@@ -1,0 +1,47 @@
+// A file that is written front to back in large blocks.
+#pragma once
+
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace samples {
+
+// What went wrong, as one line for the person at the terminal.
+class SampleError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+class OutputFile {
+  public:
+    // Creates the file anew; throws SampleError, which names it, here and in the operations below.
+    explicit OutputFile(const std::filesystem::path& path);
+    ~OutputFile() = default;
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+
+    void Write(std::span<const char> bytes);
+    void Write(std::string_view text) { Write(std::span<const char>(text.data(), text.size())); }
+
+    // Stores what is still held back. A file that is not closed may lack its end.
+    void Close();
+
+  private:
+    void Flush();
+    [[noreturn]] void Fail() const;
+
+    struct Closer {
+        void operator()(std::FILE* file) const { std::fclose(file); }
+    };
+    std::filesystem::path m_path;
+    std::unique_ptr<std::FILE, Closer> m_file;
+    std::vector<char> m_block;
+};
+
+}  // namespace samples
