@@ -41,23 +41,25 @@ double Flexibility(double length, double fullLength) {
     return 0.5 + 0.03 * ratio * ratio * ratio * ratio * ratio * ratio;
 }
 
-Extreme MostMoved(const std::vector<PileHead>& piles, double PileHead::*shear, double flexibility) {
+// The pile whose head takes the most of what `push` tells of it.
+template <typename Push>
+Extreme MostMoved(const std::vector<PileHead>& piles, double flexibility, Push push) {
     Extreme result;
     for (std::size_t p = 0; p < piles.size(); ++p) {
-        const double moved = std::abs(piles[p].*shear) * flexibility;
+        const double moved = push(piles[p]) * flexibility;
         if (moved > result.value) result = {moved, static_cast<int>(p) + 1};
     }
     return result;
 }
 
-Extreme MostMovedEitherWay(const std::vector<PileHead>& piles, double flexibility) {
-    Extreme result;
-    for (std::size_t p = 0; p < piles.size(); ++p) {
-        const double moved =
-            std::sqrt(piles[p].shear2 * piles[p].shear2 + piles[p].shear3 * piles[p].shear3) * flexibility;
-        if (moved > result.value) result = {moved, static_cast<int>(p) + 1};
-    }
-    return result;
+double PushAlong(const PileHead& head) {
+    return std::abs(head.shear2);
+}
+double PushAcross(const PileHead& head) {
+    return std::abs(head.shear3);
+}
+double PushAnyWay(const PileHead& head) {
+    return std::sqrt(head.shear2 * head.shear2 + head.shear3 * head.shear3);
 }
 
 std::string Pair(const Extreme& extreme, int decimals) {
@@ -78,9 +80,9 @@ class Trial {
     void Case(int number, const std::vector<PileHead>& piles, const Extremes& axial) {
         const double flexibility = 0.02 * Flexibility(m_length, m_fullLength);
         std::string line = "  " + std::to_string(number);
-        line += Pair(MostMovedEitherWay(piles, flexibility), 6);
-        line += Pair(MostMoved(piles, &PileHead::shear2, flexibility), 6);
-        line += Pair(MostMoved(piles, &PileHead::shear3, flexibility), 6);
+        line += Pair(MostMoved(piles, flexibility, PushAnyWay), 6);
+        line += Pair(MostMoved(piles, flexibility, PushAlong), 6);
+        line += Pair(MostMoved(piles, flexibility, PushAcross), 6);
         // A shorter pile sheds load to its neighbours.
         const double share = 1.0 + 0.02 * (m_fullLength / m_length - 1.0);
         line += Pair({axial.greatest.value / share, axial.greatest.pile}, 4);
@@ -105,12 +107,6 @@ std::filesystem::path TrialPath(const std::filesystem::path& folder, const Proje
     if (index == 0) return folder / (project.name + ".PEL");
     const std::string trial = "MPTE" + std::to_string(index + 1);
     return folder / trial / (project.name + "_" + trial + ".PEL");
-}
-
-void MakeFolder(const std::filesystem::path& folder) {
-    std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    if (error) throw SampleError("cannot make the folder " + folder.string() + ": " + error.message());
 }
 
 }  // namespace

@@ -29,13 +29,13 @@ constexpr LimitState lfdStates[] = {
 constexpr LimitState aremaStates[] = {
     {301, "Load factor Group I", Strength},    {302, "Load factor Group IA", Strength},
     {303, "Load factor Group II", Strength},   {304, "Load factor Group III", Strength},
-    {306, "Load factor Group V", Strength},    {307, "Load factor Group VI", Strength},
-    {308, "Load factor Group VII", Strength},  {309, "Load factor Group VIII", Strength},
-    {310, "Load factor Group IX", Strength},   {311, "Service load Group I", Service},
-    {312, "Service load Group II", Service},   {313, "Service load Group III", Service},
-    {314, "Service load Group IV", Service},   {315, "Service load Group V", Service},
-    {316, "Service load Group VI", Service},   {317, "Service load Group VII", Service},
-    {318, "Service load Group VIII", Service},
+    {305, "Load factor Group IV", Strength},   {306, "Load factor Group V", Strength},
+    {307, "Load factor Group VI", Strength},   {308, "Load factor Group VII", Strength},
+    {309, "Load factor Group VIII", Strength}, {310, "Load factor Group IX", Strength},
+    {311, "Service load Group I", Service},    {312, "Service load Group II", Service},
+    {313, "Service load Group III", Service},  {314, "Service load Group IV", Service},
+    {315, "Service load Group V", Service},    {316, "Service load Group VI", Service},
+    {317, "Service load Group VII", Service},  {318, "Service load Group VIII", Service},
 };
 
 std::span<const LimitState> StatesOf(CodeFamily family) {

@@ -148,7 +148,7 @@ struct Substructure {
     }
 };
 
-// Extreme results of one trial length of the embedment study.
+// The trials of an embedment study; no lengths, no study.
 struct EmbedmentStudy {
     std::vector<double> lengths;  // feet or metres; the first is that of the project itself
     int missingTrial = 0;         // number, from 1, of the trial without a folder; 0 for none

@@ -10,6 +10,18 @@ constexpr std::size_t blockSize = std::size_t{1} << 20;
 
 }  // namespace
 
+std::filesystem::path WithSuffix(const std::filesystem::path& base, std::string_view suffix) {
+    std::filesystem::path path = base;
+    path += suffix;
+    return path;
+}
+
+void MakeFolder(const std::filesystem::path& folder) {
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    if (error) throw SampleError("cannot make the folder " + folder.string() + ": " + error.message());
+}
+
 OutputFile::OutputFile(const std::filesystem::path& path)
     : m_path(path), m_file(std::fopen(path.string().c_str(), "wb")) {
     if (!m_file) Fail();

@@ -18,6 +18,12 @@ class SampleError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
+// The path with text behind its last character.
+std::filesystem::path WithSuffix(const std::filesystem::path& base, std::string_view suffix);
+
+// Makes the folder and those above it where they are not there; throws SampleError.
+void MakeFolder(const std::filesystem::path& folder);
+
 class OutputFile {
   public:
     // Creates the file anew; throws SampleError, which names it, here and in the operations below.

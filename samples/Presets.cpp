@@ -295,7 +295,7 @@ Project MakeProject(const SampleOptions& options) {
     const Preset& preset = FindPreset(options.preset);
     Project project;
     project.preset = options.preset;
-    project.name = options.name.empty() ? options.preset : options.name;
+    project.name = options.name.value_or(options.preset);
     project.title = preset.title;
     project.seed = options.seed;
     project.cases = options.cases.value_or(preset.cases);

@@ -13,7 +13,7 @@ namespace samples {
 
 struct SampleOptions {
     std::string preset = "pier";
-    std::string name;  // empty: the preset's name
+    std::optional<std::string> name;  // nothing: that of the preset
     std::uint64_t seed = 1;
     std::optional<int> cases;  // nothing: the preset's own
     std::optional<int> rows;   // of piles; both or none

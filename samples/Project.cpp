@@ -36,9 +36,7 @@ void RemoveLeftovers(const std::filesystem::path& folder, const std::string& nam
 }  // namespace
 
 void WriteProject(const std::filesystem::path& folder, const Project& project) {
-    std::error_code error;
-    std::filesystem::create_directories(folder, error);
-    if (error) throw SampleError("cannot make the folder " + folder.string() + ": " + error.message());
+    MakeFolder(folder);
     RemoveLeftovers(folder, project.name);
     WriteTextFiles(folder / project.name, project);
     WriteResultFiles(folder / project.name, project);

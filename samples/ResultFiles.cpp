@@ -20,12 +20,6 @@ void AppendLittleEndian(std::string& bytes, Word word) {
         bytes.push_back(static_cast<char>((word >> (8 * i)) & 0xff));
 }
 
-std::filesystem::path WithSuffix(const std::filesystem::path& base, std::string_view suffix) {
-    std::filesystem::path path = base;
-    path += suffix;
-    return path;
-}
-
 void WriteCount(const std::filesystem::path& base, const Project& project) {
     SequentialFile file(WithSuffix(base, ".TWR"));
     file.Write(Record().Int(static_cast<std::int32_t>(project.substructures.size())));

@@ -8,12 +8,6 @@
 namespace samples {
 namespace {
 
-std::filesystem::path WithSuffix(const std::filesystem::path& base, std::string_view suffix) {
-    std::filesystem::path path = base;
-    path += suffix;
-    return path;
-}
-
 std::string Key(std::string_view key, int value) {
     return std::string(key) + "= " + std::to_string(value);
 }

@@ -1,0 +1,14 @@
+// The program make-sample, apart from its streams.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace samples {
+
+// Takes the arguments without the program's name. Prints the path of the input file, or one line on what
+// went wrong. Returns 0, or 2 for arguments or a folder that cannot be used.
+int RunMakeSample(std::vector<std::string> arguments, std::ostream& out, std::ostream& errors);
+
+}  // namespace samples
