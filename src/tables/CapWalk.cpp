@@ -1,0 +1,151 @@
+#include "model/DataSet.h"
+#include "tables/CapRows.h"
+#include "tables/Catalogue.h"
+#include "tables/RowText.h"
+#include "tables/TableWalks.h"
+
+// Tables 3 and 4: for each design section of the cap, in order of position, the case with the maximum and the
+// case with the minimum, and all that acts there in the same case.
+namespace {
+
+constexpr std::size_t kKeyColumn = 43;
+
+std::string CapKeyText(int table) {
+    std::string text = "\n\n \"Location & Side\" Key:\n\n";
+    const std::vector<CCapKeyLine> key = CapKey(table);
+    for (const CCapKeyLine& line : key) {
+        text += "    ";
+        // The moment table's last line has no right entry and ends with its left one; other lines keep the
+        // column's blanks even where no entry follows.
+        const bool open = !line.right && &line == &key.back();
+        text += open ? line.left.Text() : PadRight(line.left.Text(), kKeyColumn);
+        if (line.right) text += line.right->Text();
+        text += '\n';
+    }
+    return text;
+}
+
+class CCapWalk {
+  public:
+    CCapWalk(const TableLayout& layout, CLineSink& sink)
+        : m_layout(layout),
+          m_cap(layout.cap),
+          m_sink(sink),
+          m_bLimitStates(g_DataSet.FirstPier().m_bCombinations) {}
+
+    void Run() {
+        WriteTitleLine(m_layout, m_sink);
+        m_sink.Gap(2);
+        m_head = BuildColumnHead(m_layout);
+        const std::size_t piers = g_DataSet.m_Piers.size();
+        for (std::size_t p = 0; p < piers; ++p) {
+            WriteExtreme(g_DataSet.m_Piers[p], static_cast<int>(p) + 1, 0);
+            m_sink.Gap(3);
+            WriteExtreme(g_DataSet.m_Piers[p], static_cast<int>(p) + 1, 1);
+            if (p + 1 < piers) m_sink.Gap(3);
+        }
+        m_sink.MayBreak(BreakPoint::key);
+        m_sink.Key(CapKeyText(m_layout.table));
+    }
+
+  private:
+    void WriteExtreme(const CPier& pier, int number, int extreme) {
+        m_sink.MayBreak(BreakPoint::pierHeading);
+        WriteHeading(pier, number, extreme);
+        const int slots = g_DataSet.FirstPier().SlotCount();
+        for (int slot = 0; slot < slots; ++slot) {
+            if (!WriteSectionHeading(m_layout, slot, m_sink)) continue;
+            m_sink.MayBreak(BreakPoint::columnHead);
+            m_sink.Head(m_head);
+            WriteRows(pier, slot, extreme);
+            if (slot + 1 < slots) m_sink.Gap(2);
+        }
+    }
+
+    void WriteHeading(const CPier& pier, int number, int extreme) {
+        std::string heading = TableTitle(m_layout.table, pier.m_nStructureType);
+        AppendNumbered(heading, m_cap.blockHeading[extreme], number);
+        const std::size_t feed = heading.find('\n');
+        m_sink.Line(std::string_view(heading).substr(0, feed));
+        m_sink.Line(std::string_view(heading).substr(feed + 1));
+        if (extreme == 0 && m_cap.maximumRemark[0] != '\0') m_sink.Line(m_cap.maximumRemark);
+        m_sink.Gap(2);
+    }
+
+    void WriteRows(const CPier& pier, int slot, int extreme) {
+        WalkCap(m_layout.table, pier, slot, extreme, [this](const CCapRow& row) {
+            m_row.clear();
+            AppendLeftPadded(m_row, row.sLabel, 12);
+            m_row += ' ';
+            AppendRow(row);
+            m_sink.Row(m_row);
+        });
+    }
+
+    void AppendRow(const CCapRow& row) {
+        const CCapRecord& record = row.pEntry->record;
+        const int form = m_bLimitStates ? 1 : 0;
+        if (record.m_nMissing == 1) {
+            m_row += m_cap.missing[form];
+            return;
+        }
+        AppendInt(m_row, record.m_nElementNumber, 5);
+        m_row += ' ';
+        AppendInt(m_row, record.m_nSection, 5);
+        m_row += ' ';
+        AppendNode(record, row.bBearing);
+        if (!row.bSideHasResult) {
+            m_row += m_cap.sideMissing[form];
+        } else if (record.m_nLoadCase < 0) {
+            // This filler has the limit state column in either form; without one the row runs past the head.
+            m_row += m_cap.noLoadCase;
+        } else {
+            AppendResult(record, row.pEntry->values);
+        }
+    }
+
+    void AppendNode(const CCapRecord& record, bool bearing) {
+        if (bearing || record.m_nEnd == kEndI || record.m_nEnd == kEndJ) {
+            AppendInt(m_row, record.m_nNode, 10);
+        } else if (record.m_nEnd == kInsideElement) {
+            m_nodes.clear();
+            AppendInt(m_nodes, record.m_nNode);
+            m_nodes += ',';
+            AppendInt(m_nodes, record.m_nSecondNode);
+            m_row += ' ';
+            AppendLeftPadded(m_row, m_nodes, 9);
+        } else {
+            m_row += "       ***";
+        }
+        m_row += ' ';
+    }
+
+    void AppendResult(const CCapRecord& record, const CapValues& values) {
+        AppendInt(m_row, record.m_nLoadCase + 1LL, 5);
+        if (m_bLimitStates) AppendLeftPadded(m_row, LimitStateOf(record.m_nLoadCase), 15);
+        AppendEnd(record.m_nEnd);
+        for (int i = 0; i < m_cap.values; ++i) {
+            if (i + 1 < m_cap.values) m_row += "   ";
+            AppendFixed(m_row, values[static_cast<std::size_t>(m_cap.valueOrder[i])], 2, 9);
+        }
+    }
+
+    void AppendEnd(int end) {
+        static constexpr const char* kEnds[] = {"    I", "    J", "  I,J"};
+        m_row += end >= kEndI && end <= kInsideElement ? kEnds[end] : "  ***";
+    }
+
+    const TableLayout& m_layout;
+    const CapTexts& m_cap;
+    CLineSink& m_sink;
+    bool m_bLimitStates;
+    ColumnHead m_head;
+    std::string m_row;  // both are reused, so that a row takes no memory
+    std::string m_nodes;
+};
+
+}  // namespace
+
+void WalkCapTable(const TableLayout& layout, CLineSink& sink) {
+    CCapWalk(layout, sink).Run();
+}

@@ -1,0 +1,153 @@
+#include "tables/Catalogue.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+#include "model/DataSet.h"
+#include "session/Constants.h"
+#include "session/OutputFiles.h"
+#include "session/Session.h"
+#include "text/Format.h"
+
+namespace {
+
+// What heads the block of one slot. The section tables 0, 1 and 2 carry the word MAXIMUM, the cap tables and
+// the force tables do not.
+struct SlotHeading {
+    int family;
+    int slot;
+    bool needsClass;     // the block appears only when a selected case has that class
+    bool capMomentOnly;  // fatigue has a block in the cap moment table alone
+    const char* maximum;
+    const char* plain;
+};
+constexpr std::array<SlotHeading, 7> kSlotHeadings{{
+    {kFamilyLrfd, 0, true, false, " MAXIMUM STRENGTH CASE DATA", " STRENGTH CASE DATA"},
+    {kFamilyLrfd, 1, true, false, " MAXIMUM SERVICE CASE DATA", " SERVICE CASE DATA"},
+    {kFamilyLrfd, 2, true, false, " MAXIMUM EXTREME CASE DATA", " EXTREME CASE DATA"},
+    {kFamilyLrfd, 3, true, true, " MAXIMUM FATIGUE CASE DATA", " FATIGUE CASE DATA"},
+    {kFamilyLfd, 0, false, false, " MAXIMUM LOAD FACTOR DESIGN DATA", " LOAD FACTOR DESIGN DATA"},
+    {kFamilyArema, 0, true, false, " MAXIMUM LOAD FACTOR DESIGN DATA", " LOAD FACTOR DESIGN DATA"},
+    {kFamilyArema, 1, true, false, " MAXIMUM SERVICE LOAD DESIGN DATA", " SERVICE LOAD DESIGN DATA"},
+}};
+
+// How much of a report the text viewer shows on one printed page.
+struct ViewerPage {
+    int fontSize;
+    int charsPerLine;
+    int linesPerPage;
+};
+constexpr ViewerPage kDefaultPage{0, 142, 61};
+constexpr std::array<ViewerPage, 6> kViewerPages{{
+    {8, 142, 61},
+    {9, 126, 54},
+    {10, 114, 48},
+    {11, 103, 44},
+    {12, 95, 40},
+    {14, 81, 34},
+}};
+
+const ViewerPage& PageOf(int fontSize) {
+    for (const ViewerPage& page : kViewerPages) {
+        if (page.fontSize == fontSize) return page;
+    }
+    return kDefaultPage;
+}
+
+int LinesLeft(int pageLines, int usedLines) {
+    if (usedLines <= pageLines || pageLines <= 0) return pageLines - usedLines;
+    return pageLines - usedLines % pageLines;
+}
+
+constexpr std::size_t kNameWidth = 15;
+
+}  // namespace
+
+std::string TableHeadTitle(int table) {
+    if (g_DataSet.IsPierless()) return {};
+    const bool severalPiers = g_DataSet.m_Piers.size() > 1;
+    const bool columnTable = table == kTableColumnDc || table == kTableColumnForces;
+    // Substructures of several types share the column tables, so their title is the pier's.
+    const int type = columnTable && severalPiers ? kTypePier : g_DataSet.FirstPier().m_nStructureType;
+    return TableTitle(table, type);
+}
+
+bool SectionHeading(int table, int slot, std::string& heading) {
+    heading.clear();
+    if (g_DataSet.IsPierless()) return false;
+    const CPier& first = g_DataSet.FirstPier();
+    const int family = first.m_nCodeFamily;
+    if (!first.m_bCombinations) return true;
+    if (family < kFamilyLrfd || family > kFamilyArema) return true;
+    for (const SlotHeading& entry : kSlotHeadings) {
+        if (entry.family != family || entry.slot != slot) continue;
+        if (entry.capMomentOnly && table != kTableCapMoment) return false;
+        if (entry.needsClass && !first.IsClassPresent(slot)) return false;
+        heading = table <= kTableColumnDc ? entry.maximum : entry.plain;
+        return true;
+    }
+    return false;
+}
+
+std::string FormatCellText(std::string_view text, std::size_t width) {
+    std::string cell(text == "0.00" || text == "-0.00" ? std::string_view("0") : text);
+    if (g_ReportFormat != kFormatSpreadsheet) return PadLeft(cell, width);
+    if (cell.find('\n') == std::string::npos) cell += '\t';
+    return cell;
+}
+
+std::string MissingForceColumns(int extreme) {
+    if (extreme < 0 || extreme > 11) return {};
+    std::string columns;
+    for (int column = 0; column < 6; ++column) {
+        columns += column == extreme / 2 ? "       none" : "        ***";
+    }
+    return columns + "       ***";
+}
+
+std::string PadName15(std::string_view name) {
+    return PadLeft(name, kNameWidth);
+}
+
+std::string CenterText(int fontSize, std::string_view text) {
+    const int length = static_cast<int>(text.size());
+    const int blanks = std::max(0, (CharsPerLine(fontSize) - length) / 2);
+    return Blanks(static_cast<std::size_t>(blanks)).append(text);
+}
+
+int ViewerFontSize() {
+    const std::string tenths = ReadViewerValue("iPointSize");
+    int value = 0;
+    std::from_chars(tenths.data(), tenths.data() + tenths.size(), value);
+    return value / 10;
+}
+
+int CharsPerLine(int fontSize) {
+    return PageOf(fontSize).charsPerLine;
+}
+
+int LinesPerPage() {
+    return PageOf(ViewerFontSize()).linesPerPage;
+}
+
+int LinesToPageEnd(int lines) {
+    return LinesLeft(LinesPerPage(), lines);
+}
+
+void PadToPageEnd(int pageLines, int usedLines, StoredStream& out) {
+    const int left = LinesLeft(pageLines, usedLines);
+    if (left > 0) out.Write(std::string(static_cast<std::size_t>(left), '\n'));
+}
+
+int TitlePageBlankLines() {
+    return static_cast<int>(LinesPerPage() * 0.5 + 1.0) - 2;
+}
+
+std::array<std::string, 5> TitlePageLines() {
+    std::array<std::string, 5> lines;
+    for (std::size_t i = 0; i < lines.size(); ++i) lines[i] = g_TitleLines[i];
+    lines[3] += g_VersionText;
+    lines[4] += DateText(1);
+    return lines;
+}

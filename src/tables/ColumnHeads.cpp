@@ -1,0 +1,137 @@
+#include <array>
+
+#include "model/DataSet.h"
+#include "tables/Catalogue.h"
+#include "tables/TableLayout.h"
+#include "text/Format.h"
+
+namespace {
+
+constexpr std::array<const char*, 3> kFamilyNames{"AASHTO-LRFD", "AASHTO-LFD", "AREMA"};
+constexpr std::size_t kLimitStateWidth = 15;
+
+struct StepWords {
+    const char* upper = nullptr;  // null: no head at all
+    const char* lower = nullptr;
+};
+
+StepWords StepWordsOf(const HeadTexts& head, bool combinations, int mode) {
+    if (combinations) return {"LOAD", "COMB"};
+    if (mode == 1 || (mode == 2 && head.mode2IsTimeStep)) return {"TIME", "STEP"};
+    if (mode <= 0 || mode == 2) return {"LOAD", "CASE"};
+    return {};
+}
+
+// The head of table 0 names the step and the limit state twice, and AREMA's second word is a blank narrower.
+struct PileHeadLines {
+    const char* upper;
+    const char* lowerUs;
+    const char* lowerSi;
+};
+constexpr PileHeadLines kTimeStepHead{
+    "   SUBSTRUCTURE   PILE  TIME  MAX TENSION      D/C  TIME     MAX COMP      D/C",
+    "                        STEP       (kips)  (ratio)  STEP       (kips)  (ratio)",
+    "                        STEP         (kN)  (ratio)  STEP         (kN)  (ratio)"};
+constexpr PileHeadLines kLoadCaseHead{
+    "   SUBSTRUCTURE   PILE  LOAD  MAX TENSION      D/C  LOAD     MAX COMP      D/C",
+    "                        CASE       (kips)  (ratio)  CASE       (kips)  (ratio)",
+    "                        CASE         (kN)  (ratio)  CASE         (kN)  (ratio)"};
+constexpr const char* kCombLowerUs =
+    "                        COMB                      (kips)  (ratio)    COMB                      (kips)  "
+    "(ratio)";
+constexpr const char* kCombLowerSi =
+    "                        COMB                        (kN)  (ratio)    COMB                        (kN)  "
+    "(ratio)";
+constexpr std::array<const char*, 3> kCombUpper{
+    "   SUBSTRUCTURE   PILE  LOAD    AASHTO-LRFD  MAX TENSION      D/C    LOAD    AASHTO-LRFD     MAX COMP   "
+    "   D/C",
+    "   SUBSTRUCTURE   PILE  LOAD     AASHTO-LFD  MAX TENSION      D/C    LOAD     AASHTO-LFD     MAX COMP   "
+    "   D/C",
+    "   SUBSTRUCTURE   PILE  LOAD          AREMA  MAX TENSION      D/C    LOAD         AREMA     MAX COMP    "
+    "  D/C"};
+
+void AddLine(ColumnHead& head, std::string line) {
+    head.lines[head.lineCount] = std::move(line);
+    ++head.lineCount;
+}
+
+bool IsNamedFamily(int family) {
+    return family >= kFamilyLrfd && family <= kFamilyArema;
+}
+
+void AddPileHeadLines(ColumnHead& head, const CPier& first, int mode, bool us) {
+    if (first.m_bCombinations) {
+        // A family without a name has the lower line alone.
+        if (IsNamedFamily(first.m_nCodeFamily)) {
+            AddLine(head, kCombUpper[static_cast<std::size_t>(first.m_nCodeFamily)]);
+        }
+        AddLine(head, us ? kCombLowerUs : kCombLowerSi);
+        return;
+    }
+    const StepWords words = StepWordsOf({}, false, mode);
+    if (words.upper == nullptr) return;
+    const PileHeadLines& lines = mode == 1 ? kTimeStepHead : kLoadCaseHead;
+    AddLine(head, lines.upper);
+    AddLine(head, us ? lines.lowerUs : lines.lowerSi);
+}
+
+std::string LimitStateHeading(const HeadTexts& texts, int family) {
+    return PadLeft(kFamilyNames[static_cast<std::size_t>(family)],
+                   family == kFamilyArema ? texts.aremaWidth : kLimitStateWidth);
+}
+
+void AddSteppedLines(ColumnHead& head, const HeadTexts& texts, const CPier& first, int mode, bool us,
+                     bool cap) {
+    const bool combinations = first.m_bCombinations;
+    const StepWords words = StepWordsOf(texts, combinations, mode);
+    if (words.upper == nullptr) {
+        // The cap tables end their head with the line feed of the block, so it is there for an empty head
+        // too.
+        if (cap) AddLine(head, {});
+        return;
+    }
+    std::string upper = first.m_nStructureType == kTypeNoPileTables ? texts.openingType8 : texts.opening;
+    upper += words.upper;
+    std::string lower = texts.lowerOpening;
+    lower += words.lower;
+    if (combinations) lower.append(kLimitStateWidth, ' ');
+    lower += us ? texts.unitsUs : texts.unitsSi;
+    if (!combinations || IsNamedFamily(first.m_nCodeFamily)) {
+        if (combinations) upper += LimitStateHeading(texts, first.m_nCodeFamily);
+        AddLine(head, upper + texts.columns);
+    } else if (cap) {
+        AddLine(head, {});
+    }
+    AddLine(head, std::move(lower));
+}
+
+}  // namespace
+
+ColumnHead BuildColumnHead(const TableLayout& layout) {
+    ColumnHead head;
+    head.linesBehind = layout.head.linesBehind;
+    head.linesBehindFirst = layout.head.linesBehindFirst;
+    // Two lines are counted even where a head has fewer.
+    head.counted = 2 + head.linesBehind + head.linesBehindFirst;
+    if (g_DataSet.IsPierless()) return head;
+    const CPier& first = g_DataSet.FirstPier();
+    const int mode = g_DataSet.m_nAnalysisMode;
+    const bool us = g_DataSet.m_nUnits == 0;
+    if (layout.table == kTableMaxAxial) {
+        AddPileHeadLines(head, first, mode, us);
+        return head;
+    }
+    const bool cap = layout.table == kTableCapShear || layout.table == kTableCapMoment;
+    AddSteppedLines(head, layout.head, first, mode, us, cap);
+    // An empty head of a section table takes its empty line with it.
+    if (head.lineCount == 0) head.linesBehind = 0;
+    return head;
+}
+
+const std::string& LimitStateOf(int loadCase) {
+    static const std::string kNone = "none";
+    if (g_DataSet.IsPierless() || loadCase < 0) return kNone;
+    const std::vector<CLoadCase>& cases = g_DataSet.FirstPier().m_LoadCases;
+    const auto index = static_cast<std::size_t>(loadCase);
+    return index < cases.size() ? cases[index].m_sLimitState : kNone;
+}

@@ -1,0 +1,65 @@
+#include <algorithm>
+
+#include "framework/Backend.h"
+#include "session/Constants.h"
+#include "tables/Catalogue.h"
+#include "text/Format.h"
+
+namespace {
+
+void AppendTwoDigits(std::string& out, int value) {
+    if (value < 10) out += '0';
+    AppendInt(out, value);
+}
+
+// The day names stand directly behind the month names and are looked up by the weekday counted from Sunday,
+// so a report made on a Sunday says "December" where the day's name belongs.
+const char* DayWord(int weekday) {
+    if (weekday <= 0) return g_MonthNames.back();
+    return g_DayNames[static_cast<std::size_t>(std::min(weekday, 7) - 1)];
+}
+
+void AppendMonthDayYear(std::string& out, const LocalTime& now) {
+    out += g_MonthNames[static_cast<std::size_t>(std::clamp(now.month, 1, 12) - 1)];
+    out += ' ';
+    AppendInt(out, now.day);
+    out += ", ";
+    AppendInt(out, now.year);
+}
+
+}  // namespace
+
+std::string DateText(int mode) {
+    const LocalTime now = services::Now();
+    std::string text;
+    if (mode == 2) {
+        AppendTwoDigits(text, now.month);
+        text += '/';
+        AppendTwoDigits(text, now.day);
+        text += '/';
+        AppendInt(text, now.year);
+        return text;
+    }
+    if (mode == 1) text.append(DayWord(now.weekday)).append(", ");
+    AppendMonthDayYear(text, now);
+    return text;
+}
+
+std::string TimeText(int mode) {
+    const LocalTime now = services::Now();
+    std::string text;
+    AppendInt(text, now.hour);
+    text += ':';
+    if (mode == 1) {
+        AppendInt(text, now.minute);
+        text += ':';
+        AppendInt(text, now.second);
+        return text;
+    }
+    AppendTwoDigits(text, now.minute);
+    text += ':';
+    AppendTwoDigits(text, now.second);
+    // The hour stays the 24-hour number beside AM and PM.
+    text += now.hour < 12 ? " AM" : " PM";
+    return text;
+}

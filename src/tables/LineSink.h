@@ -1,0 +1,45 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "tables/TableLayout.h"
+
+// How an empty stretch of a table is shown; the text form knows one way, the PDF form three.
+enum class GapStyle { empty, lineFeed, blank };
+
+// Places before which a page may end.
+enum class BreakPoint { pierHeading, columnHead, key };
+
+// Where a walk over a table puts what it finds. The walk tells lines, heads and gaps once; a sink for text
+// writes them as they come, a sink for PDF sets them on pages. Both keep the running count of lines.
+class CLineSink {
+  public:
+    CLineSink() = default;
+    CLineSink(const CLineSink&) = delete;
+    CLineSink& operator=(const CLineSink&) = delete;
+    virtual ~CLineSink() = default;
+
+    virtual const TitleMargins& MarginsOf(const TableLayout& layout) const = 0;
+    // A line of a title or heading, without line feed.
+    virtual void Line(std::string_view text) = 0;
+    virtual void Gap(int lines, GapStyle style = GapStyle::empty) = 0;
+    // The column head of the block that begins, which a page break among its rows repeats.
+    virtual void Head(const ColumnHead& head) = 0;
+    virtual void Row(std::string_view text) = 0;
+    // The last text of a table: several lines, each with its line feed.
+    virtual void Key(std::string_view text) = 0;
+    virtual void MayBreak(BreakPoint) {}
+    virtual void EndTable() {}
+
+    int Lines() const { return m_nLines; }
+
+  protected:
+    int m_nLines = 0;
+};
+
+// The table (0 to 7) that is written when `table` is asked for: another one where the first substructure's
+// members are in the pile arrays. -1: not enabled, or there is no project.
+int WritableTable(int table);
+// Runs the walk of a writable table into a sink.
+void WalkTable(int table, CLineSink& sink);

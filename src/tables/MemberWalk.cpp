@@ -1,0 +1,169 @@
+#include <array>
+
+#include "model/DataSet.h"
+#include "tables/Catalogue.h"
+#include "tables/RowText.h"
+#include "tables/TableWalks.h"
+
+// Tables 1, 2, 5, 6 and 7: for every property of piles, columns or extra members the place of the greatest
+// ratio, or of the greatest and the least of each force, with all that acts there in the same case.
+namespace {
+
+class CMemberWalk {
+  public:
+    CMemberWalk(const TableLayout& layout, CLineSink& sink)
+        : m_layout(layout),
+          m_member(layout.member),
+          m_sink(sink),
+          m_bLimitStates(g_DataSet.FirstPier().m_bCombinations) {
+        for (std::size_t e = 0; e < m_extremeNames.size(); ++e) {
+            m_extremeNames[e] = FormatCellText(g_ExtremeNames[e], 11);
+            m_missingValues[e] = MissingForceColumns(static_cast<int>(e));
+        }
+    }
+
+    void Run() {
+        WriteTitleLine(m_layout, m_sink);
+        m_sink.Gap(2);
+        m_head = BuildColumnHead(m_layout);
+        const int slots = g_DataSet.FirstPier().SlotCount();
+        for (unsigned p = 0; p < g_DataSet.m_Piers.size(); ++p) {
+            const CPier& pier = g_DataSet.m_Piers[p];
+            if (m_member.family == CPier::kXMemberFamily && pier.m_nExtraMembers <= 0) continue;
+            if (!WritePierHeading(pier, static_cast<int>(p) + 1)) continue;
+            for (int slot = 0; slot < slots; ++slot) WriteBlock(pier, p, slot);
+            if (m_member.gapBehindPier) m_sink.Gap(2);
+        }
+    }
+
+  private:
+    // False: the substructure has no blocks in this table.
+    bool WritePierHeading(const CPier& pier, int number) {
+        const char* heading = m_member.pierHeading;
+        if (pier.m_nStructureType == kTypeNoPileTables) heading = m_member.pierHeadingType8;
+        const bool bent = pier.m_nStructureType == kTypePileBent && m_member.pierHeadingBent[0] != '\0';
+        if (bent) heading = m_member.pierHeadingBent;
+        m_sink.MayBreak(BreakPoint::pierHeading);
+        m_sink.Line(FormatNumbered(heading, number));
+        m_sink.Gap(1);
+        return !bent;
+    }
+
+    void WriteBlock(const CPier& pier, unsigned pierIndex, int slot) {
+        if (!WriteSectionHeading(m_layout, slot, m_sink)) return;
+        m_sink.MayBreak(BreakPoint::columnHead);
+        m_sink.Head(m_head);
+        const CRecordTable& records = RecordsOf(pier);
+        const int properties = PropertiesOf(pier);
+        for (int property = 0; property < properties; ++property) {
+            const int number = NumberOf(pier, property);
+            if (m_member.sectionByNumber && !g_DataSet.UsesExtraSection(pierIndex, number)) continue;
+            WriteProperty(pier, records, property, number, slot);
+            if (m_member.forces && property + 1 < properties) m_sink.Gap(1);
+        }
+        m_sink.Gap(2);
+    }
+
+    const CRecordTable& RecordsOf(const CPier& pier) const {
+        switch (m_member.family) {
+            case CPier::kPileFamily:
+                return m_member.forces ? pier.m_PileForces : pier.m_PileDc;
+            case CPier::kColumnFamily:
+                return m_member.forces ? pier.m_ColumnForces : pier.m_ColumnDc;
+            default:
+                return pier.m_XMemberForces;
+        }
+    }
+
+    int PropertiesOf(const CPier& pier) const {
+        if (m_member.family == CPier::kPileFamily) return pier.m_nPileSections;
+        return m_member.family == CPier::kColumnFamily ? pier.m_nColumnSections : pier.m_nXMemberSections;
+    }
+
+    int NumberOf(const CPier& pier, int property) const {
+        return property + (m_member.sectionByNumber ? pier.m_nXMemberFirstSection : m_member.firstProperty);
+    }
+
+    void WriteProperty(const CPier& pier, const CRecordTable& records, int property, int number, int slot) {
+        const int rows = m_member.forces ? kPrintedExtremes : 1;
+        for (int extreme = 0; extreme < rows; ++extreme) {
+            m_row = " ";
+            AppendIntBlankZero(m_row, number, 4);
+            m_row += ' ';
+            int element = -1;
+            const CMaxRecord& record = Find(pier, records, property, slot, extreme, element);
+            if (m_member.forces && element < 0) {
+                AppendMissingForce(extreme);
+            } else {
+                AppendPlace(record);
+                AppendResult(pier, record, element, extreme);
+            }
+            m_sink.Row(m_row);
+        }
+    }
+
+    // A record that points at no case, member or element of the substructure counts as one without a result.
+    const CMaxRecord& Find(const CPier& pier, const CRecordTable& records, int property, int slot,
+                           int extreme, int& element) const {
+        element = -1;
+        if (property >= records.Sections() || slot >= records.Slots() || extreme >= records.Extremes()) {
+            return kNotFoundRecord;
+        }
+        const CMaxRecord& record = records.At(property, slot, extreme);
+        if (record.m_nLoadCase < 0) return record;
+        if (static_cast<std::size_t>(record.m_nLoadCase) >= pier.m_LoadCases.size()) return kNotFoundRecord;
+        element = pier.FindElement(m_member.family, record.m_nMember, record.m_nElement);
+        return element < 0 ? kNotFoundRecord : record;
+    }
+
+    void AppendPlace(const CMaxRecord& record) {
+        if (m_member.blankBeforeMember) m_row += ' ';
+        AppendIntBlankZero(m_row, record.m_nMember + 1, m_member.memberWidth);
+        m_row += ' ';
+        AppendIntBlankZero(m_row, record.m_nElementNumber, 5);
+        m_row += ' ';
+        AppendIntBlankZero(m_row, record.m_nNode, 5);
+        m_row += ' ';
+    }
+
+    void AppendResult(const CPier& pier, const CMaxRecord& record, int element, int extreme) {
+        if (element < 0) {
+            m_row += m_member.missingRatio[m_bLimitStates ? 1 : 0];
+            return;
+        }
+        AppendIntBlankZero(m_row, record.m_nLoadCase + 1, 5);
+        if (m_bLimitStates) AppendLeftPadded(m_row, LimitStateOf(record.m_nLoadCase), 15);
+        const int end = record.m_nEnd == kEndI ? kEndI : kEndJ;
+        m_row += end == kEndI ? "    I" : "    J";
+        if (m_member.forces) m_row += m_extremeNames[static_cast<std::size_t>(extreme)];
+        const ElementForces forces = pier.Forces(record.m_nLoadCase, element);
+        for (int component = kAxial; component < kDemandCapacity; ++component) {
+            m_row += m_member.valueGap;
+            AppendFixed(m_row, GetForce(forces, end, component), 2, 10);
+        }
+        AppendFixed(m_row, GetForce(forces, end, kDemandCapacity), 2, 10);
+    }
+
+    void AppendMissingForce(int extreme) {
+        m_row += m_member.missing;
+        if (m_bLimitStates) m_row += "            ***";
+        m_row += "  ***";
+        m_row += m_extremeNames[static_cast<std::size_t>(extreme)];
+        m_row += m_missingValues[static_cast<std::size_t>(extreme)];
+    }
+
+    const TableLayout& m_layout;
+    const MemberRowTexts& m_member;
+    CLineSink& m_sink;
+    bool m_bLimitStates;
+    ColumnHead m_head;
+    std::array<std::string, kPrintedExtremes> m_extremeNames;
+    std::array<std::string, kPrintedExtremes> m_missingValues;
+    std::string m_row;  // reused, so that a row takes no memory
+};
+
+}  // namespace
+
+void WalkMembers(const TableLayout& layout, CLineSink& sink) {
+    CMemberWalk(layout, sink).Run();
+}

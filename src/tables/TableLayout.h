@@ -1,0 +1,97 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "model/Pier.h"
+#include "session/Constants.h"
+
+// The layouts of tables 0 to 7 as data: one row of one description for each table. The walks over the result
+// tables read margins, heads, fillers and column widths from here, so that the text and the PDF form of a
+// table, and tables that are alike, can't drift apart.
+
+// What stands to the left of a table's title.
+struct TitleMargin {
+    bool tab = false;
+    std::size_t blanks = 0;
+};
+
+struct TitleMargins {
+    TitleMargin wide = {};    // the rows carry the limit state column
+    TitleMargin narrow = {};  // they do not
+    // The column tables go by the number of substructures in place of the limit state column: one is wide.
+    bool byPierCount = false;
+    // Blanks before the second and third title line, which table 0 alone has.
+    std::size_t furtherWide[2] = {0, 0};
+    std::size_t furtherNarrow[2] = {0, 0};
+};
+
+// The two lines of a column head, up to the step column and behind it.
+struct HeadTexts {
+    const char* opening = "";       // upper line up to the step column
+    const char* openingType8 = "";  // the same where the first substructure calls its piles columns
+    const char* lowerOpening = "";
+    const char* columns = "";  // upper line behind the limit state column
+    const char* unitsUs = "";  // lower line behind the limit state column
+    const char* unitsSi = "";
+    std::size_t aremaWidth = 15;  // of the limit state column's heading
+    bool mode2IsTimeStep = false;
+    int linesBehind = 1;       // empty lines that belong to the head on every page
+    int linesBehindFirst = 0;  // further ones at a block's start
+};
+
+// A row of tables 1, 2, 5, 6 and 7.
+struct MemberRowTexts {
+    CPier::MemberFamily family = CPier::kPileFamily;
+    bool forces = false;           // twelve rows a property, each headed by its extreme
+    bool sectionByNumber = false;  // properties are named by section number; those in use are printed
+    int firstProperty = 1;         // number of the first property
+    bool blankBeforeMember = false;
+    int memberWidth = 5;
+    const char* valueGap = " ";  // before each value but the last
+    const char* missing = "";    // behind the property, where a force has no result
+    // Behind property, member, element and node of a ratio without result, plain and with limit states.
+    const char* missingRatio[2] = {"", ""};
+    const char* pierHeading = "";
+    const char* pierHeadingType8 = "";
+    const char* pierHeadingBent = "";  // for a pile bent, which then has no blocks; empty: no such rule
+    bool gapBehindPier = false;        // two further empty lines behind a substructure
+};
+
+// The words of tables 3 and 4.
+struct CapTexts {
+    const char* blockHeading[2] = {"", ""};  // by extreme, two lines, with the substructure's number
+    const char* maximumRemark = "";          // a third line of the maximum block
+    int values = 0;                          // printed value columns
+    int valueOrder[kComponents] = {};        // their components
+    // Rows without a result, plain and with limit states.
+    const char* missing[2] = {"", ""};
+    const char* sideMissing[2] = {"", ""};
+    const char* noLoadCase = "";
+};
+
+struct TableLayout {
+    int table = 0;
+    TitleMargins text = {};
+    TitleMargins pdf = {};
+    HeadTexts head = {};
+    MemberRowTexts member = {};  // tables 1, 2, 5, 6, 7
+    CapTexts cap = {};           // tables 3, 4
+    // The table that stands in for this one when the first substructure's members are in the pile arrays.
+    int handOverType8 = -1;
+};
+
+const TableLayout& LayoutOf(int table);  // 0 to 7
+
+// The column head of a table for the project as it stands.
+struct ColumnHead {
+    std::string lines[2];
+    int lineCount = 0;         // of `lines`
+    int linesBehind = 0;       // empty lines behind it on every page
+    int linesBehindFirst = 0;  // further ones at a block's start
+    int counted = 0;           // lines that the page arithmetic takes for it at a block's start
+};
+ColumnHead BuildColumnHead(const TableLayout& layout);
+
+// The limit state name of a case, as the first substructure has it.
+const std::string& LimitStateOf(int loadCase);

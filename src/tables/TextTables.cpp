@@ -1,0 +1,90 @@
+#include <algorithm>
+#include <cstddef>
+#include <string>
+
+#include "session/Constants.h"
+#include "session/Session.h"
+#include "tables/Catalogue.h"
+#include "tables/LineSink.h"
+#include "tables/WriteData.h"
+
+namespace {
+
+// Lines as they come, each ended by a line feed. Some counts differ from the line feeds: an empty head counts
+// its lines all the same, and the padding of the full report goes by the count.
+class CTextSink : public CLineSink {
+  public:
+    explicit CTextSink(StoredStream& out) : m_out(out) {}
+
+    const TitleMargins& MarginsOf(const TableLayout& layout) const override { return layout.text; }
+
+    void Line(std::string_view text) override { Row(text); }
+
+    void Row(std::string_view text) override {
+        m_line.assign(text);
+        m_line += '\n';
+        m_out.Write(m_line);
+        ++m_nLines;
+    }
+
+    void Gap(int lines, GapStyle) override {
+        m_out.Write(std::string(static_cast<std::size_t>(lines), '\n'));
+        m_nLines += lines;
+    }
+
+    void Head(const ColumnHead& head) override {
+        for (int i = 0; i < head.lineCount; ++i) m_out << head.lines[i] << "\n";
+        for (int i = 0; i < head.linesBehind + head.linesBehindFirst; ++i) m_out << "\n";
+        m_nLines += head.counted;
+    }
+
+    void Key(std::string_view text) override {
+        m_out.Write(text);
+        m_nLines += static_cast<int>(std::count(text.begin(), text.end(), '\n'));
+    }
+
+  private:
+    StoredStream& m_out;
+    std::string m_line;
+};
+
+int WriteText(int table, StoredStream& out) {
+    const int writable = WritableTable(table);
+    if (writable < 0) return 0;
+    CTextSink sink(out);
+    WalkTable(writable, sink);
+    return sink.Lines();
+}
+
+}  // namespace
+
+int CWriteData::WriteMaxAxialText(StoredStream& out) {
+    return WriteText(kTableMaxAxial, out);
+}
+int CWriteData::WritePileDcText(StoredStream& out) {
+    return WriteText(kTablePileDc, out);
+}
+int CWriteData::WriteColumnDcText(StoredStream& out) {
+    return WriteText(kTableColumnDc, out);
+}
+int CWriteData::WriteCapShearText(StoredStream& out) {
+    return WriteText(kTableCapShear, out);
+}
+int CWriteData::WriteCapMomentText(StoredStream& out) {
+    return WriteText(kTableCapMoment, out);
+}
+int CWriteData::WritePileForcesText(StoredStream& out) {
+    return WriteText(kTablePileForces, out);
+}
+int CWriteData::WriteColumnForcesText(StoredStream& out) {
+    return WriteText(kTableColumnForces, out);
+}
+int CWriteData::WriteExtraMemberForcesText(StoredStream& out) {
+    return WriteText(kTableExtraMembers, out);
+}
+
+void CWriteData::WriteTitlePageText(StoredStream& out) {
+    const int fontSize = ViewerFontSize();
+    out.Write(std::string(static_cast<std::size_t>(TitlePageBlankLines()), '\n'));
+    for (const std::string& line : TitlePageLines()) out << CenterText(fontSize, line) << "\n";
+}
