@@ -1,0 +1,231 @@
+// The worksheet of maximum axial forces at pile heads.
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "model/DataSet.h"
+#include "tables/Catalogue.h"
+#include "tables/TableLayout.h"
+#include "tables/WriteData.h"
+#include "writers/SheetCells.h"
+#include "writers/SheetHeads.h"
+#include "writers/SheetRows.h"
+#include "writers/WorkbookFrame.h"
+
+namespace {
+
+using StepWords = std::string[2];
+
+// ---- headings of the limit classes
+
+constexpr std::string_view kIndexedHeading =
+    "    <Row ss:Index=\"5\">\t<Cell ss:Index=\"2\" ss:StyleID=\"s58\"><Data ss:Type=\"String\">";
+constexpr std::string_view kFirstSlotHeading =
+    "    <Row>\t<Cell ss:Index=\"2\" ss:StyleID=\"s58\"><Data ss:Type=\"String\">";
+constexpr std::string_view kServiceHeading =
+    "  <Row></Row>\n<Row>\n    <Cell ss:Index=\"2\" ss:StyleID=\"s58\"><Data ss:Type=\"String\">";
+constexpr std::string_view kExtremeHeading =
+    "  <Row></Row>\n\t<Row>\n    <Cell ss:Index=\"2\" ss:StyleID=\"s58\"><Data ss:Type=\"String\">";
+constexpr std::string_view kHeadingEnd = "</Data></Cell>\n  </Row>\n";
+
+// The first slot's words, on the first substructure and on later ones: CASES becomes DATA in one family.
+struct FirstSlotWords {
+    int family;
+    const char* first;
+    const char* later;
+};
+constexpr std::array<FirstSlotWords, 3> kFirstSlotWords = {{
+    {kFamilyLrfd, "MAXIMUM STRENGTH CASE DATA", "MAXIMUM STRENGTH CASE DATA"},
+    {kFamilyLfd, "MAXIMUM LOAD FACTOR DESIGN CASES", "MAXIMUM LOAD FACTOR DESIGN CASES"},
+    {kFamilyArema, "MAXIMUM LOAD FACTOR DESIGN CASES", "MAXIMUM LOAD FACTOR DESIGN DATA"},
+}};
+
+// The blank row before a later substructure's first heading.
+std::string_view BlankRow(int family, std::size_t pier) {
+    if (pier == 1) return "\t<Row> </Row>\n";
+    return family == kFamilyLfd ? "" : " <Row> </Row>\n";
+}
+
+std::string FirstSlotHeading(int family, std::size_t pier) {
+    std::string out;
+    for (const FirstSlotWords& words : kFirstSlotWords) {
+        if (words.family != family) continue;
+        if (pier > 0) out += BlankRow(family, pier);
+        out.append(pier == 0 ? kIndexedHeading : kFirstSlotHeading);
+        out.append(pier == 0 ? words.first : words.later).append(kHeadingEnd);
+    }
+    return out;
+}
+
+std::string SlotHeading(int family, int slot, std::size_t pier) {
+    if (slot == 0) return FirstSlotHeading(family, pier);
+    std::string out(slot == 1 ? kServiceHeading : kExtremeHeading);
+    out += slot == 2               ? "MAXIMUM EXTREME CASE DATA"
+           : family == kFamilyLrfd ? "MAXIMUM SERVICE CASE DATA"
+                                   : "MAXIMUM SERVICE LOAD DESIGN DATA";
+    return out.append(kHeadingEnd);
+}
+
+// ---- column heads
+
+constexpr std::string_view kHeadCell = "\t\t<Cell ss:StyleID=\"s65\"><Data ss:Type=\"String\">";
+
+std::string PlainColumnHead(const StepWords& words) {
+    const std::string unit = "(" + g_DataSet.m_sForceUnit + ")";
+    const std::array<std::string_view, 10> upper = {
+        "", "SUBSTRUCTURE", "PILE", words[0], "MAX TENSION", "D/C", "", words[0], "MAX COMP", "D/C"};
+    const std::array<std::string_view, 10> lower = {"",        "", "",       words[1], unit,
+                                                    "(ratio)", "", words[1], unit,     "(ratio)"};
+    std::string out = "\t<Row></Row>\n\t<Row>\n";
+    for (const std::string_view text : upper) AppendTextCell(out, kHeadCell, text);
+    out += "\t</Row>\n\t<Row>\n";
+    for (const std::string_view text : lower) AppendTextCell(out, kHeadCell, text);
+    return out += "\t</Row>\n\t<Row></Row>\n";
+}
+
+void AppendGroupHead(std::string& out, const std::string& stepWord, std::string_view force) {
+    AppendTextCell(out, kHeadCell, stepWord);
+    if (!FamilyWord().empty()) AppendTextCell(out, kHeadCell, FamilyWord());
+    AppendTextCell(out, kHeadCell, force);
+    AppendTextCell(out, kHeadCell, "D/C");
+}
+
+// The lower row of this head says kips in metric projects too.
+constexpr std::string_view kCombinationLowerRow =
+    "\t</Row>\n\t<Row>\n"
+    "    <Cell ss:StyleID=\"s65\" ss:Index=\"4\"><Data ss:Type=\"String\">COMB </Data></Cell>\n"
+    "\t\t<Cell ss:StyleID=\"s65\" ss:Index=\"6\"><Data ss:Type=\"String\">(Kips)</Data></Cell>\n"
+    "\t\t<Cell ss:StyleID=\"s65\" ss:Index=\"7\"><Data ss:Type=\"String\">(Ratio)</Data></Cell>\n"
+    "    <Cell ss:StyleID=\"s65\" ss:Index=\"9\"><Data ss:Type=\"String\">COMB </Data></Cell>\n"
+    "\t\t<Cell ss:StyleID=\"s65\" ss:Index=\"11\"><Data ss:Type=\"String\">(Kips)</Data></Cell>\n"
+    "\t\t<Cell ss:StyleID=\"s65\" ss:Index=\"12\"><Data ss:Type=\"String\">(Ratio)</Data></Cell>\n"
+    "\t</Row>\n<Row></Row>\n";
+
+std::string CombinationColumnHead(const StepWords& words) {
+    std::string out =
+        "\t<Row></Row>\n\t<Row >"
+        "\t\t<Cell ss:Index=\"2\" ss:StyleID=\"s65\"><Data ss:Type=\"String\">SUBSTRUCTURE</Data></Cell>\n";
+    AppendTextCell(out, kHeadCell, "PILE");
+    AppendGroupHead(out, words[0], "MAX TENSION");
+    out += "\t\t<Cell></Cell>";
+    AppendGroupHead(out, words[0], "MAX COMP");
+    return out.append(kCombinationLowerRow);
+}
+
+// ---- rows
+
+// The load case of a pile's extreme, -1 where it has none.
+int CaseOf(const std::vector<std::vector<int>>& table, int slot, std::size_t pile) {
+    const std::size_t s = static_cast<std::size_t>(slot);
+    return s < table.size() && pile < table[s].size() ? table[s][pile] : -1;
+}
+
+// One half of a row: the pile's head in the load case of its extreme.
+struct Group {
+    const CPier& pier;
+    std::size_t pile;
+    int loadCase;
+
+    int HeadElement() const {
+        const int element = pier.FindElement(CPier::kPileFamily, static_cast<int>(pile), 0);
+        return loadCase >= 0 && loadCase < static_cast<int>(pier.m_LoadCases.size()) ? element : -1;
+    }
+    double Value(int element, int component) const {
+        return GetForce(pier.Forces(loadCase, element), kEndJ, component);
+    }
+};
+
+void AppendPlainGroup(std::string& out, const Group& group, std::string_view ratioCell) {
+    const int element = group.HeadElement();
+    if (element < 0) {
+        for (const std::string_view text : {kNoValue, kNoResult, kNoValue}) {
+            AppendTextCell(out, kTextCell, text);
+        }
+        return;
+    }
+    AppendIntCell(out, kNumberCell, group.loadCase + 1);
+    AppendDecimalCell(out, kForceCell, group.Value(element, kAxial));
+    AppendDecimalCell(out, ratioCell, group.Value(element, kDemandCapacity));
+}
+
+constexpr std::string_view kMissingCell = "\t\t<Cell ss:StyleID=\"s60\"><Data ss:Type=\"String\">";
+
+void AppendCombinationGroup(std::string& out, const Group& group, int ratioDecimals) {
+    const int element = group.HeadElement();
+    if (element < 0) {
+        for (const std::string_view text : {kNoValue, kNoValue, kNoResult, kNoValue}) {
+            AppendTextCell(out, kMissingCell, text);
+        }
+        return;
+    }
+    AppendIntCell(out, kNumberCell, group.loadCase + 1);
+    AppendTextCell(out, kTextCell, PadName15(LimitStateOf(group.loadCase)));
+    AppendDecimalCell(out, kForceCell, group.Value(element, kAxial));
+    AppendDecimalCell(out, kDecimalCell, group.Value(element, kDemandCapacity), ratioDecimals);
+}
+
+void AppendRowNumbers(std::string& out, std::size_t pierIndex, std::size_t pile) {
+    out += "<Cell ss:Index=\"2\" ss:StyleID=\"s60\"><Data ss:Type=\"Number\">";
+    AppendInt(out, static_cast<long long>(pierIndex) + 1);
+    out.append(kCellEnd).append(kNumberCell);
+    AppendInt(out, static_cast<long long>(pile) + 1);
+    out += "</Data></Cell>";  // the load case's cell stands on the same line
+}
+
+void AppendPlainRow(std::string& out, std::size_t pierIndex, const Group& tension, const Group& compression) {
+    out += "    <Row>";
+    AppendRowNumbers(out, pierIndex, tension.pile);
+    AppendPlainGroup(out, tension, kDecimalCell);
+    AppendTextCell(out, kTextCell, "");
+    AppendPlainGroup(out, compression, kForceCell);
+    out += "  </Row>\n";
+}
+
+void AppendCombinationRow(std::string& out, std::size_t pierIndex, int slot, const Group& tension,
+                          const Group& compression) {
+    // Only the tension ratio of the extreme class is cut to two decimals.
+    constexpr int kFull = 6;
+    out += "    <Row>\n\t";
+    AppendRowNumbers(out, pierIndex, tension.pile);
+    AppendCombinationGroup(out, tension, slot == 2 ? 2 : kFull);
+    out += "<Cell></Cell>\n";
+    AppendCombinationGroup(out, compression, kFull);
+    out += "</Row>\n";
+}
+
+void WriteRows(StoredStream& out, std::size_t pierIndex, int slot, bool combinations) {
+    const CPier& pier = g_DataSet.m_Piers[pierIndex];
+    std::string row;
+    for (std::size_t pile = 0; pile < pier.m_Piles.size(); ++pile) {
+        const Group tension{pier, pile, CaseOf(pier.m_ppMaxTension, slot, pile)};
+        const Group compression{pier, pile, CaseOf(pier.m_ppMaxCompression, slot, pile)};
+        row.clear();
+        if (combinations) {
+            AppendCombinationRow(row, pierIndex, slot, tension, compression);
+        } else {
+            AppendPlainRow(row, pierIndex, tension, compression);
+        }
+        out << row;
+    }
+}
+
+}  // namespace
+
+int CWriteData::WriteMaxAxialSheet(StoredStream& out, bool embedded) {
+    return WriteWorkbook(kTableMaxAxial, out, embedded, [&] {
+        SetStepWords();
+        const CPier& first = g_DataSet.FirstPier();
+        out << WorksheetHead(kTableMaxAxial, ExpandedRows(kTableMaxAxial));
+        for (std::size_t p = 0; p < g_DataSet.m_Piers.size(); ++p) {
+            for (const int slot : BlockSlots(kTableMaxAxial)) {
+                if (first.m_bCombinations) out << SlotHeading(first.m_nCodeFamily, slot, p);
+                out << (first.m_bCombinations ? CombinationColumnHead(m_sLoadWord)
+                                              : PlainColumnHead(m_sLoadWord));
+                WriteRows(out, p, slot, first.m_bCombinations);
+            }
+        }
+        out << WorksheetEnd();
+    });
+}

@@ -1,0 +1,5 @@
+#pragma once
+
+// The count of rows that a worksheet announces, by formula: it stands in the worksheet's head, which is
+// written before the rows. `pier` (from 0) counts for kTablePileHeads alone, which has a worksheet for each.
+long long ExpandedRows(int table, int pier = 0);
