@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+// The members of a substructure. Every load case has the same members, so they stand once, each naming its
+// run of elements in the substructure's element list; CPier keeps the forces of all cases.
+
+// A run of elements from left to right, or from the head down.
+struct CMember {
+    int m_nFirstElement = 0;
+    int m_nElements = 0;
+};
+
+// Element 0 is at the head; its end J is the head.
+struct CPile : CMember {
+    int m_nNodes = 0;          // m_nElements + 1
+    double m_dDimension = 0.0; // width, as its first element's section record has it
+};
+
+// The element at index m_nColumnNodes of the substructure is the one that reaches the cap.
+struct CColumn : CMember {};
+
+// The elements of all cap spans in a row, span after span from left to right.
+struct CBeam : CMember {};
+
+struct CCantilever : CMember {};
+
+// One element in every case.
+struct CXMember : CMember {};
+
+// The structure above ground.
+struct CFrame {
+    std::vector<CColumn> m_Columns;
+    CBeam m_Beam;
+    CCantilever m_Cantilevers[2];  // left, right
+    std::vector<CXMember> m_XMembers;
+};
+
+struct CBearing {
+    int m_nNode = 0;  // the node number that the bearing rests on
+};
+
+struct CBearingRow {
+    std::vector<CBearing> m_Bearings;
+};
+
+// A load case, combination or time step; its forces are in the substructure's force block.
+struct CLoadCase {
+    int m_nLimitClass = 0;  // 0 strength or load factor design; 1 service; 2 extreme; 3 fatigue
+    int m_nNumber = 0;      // its own number in the host's list of combinations; 0 if not a combination
+    std::string m_sName = "none";
+    std::string m_sLimitState = "none";
+};

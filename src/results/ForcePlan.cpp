@@ -1,0 +1,151 @@
+#include "results/ForcePlan.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+
+namespace {
+
+// What the searches for records share: the block's layout and the count of element numbers without a record.
+class Planner {
+  public:
+    Planner(const CPier& pier, const CPierReadState& state) : m_pier(pier), m_table(state.elementTable) {
+        m_missingBelow.assign(1, 0);
+        for (const std::uint8_t masked : state.elementMask) m_missingBelow.push_back(m_missingBelow.back() + masked);
+    }
+
+    std::vector<CForceRead> Take() { return std::move(m_reads); }
+
+    void PlanPiles() {
+        long long record = 1;
+        for (const CPile& pile : m_pier.m_Piles) {
+            for (int e = 0; e < pile.m_nElements; ++e) Add(record++, pile.m_nFirstElement + e, ForceKind::pile);
+        }
+    }
+
+    void PlanCap();
+    void PlanColumns();
+
+    void PlanExtraMembers() {
+        long long record = static_cast<long long>(g_DataSet.m_nPileElements) + g_DataSet.m_nElements -
+                           m_pier.m_nExtraMembers;
+        for (const CXMember& member : m_pier.m_Frame.m_XMembers) {
+            Add(++record, member.m_nFirstElement, ForceKind::extraMember);
+        }
+    }
+
+  private:
+    void Add(long long record, int element, ForceKind kind) { m_reads.push_back({record, element, kind}); }
+    void AddCap(const CMember& member, int index, long long record) {
+        if (index >= 0 && index < member.m_nElements) {
+            Add(record, member.m_nFirstElement + index, ForceKind::frame);
+        }
+    }
+    // Records exist for real elements only: a number loses the masked numbers below it.
+    long long WithoutGaps(int number) const {
+        const int last = static_cast<int>(m_missingBelow.size()) - 1;
+        return number - m_missingBelow[static_cast<std::size_t>(std::clamp(number, 0, last))];
+    }
+    static int LastColumnSection() { return std::max(g_DataSet.m_nColumnSections - 1, 0) + 2; }
+    // The element number at which column m begins; -1 when no row does.
+    int FirstNumberOfColumn(int m) const;
+
+    const CPier& m_pier;
+    const std::vector<CElementRow>& m_table;
+    std::vector<int> m_missingBelow;  // masked numbers below each number
+    std::vector<CForceRead> m_reads;
+};
+
+void Planner::PlanCap() {
+    const long long span = static_cast<long long>(m_pier.m_nSpanNodes + 1) * (m_pier.m_nColumns - 1);
+    const long long cantilever = m_pier.m_nCantileverNodes + 1LL;
+    const long long firstRecord =
+        static_cast<long long>(g_DataSet.m_nPileNodes - 1) * g_DataSet.m_nPilesFromNodes;
+    const int rows = static_cast<int>(m_table.size()) - m_pier.m_nExtraMembers;
+    const CFrame& frame = m_pier.m_Frame;
+    long long position = 0;  // along the cap
+    int left = 0, right = 0;
+    long long inSpan = 0;
+    for (int i = 0; i < rows; ++i) {
+        const CElementRow& row = m_table[static_cast<std::size_t>(i)];
+        const int previous = m_table[static_cast<std::size_t>(std::max(i - 1, 0))].number;
+        // Masked numbers keep their place along the cap; inside a cantilever the index does not move.
+        const long long gap = static_cast<long long>(row.number) - previous - 1;
+        if (g_DataSet.m_nElementGaps > 0 && gap > 0) {
+            position += gap;
+            inSpan += gap;
+        }
+        if (row.section < LastColumnSection() + 1) continue;
+        const long long record = firstRecord + WithoutGaps(row.number);
+        if (position < cantilever) {
+            AddCap(frame.m_Cantilevers[0], left++, record);
+        } else if (position < cantilever + span) {
+            AddCap(frame.m_Beam, static_cast<int>(std::min(inSpan++, 1LL << 30)), record);
+        } else if (position < span + 2 * cantilever) {
+            AddCap(frame.m_Cantilevers[1], right++, record);
+        }
+        ++position;
+    }
+}
+
+int Planner::FirstNumberOfColumn(int m) const {
+    int column = 0;
+    for (std::size_t row = 0; row < m_table.size(); ++row) {
+        const int section = m_table[row].section;
+        if (section == 1 || section > LastColumnSection()) continue;
+        if (column == m) return m_table[row].number;
+        ++column;
+        row += static_cast<std::size_t>(std::max(m_pier.m_nColumnNodes, 0));
+    }
+    return -1;
+}
+
+void Planner::PlanColumns() {
+    if (m_pier.m_nStructureType == kTypePileBent) return;
+    for (int m = 0; m < m_pier.m_nColumns; ++m) {
+        const int number = FirstNumberOfColumn(m);
+        if (number == -1 && m_pier.m_nStructureType == kTypePier) continue;
+        const long long record = g_DataSet.m_nPileElements + WithoutGaps(number);
+        const int first = m_pier.ColumnElement(m, 0);
+        for (int e = 0; e <= m_pier.m_nColumnNodes; ++e) Add(record + e, first + e, ForceKind::frame);
+    }
+}
+
+}  // namespace
+
+std::vector<CForceRead> PlanForceReads(const CPier& pier, const CPierReadState& state, int firstType) {
+    Planner planner(pier, state);
+    planner.PlanPiles();
+    const bool noFrame = firstType == kTypePileGroup || firstType == kTypeSinglePile ||
+                         firstType == kTypeOtherGroup || firstType == kTypeNoPileTables;
+    if (!noFrame) {
+        planner.PlanCap();
+        planner.PlanColumns();
+    }
+    planner.PlanExtraMembers();
+    return planner.Take();
+}
+
+bool StoreForceRecord(ForceKind kind, const float* words, float* forces) {
+    // End I: FAX, F22, F33, M22, M33, torque, D/C; end J the same.
+    forces[0] = words[13];
+    forces[1] = -words[1];
+    forces[2] = -words[2];
+    forces[3] = words[6];
+    forces[4] = words[5];
+    forces[5] = kind == ForceKind::pile ? -words[15] : words[15];
+    forces[6] = words[11];
+    forces[7] = words[14];
+    forces[8] = words[3];
+    forces[9] = words[4];
+    forces[10] = -words[8];
+    forces[11] = -words[7];
+    forces[12] = -words[16];
+    forces[13] = words[12];
+    if (kind != ForceKind::extraMember) {
+        if (!std::isfinite(forces[6])) forces[6] = 0.0F;
+        if (!std::isfinite(forces[13])) forces[13] = 0.0F;
+    }
+    return std::all_of(forces, forces + kForcesPerElement, [](float force) { return std::isfinite(force); });
+}

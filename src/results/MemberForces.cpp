@@ -1,0 +1,137 @@
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "framework/Backend.h"
+#include "results/CollectData.h"
+#include "results/ForcePlan.h"
+#include "results/ProjectFiles.h"
+#include "results/SeqFile.h"
+
+// The member force file: for every converged case the end forces of every element, in records of 68 bytes.
+// A case's records stand in one block; the file is read once, in large pieces, for all members of all cases.
+
+namespace {
+
+constexpr std::size_t kPieceRecords = std::size_t{1} << 15;  // 2.2 MB
+
+class ForceReader {
+  public:
+    ForceReader(CPier& pier, std::vector<CForceRead> reads, const std::string& path)
+        : m_pier(pier), m_reads(std::move(reads)), m_path(path) {
+        m_file.Open(m_path, kForceRecordBytes);
+        m_block = static_cast<long long>(g_DataSet.m_nPileElements) + g_DataSet.m_nElements;
+    }
+
+    // Records that the file should hold and doesn't.
+    long long Read() {
+        const long long whole = m_file.Length() / kForceRecordBytes;
+        int cases = 0;
+        if (MapBlock()) {
+            cases = static_cast<int>(std::min<long long>(whole / m_block, m_pier.m_nLoadCases));
+            ReadBlocks(cases);
+        }
+        for (int c = cases; c < m_pier.m_nLoadCases; ++c) ReadCaseByRecord(c);
+        m_pier.m_bPileHeadsFinite = m_pier.m_bPileForcesFinite || HeadsFinite();
+        return std::max(0LL, m_block * m_pier.m_nLoadCases - whole);
+    }
+
+  private:
+    struct Target {
+        int element = -1;
+        ForceKind kind = ForceKind::pile;
+    };
+
+    // Inverts the plan: what each record of a block feeds. False when a record lies outside its block or
+    // feeds two elements; such a file is read record by record, as its numbers say.
+    bool MapBlock() {
+        if (m_block <= 0) return false;
+        m_targets.assign(static_cast<std::size_t>(m_block), Target{});
+        for (const CForceRead& read : m_reads) {
+            if (read.record < 1 || read.record > m_block) return false;
+            Target& target = m_targets[static_cast<std::size_t>(read.record - 1)];
+            if (target.element != -1) return false;
+            target = {read.element, read.kind};
+        }
+        return true;
+    }
+
+    void ReadBlocks(int cases) {
+        std::vector<float> piece(kPieceRecords * kForceRecordWords);
+        const std::size_t total = static_cast<std::size_t>(cases) * static_cast<std::size_t>(m_block);
+        int loadCase = 0;
+        std::size_t inBlock = 0;
+        m_file.Seek(0);
+        for (std::size_t done = 0; done < total;) {
+            const std::size_t records = std::min(kPieceRecords, total - done);
+            const unsigned bytes = static_cast<unsigned>(records * kForceRecordBytes);
+            if (m_file.ReadBytes(piece.data(), bytes) != bytes) {
+                throw CFileException(CFileException::endOfFile, m_path, "was cut while it was read");
+            }
+            for (std::size_t r = 0; r < records; ++r) {
+                Store(loadCase, m_targets[inBlock], piece.data() + r * kForceRecordWords);
+                if (++inBlock == m_targets.size()) {
+                    inBlock = 0;
+                    ++loadCase;
+                }
+            }
+            done += records;
+        }
+    }
+
+    void ReadCaseByRecord(int loadCase) {
+        const long long before = loadCase * m_block;
+        for (const CForceRead& read : m_reads) {
+            m_file.Read(m_record.data(), before + read.record);
+            Store(loadCase, {read.element, read.kind}, m_record.data());
+        }
+    }
+
+    void Store(int loadCase, const Target& target, const float* words) {
+        if (target.element < 0) return;
+        if (StoreForceRecord(target.kind, words, m_pier.MutableForces(loadCase, target.element).data())) return;
+        if (target.kind == ForceKind::pile) m_pier.m_bPileForcesFinite = false;
+        if (target.kind == ForceKind::extraMember) m_pier.m_bXMemberForcesFinite = false;
+        // Cap elements are watched by the cap tables' own check, on the values that these show.
+        if (target.kind == ForceKind::frame && IsColumnElement(target.element)) m_pier.m_bColumnForcesFinite = false;
+    }
+
+    bool IsColumnElement(int element) const {
+        const std::vector<CColumn>& columns = m_pier.m_Frame.m_Columns;
+        return !columns.empty() && element >= columns.front().m_nFirstElement &&
+               element <= columns.back().m_nFirstElement + std::max(m_pier.m_nColumnNodes, 0);
+    }
+
+    bool HeadsFinite() const {
+        for (int c = 0; c < m_pier.m_nLoadCases; ++c) {
+            for (const CPile& pile : m_pier.m_Piles) {
+                const ElementForces head = m_pier.Forces(c, pile.m_nFirstElement);
+                if (!std::isfinite(GetForce(head, kEndJ, kAxial))) return false;
+            }
+        }
+        return true;
+    }
+
+    CPier& m_pier;
+    std::vector<CForceRead> m_reads;
+    std::string m_path;
+    CDirFile m_file;
+    long long m_block = 0;  // records of one case
+    std::vector<Target> m_targets;
+    std::array<float, kForceRecordWords> m_record{};
+};
+
+}  // namespace
+
+void CCollectData::ReadMemberForces(int k, const CPierReadState& state) {
+    CPier& pier = g_DataSet.m_Piers[static_cast<std::size_t>(k)];
+    const int firstType = g_DataSet.FirstPier().m_nStructureType;
+    std::vector<CForceRead> reads = PlanForceReads(pier, state, firstType);
+    if (reads.empty()) return;
+    const std::string path = SubstructureFile(".vmd", k + 1);
+    const long long missing = ForceReader(pier, std::move(reads), path).Read();
+    if (missing == 0) return;
+    g_DataSet.m_bForceFileShort = true;
+    AfxMessageBox(path + ": " + std::to_string(missing) +
+                  " force records are missing at its end. Each takes the forces of the record before it.");
+}

@@ -1,0 +1,42 @@
+#include "results/PileFile.h"
+
+#include <array>
+#include <cstring>
+
+namespace {
+
+constexpr unsigned kSectionRecordBytes = 28;
+constexpr unsigned kTitleBytes = 256;
+
+CSectionRecord ReadSectionRecord(CSeqFile& file) {
+    std::array<char, kSectionRecordBytes> bytes{};
+    file.ReadRecord(bytes.data(), kSectionRecordBytes, "section record");
+    CSectionRecord record;
+    std::memcpy(&record.kind, bytes.data(), sizeof(record.kind));
+    std::memcpy(&record.first, bytes.data() + 4, sizeof(record.first));
+    std::memcpy(&record.second, bytes.data() + 12, sizeof(record.second));
+    return record;
+}
+
+}  // namespace
+
+CPileFileHead ReadPileFileHead(CSeqFile& file) {
+    CPileFileHead head;
+    head.blocks = file.ReadInts<1>("section block count")[0];
+    file.CheckCount(head.blocks, 4, "section blocks");
+    std::vector<int> sizes(static_cast<std::size_t>(head.blocks));
+    file.ReadRecord(sizes.data(), static_cast<unsigned>(sizes.size() * 4), "section block sizes");
+    long long records = 0;
+    for (const int size : sizes) {
+        file.CheckCount(size, kSectionRecordBytes, "section records in a block");
+        records += size;
+    }
+    if (records > kMaxSectionRecords) {
+        file.Fail(CFileException::badCount, "says " + std::to_string(records) + " section records, more than " +
+                                                std::to_string(kMaxSectionRecords));
+    }
+    for (long long i = 0; i < records; ++i) head.sections.push_back(ReadSectionRecord(file));
+    std::array<char, kTitleBytes> title{};
+    file.ReadRecord(title.data(), kTitleBytes, "title");
+    return head;
+}

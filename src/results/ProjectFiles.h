@@ -1,0 +1,9 @@
+#pragma once
+
+#include <string>
+
+// The path of a project's result file: base path and suffix, with the substructure's number (from 1) behind
+// the suffix for all substructures but the first. Where the file system tells case from case, the existing
+// file that differs in case alone is taken.
+std::string ProjectFile(const char* suffix);
+std::string SubstructureFile(const char* suffix, int number);

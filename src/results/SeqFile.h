@@ -1,0 +1,48 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+
+#include "framework/File.h"
+
+// A sequential result file: the mark 'K', then a chain of blocks, each framed by a length byte on both sides.
+// Integers are 32-bit little-endian, reals IEEE. Callers ask for bytes and never see the framing.
+class CSeqFile : public CFile {
+  public:
+    CSeqFile() = default;
+    explicit CSeqFile(const std::string& path);  // throws when the file can't be opened or lacks the mark
+
+    // False: the file can't be opened or lacks the mark; the next Read then throws. `error` tells why.
+    bool Open(const std::string& path, CFileException* error = nullptr);
+
+    // `count` bytes from as many blocks as that takes. 0 when the end mark or the end of the file comes
+    // first, even when part of the request was stored already; that is how an optional record is told.
+    unsigned Read(void* buffer, unsigned count);
+
+    // As Read, for a record that must be there: throws with the record's name.
+    void ReadRecord(void* buffer, unsigned count, const char* record);
+    template <std::size_t N>
+    std::array<int, N> ReadInts(const char* record) {
+        std::array<int, N> values{};
+        ReadRecord(values.data(), static_cast<unsigned>(sizeof(values)), record);
+        return values;
+    }
+
+    // Throws when a count read from the file is negative or names more than the file's bytes can hold.
+    void CheckCount(long long count, long long bytesEach, const char* what) const;
+    [[noreturn]] void Fail(CFileException::Cause cause, const std::string& fault) const;
+};
+
+// A direct file: records of one length, numbered from 1, without header or framing.
+class CDirFile : public CFile {
+  public:
+    bool Open(const std::string& path, unsigned recordLength, CFileException* error = nullptr);
+
+    // One record. Fewer bytes than the record length at the end of the file; the buffer then keeps its old
+    // contents, so a record past the end hands the caller the record before again.
+    unsigned Read(void* buffer, long long recordNumber);
+
+  private:
+    unsigned m_nRecordLength = 0;
+};

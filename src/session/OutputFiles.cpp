@@ -1,0 +1,102 @@
+#include "session/OutputFiles.h"
+
+#include <numeric>
+
+#include "framework/Backend.h"
+#include "session/Constants.h"
+#include "session/Session.h"
+
+namespace {
+
+struct ViewerFailure {
+    int code;
+    const char* text;
+};
+
+// The shell's codes up to 32; \xAE is the registered sign of the Western code page.
+constexpr ViewerFailure kViewerFailures[] = {
+    {2, "The application specified to open the file was not found on this machine."},
+    {3, "The specified path was not found."},
+    {5, "The operating system denied access to the specified file."},
+    {8, "There was not enough memory to complete the operation."},
+    {11, "The .exe file is invalid (non-Win32\xAE .exe or error in .exe image)."},
+    {26, "A sharing violation occurred."},
+    {27, "The file name association is incomplete or invalid."},
+    {28, "The DDE transaction could not be completed because the request timed out."},
+    {29, "The DDE transaction failed."},
+    {30, "The DDE transaction could not be completed because other DDE transactions were being processed."},
+    {31, "There is no application associated with the given file name extension."},
+    {32, "The specified dynamic-link library was not found."},
+};
+
+constexpr int kLastFailureCode = 32;
+constexpr unsigned kTextCapacity = 4;  // the size that the read of the number before it left behind
+
+}  // namespace
+
+void BuildOutputFilePath(unsigned table, unsigned kind) {
+    if (table >= static_cast<unsigned>(kTableCount)) {
+        AfxMessageBox("Invalid table type.  Table cannot be generated.");
+        return;
+    }
+    if (kind > kFormatEnvelopes) {
+        AfxMessageBox("Invalid file type selected.  Table cannot be generated.");
+        return;
+    }
+    const char* name = kind == kFormatEnvelopes ? g_EnvelopesName : g_TableFileNames[table];
+    const char* extension = g_ExtensionText;
+    if (kind == kFormatSpreadsheet) extension = g_ExtensionSpreadsheet;
+    if (kind == kFormatPdf) extension = g_ExtensionPdf;
+    g_OutputFilePath = g_ProjectBasePath + g_NameSeparator + name + extension;
+}
+
+void ShowOutputFile(int format) {
+    const std::string quoted = "\"" + g_OutputFilePath + "\"";
+    ReportViewerResult(format == kFormatSpreadsheet ? services::ShellOpen("open", "Excel", quoted)
+                                                    : services::ShellOpen("", quoted, ""));
+}
+
+void ReportViewerResult(int code) {
+    if (code > kLastFailureCode) return;
+    for (const ViewerFailure& failure : kViewerFailures) {
+        if (failure.code == code) {
+            AfxMessageBox(failure.text);
+            return;
+        }
+    }
+    AfxMessageBox("");
+}
+
+void ReadViewerSettings(ViewerSettings& settings) {
+    services::ReadViewerText("szHeader", kTextCapacity, settings.m_sHeader);
+    services::ReadViewerText("szTrailer", kTextCapacity, settings.m_sTrailer);
+    services::ReadViewerNumber("iMarginLeft", settings.m_nMarginLeft);
+    services::ReadViewerNumber("iMarginRight", settings.m_nMarginRight);
+    services::ReadViewerNumber("iMarginTop", settings.m_nMarginTop);
+    services::ReadViewerNumber("iMarginBottom", settings.m_nMarginBottom);
+    services::ReadViewerNumber("iPointSize", settings.m_nPointSize);
+}
+
+std::string ReadViewerValue(const char* name) {
+    int value = 0;
+    return services::ReadViewerNumber(name, value) ? std::to_string(value) : "";
+}
+
+void SetDefaultPrinterOrientation(int mode) {
+    if (mode == 0 || mode == 1) services::SetPrinterLandscape(mode == 1);
+}
+
+void SplitWidth(std::span<const int> weights, std::span<int> out, int total) {
+    const long long sum = std::accumulate(weights.begin(), weights.end(), 0LL);
+    if (sum <= 0) return;
+    long long fractions = 0;
+    for (std::size_t i = 0; i < weights.size() && i < out.size(); ++i) {
+        const long long share = static_cast<long long>(weights[i]) * total;
+        out[i] = static_cast<int>(share / sum);
+        fractions += share % sum;
+    }
+    const long long spread = fractions / sum;
+    for (long long i = 0; i < spread && i < static_cast<long long>(out.size()); ++i) {
+        ++out[static_cast<std::size_t>(i)];
+    }
+}

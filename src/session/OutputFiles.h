@@ -1,0 +1,35 @@
+#pragma once
+
+#include <span>
+#include <string>
+
+// How report files are named, opened in viewers, and how a failed start is worded. All output lies beside
+// the project and shares its base name; a run replaces the earlier file of the same table and format.
+
+// Sets g_OutputFilePath for a table (TableId) and a kind (ReportFormat or kFormatEnvelopes). An invalid
+// table or kind shows its message and leaves the earlier path.
+void BuildOutputFilePath(unsigned table, unsigned kind);
+
+// Starts the viewer on g_OutputFilePath: the spreadsheet program for the spreadsheet format, otherwise
+// whatever the machine associates with the file's type. A failed start is told in a message box.
+void ShowOutputFile(int format);
+
+// One message box for a shell code of 32 or less.
+void ReportViewerResult(int code);
+
+// The text viewer's page settings, as the report dialog keeps them. Values that can't be read stay.
+struct ViewerSettings {
+    int m_nMarginLeft = 0, m_nMarginRight = 0, m_nMarginTop = 0, m_nMarginBottom = 0, m_nPointSize = 0;
+    std::string m_sTrailer, m_sHeader;
+};
+void ReadViewerSettings(ViewerSettings& settings);
+
+// A viewer setting as decimal text; empty when there is no such value.
+std::string ReadViewerValue(const char* name);
+
+// 0 portrait, 1 landscape, anything else leaves it.
+void SetDefaultPrinterOrientation(int mode);
+
+// Spreads `total` over the columns by weight; what integer division leaves goes to the first columns, one
+// each. Both spans have one entry a column.
+void SplitWidth(std::span<const int> weights, std::span<int> out, int total);

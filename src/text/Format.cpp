@@ -1,0 +1,122 @@
+#include "text/Format.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+
+namespace {
+
+constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
+
+// Room for the longest "%.*f" of a double: 309 digits before the point, sign, point and the decimals.
+constexpr std::size_t kLongestFixed = 512;
+
+void AppendPadded(std::string& out, std::string_view digits, int width) {
+    const std::size_t wanted = width > 0 ? static_cast<std::size_t>(width) : 0;
+    if (digits.size() < wanted) out.append(wanted - digits.size(), ' ');
+    out.append(digits);
+}
+
+}  // namespace
+
+void AppendInt(std::string& out, long long value, int width) {
+    std::array<char, 24> digits;
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
+    AppendPadded(out, {digits.data(), static_cast<std::size_t>(end - digits.data())}, width);
+}
+
+void AppendIntBlankZero(std::string& out, long long value, int width) {
+    if (value == 0) {
+        AppendPadded(out, {}, width);
+    } else {
+        AppendInt(out, value, width);
+    }
+}
+
+void AppendFixed(std::string& out, double value, int decimals, int width) {
+    std::array<char, kLongestFixed> digits;
+    const auto end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, decimals)
+            .ptr;
+    AppendPadded(out, {digits.data(), static_cast<std::size_t>(end - digits.data())}, width);
+}
+
+void AppendGeneral(std::string& out, double value) {
+    std::array<char, 64> digits;
+    const auto end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::general, 6).ptr;
+    out.append(digits.data(), static_cast<std::size_t>(end - digits.data()));
+}
+
+std::string FormatInt(long long value, int width) {
+    std::string out;
+    AppendInt(out, value, width);
+    return out;
+}
+
+std::string FormatFixed(double value, int decimals, int width) {
+    std::string out;
+    AppendFixed(out, value, decimals, width);
+    return out;
+}
+
+std::string FormatGeneral(double value) {
+    std::string out;
+    AppendGeneral(out, value);
+    return out;
+}
+
+std::string FormatNumbered(std::string_view format, long long value) {
+    std::string out(format);
+    for (const std::string_view mark : {"%d", "%i"}) {
+        const std::size_t at = out.find(mark);
+        if (at != std::string::npos) return out.replace(at, mark.size(), FormatInt(value));
+    }
+    return out;
+}
+
+std::string PadLeft(std::string_view text, std::size_t width) {
+    std::string out;
+    if (text.size() < width) out.assign(width - text.size(), ' ');
+    return out.append(text);
+}
+
+std::string PadRight(std::string_view text, std::size_t width) {
+    std::string out(text);
+    if (out.size() < width) out.append(width - out.size(), ' ');
+    return out;
+}
+
+std::string RemoveBlanks(std::string_view text) {
+    std::string out;
+    for (const char c : text) {
+        if (c != ' ') out += c;
+    }
+    return out;
+}
+
+std::string_view TrimLeft(std::string_view text) {
+    const std::size_t first = text.find_first_not_of(kWhiteSpace);
+    return first == std::string_view::npos ? std::string_view{} : text.substr(first);
+}
+
+std::string_view TrimRight(std::string_view text) {
+    const std::size_t last = text.find_last_not_of(kWhiteSpace);
+    return last == std::string_view::npos ? std::string_view{} : text.substr(0, last + 1);
+}
+
+std::string_view Trim(std::string_view text) { return TrimRight(TrimLeft(text)); }
+
+std::string Blanks(std::size_t count) { return std::string(count, ' '); }
+
+std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to) {
+    std::string out;
+    std::size_t at = 0;
+    for (std::size_t hit = text.find(from); hit != std::string_view::npos; hit = text.find(from, at)) {
+        out.append(text.substr(at, hit - at)).append(to);
+        at = hit + from.size();
+    }
+    return out.append(text.substr(at));
+}
+
+bool IsValidNumber(double value) { return std::isfinite(value); }

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <fstream>
+#include <span>
+#include <string>
+#include <string_view>
+
+// The host's keyed text: lines of keys such as "N=" with values behind them, in named sections.
+
+// An input text file. A missing file leaves the stream in the failed state; nothing throws.
+class ifstreamex : public std::ifstream {
+  public:
+    // Opens the file of that name whatever the case of its letters.
+    explicit ifstreamex(const std::string& path);
+
+    // One logical line: at most maxLength - 1 characters up to `delimiter`; a backslash ends the physical
+    // line and joins the next one; leading white space goes, and so does a carriage return before the
+    // delimiter. A physical line
+    // of maxLength characters or more puts the stream into the failed state behind its first part.
+    // False: nothing could be read.
+    bool GetLineEx(std::string& line, int maxLength, char delimiter = '\n');
+
+  private:
+    bool ReadPhysicalLine(std::string& line, int maxLength, char delimiter);
+};
+
+// Up to out.size() values behind `key`, which is found anywhere in the text without regard to letter case;
+// a key of one character gets its "=", an empty key starts at the first character. `out` is cleared first.
+// Returns how many were read; 0 when the key is absent.
+int ReadKeyedInts(std::string_view text, std::string_view key, std::span<int> out);
+int ReadKeyedDoubles(std::string_view text, std::string_view key, std::span<double> out);
+// The one value behind a key; `value` stays when there is none.
+bool ReadKeyedInt(std::string_view text, std::string_view key, int& value);
+bool ReadKeyedDouble(std::string_view text, std::string_view key, double& value);

@@ -1,0 +1,53 @@
+#include "text/StoredStream.h"
+
+#include <cstring>
+
+namespace {
+constexpr std::size_t kBufferBytes = std::size_t{1} << 18;
+}
+
+void StoredStream::Open(const std::string& path) {
+    Close();
+    m_nUsed = 0;
+    m_nPosition = 0;
+    m_file.reset(std::fopen(path.c_str(), "wb"));
+    m_bFailed = m_file == nullptr;
+    if (m_bFailed) return;
+    std::setvbuf(m_file.get(), nullptr, _IONBF, 0);
+    m_buffer.resize(kBufferBytes);
+}
+
+void StoredStream::Write(std::string_view text) {
+    if (m_bFailed || !m_file) return;
+    while (!text.empty()) {
+        // A line feed takes two bytes, so a piece always leaves room for its own.
+        if (m_buffer.size() - m_nUsed < 2) Flush();
+        const std::size_t room = m_buffer.size() - m_nUsed;
+        const std::string_view head = text.substr(0, room - 1);
+        const void* feed = std::memchr(head.data(), '\n', head.size());
+        const std::size_t plain =
+            feed == nullptr ? head.size() : static_cast<std::size_t>(static_cast<const char*>(feed) - head.data());
+        std::memcpy(m_buffer.data() + m_nUsed, head.data(), plain);
+        m_nUsed += plain;
+        m_nPosition += static_cast<std::int64_t>(plain);
+        text.remove_prefix(plain);
+        if (feed != nullptr) {
+            if (m_buffer.size() - m_nUsed < 2) Flush();
+            m_buffer[m_nUsed++] = '\r';
+            m_buffer[m_nUsed++] = '\n';
+            m_nPosition += 2;
+            text.remove_prefix(1);
+        }
+    }
+}
+
+void StoredStream::Flush() {
+    if (m_nUsed > 0 && std::fwrite(m_buffer.data(), 1, m_nUsed, m_file.get()) != m_nUsed) m_bFailed = true;
+    m_nUsed = 0;
+}
+
+void StoredStream::Close() {
+    if (!m_file) return;
+    Flush();
+    if (std::fclose(m_file.release()) != 0) m_bFailed = true;
+}
