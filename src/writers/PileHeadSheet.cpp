@@ -22,7 +22,7 @@ constexpr std::string_view kHeadCell = "\t\t<Cell ss:StyleID=\"s65\"><Data ss:Ty
 // The decimals of a 32-bit number's exact value, as far as they matter to a comparison of two runs.
 constexpr int kDecimals = 12;
 
-std::string ColumnHead(const std::string (&stepWords)[2]) {
+std::string HeadRows(const std::string (&stepWords)[2]) {
     const std::string force = "(" + g_DataSet.m_sForceUnit + ")";
     const std::string moment = "(" + g_DataSet.m_sMomentUnit + ")";
     const std::array<std::string_view, 13> upper = {"",      "PILE",   "ELEM", "NODE", stepWords[0],
@@ -81,7 +81,7 @@ int CWriteData::WritePileHeadForcesSheet(StoredStream& out, bool embedded) {
         for (std::size_t p = 0; p < g_DataSet.m_Piers.size(); ++p) {
             const int number = static_cast<int>(p);
             out << PileHeadWorksheetHead(number, ExpandedRows(kTablePileHeads, number));
-            out << ColumnHead(m_sLoadWord);
+            out << HeadRows(m_sLoadWord);
             WriteRows(out, g_DataSet.m_Piers[p], g_DataSet.FirstPier().m_bCombinations);
             out << WorksheetEnd();
         }
