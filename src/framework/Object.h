@@ -1,10 +1,15 @@
 #pragma once
 
+#include <memory>
+
 // The object base with run-time class support, as far as the product uses it.
+
+class CObject;
 
 struct CRuntimeClass {
     const char* m_pszName;
     const CRuntimeClass* m_pBase;
+    std::unique_ptr<CObject> (*m_pfnCreate)() = nullptr;  // null: objects are not made by their class
 
     bool IsDerivedFrom(const CRuntimeClass& base) const {
         for (const CRuntimeClass* at = this; at != nullptr; at = at->m_pBase) {

@@ -160,13 +160,22 @@ bool HeadlessDialog::Spin(int id, bool up) {
 
 bool HeadlessDialog::TypeCell(int row, int column, const std::string& text) {
     NativeWindow* control = IsOpen() ? FindKind(ControlKind::grid) : nullptr;
-    if (control == nullptr || control->grid == nullptr || !control->enabled || !control->visible) return false;
+    if (control == nullptr || control->grid == nullptr || !control->enabled || !control->visible)
+        return false;
     bool typed = false;
     Run([control, row, column, &text, &typed] {
         backend::SetFocus(control);
         typed = control->grid->TypeCell(row, column, text);
     });
     return typed;
+}
+
+bool HeadlessDialog::ClickGraph(double x) {
+    NativeWindow* control = IsOpen() ? FindKind(ControlKind::graph) : nullptr;
+    if (control == nullptr || control->graph == nullptr || !control->enabled || !control->visible)
+        return false;
+    Run([control, x] { control->graph->Click(x); });
+    return true;
 }
 
 bool HeadlessDialog::PressEscape() {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "framework/Dialog.h"
+#include "framework/headless/GraphPeer.h"
 #include "framework/headless/GridPeer.h"
 
 // The backend without a screen: a window is a record of its state, and whatever would leave the process
@@ -17,8 +18,9 @@
 struct NativeWindow {
     const ControlSpec* spec = nullptr;  // null: the dialog itself
     NativeWindow* parent = nullptr;
-    CWnd* object = nullptr;  // the object that the dialog bound to the control, if any
-    GridPeer* grid = nullptr;  // of a grid control
+    CWnd* object = nullptr;      // the object that the dialog bound to the control, if any
+    GridPeer* grid = nullptr;    // of a grid control
+    GraphPeer* graph = nullptr;  // of a plot control
     std::string text;
     bool enabled = true, visible = true, checked = false;
     std::vector<std::string> entries;  // of a combo box
@@ -57,6 +59,8 @@ class HeadlessDialog {
     bool Spin(int id, bool up);
     // Puts the grid's focus on the cell, types the text and Return.
     bool TypeCell(int row, int column, const std::string& text);
+    // A click on the plot at that place of its x axis.
+    bool ClickGraph(double x);
     bool PressEscape();
     bool PressReturn();
     bool PressHelp(int id);

@@ -141,6 +141,10 @@ void AttachGrid(WindowHandle window, GridPeer& peer) {
     if (window != nullptr) window->grid = &peer;
 }
 
+void AttachGraph(WindowHandle window, GraphPeer& peer) {
+    if (window != nullptr) window->graph = &peer;
+}
+
 const ControlSpec& SpecOf(WindowHandle window) {
     static constexpr ControlSpec none{ControlKind::text, kNoId, "", 0, 0, 0, 0, 0};
     return window == nullptr || window->spec == nullptr ? none : *window->spec;

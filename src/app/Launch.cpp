@@ -1,0 +1,52 @@
+#include "app/Launch.h"
+
+#include <string>
+
+#include "app/DesignerDlg.h"
+#include "framework/Backend.h"
+#include "model/DataSet.h"
+#include "session/Constants.h"
+#include "session/Session.h"
+
+namespace {
+
+std::string TextOrEmpty(const char* text) {
+    return text == nullptr ? std::string() : std::string(text);
+}
+
+std::string TrimBlanks(const std::string& text) {
+    const std::size_t first = text.find_first_not_of(' ');
+    if (first == std::string::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+std::string HostText(const char* argument) {
+    std::string text = TextOrEmpty(argument);
+    StripQuotes(text);
+    return TrimBlanks(text);
+}
+
+}  // namespace
+
+unsigned LaunchLumerin(int reportFormat, const char* inputFile, const char* version, const char* textA,
+                       const char* textB, const char* envelopeArgument) {
+    g_HostProgramPath = services::HostProgramPath();
+    TrimRightCharacters(g_HostProgramPath, g_ModuleFileName);
+    g_InitialReportFormat = reportFormat;
+    g_InputFilePath = TextOrEmpty(inputFile);
+    DerivePaths();
+    g_DataLoaded = false;
+    g_VersionText = TextOrEmpty(version);
+    g_VersionLabel = "v" + g_VersionText;
+    g_HostTextA = HostText(textA);
+    g_HostTextB = HostText(textB);
+    g_EnvelopePlotArgument = TrimBlanks(TextOrEmpty(envelopeArgument));
+
+    int result = IDCANCEL;
+    {
+        CDesignerDlg dialog;
+        result = dialog.DoModal();
+        g_DataSet.FreePiers();
+    }
+    return result == IDOK ? 1u : 0u;
+}

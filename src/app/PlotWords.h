@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+#include "model/DataSet.h"
+
+// The two words that the plot module opens on, from the first substructure; empty without one.
+
+// "Shear" or "Moment": a project of nothing but fatigue has no shear table. Empty: no class has a case.
+std::string FirstPlotWord(const CDataSet& data);
+// The limit family of the first class that has a case.
+std::string LimitFamilyWord(const CDataSet& data);

@@ -1,0 +1,75 @@
+#include "embedment/EmbedmentFiles.h"
+
+#include <fstream>
+
+#include "framework/Backend.h"
+#include "framework/File.h"
+#include "session/Session.h"
+#include "text/KeyedLine.h"
+
+namespace {
+
+constexpr std::size_t kLongestLine = 256;
+constexpr int kProblemLines = 9;  // the lines behind "PROBLEM" that are passed over
+
+// The lines of the input file. A longer line than the host writes ends the reading behind its first part.
+class InputLines {
+  public:
+    explicit InputLines(const std::string& path) : m_stream(path, std::ios::binary) {}
+
+    bool IsOpen() const { return m_stream.is_open(); }
+    bool Next() {
+        m_line.clear();
+        if (m_bEnded) return false;
+        int c = m_stream.get();
+        if (c == std::char_traits<char>::eof()) return false;
+        while (c != std::char_traits<char>::eof() && c != '\n') {
+            if (m_line.size() == kLongestLine) {
+                m_bEnded = true;
+                break;
+            }
+            m_line.push_back(static_cast<char>(c));
+            c = m_stream.get();
+        }
+        if (!m_line.empty() && m_line.back() == '\r') m_line.pop_back();
+        return true;
+    }
+    bool StartsWith(const char* word) const { return m_line.rfind(word, 0) == 0; }
+    const std::string& Line() const { return m_line; }
+
+  private:
+    std::ifstream m_stream;
+    std::string m_line;
+    bool m_bEnded = false;
+};
+
+}  // namespace
+
+std::string EmbedmentBaseFile() {
+    const std::string& path = g_InputFilePath;
+    const std::size_t point = path.rfind('.');
+    for (std::size_t at = point; at < path.size(); ++at) {
+        if (services::IsFolderSeparator(path[at])) return path + ".PEL";  // the point is a folder's
+    }
+    return path.substr(0, point) + ".PEL";
+}
+
+bool HasEmbedmentFile() {
+    return !g_InputFilePath.empty() && !FindFileAnyCase(EmbedmentBaseFile()).empty();
+}
+
+bool IsEmbedmentRequested() {
+    InputLines lines(FindFileAnyCase(g_InputFilePath));
+    if (!lines.IsOpen()) return false;
+    do {
+        if (!lines.Next()) return false;
+    } while (!lines.StartsWith("PROBLEM"));
+    for (int i = 0; i < kProblemLines; ++i) {
+        if (!lines.Next()) return false;
+    }
+    while (!lines.StartsWith("MPTE")) {
+        if (!lines.Next()) return false;
+    }
+    int requested = 0;
+    return lines.Next() && ReadKeyedInt(lines.Line(), "M=", requested) && requested == 1;
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+// Whether the project has an embedment study: the report dialog's button follows these two.
+
+// The study's base file: the project's input file with its extension replaced.
+std::string EmbedmentBaseFile();
+bool HasEmbedmentFile();
+// Whether the project's input file asks for the study, in the section that follows its problem section.
+bool IsEmbedmentRequested();
