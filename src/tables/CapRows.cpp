@@ -57,7 +57,7 @@ struct Walk {
 
     bool IsShear() const { return table == kTableCapShear; }
 
-    void Support(std::size_t cursor) const {
+    void Support(std::size_t cursor, int point) const {
         const auto& list = IsShear() ? pier.m_ShearSupportList : pier.m_MomentSupportList;
         const CCapTable& results = IsShear() ? pier.m_ShearSupports : pier.m_MomentSupports;
         if (cursor >= list.size()) return;
@@ -66,10 +66,12 @@ struct Walk {
         CCapRow row;
         row.sLabel = CapSupportLabel(table, pier.m_nStructureType, place.m_nSupport, place.m_nKind);
         row.pEntry = &results.At(place.m_nSupport, slot, place.m_nKind, extreme);
+        row.nPoint = point;
+        row.support = place;
         visit(row);
     }
 
-    void Bearing(std::size_t cursor) const {
+    void Bearing(std::size_t cursor, int point) const {
         if (cursor >= pier.m_BearingList.size()) return;
         const CBearingLocation& place = pier.m_BearingList[cursor];
         const CCapTable& results = IsShear() ? pier.m_ShearBearings : pier.m_MomentBearings;
@@ -80,6 +82,9 @@ struct Walk {
             row.sLabel = CapBearingLabel(table, place, side);
             row.pEntry = &results.At(place.m_nBearing, slot, kind, extreme);
             row.bBearing = true;
+            row.nPoint = point + side;
+            row.bearing = place;
+            row.nSide = side;
             // The left side goes by the flag of the element that starts at the bearing, though its result
             // comes from the one that ends there: engineers know the rows at a cap's end in this form.
             if (IsShear()) row.bSideHasResult = side == 0 ? place.m_bElementStarts : place.m_bElementEnds;
@@ -114,10 +119,10 @@ void WalkCap(int table, const CPier& pier, int slot, int extreme,
         const int next =
             walk.IsShear() ? pier.NextShearPoint(support, bearing) : pier.NextMomentPoint(support, bearing);
         if (next == 0) {
-            walk.Support(static_cast<std::size_t>(support++));
+            walk.Support(static_cast<std::size_t>(support++), count);
             ++count;
         } else if (next == 1) {
-            walk.Bearing(static_cast<std::size_t>(bearing++));
+            walk.Bearing(static_cast<std::size_t>(bearing++), count);
             count += walk.IsShear() ? 2 : 1;
         } else {
             break;

@@ -17,6 +17,10 @@ struct CCapRow {
     const CCapEntry* pEntry = nullptr;  // never null during a walk
     bool bBearing = false;
     bool bSideHasResult = true;  // false on bearing rows of the shear table alone
+    int nPoint = 0;              // of the pier's merged points, where the row's x stands
+    CSupportLocation support;    // of a support row
+    CBearingLocation bearing;    // of a bearing row
+    int nSide = 0;               // of a bearing row of the shear table: 0 left, 1 right
 };
 
 // Visits the rows of a pier's block from left to right. Nothing is visited for a pier without a cap.
