@@ -87,7 +87,8 @@ class CMemberWalk {
     void WriteProperty(const CPier& pier, const CRecordTable& records, int property, int number, int slot) {
         const int rows = m_member.forces ? kPrintedExtremes : 1;
         for (int extreme = 0; extreme < rows; ++extreme) {
-            m_row = " ";
+            m_row.clear();
+            m_row += ' ';
             AppendIntBlankZero(m_row, number, 4);
             m_row += ' ';
             int element = -1;

@@ -39,7 +39,8 @@ class CPileHeadWalk {
         m_sink.Head(m_head);
         const int piles = static_cast<int>(pier.m_Piles.size());
         for (int pile = 0; pile < piles; ++pile) {
-            m_row = " ";
+            m_row.clear();
+            m_row += ' ';
             AppendInt(m_row, number, 14);
             m_row += ' ';
             AppendInt(m_row, pile + 1, 6);

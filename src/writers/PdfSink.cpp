@@ -1,0 +1,93 @@
+#include "writers/PdfSink.h"
+
+#include "tables/Catalogue.h"
+#include "text/Format.h"
+
+namespace {
+
+// Lines that a page must have left before a row, a column head or the key, and a heading.
+constexpr int kRowMargin = 2;
+constexpr int kBlockMargin = 6;
+constexpr int kHeadingMargin = 15;
+// What a page counts behind the continuation words and the head.
+constexpr int kContinuedLines = 5;
+
+constexpr std::size_t kContinuedBlanks = 71 + 66;
+constexpr std::size_t kContinuedBlanksNarrow = 57 + 52;
+
+}  // namespace
+
+CPdfSink::CPdfSink(StoredStream& out, CPdfWriter& pdf, bool narrow)
+    : m_out(out),
+      m_pdf(pdf),
+      m_nLinesPerPage(pdf.LinesPerPage()),
+      m_continued(narrow ? kContinuedBlanksNarrow : kContinuedBlanks, ' ') {
+    m_pdf.BeginPage(m_out, "");
+    m_continued += "cont...";
+    // A path in the footer shows its backslashes; a single one would be an escape.
+    m_footer = ReplaceAll(FooterText(), "\\", "\\\\");
+}
+
+void CPdfSink::Show(std::string_view text) {
+    m_operator = '(';
+    m_operator.append(text) += ")'";
+    m_out.Write(m_operator);
+}
+
+void CPdfSink::Line(std::string_view text) {
+    Show(text);
+    ++m_nLines;
+}
+
+void CPdfSink::Gap(int lines, GapStyle style) {
+    // Between the blocks of table 0 the line holds a line feed, and behind its substructures a blank.
+    const char* text = style == GapStyle::lineFeed ? "\n" : style == GapStyle::blank ? " " : "";
+    for (int i = 0; i < lines; ++i) Show(text);
+    m_nLines += lines;
+}
+
+void CPdfSink::ShowHead(int linesBehind) {
+    for (int i = 0; i < m_head.lineCount; ++i) Show(m_head.lines[i]);
+    for (int i = 0; i < linesBehind; ++i) Show("");
+}
+
+void CPdfSink::Head(const ColumnHead& head) {
+    m_head = head;
+    ShowHead(head.linesBehind + head.linesBehindFirst);
+    m_nLines += head.counted;
+}
+
+void CPdfSink::Row(std::string_view text) {
+    if (IsFull(kRowMargin)) ContinueOnNextPage();
+    Show(text);
+    ++m_nLines;
+}
+
+void CPdfSink::Key(std::string_view text) {
+    Show(ReplaceAll(text, "\n", ")'("));
+    for (const char c : text) m_nLines += c == '\n' ? 1 : 0;
+}
+
+void CPdfSink::MayBreak(BreakPoint point) {
+    if (IsFull(point == BreakPoint::pierHeading ? kHeadingMargin : kBlockMargin)) BreakPage();
+}
+
+void CPdfSink::BreakPage() {
+    m_pdf.EndPage(m_out, m_footer);
+    m_pdf.BeginPage(m_out, "");
+    m_nLines = 0;
+}
+
+void CPdfSink::ContinueOnNextPage() {
+    Show("");
+    Show(m_continued);
+    BreakPage();
+    Show("cont...");
+    Show("");
+    ShowHead(m_head.linesBehind);
+    m_nLines = kContinuedLines;
+}
+
+void CPdfSink::EndTable() {
+    m_pdf.EndPage(m_out, m_footer);
+}
