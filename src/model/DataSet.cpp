@@ -12,11 +12,12 @@ void CDataSet::Reset() {
     m_dNcvReal = 0.0;
     m_bForceFileShort = false;
     m_nNcvInteger = 0;
-    for (int* count : {&m_nUnits, &m_nPilesFromNodes, &m_nExtraMembers, &m_nXMemberSections, &m_nSpanNodes,
-                       &m_nCantileverNodes, &m_nColumnNodes, &m_nColumnSections, &m_nStructureType, &m_nColumns,
-                       &m_nCantilevers, &m_nElementGaps, &m_nPlfExtraCount, &m_nPileNodesTotal,
-                       &m_nPileElements, &m_nElements, &m_nPilTableSize, &m_nSectionRecords, &m_nSectionBlocks,
-                       &m_nPiers, &m_nPiles, &m_nPileNodes, &m_nLoadCases}) {
+    for (int* count :
+         {&m_nUnits,           &m_nPilesFromNodes, &m_nExtraMembers,   &m_nXMemberSections, &m_nSpanNodes,
+          &m_nCantileverNodes, &m_nColumnNodes,    &m_nColumnSections, &m_nStructureType,   &m_nColumns,
+          &m_nCantilevers,     &m_nElementGaps,    &m_nPlfExtraCount,  &m_nPileNodesTotal,  &m_nPileElements,
+          &m_nElements,        &m_nPilTableSize,   &m_nSectionRecords, &m_nSectionBlocks,   &m_nPiers,
+          &m_nPiles,           &m_nPileNodes,      &m_nLoadCases}) {
         *count = 0;
     }
     for (std::string* text :
@@ -84,10 +85,9 @@ void CDataSet::SetTableApplicability() {
     const bool several = m_nPiers >= 2;
     const bool onlyFatigue = HasOnlyFatigue();
     const bool pileTables = several || type != kTypeNoPileTables;
-    const bool columnTables =
-        several ? HasStructureType(kTypePier)
-                : type != kTypePileGroup && type != kTypeSinglePile && type != kTypeOtherGroup &&
-                      type != kTypePileBent;
+    const bool columnTables = several ? HasStructureType(kTypePier)
+                                      : type != kTypePileGroup && type != kTypeSinglePile &&
+                                            type != kTypeOtherGroup && type != kTypePileBent;
     // Several substructures keep the cap tables whatever their types: bents beside piers share one report.
     const bool capTables = several || type == kTypePier || type == kTypeMast || type == kTypePileBent;
 

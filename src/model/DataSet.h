@@ -11,10 +11,10 @@
 
 // A row of the element table of the pile file.
 struct CElementRow {
-    int number = 0;  // element number, from 1
+    int number = 0;                       // element number, from 1
     int nodeI = 0, nodeJ = 0, nodeK = 0;  // from 0
-    int section = 0;  // 1: neither column nor cap
-    int last = 0;     // not used
+    int section = 0;                      // 1: neither column nor cap
+    int last = 0;                         // not used
 };
 
 // Everything that the system knows of the project being reported; g_DataSet is the one instance. The fields

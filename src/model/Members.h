@@ -14,8 +14,8 @@ struct CMember {
 
 // Element 0 is at the head; its end J is the head.
 struct CPile : CMember {
-    int m_nNodes = 0;          // m_nElements + 1
-    double m_dDimension = 0.0; // width, as its first element's section record has it
+    int m_nNodes = 0;           // m_nElements + 1
+    double m_dDimension = 0.0;  // width, as its first element's section record has it
 };
 
 // The element at index m_nColumnNodes of the substructure is the one that reaches the cap.

@@ -4,7 +4,9 @@
 
 namespace {
 
-int AtLeastZero(int count) { return std::max(count, 0); }
+int AtLeastZero(int count) {
+    return std::max(count, 0);
+}
 
 // Takes the next `count` elements of the list for a member.
 void PlaceMember(CMember& member, int count, int& next) {
@@ -79,7 +81,9 @@ void CPier::AllocateCaseSelection(int cases) {
     m_CaseSelected.assign(static_cast<std::size_t>(AtLeastZero(cases)), 0);
 }
 
-void CPier::SelectAllCases() { std::fill(m_CaseSelected.begin(), m_CaseSelected.end(), std::uint8_t{1}); }
+void CPier::SelectAllCases() {
+    std::fill(m_CaseSelected.begin(), m_CaseSelected.end(), std::uint8_t{1});
+}
 
 bool CPier::IsCaseSelected(int index) const {
     return index >= 0 && index < static_cast<int>(m_CaseSelected.size()) &&

@@ -79,7 +79,8 @@ class CPier {
                (!m_bCombinations || m_LoadCases[static_cast<std::size_t>(index)].m_nLimitClass == slot);
     }
     bool IsClassPresent(int limitClass) const {
-        return limitClass >= 0 && limitClass < 4 && m_nFirstOfClass[static_cast<std::size_t>(limitClass)] >= 0;
+        return limitClass >= 0 && limitClass < 4 &&
+               m_nFirstOfClass[static_cast<std::size_t>(limitClass)] >= 0;
     }
 
     // ---- result tables (model/, cap geometry in envelopes/)
@@ -106,10 +107,10 @@ class CPier {
     // ---- cap sections and lookups (envelopes/)
 
     void BuildCapGeometry();  // types 0 and 7: cap points, bearing list, sizes and tables of the cap
-    int GetSupportNode(int support) const;             // -1 for a type without a cap
+    int GetSupportNode(int support) const;  // -1 for a type without a cap
     double GetSupportX(int support) const;
     double GetSupportWidth(int support) const;
-    double GetCantileverEndX(int side) const;          // -999999.0 without cantilevers
+    double GetCantileverEndX(int side) const;  // -999999.0 without cantilevers
     bool IsMomentSection(int support, int kind) const;
     bool IsShearSection(int support, int kind) const;
     // `support` counts from 1; mode 1 shear, 4 moment. False: x lies outside the searched stretch.
@@ -147,9 +148,9 @@ class CPier {
     std::vector<CBearingRow> m_BearingRows;       // none, 1 or 2
     std::vector<std::uint8_t> m_ElementMask;      // 1: that element number (less one) has no row in the table
 
-    std::vector<std::vector<int>> m_ppMaxTension;      // [slot][pile], load case or -1
-    std::vector<std::vector<int>> m_ppMaxCompression;  // [slot][pile], load case or -1
-    CRecordTable m_PileDc, m_ColumnDc;                        // [section][slot]
+    std::vector<std::vector<int>> m_ppMaxTension;                // [slot][pile], load case or -1
+    std::vector<std::vector<int>> m_ppMaxCompression;            // [slot][pile], load case or -1
+    CRecordTable m_PileDc, m_ColumnDc;                           // [section][slot]
     CRecordTable m_PileForces, m_ColumnForces, m_XMemberForces;  // [section][slot][13]
 
     CCapTable m_MomentSupports;  // [support][slot][kind 0..2][extreme]
@@ -169,7 +170,7 @@ class CPier {
     int m_nNodes = 0;  // nodes in the pile file's node list
     int m_nBearingRows = 0;
     int m_nStructureType = 0;
-    int m_nCantilevers = 0;  // above 0: the cap has cantilevers
+    int m_nCantilevers = 0;                                            // above 0: the cap has cantilevers
     int m_nCantileverNodes = 0, m_nSpanNodes = 0, m_nColumnNodes = 0;  // interior nodes
     int m_nPierNodes = 0, m_nFoundationNodes = 0;
     double m_dLocationX = 0.0;
@@ -185,9 +186,9 @@ class CPier {
     int m_nLoadCases = 0;
     int m_nCodeFamily = -1;
     bool m_bCombinations = false;
-    std::array<std::uint8_t, 72> m_AshBlockA{};    // of the code family file; carried, not interpreted
-    std::array<std::uint8_t, 216> m_AshBlockB{};   // the same
-    std::vector<std::uint8_t> m_CaseSelected;      // 1: the case takes part in the tables
+    std::array<std::uint8_t, 72> m_AshBlockA{};   // of the code family file; carried, not interpreted
+    std::array<std::uint8_t, 216> m_AshBlockB{};  // the same
+    std::vector<std::uint8_t> m_CaseSelected;     // 1: the case takes part in the tables
 
     // Whether every force of the family, in every case, is a finite number; found while the forces are read.
     bool m_bPileForcesFinite = true, m_bColumnForcesFinite = true, m_bXMemberForcesFinite = true;

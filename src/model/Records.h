@@ -9,18 +9,18 @@
 struct CMaxRecord {
     int m_nLoadCase = 0;
     int m_nMember = 0;
-    int m_nElement = 0;        // index inside the member
+    int m_nElement = 0;  // index inside the member
     int m_nElementNumber = 0;
-    int m_nEnd = 0;            // 0 I, 1 J
+    int m_nEnd = 0;  // 0 I, 1 J
     int m_nNode = 0;
 
     bool operator==(const CMaxRecord&) const = default;
 };
 inline constexpr CMaxRecord kNotFoundRecord{-1, -1, -1, -1, -1, -1};
 
-inline constexpr int kExtremes = 13;         // the last is "Max D/C"
+inline constexpr int kExtremes = 13;  // the last is "Max D/C"
 inline constexpr int kPrintedExtremes = 12;
-inline constexpr int kMaxSlots = 4;          // limit classes
+inline constexpr int kMaxSlots = 4;  // limit classes
 
 // Records by section, slot and extreme (one extreme in the D/C tables), in one block.
 class CRecordTable {
@@ -33,7 +33,9 @@ class CRecordTable {
                              static_cast<std::size_t>(extremes),
                          CMaxRecord{});
     }
-    CMaxRecord& At(int section, int slot, int extreme = 0) { return m_records.at(Index(section, slot, extreme)); }
+    CMaxRecord& At(int section, int slot, int extreme = 0) {
+        return m_records.at(Index(section, slot, extreme));
+    }
     const CMaxRecord& At(int section, int slot, int extreme = 0) const {
         return m_records.at(Index(section, slot, extreme));
     }
@@ -69,10 +71,10 @@ struct CCapRecord {
     int m_nElementNumber = 0;  // ELEM number
     int m_nEnd = 0;            // 0 I, 1 J, 2 inside the element, -1 unset
     int m_nNode = 0;
-    int m_nKind = 0;           // member kind of the place
-    int m_nIndex = 0;          // member index of the place
-    int m_nSecondNode = 0;     // for end 2 only
-    int m_nMissing = 0;        // 1: the section has no result
+    int m_nKind = 0;        // member kind of the place
+    int m_nIndex = 0;       // member index of the place
+    int m_nSecondNode = 0;  // for end 2 only
+    int m_nMissing = 0;     // 1: the section has no result
 
     bool operator==(const CCapRecord&) const = default;
 };
@@ -126,8 +128,8 @@ struct CSupportLocation {
 
 // One entry of the bearing list, left to right along the cap.
 struct CBearingLocation {
-    int m_nBearing = 0;      // index inside its row
-    int m_nRowCode = 0;      // 0 left row, 1 right row, 2 the only row, 3 both rows at this x
+    int m_nBearing = 0;             // index inside its row
+    int m_nRowCode = 0;             // 0 left row, 1 right row, 2 the only row, 3 both rows at this x
     bool m_bElementStarts = false;  // a cap element starts at the bearing's node
     bool m_bElementEnds = false;    // a cap element ends at the bearing's node
 

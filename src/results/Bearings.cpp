@@ -60,7 +60,8 @@ void CCollectData::ReadBearings(int k) {
     const std::vector<int> rightNodes = ReadNodes(file, right);
 
     CPier& pier = g_DataSet.m_Piers[static_cast<std::size_t>(k)];
-    // Built before any file was read, this object still has US units: the limit of 2.4 serves SI projects too.
+    // Built before any file was read, this object still has US units: the limit of 2.4 serves SI projects
+    // too.
     const double limit = m_nUnits == kSiUnits ? kRowDistanceSi : kRowDistanceUs;
     pier.m_BearingRows.assign(1, MakeRow(leftNodes, left));
     if (!IsOneRow(leftEntries, rightEntries, limit)) pier.m_BearingRows.push_back(MakeRow(rightNodes, right));

@@ -10,9 +10,9 @@
 // The tables of one substructure's read that later readers of the same substructure need; freed behind it.
 struct CPierReadState {
     std::vector<CElementRow> elementTable;
-    std::vector<std::uint8_t> elementMask;        // 1: that element number (less one) has no row
-    std::vector<std::vector<int>> pileSections;   // per pile, the section number of each element
-    std::vector<int> pileFlags;                   // one value a pile; carried, not interpreted
+    std::vector<std::uint8_t> elementMask;       // 1: that element number (less one) has no row
+    std::vector<std::vector<int>> pileSections;  // per pile, the section number of each element
+    std::vector<int> pileFlags;                  // one value a pile; carried, not interpreted
 };
 
 // The readers of the host's result files, and the collect steps that run one table's searches and checks for
@@ -24,7 +24,7 @@ class CCollectData : public CObject {
     // ---- readers; k is the substructure's index from 0
     bool ReadPierHeader(int k, CPierReadState& state);  // false: nothing converged, the message was shown
     void ReadMemberForces(int k, const CPierReadState& state);  // all cases of all members in one pass
-    void ReadPileDimensions(int number);                // number counts from 1
+    void ReadPileDimensions(int number);                        // number counts from 1
     void ReadBearings(int k);
     void ReadCombinationData(int k);
     static std::string LimitStateName(int code);

@@ -49,8 +49,10 @@ bool ReadCodeFamily(int k, CPier& pier) {
     pier.m_nCodeFamily = file.ReadInts<1>("code family")[0];
     if (pier.m_nCodeFamily == kFamilyNone) return false;
     pier.m_bCombinations = true;
-    file.ReadRecord(pier.m_AshBlockA.data(), static_cast<unsigned>(pier.m_AshBlockA.size()), "first code block");
-    file.ReadRecord(pier.m_AshBlockB.data(), static_cast<unsigned>(pier.m_AshBlockB.size()), "second code block");
+    file.ReadRecord(pier.m_AshBlockA.data(), static_cast<unsigned>(pier.m_AshBlockA.size()),
+                    "first code block");
+    file.ReadRecord(pier.m_AshBlockB.data(), static_cast<unsigned>(pier.m_AshBlockB.size()),
+                    "second code block");
     return true;
 }
 

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <utility>
 
-
 namespace {
 
 // What the searches for records share: the block's layout and the count of element numbers without a record.
@@ -12,7 +11,8 @@ class Planner {
   public:
     Planner(const CPier& pier, const CPierReadState& state) : m_pier(pier), m_table(state.elementTable) {
         m_missingBelow.assign(1, 0);
-        for (const std::uint8_t masked : state.elementMask) m_missingBelow.push_back(m_missingBelow.back() + masked);
+        for (const std::uint8_t masked : state.elementMask)
+            m_missingBelow.push_back(m_missingBelow.back() + masked);
     }
 
     std::vector<CForceRead> Take() { return std::move(m_reads); }
@@ -20,7 +20,8 @@ class Planner {
     void PlanPiles() {
         long long record = 1;
         for (const CPile& pile : m_pier.m_Piles) {
-            for (int e = 0; e < pile.m_nElements; ++e) Add(record++, pile.m_nFirstElement + e, ForceKind::pile);
+            for (int e = 0; e < pile.m_nElements; ++e)
+                Add(record++, pile.m_nFirstElement + e, ForceKind::pile);
         }
     }
 

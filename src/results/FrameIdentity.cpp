@@ -197,14 +197,18 @@ void WalkFrame(const CPier& pier, ColumnStep column, CapStep cap) {
 
 }  // namespace
 
-void NumberElements(CPier& pier) { FrameNumbering(pier).Number(); }
+void NumberElements(CPier& pier) {
+    FrameNumbering(pier).Number();
+}
 
 void AssignMemberSections(CPier& pier, const CPierReadState& state) {
     const int type = pier.m_nStructureType;
     const bool hasCap = type == kTypePier || type == kTypePileBent;
     if (!hasCap && type != kTypeMast && type != kTypeWallA && type != kTypeWallB) return;
     SectionCursor cursor(pier, state, hasCap);
-    const auto column = [&](int i) { cursor.Assign(pier.ColumnElement(i, 0), std::max(pier.m_nColumnNodes, 0) + 1); };
+    const auto column = [&](int i) {
+        cursor.Assign(pier.ColumnElement(i, 0), std::max(pier.m_nColumnNodes, 0) + 1);
+    };
     const auto cap = [&](int first, int count) { cursor.Assign(first, count); };
     if (hasCap) {
         WalkFrame(pier, column, cap);
@@ -218,13 +222,16 @@ void AssignMemberSections(CPier& pier, const CPierReadState& state) {
 
 void ApplyElementMask(CPier& pier, int firstType) {
     const int type = pier.m_nStructureType;
-    if ((firstType != kTypePier && firstType != kTypePileBent) || (type != kTypePier && type != kTypePileBent)) return;
+    if ((firstType != kTypePier && firstType != kTypePileBent) ||
+        (type != kTypePier && type != kTypePileBent))
+        return;
     std::size_t cursor = static_cast<std::size_t>(FoundationElements(pier));
     WalkFrame(
         pier, [&](int) { cursor += static_cast<std::size_t>(std::max(pier.m_nColumnNodes, 0) + 1); },
         [&](int first, int count) {
             for (int e = 0; e < count; ++e, ++cursor) {
-                pier.SetMasked(first + e, cursor < pier.m_ElementMask.size() && pier.m_ElementMask[cursor] != 0);
+                pier.SetMasked(first + e,
+                               cursor < pier.m_ElementMask.size() && pier.m_ElementMask[cursor] != 0);
             }
         });
 }

@@ -17,7 +17,8 @@ int ReadSubstructureCount() {
     CSeqFile file(ProjectFile(".TWR"));
     const int count = file.ReadInts<1>("substructure count")[0];
     if (count < 1 || count > kMaxSubstructures) {
-        file.Fail(CFileException::badCount, "says " + std::to_string(count) + " substructures, which can't be");
+        file.Fail(CFileException::badCount,
+                  "says " + std::to_string(count) + " substructures, which can't be");
     }
     return count;
 }

@@ -89,11 +89,13 @@ class ForceReader {
 
     void Store(int loadCase, const Target& target, const float* words) {
         if (target.element < 0) return;
-        if (StoreForceRecord(target.kind, words, m_pier.MutableForces(loadCase, target.element).data())) return;
+        if (StoreForceRecord(target.kind, words, m_pier.MutableForces(loadCase, target.element).data()))
+            return;
         if (target.kind == ForceKind::pile) m_pier.m_bPileForcesFinite = false;
         if (target.kind == ForceKind::extraMember) m_pier.m_bXMemberForcesFinite = false;
         // Cap elements are watched by the cap tables' own check, on the values that these show.
-        if (target.kind == ForceKind::frame && IsColumnElement(target.element)) m_pier.m_bColumnForcesFinite = false;
+        if (target.kind == ForceKind::frame && IsColumnElement(target.element))
+            m_pier.m_bColumnForcesFinite = false;
     }
 
     bool IsColumnElement(int element) const {

@@ -121,7 +121,9 @@ int SplitNodes(CPier& pier) {
     const CDataSet& data = g_DataSet;
     const int m = data.m_nColumnNodes, s = data.m_nSpanNodes, c = data.m_nCantileverNodes;
     const long long n = data.m_nColumns;
-    const auto narrow = [](long long count) { return static_cast<int>(std::clamp(count, -1000000000LL, 1000000000LL)); };
+    const auto narrow = [](long long count) {
+        return static_cast<int>(std::clamp(count, -1000000000LL, 1000000000LL));
+    };
     switch (data.m_nStructureType) {
         case kTypePier:
             pier.m_nPierNodes = narrow((n - 1) * s + (m + 2) * n + (c + 1) * 2LL);
@@ -166,7 +168,8 @@ void ReadElementTable(CSeqFile& file, std::vector<CElementRow>& table) {
         const std::array<int, 7> words = file.ReadInts<7>("element row");
         // A node number of the smallest int can't be counted from 0.
         const auto fromZero = [](int node) { return node > -kMaxElementNumber ? node - 1 : node; };
-        table.push_back({words[0], fromZero(words[2]), fromZero(words[3]), fromZero(words[4]), words[5], words[6]});
+        table.push_back(
+            {words[0], fromZero(words[2]), fromZero(words[3]), fromZero(words[4]), words[5], words[6]});
     }
 }
 
@@ -178,7 +181,8 @@ void BuildElementMask(const CSeqFile& file, CPier& pier, CPierReadState& state, 
     }
     const long long size = g_DataSet.m_nElements + gaps;
     if (size < 0 || size > kMaxElementNumber) {
-        file.Fail(CFileException::badCount, "numbers its elements up to " + std::to_string(size) + ", which can't be");
+        file.Fail(CFileException::badCount,
+                  "numbers its elements up to " + std::to_string(size) + ", which can't be");
     }
     g_DataSet.m_nElementGaps = static_cast<int>(gaps);
     if (firstType == kTypePileGroup || firstType == kTypeSinglePile || firstType == kTypeOtherGroup ||
@@ -234,7 +238,8 @@ int StructureTypeOf(const CSeqFile& file, int fileType, const PileModelCounts& c
         return counts.rowsA == 1 && counts.rowsB == 1 ? kTypeSinglePile : kTypePileGroup;
     }
     if (fileType < 0 || fileType >= kStructureTypes) {
-        file.Fail(CFileException::badFormat, "has the structure type " + std::to_string(fileType) + ", which is none");
+        file.Fail(CFileException::badFormat,
+                  "has the structure type " + std::to_string(fileType) + ", which is none");
     }
     return fileType;
 }
@@ -261,7 +266,8 @@ bool CCollectData::ReadPierHeader(int k, CPierReadState& state) {
     data.m_nStructureType = StructureTypeOf(pileFile, fileType, counts);
     ReadNodes(pileFile, pier, SplitNodes(pier));
     ReadElementTable(pileFile, state.elementTable);
-    BuildElementMask(pileFile, pier, state, k == 0 ? data.m_nStructureType : data.FirstPier().m_nStructureType);
+    BuildElementMask(pileFile, pier, state,
+                     k == 0 ? data.m_nStructureType : data.FirstPier().m_nStructureType);
     if (fileType != kTypePileBent) data.m_nPlfExtraCount = pileFile.ReadInts<2>("closing counts")[1];
     ReadPileSections(modelFile, counts, state);
     CopyToPier(pier);

@@ -32,7 +32,8 @@ CPileFileHead ReadPileFileHead(CSeqFile& file) {
         records += size;
     }
     if (records > kMaxSectionRecords) {
-        file.Fail(CFileException::badCount, "says " + std::to_string(records) + " section records, more than " +
+        file.Fail(CFileException::badCount, "says " + std::to_string(records) +
+                                                " section records, more than " +
                                                 std::to_string(kMaxSectionRecords));
     }
     for (long long i = 0; i < records; ++i) head.sections.push_back(ReadSectionRecord(file));

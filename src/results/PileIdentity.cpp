@@ -11,8 +11,7 @@ void IdentifyPiles(CPier& pier, const CPierReadState& state) {
             // The head node of a pile is numbered by the pile; the others follow the frame's nodes.
             element.m_nNodeI = base + e + 1;
             element.m_nNodeJ = e == 0 ? number : base + e;
-            element.m_nElementNumber =
-                static_cast<int>(p) * pile.m_nElements + e + 1 + g_DataSet.m_nElements;
+            element.m_nElementNumber = static_cast<int>(p) * pile.m_nElements + e + 1 + g_DataSet.m_nElements;
         }
     }
 }

@@ -10,7 +10,9 @@ std::string AsItLies(const std::string& path) {
 }
 }  // namespace
 
-std::string ProjectFile(const char* suffix) { return AsItLies(g_ProjectBasePath + suffix); }
+std::string ProjectFile(const char* suffix) {
+    return AsItLies(g_ProjectBasePath + suffix);
+}
 
 std::string SubstructureFile(const char* suffix, int number) {
     const std::string path = g_ProjectBasePath + suffix;

@@ -20,7 +20,8 @@ bool HasMark(CFile& file) {
 }  // namespace
 
 CSeqFile::CSeqFile(const std::string& path) : CFile(path) {
-    if (!HasMark(*this)) Fail(CFileException::generic, "is not a sequential result file (its mark is missing)");
+    if (!HasMark(*this))
+        Fail(CFileException::generic, "is not a sequential result file (its mark is missing)");
 }
 
 bool CSeqFile::Open(const std::string& path, CFileException* error) {

@@ -40,7 +40,8 @@ const std::array<TextByType, kTableCount> g_TableTitles = {{
     {kPileDc, kPileDc, kPileDc, kPileDc, kPileDc, kPileDc, kPileDc, kPileDc, kColumnDc},
     {kColumnDc, "", "", kColumnDc, kWallDc, kWallDc, "", "", kColumnDc},
     {"Pier Cap Shear F22 Design", "", "", "Pier Cap Shear Design", "", "", "", "Bent Cap Shear Design", ""},
-    {"Pier Cap M33 Moment Design", "", "", "Pier Cap Moment Design", "", "", "", "Bent Cap Moment Design", ""},
+    {"Pier Cap M33 Moment Design", "", "", "Pier Cap Moment Design", "", "", "", "Bent Cap Moment Design",
+     ""},
     {kPileForces, kPileForces, kPileForces, kPileForces, kPileForces, kPileForces, kPileForces, kPileForces,
      kColumnForces},
     {kColumnForces, "", "", kColumnForces, kWallForces, kWallForces, "", "", kColumnForces},
@@ -94,8 +95,7 @@ const std::array<const char*, 5> g_TitleLines = {
 };
 
 const std::array<const char*, 7> g_NotepadValueNames = {
-    "szHeader",     "szTrailer",  "iMarginBottom", "iMarginLeft",
-    "iMarginRight", "iMarginTop", "iPointSize",
+    "szHeader", "szTrailer", "iMarginBottom", "iMarginLeft", "iMarginRight", "iMarginTop", "iPointSize",
 };
 
 namespace {
@@ -110,6 +110,10 @@ const char* TableTitle(int table, int structureType) {
     return ByType(g_TableTitles[static_cast<std::size_t>(table)], structureType);
 }
 
-const char* MemberShortName(int structureType) { return ByType(g_MemberShortNames, structureType); }
+const char* MemberShortName(int structureType) {
+    return ByType(g_MemberShortNames, structureType);
+}
 
-const char* MemberName(int structureType) { return ByType(g_MemberNames, structureType); }
+const char* MemberName(int structureType) {
+    return ByType(g_MemberNames, structureType);
+}

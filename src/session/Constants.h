@@ -5,8 +5,8 @@
 // The constants that every source file shares: the table names and titles, the limit state and extreme
 // names, the extensions and the date words. A writer that needs a word of the system reads it from here.
 
-inline constexpr int kTableCount = 11;      // TableId values
-inline constexpr int kStructureTypes = 9;   // structure type codes 0 to 8
+inline constexpr int kTableCount = 11;     // TableId values
+inline constexpr int kStructureTypes = 9;  // structure type codes 0 to 8
 
 // The report products; the number indexes file names, titles and the data set's table flags.
 enum TableId {

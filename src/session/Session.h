@@ -23,8 +23,8 @@ extern int g_InitialReportFormat;  // the format radio group starts on it
 // Set to their start values by CDataSet::Reset together with the model.
 extern bool g_DataLoaded;  // the project was read already for this call
 extern int g_FooterOn, g_FooterDate, g_FooterTime, g_FooterVersion, g_FooterFileName;
-extern int g_ReportFormat;    // copy of the format radio group; steers FormatCellText alone
-extern bool g_AllLoadCases;   // the radio button "All Load Cases" is the selected one
+extern int g_ReportFormat;   // copy of the format radio group; steers FormatCellText alone
+extern bool g_AllLoadCases;  // the radio button "All Load Cases" is the selected one
 
 // Removes one double quote from each end that has one.
 void StripQuotes(std::string& text);

@@ -105,9 +105,13 @@ std::string_view TrimRight(std::string_view text) {
     return last == std::string_view::npos ? std::string_view{} : text.substr(0, last + 1);
 }
 
-std::string_view Trim(std::string_view text) { return TrimRight(TrimLeft(text)); }
+std::string_view Trim(std::string_view text) {
+    return TrimRight(TrimLeft(text));
+}
 
-std::string Blanks(std::size_t count) { return std::string(count, ' '); }
+std::string Blanks(std::size_t count) {
+    return std::string(count, ' ');
+}
 
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to) {
     std::string out;
@@ -119,4 +123,6 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
     return out.append(text.substr(at));
 }
 
-bool IsValidNumber(double value) { return std::isfinite(value); }
+bool IsValidNumber(double value) {
+    return std::isfinite(value);
+}

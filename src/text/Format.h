@@ -7,8 +7,8 @@
 // Numbers to text by the rules of the printf formats named below, exact and locale-free on every platform.
 // The Append forms write behind what the text holds and take no other memory.
 
-void AppendInt(std::string& out, long long value, int width = 0);           // "%<width>d"
-void AppendIntBlankZero(std::string& out, long long value, int width);      // "%<width>.i": 0 prints as blanks
+void AppendInt(std::string& out, long long value, int width = 0);       // "%<width>d"
+void AppendIntBlankZero(std::string& out, long long value, int width);  // "%<width>.i": 0 prints as blanks
 void AppendFixed(std::string& out, double value, int decimals, int width = 0);  // "%<width>.<decimals>f"
 // The default format of an output stream: six significant digits without trailing zeros.
 void AppendGeneral(std::string& out, double value);

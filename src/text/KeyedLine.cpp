@@ -9,7 +9,9 @@
 
 namespace {
 
-char Upper(char c) { return static_cast<char>(std::toupper(static_cast<unsigned char>(c))); }
+char Upper(char c) {
+    return static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+}
 
 // The text behind the first occurrence of the key.
 bool FindBehindKey(std::string_view text, std::string_view key, std::string_view& rest) {

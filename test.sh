@@ -1,0 +1,57 @@
+#!/bin/bash
+# test.sh: sets up, builds, and runs every check of the repository. Each step is told with its time; the first
+# that fails ends the run.
+set -euo pipefail
+cd "$(dirname "$0")"
+
+jobs=$(nproc)
+started=$SECONDS
+skipped=()
+
+step() {
+    local name=$1 from=$SECONDS
+    shift
+    echo "== $name"
+    if ! "$@"; then
+        echo "FAILED: $name" >&2
+        exit 1
+    fi
+    echo "   $((SECONDS - from)) s"
+}
+
+build() {
+    cmake --preset "$1" >/dev/null && cmake --build --preset "$1" -j "$jobs" -- --quiet
+}
+
+run_tests() {
+    ctest --test-dir "build/$1" --output-on-failure -j "$jobs"
+}
+
+format() {
+    git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
+}
+
+step "install what the tests need" tools/install test
+step "direction of includes" tools/check-floors
+step "formatter" format
+step "native build" build native
+step "native tests" run_tests native
+step "sanitizer build" build sanitize
+step "tests under the sanitizers" run_tests sanitize
+step "lints" tools/lint
+if [[ -x tools/test-windows ]]; then
+    status=0
+    echo "== the module under Wine"
+    tools/test-windows || status=$?
+    if (( status == 77 )) && [[ -z ${CI:-} ]]; then
+        skipped+=("the module's tests: no 32-bit Wine on this machine")
+    elif (( status != 0 )); then
+        echo "FAILED: the module under Wine" >&2
+        exit 1
+    fi
+fi
+
+for what in "${skipped[@]:-}"; do
+    [[ -z $what ]] || echo "SKIPPED: $what"
+done
+echo "All checks passed in $((SECONDS - started)) s; ${#skipped[@]} skipped."
