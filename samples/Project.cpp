@@ -29,7 +29,7 @@ void RemoveLeftovers(const std::filesystem::path& folder, const std::string& nam
     }
     for (int trial = 2; trial <= mostTrials; ++trial) {
         const std::string label = "MPTE" + std::to_string(trial);
-        Remove(folder / label / (name + "_" + label + ".PEL"));
+        Remove(folder / label / WithSuffix(name + "_", label + ".PEL"));
     }
 }
 
