@@ -3,6 +3,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <cstdint>
 
 namespace {
 
@@ -15,6 +16,31 @@ void AppendPadded(std::string& out, std::string_view digits, int width) {
     const std::size_t wanted = width > 0 ? static_cast<std::size_t>(width) : 0;
     if (digits.size() < wanted) out.append(wanted - digits.size(), ' ');
     out.append(digits);
+}
+
+// The form of nearly every number of a table, at a fraction of the exact way's cost. The product is off by
+// less than the margin, so away from the half between two hundredths the rounding is certain; false leaves
+// halves, big numbers and those that are not finite to the exact way.
+bool AppendHundredths(std::string& out, double value, int width) {
+    constexpr double kLimit = 1e7;
+    constexpr double kMargin = 1e-6;
+    const double scaled = std::fabs(value) * 100.0;
+    if (!(scaled < kLimit * 100.0)) return false;
+    auto hundredths = static_cast<std::uint32_t>(scaled);
+    const double rest = scaled - static_cast<double>(hundredths);
+    if (std::fabs(rest - 0.5) < kMargin) return false;
+    if (rest > 0.5) ++hundredths;
+    std::array<char, 16> text;
+    char* const end = text.data() + text.size();
+    char* at = end;
+    for (int digits = 0; digits < 3 || hundredths != 0; ++digits) {
+        if (digits == 2) *--at = '.';
+        *--at = static_cast<char>('0' + hundredths % 10);
+        hundredths /= 10;
+    }
+    if (std::signbit(value)) *--at = '-';
+    AppendPadded(out, {at, static_cast<std::size_t>(end - at)}, width);
+    return true;
 }
 
 }  // namespace
@@ -34,6 +60,7 @@ void AppendIntBlankZero(std::string& out, long long value, int width) {
 }
 
 void AppendFixed(std::string& out, double value, int decimals, int width) {
+    if (decimals == 2 && AppendHundredths(out, value, width)) return;
     std::array<char, kLongestFixed> digits;
     const auto end =
         std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, decimals)
