@@ -16,11 +16,12 @@
 #define DEFAULT_BUTTON(id, text, x, y, w, h) {ControlKind::button, id, text, x, y, w, h, kDefaultButton},
 #define DEFAULT_BUTTON_HIDDEN(id, text, x, y, w, h) \
     {ControlKind::button, id, text, x, y, w, h, kDefaultButton | kHidden},
-#define LEFT_TEXT(id, text, x, y, w, h) {ControlKind::text, id, text, x, y, w, h, 0},
-#define RIGHT_TEXT(id, text, x, y, w, h) {ControlKind::text, id, text, x, y, w, h, kAlignRight},
-#define CENTER_TEXT(id, text, x, y, w, h) {ControlKind::text, id, text, x, y, w, h, kAlignCenter},
-#define LINK_TEXT(id, text, x, y, w, h) {ControlKind::text, id, text, x, y, w, h, kNotify},
-#define LINK_TEXT_RIGHT(id, text, x, y, w, h) {ControlKind::text, id, text, x, y, w, h, kNotify | kAlignRight},
+#define LEFT_TEXT(id, caption, x, y, w, h) {ControlKind::text, id, caption, x, y, w, h, 0},
+#define RIGHT_TEXT(id, caption, x, y, w, h) {ControlKind::text, id, caption, x, y, w, h, kAlignRight},
+#define CENTER_TEXT(id, caption, x, y, w, h) {ControlKind::text, id, caption, x, y, w, h, kAlignCenter},
+#define LINK_TEXT(id, caption, x, y, w, h) {ControlKind::text, id, caption, x, y, w, h, kNotify},
+#define LINK_TEXT_RIGHT(id, caption, x, y, w, h) \
+    {ControlKind::text, id, caption, x, y, w, h, kNotify | kAlignRight},
 #define NUMBER_EDIT(id, x, y, w, h) {ControlKind::edit, id, "", x, y, w, h, kNumbersOnly},
 #define SPIN_BUTTON(id, x, y, w, h) {ControlKind::spin, id, "", x, y, w, h, kAlignRight},
 #define DROP_LIST(id, x, y, w, h) {ControlKind::combo, id, "", x, y, w, h, 0},

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string_view>
+
+// A cell's text read as a number: leading white space, a sign and the digits count, what follows is passed
+// over, and a text that starts with no number reads as 0.
+
+// Values beyond the range of int read as the nearest one.
+int ReadCellInt(std::string_view text);
+// Decimal numbers with an exponent. Words for infinity and not-a-number and hexadecimal text read as 0.
+double ReadCellDouble(std::string_view text);

@@ -1,0 +1,74 @@
+#include "grid/EditText.h"
+
+#include <algorithm>
+
+#include "grid/GridTypes.h"
+
+void EditText::Type(unsigned character) {
+    if (character == kKeyBackspace) {
+        if (!HasSelection() && start > 0) --start;
+        text.erase(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start));
+        end = start;
+        return;
+    }
+    if (character < kKeyBlank || character > 255) return;
+    text.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start), 1,
+                 static_cast<char>(character));
+    end = ++start;
+}
+
+void EditText::MoveCaret(int step) {
+    start = end = std::clamp(end + step, 0, Length());
+}
+
+void EditText::DeleteForward() {
+    if (!HasSelection() && end < Length()) ++end;
+    text.erase(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start));
+    end = start;
+}
+
+namespace {
+
+bool IsDigit(unsigned character) {
+    return character >= '0' && character <= '9';
+}
+
+FilterResult FilterPoint(const EditText& edit, int mode) {
+    if (mode != kReal && mode != kPositiveReal) return FilterResult::refused;
+    const std::size_t point = edit.text.find('.');
+    if (point == std::string::npos) return FilterResult::passed;
+    const int at = static_cast<int>(point);
+    // The point that stands already is about to be replaced with its selection.
+    return at >= edit.start && at < edit.end ? FilterResult::passed : FilterResult::refused;
+}
+
+FilterResult ToggleSign(EditText& edit, int mode) {
+    if (mode != kSignedDigits && mode != kReal) return FilterResult::refused;
+    const bool negative = edit.text.find('-') != std::string::npos;
+    const int step = negative ? -1 : 1;
+    // Wherever the sign stands, it is the first character that goes.
+    if (negative) {
+        edit.text.erase(0, 1);
+    } else {
+        edit.text.insert(0, 1, '-');
+    }
+    edit.start = std::clamp(edit.start + step, 0, edit.Length());
+    edit.end = std::clamp(edit.end + step, 0, edit.Length());
+    return FilterResult::replaced;
+}
+
+}  // namespace
+
+FilterResult FilterNumber(EditText& edit, int mode, unsigned character) {
+    const bool beforeSign = edit.end == 0 && !edit.HasSelection() && edit.text.find('-') != std::string::npos;
+    if (beforeSign && character != '-') return FilterResult::refused;
+    if (mode == kZeroOrOne) {
+        if (character != '0' && character != '1') return FilterResult::refused;
+        edit.Set(std::string(1, static_cast<char>(character)));
+        return FilterResult::replaced;
+    }
+    if (IsDigit(character) || character == kKeyBackspace) return FilterResult::passed;
+    if (character == '.') return FilterPoint(edit, mode);
+    if (character == '-') return ToggleSign(edit, mode);
+    return FilterResult::refused;
+}

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <span>
+
+#include "grid/GridCtrl.h"
+
+// What both dialogs do to their grids.
+
+// The first `rows` rows and the first `columns` columns get the face colour and become read-only.
+void ShadeFixedCells(CGridCtrl& grid, int rows, int columns);
+
+// Text formats (TextFormat) by region: `rowFormat` in the fixed rows, `columnFormat` in the fixed columns,
+// the corner among them, `bodyFormat` elsewhere. Counts below 1 take the grid's own.
+void SetGridAlignment(CGridCtrl& grid, int fixedRows, int fixedColumns, unsigned columnFormat,
+                      unsigned rowFormat, unsigned bodyFormat);
+
+// Column widths by weight that fill the client area beside the vertical scroll bar. One entry a column in
+// both; `out` receives the widths.
+void FitColumns(CGridCtrl& grid, std::span<const int> weights, std::span<int> out);

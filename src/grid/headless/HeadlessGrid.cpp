@@ -1,0 +1,181 @@
+#include "grid/headless/HeadlessGrid.h"
+
+#include <utility>
+
+#include "grid/GridCtrl.h"
+#include "grid/Label.h"
+
+namespace {
+
+constexpr int kBarWidth = 17;  // pixels of a scroll bar at 96 pixels an inch
+constexpr int kCharacterWidth = 6, kCharacterHeight = 15;
+// Pixels of a dialog unit's multiple with the dialogs' font at 96 pixels an inch.
+constexpr int kBaseX = 7, kBaseY = 15;
+
+int Scaled(int units, int base, int divisor) {
+    return (units * base + divisor / 2) / divisor;
+}
+
+std::string& SharedClipboard() {
+    static std::string text;
+    return text;
+}
+
+}  // namespace
+
+namespace gridplatform {
+
+Colour SystemColour(int index) {
+    switch (index) {
+        case kColourWindow:
+            return 0xffffff;
+        case kColourWindowText:
+            return 0x000000;
+        case kColourFace:
+            return 0xf0f0f0;
+        case kColourShadow:
+            return 0xa0a0a0;
+        default:
+            return 0;
+    }
+}
+
+GridSize MeasureText(const std::string& text, const FontRecord&) {
+    return {static_cast<int>(text.size()) * kCharacterWidth, kCharacterHeight};
+}
+
+int ScreenDpi() {
+    return 96;
+}
+unsigned DoubleClickTime() {
+    return 500;
+}
+void PrepareWindowClass() {}
+void AttachLabel(CLabel&) {}
+void RedrawLabel(CLabel&) {}
+
+std::unique_ptr<GridHost> MakeHost(CGridCtrl& grid) {
+    if (grid.m_hWnd == nullptr) return std::make_unique<GridHost>();
+    const ControlSpec& spec = headless::SpecOf(grid.m_hWnd);
+    const GridSize size{Scaled(spec.width, kBaseX, 4), Scaled(spec.height, kBaseY, 8)};
+    auto host = std::make_unique<HeadlessGrid>(grid, size);
+    headless::AttachGrid(grid.m_hWnd, *host);
+    return host;
+}
+
+}  // namespace gridplatform
+
+void HeadlessEditor::PostChar(unsigned character) {
+    if (m_bClosed) return;
+    if (!m_editor.OnChar(character)) {
+        m_text.Type(character);
+        m_editor.OnTyped();
+    }
+}
+
+void HeadlessEditor::KeyDown(unsigned key, KeyState keys) {
+    if (m_bClosed || m_editor.OnKeyDown(key, keys)) return;
+    switch (key) {
+        case kKeyLeft:
+            m_text.MoveCaret(-1);
+            break;
+        case kKeyRight:
+            m_text.MoveCaret(1);
+            break;
+        case kKeyHome:
+            m_text.start = m_text.end = 0;
+            break;
+        case kKeyEnd:
+            m_text.MoveToEnd();
+            break;
+        case kKeyDelete:
+            m_text.DeleteForward();
+            break;
+        default:
+            break;
+    }
+}
+
+GridSize HeadlessGrid::ClientSize() const {
+    return {m_size.width - (m_bBar[1] || m_bForced[1] ? kBarWidth : 0),
+            m_size.height - (m_bBar[0] || m_bForced[0] ? kBarWidth : 0)};
+}
+
+void HeadlessGrid::SetScrollBar(bool vertical, const ScrollPlace& place) {
+    m_bBar[vertical ? 1 : 0] = place.count > place.page;
+}
+
+void HeadlessGrid::ForceScrollBar(bool vertical, bool forced) {
+    m_bForced[vertical ? 1 : 0] = forced;
+}
+
+void HeadlessGrid::SetClipboard(const std::string& text) {
+    SharedClipboard() = text;
+}
+
+std::string HeadlessGrid::Clipboard() const {
+    return SharedClipboard();
+}
+
+bool HeadlessGrid::OpenEditor(std::unique_ptr<CInPlaceEdit> editor, const GridRect& rect) {
+    m_pEditor = std::move(editor);
+    m_pWindow = std::make_unique<HeadlessEditor>(*m_pEditor, rect);
+    m_pEditor->Start(*m_pWindow);
+    return true;
+}
+
+void HeadlessGrid::LeaveByTab(bool backwards) {
+    ++(backwards ? m_nLeftBackwards : m_nLeftForwards);
+}
+
+void HeadlessGrid::ShowTip(const GridRect&, const std::string& text, const FontRecord&) {
+    m_sTip = text;
+}
+
+HeadlessEditor* HeadlessGrid::Editor() const {
+    return m_pWindow != nullptr && !m_pWindow->IsClosed() ? m_pWindow.get() : nullptr;
+}
+
+void HeadlessGrid::TypeChar(unsigned character, KeyState keys) {
+    if (HeadlessEditor* editor = Editor()) {
+        editor->PostChar(character);
+    } else {
+        m_grid.OnChar(character, keys);
+    }
+}
+
+void HeadlessGrid::PressKey(unsigned key, KeyState keys) {
+    if (HeadlessEditor* editor = Editor()) {
+        editor->KeyDown(key, keys);
+        return;
+    }
+    // A key that the grid has no use for becomes a character.
+    const bool hasCharacter = key == kKeyReturn || key == kKeyBackspace || key == kKeyTab;
+    if (!m_grid.OnKeyDown(key, keys) && hasCharacter) m_grid.OnChar(key, keys);
+}
+
+bool HeadlessGrid::TypeCell(int row, int column, const std::string& text) {
+    m_grid.EndOpenEdit();
+    if (!m_grid.MoveFocusCell(row, column)) return false;
+    m_grid.SelectRange(row, column, row, column, false, true);
+    m_grid.ScrollCellIntoView(row, column);
+    for (const char c : text) TypeChar(static_cast<unsigned char>(c));
+    PressKey(kKeyReturn);
+    return true;
+}
+
+void HeadlessGrid::LoseFocus() {
+    m_grid.EndOpenEdit();
+}
+
+int HeadlessGrid::RowCount() const {
+    return m_grid.GetRowCount();
+}
+
+std::vector<std::string> HeadlessGrid::RowTexts(int row) const {
+    std::vector<std::string> texts;
+    for (int column = 0; column < m_grid.GetColumnCount(); ++column) {
+        texts.push_back(m_grid.GetCellText(row, column));
+    }
+    return texts;
+}
