@@ -2,11 +2,7 @@
 
 #include <algorithm>
 
-#if __has_include("grid/Label.h")
 #include "app/ChoseLoadCasesDlg.h"
-#else
-bool RunLoadCaseDialog(int format);
-#endif
 #include "app/PlotWords.h"
 #include "app/TableRun.h"
 #include "embedment/EmbedmentDialog.h"
@@ -235,7 +231,8 @@ void CDesignerDlg::LaunchPlotModule() {
     call.plot = FirstPlotWord(g_DataSet);
     call.family = LimitFamilyWord(g_DataSet);
     call.version = g_VersionText;
-    call.zeroA = call.zeroB = "0";
+    call.zeroA = std::string(1, '0');
+    call.zeroB = call.zeroA;
     call.argument = g_EnvelopePlotArgument;
     std::string systemText;
     switch (services::CallPlotModule("Sorvane.dll", "LaunchSorvane", call, systemText)) {
@@ -257,6 +254,8 @@ bool CDesignerDlg::OnHelpInfo(int controlId) {
     }
     std::string folder = ModuleFolder();
     folder.erase(0, std::min(folder.find_first_not_of(' '), folder.size()));
-    services::ShellOpen("open", "\"file:///" + folder + "HelpFiles\\Default.htm\"", "");
+    std::string page = "\"file:///";
+    page.append(folder).append("HelpFiles\\Default.htm\"");
+    services::ShellOpen("open", page, "");
     return true;
 }

@@ -5,11 +5,7 @@
 #include "session/Constants.h"
 #include "session/Session.h"
 #include "tables/Catalogue.h"
-#if __has_include("writers/PdfWriter.h")
 #include "writers/PdfWriter.h"
-#else
-#include "app/PendingPdfWriter.h"
-#endif
 
 namespace {
 

@@ -1,0 +1,64 @@
+#include "batch/DriveCommand.h"
+
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+#include "app/DesignerDlg.h"
+#include "app/Launch.h"
+#include "batch/ScriptDriver.h"
+
+namespace {
+
+bool ReadScript(const std::string& path, std::string& script) {
+    if (path == "-") {
+        script.assign(std::istreambuf_iterator<char>(std::cin), {});
+        return true;
+    }
+    std::ifstream file(path, std::ios::binary);
+    if (!file) return false;
+    script.assign(std::istreambuf_iterator<char>(file), {});
+    return !file.bad();
+}
+
+}  // namespace
+
+ExitStatus RunDrive(const DriveOptions& options, std::ostream& out, std::ostream& err) {
+    std::string script;
+    if (!ReadScript(options.script, script)) {
+        err << "lumerin: the script " << options.script << " could not be read" << std::endl;
+        return kExitUsage;
+    }
+    return DriveScript(options, script, out, err);
+}
+
+ExitStatus DriveScript(const DriveOptions& options, const std::string& script, std::ostream& out,
+                       std::ostream& err) {
+    std::vector<ScriptAction> actions;
+    try {
+        actions = ParseScript(script);
+    } catch (const ScriptError& error) {
+        err << "lumerin: " << error.what() << std::endl;
+        return kExitUsage;
+    }
+    ScriptDriver driver(std::move(actions), out);
+    bool loaded = false;
+    headless::SetSink(&driver);
+    headless::SetModalDriver([&](headless::HeadlessDialog& dialog) {
+        if (const auto* report = dynamic_cast<CDesignerDlg*>(&dialog.Dialog())) {
+            loaded = report->IsProjectLoaded();
+        }
+        driver.Drive(dialog);
+    });
+    const unsigned result =
+        LaunchLumerin(options.format, options.project.c_str(), options.common.version.c_str(), "", "", "");
+    headless::SetModalDriver(nullptr);
+    headless::SetSink(nullptr);
+    JsonLines(out).Result(result);
+    out.flush();
+    if (const ScriptAction* left = driver.FirstLeftOver()) {
+        err << "lumerin: script line " << left->line << ": the last dialog is closed" << std::endl;
+    }
+    // Without a project the dialog is all there is to drive; that is no failure.
+    return loaded || options.project.empty() ? kExitDone : kExitNotLoaded;
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+
+#include "batch/Options.h"
+#include "batch/ReportDriver.h"
+
+struct DriveOptions {
+    std::string project;
+    std::string script;  // its path; "-" for standard input
+    int format = 0;
+    CommonOptions common;
+};
+
+// One call of the export under a script; the JSON lines go to `out`.
+ExitStatus RunDrive(const DriveOptions& options, std::ostream& out, std::ostream& err);
+// The same with the script's text at hand.
+ExitStatus DriveScript(const DriveOptions& options, const std::string& script, std::ostream& out,
+                       std::ostream& err);

@@ -1,0 +1,107 @@
+#include <CLI/CLI.hpp>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <sstream>
+
+#include "app/Launch.h"
+#include "batch/DriveCommand.h"
+#include "batch/ReportDriver.h"
+
+// The program lumerin: report tables of a project without a screen.
+
+namespace {
+
+struct ReportTexts {
+    std::vector<std::string> formats;
+    std::string cases, footer;
+};
+
+void AddCommonOptions(CLI::App& command, CommonOptions& options) {
+    command.add_option("--version-text", options.version, "The host's version, for title page and footers");
+    command.add_option("--font-size", options.fontSize, "Font size of the text viewer in points")
+        ->check(CLI::Range(1, 100));
+    command.add_option("--clock", options.clock, "Date and time to print, YYYY-MM-DDTHH:MM:SS");
+}
+
+void AddReport(CLI::App& program, ReportOptions& options, ReportTexts& texts) {
+    CLI::App& command = *program.add_subcommand("report", "Write tables of one or more projects");
+    command.add_option("PROJECT", options.projects, "Input file of a project (.in)")->required();
+    command.add_option("--table", options.tables, "A table: " + TableNames() + " (default full)")
+        ->allow_extra_args(false);
+    command.add_option("--format", texts.formats, "text, pdf or excel (default text)")
+        ->allow_extra_args(false);
+    command.add_option("--cases", texts.cases, "Consider these cases alone, such as 1,3,5-9");
+    command.add_option("--footer", texts.footer,
+                       "none, or a list of date,time,version,filename (default all)");
+    command.add_flag("--open", options.open, "Open each file that was written");
+    AddCommonOptions(command, options.common);
+    command.footer(
+        "Prints the path of each file that was written. Exit status: 0 done, 1 a table does not apply or "
+        "has\n"
+        "nothing to show, 2 wrong usage, 3 a project could not be loaded (the others are done all the "
+        "same).");
+}
+
+void AddDrive(CLI::App& program, DriveOptions& options, std::string& format) {
+    CLI::App& command = *program.add_subcommand("drive", "Play a script on the dialogs of a project");
+    command.add_option("PROJECT", options.project, "Input file of a project (.in)")->required();
+    command.add_option("SCRIPT", options.script, "File of actions, one a line; - for standard input")
+        ->required();
+    command.add_option("--format", format,
+                       "Format that the dialog starts on: text, pdf, excel (default text)");
+    AddCommonOptions(command, options.common);
+    command.footer(
+        "Prints what happens as JSON, one object a line. Exit status: 0 done, 2 wrong usage or a line that "
+        "is\n"
+        "no action, 3 the project could not be loaded (the script is played all the same).");
+}
+
+void FinishReport(ReportOptions& options, const ReportTexts& texts) {
+    for (const std::string& format : texts.formats) options.formats.push_back(ReadFormat(format));
+    if (options.formats.empty()) options.formats.push_back(ReadFormat("text"));
+    if (options.tables.empty()) options.tables.emplace_back("full");
+    for (const std::string& table : options.tables) {
+        if (TableButton(table) == 0) {
+            throw std::invalid_argument("\"" + table + "\" is no table (" + TableNames() + ")");
+        }
+    }
+    if (!texts.cases.empty()) options.cases = ReadCases(texts.cases);
+    if (!texts.footer.empty()) options.footer = ReadFooter(texts.footer);
+    ApplyOptions(options.common);
+}
+
+int Run(int argc, char** argv) {
+    CLI::App program("Report tables of bridge substructure results");
+    program.set_version_flag("--version", "lumerin " LUMERIN_VERSION);
+    program.require_subcommand(1);
+    ReportOptions report;
+    ReportTexts texts;
+    DriveOptions drive;
+    std::string driveFormat = "text";
+    AddReport(program, report, texts);
+    AddDrive(program, drive, driveFormat);
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return program.exit(error) == 0 ? kExitDone : kExitUsage;
+    }
+    if (program.got_subcommand("report")) {
+        FinishReport(report, texts);
+        return RunReports(report, std::cout, std::cerr);
+    }
+    drive.format = ReadFormat(driveFormat);
+    ApplyOptions(drive.common);
+    return RunDrive(drive, std::cout, std::cerr);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return Run(argc, argv);
+    } catch (const std::exception& error) {
+        std::cerr << "lumerin: " << error.what() << '\n';
+        return kExitUsage;
+    }
+}

@@ -1,0 +1,157 @@
+#include "batch/ReportDriver.h"
+
+#include <algorithm>
+
+#include "app/DesignerDlg.h"
+#include "app/Launch.h"
+#include "batch/JsonLines.h"
+#include "batch/Progress.h"
+#include "batch/ScriptDriver.h"
+#include "batch/Viewer.h"
+#include "session/Constants.h"
+
+namespace {
+
+constexpr int kReportDialog = 1000;
+constexpr int kLoadCaseDialog = 1005;
+constexpr int kCustomCases = 1038, kChooseCases = 1039, kNoCases = 1047, kIncludeColumn = 1;
+constexpr int kFormatButtons[] = {1021, 1019, 1020};  // by ReportFormat
+
+}  // namespace
+
+ReportDriver::ReportDriver(const ReportOptions& options, std::ostream& out, std::ostream& err)
+    : m_options(options), m_out(out), m_err(err) {}
+
+ExitStatus ReportDriver::Run(const std::string& project, int format) {
+    m_sProject = project;
+    m_nFormat = format;
+    m_nMessages = 0;
+    m_bCasesChosen = false;
+    m_status = kExitDone;
+    Progress progress(m_err, "Loading " + ToUtf8(project));
+    headless::SetSink(this);
+    headless::SetModalDriver([this, &progress](headless::HeadlessDialog& dialog) {
+        progress.End();
+        Drive(dialog);
+    });
+    LaunchLumerin(format, project.c_str(), m_options.common.version.c_str(), "", "", "");
+    headless::SetModalDriver(nullptr);
+    headless::SetSink(nullptr);
+    return m_status;
+}
+
+void ReportDriver::Worsen(ExitStatus status) {
+    m_status = std::max(m_status, status);
+}
+
+void ReportDriver::Say(const std::string& text) {
+    m_err << ToUtf8(text) << std::endl;
+}
+
+void ReportDriver::Drive(headless::HeadlessDialog& dialog) {
+    if (dialog.ResourceId() == kLoadCaseDialog) {
+        DriveCases(dialog);
+    } else if (auto* report = dynamic_cast<CDesignerDlg*>(&dialog.Dialog())) {
+        DriveReport(dialog, *report);
+    }
+}
+
+void ReportDriver::DriveReport(headless::HeadlessDialog& dialog, CDesignerDlg& report) {
+    if (!report.IsProjectLoaded()) {
+        Worsen(kExitNotLoaded);
+        return;
+    }
+    // A load that had something to say went on with data that are not whole.
+    if (m_nMessages > 0) Worsen(kExitIncomplete);
+    SetFooter(dialog);
+    if (!m_options.cases.empty()) {
+        dialog.Click(kCustomCases);
+        dialog.Click(kChooseCases);
+        if (!m_bCasesChosen) {
+            Say(m_sProject + ": the cases could not be chosen");
+            Worsen(kExitUsage);
+            return;
+        }
+    }
+    for (const std::string& table : m_options.tables) PressTable(dialog, report, table);
+}
+
+void ReportDriver::SetFooter(headless::HeadlessDialog& dialog) {
+    const FooterParts& footer = m_options.footer;
+    if (!footer.date && !footer.time && !footer.version && !footer.fileName) {
+        dialog.Click(1015);
+        return;
+    }
+    if (!footer.date) dialog.Click(1017);
+    if (!footer.time) dialog.Click(1016);
+    if (!footer.version) dialog.Click(1014);
+    if (!footer.fileName) dialog.Click(1018);
+}
+
+void ReportDriver::DriveCases(headless::HeadlessDialog& dialog) {
+    const NativeWindow* control = dialog.FindKind(ControlKind::grid);
+    if (control == nullptr || control->grid == nullptr) return;
+    const int cases = control->grid->RowCount() - 1;
+    if (LastCase(m_options.cases) > cases) {
+        Say(m_sProject + ": there is no case " + std::to_string(LastCase(m_options.cases)) +
+            ", the project has " + std::to_string(std::max(cases, 0)));
+        return;
+    }
+    dialog.Click(kNoCases);
+    for (int row = 1; row <= cases; ++row) {
+        if (HoldsCase(m_options.cases, row)) dialog.TypeCell(row, kIncludeColumn, "1");
+    }
+    dialog.Click(IDOK);
+    m_bCasesChosen = !dialog.IsOpen();
+}
+
+void ReportDriver::PressTable(headless::HeadlessDialog& dialog, CDesignerDlg& report,
+                              const std::string& table) {
+    m_sWritten.clear();
+    if (!dialog.Click(TableButton(table))) {
+        Say(m_sProject + ": the table " + table + " does not apply to this project");
+        Worsen(kExitIncomplete);
+        return;
+    }
+    if (m_sWritten.empty() || report.OutputFailed()) Worsen(kExitIncomplete);
+    if (report.OutputFailed()) {
+        Say(m_sProject + ": the table " + table + " could not be written whole");
+    } else if (!m_sWritten.empty()) {
+        m_out << m_sWritten << std::endl;
+    }
+    // The table of the pile heads moves the format to the spreadsheet for good.
+    if (report.m_nFormat != m_nFormat) dialog.Click(kFormatButtons[m_nFormat]);
+}
+
+MessageAnswer ReportDriver::OnMessage(const headless::Message& message) {
+    ++m_nMessages;
+    if (message.buttons == MessageButtons::ok) Say(m_sProject + ": " + message.text);
+    return Sink::OnMessage(message);
+}
+
+int ReportDriver::OnShellOpen(const std::string&, const std::string& file, const std::string& parameters) {
+    int code = ShellCodeOfDocument(file, parameters);
+    if (code <= 32) return code;
+    const std::string& quoted = parameters.empty() ? file : parameters;
+    m_sWritten = quoted.substr(1, quoted.size() - 2);
+    return m_options.open ? StartViewer(m_sWritten) : code;
+}
+
+services::PlotModuleResult ReportDriver::OnPlotModule(const std::string&,
+                                                      const services::PlotModuleCall& call, std::string&) {
+    m_sWritten = call.dataFile;
+    return services::PlotModuleResult::called;
+}
+
+ExitStatus RunReports(const ReportOptions& options, std::ostream& out, std::ostream& err) {
+    ExitStatus worst = kExitDone;
+    for (const std::string& project : options.projects) {
+        for (const int format : options.formats) {
+            ReportDriver driver(options, out, err);
+            const ExitStatus status = driver.Run(project, format);
+            worst = std::max(worst, status);
+            if (status >= kExitUsage) break;
+        }
+    }
+    return worst;
+}

@@ -1,0 +1,172 @@
+#include "batch/Script.h"
+
+#include <charconv>
+#include <cmath>
+
+namespace {
+
+bool IsBlank(char c) {
+    return c == ' ' || c == '\t';
+}
+
+// The words of one line, taken from its start.
+class LineReader {
+  public:
+    LineReader(std::string_view line, int number) : m_rest(line), m_nLine(number) {
+        for (std::size_t i = 0; i < m_rest.size(); ++i) {
+            if (m_rest[i] == '#' && (i == 0 || IsBlank(m_rest[i - 1]))) m_rest = m_rest.substr(0, i);
+        }
+        while (!m_rest.empty() && (IsBlank(m_rest.back()) || m_rest.back() == '\r')) m_rest.remove_suffix(1);
+        SkipBlanks();
+    }
+
+    bool AtEnd() const { return m_rest.empty(); }
+    std::string Word(const char* what) {
+        std::size_t length = 0;
+        while (length < m_rest.size() && !IsBlank(m_rest[length])) ++length;
+        if (length == 0) Fail(std::string("expected ") + what);
+        std::string word(m_rest.substr(0, length));
+        m_rest.remove_prefix(length);
+        SkipBlanks();
+        return word;
+    }
+    int Integer(const char* what) {
+        const std::string word = Word(what);
+        int value = 0;
+        const char* end = word.data() + word.size();
+        const auto [at, fault] = std::from_chars(word.data(), end, value);
+        if (fault != std::errc() || at != end) Fail(word + " is not " + what);
+        return value;
+    }
+    double Real(const char* what) {
+        const std::string word = Word(what);
+        double value = 0.0;
+        const char* end = word.data() + word.size();
+        const auto [at, fault] = std::from_chars(word.data(), end, value);
+        if (fault != std::errc() || at != end || !std::isfinite(value)) Fail(word + " is not " + what);
+        return value;
+    }
+    std::string Rest() {
+        const std::string rest(m_rest);
+        m_rest = {};
+        return rest;
+    }
+    [[noreturn]] void Fail(const std::string& fault) const { throw ScriptError(m_nLine, fault); }
+
+  private:
+    void SkipBlanks() {
+        while (!m_rest.empty() && IsBlank(m_rest.front())) m_rest.remove_prefix(1);
+    }
+    std::string_view m_rest;
+    int m_nLine;
+};
+
+constexpr const char* kControlWord = "a control's identifier";
+
+void ReadKey(LineReader& line, ScriptAction& action) {
+    const std::string key = line.Word("a key: Esc, Return or F1");
+    if (key == "Esc") {
+        action.verb = ScriptVerb::keyEscape;
+    } else if (key == "Return") {
+        action.verb = ScriptVerb::keyReturn;
+    } else if (key == "F1") {
+        action.verb = ScriptVerb::keyHelp;
+        action.id = line.Integer(kControlWord);
+    } else {
+        line.Fail("unknown key " + key);
+    }
+}
+
+void ReadSpin(LineReader& line, ScriptAction& action) {
+    action.id = line.Integer(kControlWord);
+    const std::string direction = line.Word("up or down");
+    if (direction != "up" && direction != "down") line.Fail("expected up or down, not " + direction);
+    action.verb = direction == "up" ? ScriptVerb::spinUp : ScriptVerb::spinDown;
+}
+
+void ReadAnswer(LineReader& line, ScriptAction& action) {
+    const std::string answer = line.Word("yes or no");
+    if (answer != "yes" && answer != "no") line.Fail("expected yes or no, not " + answer);
+    action.verb = answer == "yes" ? ScriptVerb::answerYes : ScriptVerb::answerNo;
+}
+
+// What follows the verb, for each verb.
+struct VerbReader {
+    const char* word;
+    void (*read)(LineReader& line, ScriptAction& action);
+};
+
+constexpr VerbReader kVerbs[] = {
+    {"click",
+     [](LineReader& line, ScriptAction& action) {
+         action.verb = ScriptVerb::click;
+         action.id = line.Integer(kControlWord);
+     }},
+    {"text",
+     [](LineReader& line, ScriptAction& action) {
+         action.verb = ScriptVerb::text;
+         action.id = line.Integer(kControlWord);
+         action.text = line.Rest();
+     }},
+    {"focus",
+     [](LineReader& line, ScriptAction& action) {
+         action.verb = ScriptVerb::focus;
+         action.id = line.Integer(kControlWord);
+     }},
+    {"select",
+     [](LineReader& line, ScriptAction& action) {
+         action.verb = ScriptVerb::select;
+         action.id = line.Integer(kControlWord);
+         action.number = line.Integer("an entry's number");
+     }},
+    {"spin", ReadSpin},
+    {"cell",
+     [](LineReader& line, ScriptAction& action) {
+         action.verb = ScriptVerb::cell;
+         action.id = line.Integer("a row's number");
+         action.number = line.Integer("a column's number");
+         action.text = line.Rest();
+     }},
+    {"graph-click",
+     [](LineReader& line, ScriptAction& action) {
+         action.verb = ScriptVerb::graphClick;
+         action.x = line.Real("a place on the x axis");
+     }},
+    {"answer", ReadAnswer},
+    {"dump", [](LineReader&, ScriptAction& action) { action.verb = ScriptVerb::dump; }},
+    {"shot",
+     [](LineReader& line, ScriptAction& action) {
+         action.verb = ScriptVerb::shot;
+         if (line.AtEnd()) line.Fail("expected the picture's file");
+         action.text = line.Rest();
+     }},
+    {"key", ReadKey},
+};
+
+ScriptAction ReadAction(LineReader& line, int number) {
+    const std::string word = line.Word("an action");
+    for (const VerbReader& verb : kVerbs) {
+        if (word != verb.word) continue;
+        ScriptAction action;
+        action.line = number;
+        verb.read(line, action);
+        if (!line.AtEnd()) line.Fail("unexpected text behind the action: " + line.Rest());
+        return action;
+    }
+    line.Fail("unknown action " + word);
+}
+
+}  // namespace
+
+std::vector<ScriptAction> ParseScript(std::string_view script) {
+    std::vector<ScriptAction> actions;
+    int number = 0;
+    while (!script.empty()) {
+        ++number;
+        const std::size_t end = script.find('\n');
+        LineReader line(script.substr(0, end), number);
+        if (!line.AtEnd()) actions.push_back(ReadAction(line, number));
+        script.remove_prefix(end == std::string_view::npos ? script.size() : end + 1);
+    }
+    return actions;
+}

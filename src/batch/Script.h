@@ -1,0 +1,46 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// The script that drives the dialogs, the same for every face of the product: one action a line, "#" at a
+// line's start or behind a blank begins a comment. It is read whole before the first action runs.
+
+enum class ScriptVerb {
+    click,       // id
+    text,        // id, text
+    focus,       // id
+    select,      // id, number
+    spinUp,      // id
+    spinDown,    // id
+    cell,        // row in id, column in number, text
+    graphClick,  // x
+    answerYes,
+    answerNo,
+    dump,
+    shot,  // text: the picture's file
+    keyEscape,
+    keyReturn,
+    keyHelp,  // id
+};
+
+struct ScriptAction {
+    ScriptVerb verb = ScriptVerb::dump;
+    int line = 0;  // in the script, from 1
+    int id = 0;
+    int number = 0;
+    double x = 0.0;
+    std::string text;
+};
+
+// A line that is no action.
+class ScriptError : public std::runtime_error {
+  public:
+    ScriptError(int line, const std::string& fault)
+        : std::runtime_error("script line " + std::to_string(line) + ": " + fault) {}
+};
+
+// Throws ScriptError for the first line that is no action.
+std::vector<ScriptAction> ParseScript(std::string_view script);

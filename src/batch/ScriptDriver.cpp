@@ -1,0 +1,143 @@
+#include "batch/ScriptDriver.h"
+
+#include <filesystem>
+#include <utility>
+
+namespace {
+
+constexpr int kShellSuccess = 42;
+constexpr int kShellFileMissing = 2;
+
+std::string WithoutQuotes(const std::string& text) {
+    const bool quoted = text.size() >= 2 && text.front() == '"' && text.back() == '"';
+    return quoted ? text.substr(1, text.size() - 2) : text;
+}
+
+ControlState StateOf(const NativeWindow& control) {
+    ControlState state;
+    state.id = control.spec->id;
+    state.kind = control.spec->kind;
+    state.text = control.text;
+    state.enabled = control.enabled;
+    state.visible = control.visible;
+    state.checked = control.checked;
+    state.selection = control.selection;
+    return state;
+}
+
+}  // namespace
+
+int ShellCodeOfDocument(const std::string& file, const std::string& parameters) {
+    const std::string document = WithoutQuotes(parameters.empty() ? file : parameters);
+    if (document.rfind("file:", 0) == 0) return kShellSuccess;
+    std::error_code ignored;
+    return std::filesystem::exists(document, ignored) ? kShellSuccess : kShellFileMissing;
+}
+
+ScriptDriver::ScriptDriver(std::vector<ScriptAction> actions, std::ostream& out)
+    : m_actions(std::move(actions)), m_lines(out) {}
+
+void ScriptDriver::Drive(headless::HeadlessDialog& dialog) {
+    while (dialog.IsOpen() && m_nNext < m_actions.size()) {
+        const ScriptAction& action = m_actions[m_nNext++];
+        Play(action, dialog);
+    }
+}
+
+const ScriptAction* ScriptDriver::FirstLeftOver() const {
+    return m_nNext < m_actions.size() ? &m_actions[m_nNext] : nullptr;
+}
+
+void ScriptDriver::Play(const ScriptAction& action, headless::HeadlessDialog& dialog) {
+    std::string name = std::to_string(action.id);
+    bool done = true;
+    switch (action.verb) {
+        case ScriptVerb::click:
+            done = dialog.Click(action.id);
+            break;
+        case ScriptVerb::text:
+            done = dialog.TypeText(action.id, action.text);
+            break;
+        case ScriptVerb::focus:
+            done = dialog.Focus(action.id);
+            break;
+        case ScriptVerb::select:
+            done = dialog.SelectEntry(action.id, action.number);
+            break;
+        case ScriptVerb::spinUp:
+            done = dialog.Spin(action.id, true);
+            break;
+        case ScriptVerb::spinDown:
+            done = dialog.Spin(action.id, false);
+            break;
+        case ScriptVerb::cell:
+            name = "cell " + name + " " + std::to_string(action.number);
+            done = dialog.TypeCell(action.id, action.number, action.text);
+            break;
+        case ScriptVerb::graphClick:
+            name = "graph-click";
+            done = dialog.ClickGraph(action.x);
+            break;
+        case ScriptVerb::answerYes:
+            headless::State().answer = MessageAnswer::yes;
+            break;
+        case ScriptVerb::answerNo:
+            headless::State().answer = MessageAnswer::no;
+            break;
+        case ScriptVerb::dump:
+            Dump(dialog);
+            break;
+        case ScriptVerb::shot:  // there is no screen
+            name = "shot";
+            done = false;
+            break;
+        case ScriptVerb::keyEscape:
+            name = "key Esc";
+            done = dialog.PressEscape();
+            break;
+        case ScriptVerb::keyReturn:
+            name = "key Return";
+            done = dialog.PressReturn();
+            break;
+        case ScriptVerb::keyHelp:
+            done = dialog.PressHelp(action.id);
+            break;
+    }
+    if (!done) m_lines.Refused(name);
+}
+
+void ScriptDriver::Dump(headless::HeadlessDialog& dialog) {
+    for (const auto& control : dialog.Controls()) {
+        if (control->spec->id != kNoId) m_lines.Control(StateOf(*control));
+    }
+    for (const auto& control : dialog.Controls()) {
+        if (control->grid == nullptr) continue;
+        const int rows = control->grid->RowCount();
+        for (int row = 0; row < rows; ++row) m_lines.Row(row, control->grid->RowTexts(row));
+    }
+    for (const auto& control : dialog.Controls()) {
+        if (control->graph != nullptr) m_lines.Plot(control->graph->LastDrawing());
+    }
+}
+
+void ScriptDriver::OnDialogOpened(headless::HeadlessDialog& dialog) {
+    m_lines.Dialog(dialog.Title());
+}
+
+MessageAnswer ScriptDriver::OnMessage(const headless::Message& message) {
+    m_lines.Message(message.text, message.title, message.icon);
+    return Sink::OnMessage(message);
+}
+
+int ScriptDriver::OnShellOpen(const std::string&, const std::string& file, const std::string& parameters) {
+    const int code = ShellCodeOfDocument(file, parameters);
+    // A start that fails reaches no program, so there is nothing to tell of it but the message that follows.
+    if (code == kShellSuccess) m_lines.Open(file, parameters);
+    return code;
+}
+
+services::PlotModuleResult ScriptDriver::OnPlotModule(const std::string& module,
+                                                      const services::PlotModuleCall& call, std::string&) {
+    m_lines.Module(module, call);
+    return services::PlotModuleResult::called;
+}

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <cstddef>
+#include <ostream>
+#include <vector>
+
+#include "batch/JsonLines.h"
+#include "batch/Script.h"
+#include "framework/headless/Headless.h"
+
+// Plays a script on the dialogs of one call and tells every event as a JSON line. The action at hand goes to
+// the front dialog; a dialog that a press opens takes the actions that follow, until it is closed.
+class ScriptDriver : public headless::Sink {
+  public:
+    ScriptDriver(std::vector<ScriptAction> actions, std::ostream& out);
+
+    // Plays until the dialog is closed or the script ends.
+    void Drive(headless::HeadlessDialog& dialog);
+    // The action that found no open dialog any more; null when all were played.
+    const ScriptAction* FirstLeftOver() const;
+
+    void OnDialogOpened(headless::HeadlessDialog& dialog) override;
+    MessageAnswer OnMessage(const headless::Message& message) override;
+    int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters) override;
+    services::PlotModuleResult OnPlotModule(const std::string& module, const services::PlotModuleCall& call,
+                                            std::string& systemText) override;
+
+  private:
+    void Play(const ScriptAction& action, headless::HeadlessDialog& dialog);
+    void Dump(headless::HeadlessDialog& dialog);
+
+    std::vector<ScriptAction> m_actions;
+    std::size_t m_nNext = 0;
+    JsonLines m_lines;
+};
+
+// The shell's code for a viewer start without a screen: success when the document is there (or is a page of
+// the help), otherwise the code for a missing file.
+int ShellCodeOfDocument(const std::string& file, const std::string& parameters);

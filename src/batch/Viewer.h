@@ -1,0 +1,7 @@
+#pragma once
+
+#include <string>
+
+// Starts the desktop's program for a file and does not wait for it. Returns the shell's code: above 32 for
+// success, 31 where the desktop has no such program.
+int StartViewer(const std::string& path);
