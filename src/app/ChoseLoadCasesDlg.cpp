@@ -16,8 +16,9 @@
 namespace {
 
 const ControlSpec kControls[] = {
-#include "app/dialogs/LoadCaseDialog.inc"
 #include "framework/ControlTable.h"
+
+#include "app/dialogs/LoadCaseDialog.inc"
 };
 
 enum ControlId { kGrid = 1040, kExport = 1042, kAll = 1046, kNone = 1047 };
