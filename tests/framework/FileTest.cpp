@@ -1,0 +1,98 @@
+#include "framework/File.h"
+
+#include <gmock/gmock.h>
+#include <unistd.h>
+
+#include <array>
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+class FileTest : public testing::Test {
+  protected:
+    FileTest() : m_folder(fs::temp_directory_path() / ("lumerin-file-" + std::to_string(getpid()))) {
+        fs::remove_all(m_folder);
+        fs::create_directories(m_folder / "Sub");
+    }
+    ~FileTest() override { fs::remove_all(m_folder); }
+
+    std::string Write(const std::string& name, const std::string& content) {
+        const std::string path = (m_folder / name).string();
+        std::ofstream(path, std::ios::binary) << content;
+        return path;
+    }
+    std::string Path(const std::string& name) const { return (m_folder / name).string(); }
+
+    fs::path m_folder;
+};
+
+TEST_F(FileTest, IsFoundWhateverTheCaseOfItsName) {
+    const std::string path = Write("Sub/Pier.PLF", "x");
+    EXPECT_EQ(FindFileAnyCase(Path("Sub/Pier.PLF")), path);
+    EXPECT_EQ(FindFileAnyCase(Path("Sub/pier.plf")), path);
+    EXPECT_EQ(FindFileAnyCase(Path("sub/PIER.plf")), path);
+    EXPECT_EQ(FindFileAnyCase(Path("sub/PIER.pl")), "");
+    EXPECT_EQ(FindFileAnyCase(""), "");
+}
+
+TEST_F(FileTest, AnExactNameGoesBeforeOthersAndByteOrderDecidesAmongThem) {
+    const std::string upper = Write("a.PLF", "upper");
+    const std::string lower = Write("a.plf", "lower");
+    EXPECT_EQ(FindFileAnyCase(lower), lower);
+    EXPECT_EQ(FindFileAnyCase(upper), upper);
+    EXPECT_EQ(FindFileAnyCase(Path("a.Plf")), upper);
+}
+
+TEST_F(FileTest, ReadsSeeksAndTellsItsLength) {
+    CFile file(Write("data", "0123456789"));
+    std::array<char, 16> buffer{};
+    EXPECT_EQ(file.Length(), 10);
+    EXPECT_EQ(file.ReadBytes(buffer.data(), 4), 4U);
+    EXPECT_EQ(std::string(buffer.data(), 4), "0123");
+    EXPECT_EQ(file.Length(), 10);  // asking does not move the position
+    EXPECT_EQ(file.ReadBytes(buffer.data(), 16), 6U);
+    EXPECT_EQ(file.ReadBytes(buffer.data(), 16), 0U);
+    file.Seek(8);
+    EXPECT_EQ(file.ReadBytes(buffer.data(), 16), 2U);
+    EXPECT_EQ(std::string(buffer.data(), 2), "89");
+    EXPECT_THROW(file.Seek(-1), CFileException);
+    file.Close();
+    EXPECT_FALSE(file.IsOpen());
+    EXPECT_EQ(file.Length(), 0);
+    EXPECT_THROW(file.ReadBytes(buffer.data(), 1), CFileException);
+    EXPECT_THROW(file.Seek(0), CFileException);
+}
+
+TEST_F(FileTest, AMissingFileIsNamedWithItsFault) {
+    CFileException failure(CFileException::none, "", "");
+    CFile file;
+    EXPECT_FALSE(file.Open(Path("none.PLF"), &failure));
+    EXPECT_FALSE(file.IsOpen());
+    EXPECT_EQ(failure.m_cause, CFileException::fileNotFound);
+    EXPECT_EQ(failure.m_strFileName, Path("none.PLF"));
+    EXPECT_EQ(std::string(failure.what()), Path("none.PLF") + ": the file was not found");
+    EXPECT_FALSE(file.Open(Path("none.PLF")));
+    EXPECT_THROW(CFile{Path("none.PLF")}, CFileException);
+}
+
+TEST_F(FileTest, AFolderIsNoFile) {
+    CFileException failure(CFileException::none, "", "");
+    CFile file;
+    EXPECT_FALSE(file.Open(Path("Sub"), &failure));
+    EXPECT_EQ(failure.m_cause, CFileException::generic);
+    EXPECT_THAT(failure.what(), testing::StartsWith(Path("Sub") + ": the file could not be opened"));
+}
+
+TEST_F(FileTest, OpeningAgainLeavesTheFileBefore) {
+    CFile file(Write("one", "1"));
+    ASSERT_TRUE(file.Open(Write("two", "2")));
+    char c = 0;
+    EXPECT_EQ(file.ReadBytes(&c, 1), 1U);
+    EXPECT_EQ(c, '2');
+    EXPECT_EQ(file.Path(), Path("two"));
+}
+
+}  // namespace
