@@ -1,0 +1,195 @@
+#include <gmock/gmock.h>
+
+#include "CapModel.h"
+
+using testing::DoubleEq;
+using testing::Each;
+using testing::ElementsAre;
+
+namespace {
+
+std::vector<std::vector<int>> Locations(const std::vector<CBearingLocation>& list) {
+    std::vector<std::vector<int>> rows;
+    for (const CBearingLocation& b : list) {
+        rows.push_back({b.m_nBearing, b.m_nRowCode, b.m_bElementStarts ? 1 : 0, b.m_bElementEnds ? 1 : 0});
+    }
+    return rows;
+}
+
+using Row = std::vector<int>;
+
+}  // namespace
+
+TEST(CapGeometry, PierCapPointsRunFromTipToTip) {
+    const CapModel model(TwoColumns());
+    EXPECT_THAT(model.pier.m_CapPointX, ElementsAre(0, 5, 10, 20, 30, 35, 40));
+    // Column 1 is nodes 3 4 5, the left cantilever 6 7, the span 8, column 2 9 10 11, the right cantilever
+    // 12 13.
+    EXPECT_THAT(model.pier.m_CapPointNode, ElementsAre(6, 7, 5, 8, 11, 12, 13));
+    EXPECT_EQ(model.nodes, model.pier.m_CapPointNode);
+}
+
+TEST(CapGeometry, BentCapPointsTakePileHeadsFromTheListsStart) {
+    const CapModel model(TwoPileBent());
+    EXPECT_THAT(model.pier.m_CapPointX, ElementsAre(0, 5, 10, 20, 30, 35, 40));
+    EXPECT_THAT(model.pier.m_CapPointNode, ElementsAre(3, 4, 1, 5, 2, 6, 7));
+}
+
+TEST(CapGeometry, SizesGoByTheNumberOfSupports) {
+    CapSpec spec = TwoColumns();
+    spec.bearingNodes = {{6, 8, 13}};
+    const CapModel with(spec);
+    EXPECT_EQ(with.pier.m_nCapMomentSupports, 6);
+    EXPECT_EQ(with.pier.m_nCapShearSupports, 8);
+    EXPECT_EQ(with.pier.m_nCapBearings, 3);
+    EXPECT_EQ(with.pier.m_nMaxRowBearings, 3);
+    EXPECT_EQ(with.pier.m_nCapMomentPoints, 9);
+    EXPECT_EQ(with.pier.m_nCapShearPoints, 14);
+
+    const CapModel without(TwoColumnsWithoutCantilevers());
+    EXPECT_EQ(without.pier.m_nCapMomentSupports, 4);
+    EXPECT_EQ(without.pier.m_nCapShearSupports, 4);
+    EXPECT_THAT(without.pier.m_CapPointX, ElementsAre(10, 20, 30));
+}
+
+TEST(CapGeometry, OneSupportWithoutCantileversHasNoShearEntries) {
+    CapSpec spec = TwoColumnsWithoutCantilevers();
+    spec.supports = 1;
+    spec.x = {10};
+    CapModel model(spec);
+    EXPECT_EQ(model.pier.m_nCapShearSupports, 0);
+    EXPECT_EQ(model.pier.m_nCapMomentSupports, 1);
+    model.ComputeShear();
+    model.ComputeMoment();
+    EXPECT_THAT(model.pier.m_MomentSupportX, ElementsAre(10));
+}
+
+TEST(CapGeometry, MastKeepsItsTablesEmpty) {
+    CapSpec spec = TwoColumns();
+    spec.type = 3;
+    spec.bearingNodes = {{6}};
+    CapModel model(spec);
+    model.pier.BuildCapGeometry();
+    model.ComputeShear();
+    model.ComputeMoment();
+    EXPECT_EQ(model.pier.m_nCapShearPoints, 0);
+    EXPECT_EQ(model.pier.m_nCapMomentPoints, 0);
+    EXPECT_TRUE(model.pier.m_ShearSupports.Entries().empty());
+    EXPECT_TRUE(model.pier.m_MomentBearings.Entries().empty());
+    EXPECT_EQ(model.pier.NextShearPoint(0, 0), -1);
+    EXPECT_TRUE(model.pier.CheckCapShearData());
+}
+
+TEST(CapGeometry, CountsThatTheModelDoesNotHoldAllocateNothing) {
+    CapModel model(TwoColumns());
+    model.pier.m_nColumns = 1 << 30;
+    model.pier.m_nSpanNodes = 1 << 30;
+    model.pier.m_nCantileverNodes = 1 << 30;
+    model.pier.BuildCapGeometry();
+    EXPECT_LE(model.pier.m_CapPointX.size(), 7U);
+    EXPECT_EQ(model.pier.m_nCapShearSupports, 8);
+    model.ComputeShear();
+    model.ComputeMoment();
+    model.pier.m_nSpanNodes = -5;
+    model.pier.m_nColumnNodes = -9;
+    model.pier.m_nCantileverNodes = -7;
+    model.pier.BuildCapGeometry();
+    model.ComputeShear();
+    model.ComputeMoment();
+    EXPECT_LE(model.pier.m_CapPointX.size(), 7U);
+}
+
+TEST(CapBearings, OneRowStandsInItsOwnOrderWithCode2) {
+    CapSpec spec = TwoColumns();
+    spec.bearingNodes = {{8, 6, 13, 99}};
+    const CapModel model(spec);
+    // Node 6 is the left tip: an element starts there, none ends. Node 13 is the right tip. 99 is off the
+    // cap.
+    EXPECT_THAT(Locations(model.pier.m_BearingList),
+                ElementsAre(Row{0, 2, 1, 1}, Row{1, 2, 1, 0}, Row{2, 2, 0, 1}, Row{3, 2, 0, 0}));
+    EXPECT_THAT(model.pier.m_BearingX, ElementsAre(20, 0, 40, 0));
+}
+
+TEST(CapBearings, TwoRowsMergeByXAndShareAnEntryAtEqualX) {
+    CapSpec spec = TwoColumns();
+    spec.bearingNodes = {{7, 8}, {6, 8, 12}};  // x 5 20 and 0 20 35
+    const CapModel model(spec);
+    EXPECT_EQ(model.pier.m_nCapBearings, 4);
+    EXPECT_EQ(model.pier.m_nMaxRowBearings, 3);
+    EXPECT_THAT(Locations(model.pier.m_BearingList),
+                ElementsAre(Row{0, 1, 1, 0}, Row{0, 0, 1, 1}, Row{1, 3, 1, 1}, Row{2, 1, 1, 1}));
+    EXPECT_THAT(model.pier.m_BearingX, ElementsAre(0, 5, 20, 35));
+}
+
+TEST(CapBearings, EqualXOnDifferentNodesLeavesAnUnusedEntry) {
+    CapSpec spec = TwoColumns();
+    spec.bearingNodes = {{5}, {4}};  // the top of column 1 and the node below it: both at x 10
+    const CapModel model(spec);
+    // The length counts nodes, the merge compares x: two places for one entry, the second keeps zeros.
+    EXPECT_EQ(model.pier.m_nCapBearings, 2);
+    EXPECT_THAT(Locations(model.pier.m_BearingList), ElementsAre(Row{0, 3, 1, 1}, Row{0, 0, 0, 0}));
+    EXPECT_THAT(model.pier.m_BearingX, ElementsAre(10, 0));
+}
+
+TEST(CapBearings, ListNeverGrowsPastItsLength) {
+    CapSpec spec = TwoColumns();
+    spec.bearingNodes = {{12, 6},
+                         {6, 12}};  // left row 35 0, right row 0 35: no pair of cursors meets at first
+    const CapModel model(spec);
+    // Every node of the right row is one of the left, so the length is 2; the merge wants three: the right
+    // bearing at 0, both at 35, the left one at 0.
+    EXPECT_EQ(model.pier.m_nCapBearings, 2);
+    EXPECT_THAT(Locations(model.pier.m_BearingList), ElementsAre(Row{0, 1, 1, 0}, Row{0, 3, 1, 1}));
+}
+
+TEST(CapPoints, SupportsComeBeforeBearingsAtTheSameX) {
+    CapSpec spec = TwoColumns();
+    spec.width = 10;               // faces at 5 15 25 35
+    spec.bearingNodes = {{7, 8}};  // 5 20
+    CapModel model(spec);
+    model.ComputeShear();
+    model.ComputeMoment();
+    EXPECT_THAT(model.pier.m_ShearPointX, ElementsAre(5, 5, 5, 10, 10, 15, 20, 20, 25, 30, 30, 35));
+    EXPECT_THAT(model.pier.m_MomentPointX, ElementsAre(5, 5, 10, 15, 20, 25, 30, 35));
+    EXPECT_EQ(model.pier.NextShearPoint(0, 0), 0);  // the face at 5 before the bearing at 5
+    EXPECT_EQ(model.pier.NextShearPoint(1, 0), 1);  // 5 before 10
+    EXPECT_EQ(model.pier.NextShearPoint(8, 1), 1);  // supports have run out
+    EXPECT_EQ(model.pier.NextShearPoint(8, 2), -1);
+    EXPECT_EQ(model.pier.NextMomentPoint(5, 2), 0);  // bearings have run out
+}
+
+TEST(CapPoints, RebuildingGivesTheSameLists) {
+    CapModel model(TwoColumns());
+    model.ComputeShear();
+    const std::vector<double> first = model.pier.m_ShearPointX;
+    model.ComputeShear();
+    EXPECT_EQ(model.pier.m_ShearPointX, first);
+    EXPECT_THAT(model.pier.m_ShearSupportX, ElementsAre(8, 10, 10, 12, 28, 30, 30, 32));
+}
+
+TEST(CapPoints, WithoutCantileversTheShearListDropsTheLastCentreline) {
+    CapModel model(TwoColumnsWithoutCantilevers());
+    model.ComputeShear();
+    // Six locations exist: 1 LCL, 1 RCL, 1 RF, 2 LF, 2 LCL, 2 RCL; the list has room for four.
+    EXPECT_THAT(model.pier.m_ShearSupportX, ElementsAre(10, 10, 12, 28));
+    EXPECT_EQ(model.pier.m_ShearSupportList[3].m_nSupport, 1);
+    EXPECT_EQ(model.pier.m_ShearSupportList[3].m_nKind, 0);
+    EXPECT_EQ(model.pier.m_ShearPointX.size(), 4U);
+}
+
+TEST(CapPoints, CantileverShorterThanTheFaceLeavesTrailingZeros) {
+    CapSpec spec = TwoColumns();
+    spec.width = 22;  // the left face would lie at -1, left of the tip at 0; the right one at 41, past 40
+    CapModel model(spec);
+    EXPECT_FALSE(model.pier.IsShearSection(0, 0));
+    EXPECT_FALSE(model.pier.IsShearSection(1, 3));
+    EXPECT_TRUE(model.pier.IsShearSection(0, 3));
+    model.ComputeShear();
+    model.ComputeMoment();
+    EXPECT_THAT(model.pier.m_ShearSupportX, ElementsAre(10, 10, 21, 19, 30, 30, 0, 0));
+    EXPECT_THAT(model.pier.m_MomentSupportX, ElementsAre(10, 21, 19, 30, 0, 0));
+    EXPECT_EQ(model.pier.m_MomentSupportList[5].m_nSupport, 0);
+    EXPECT_EQ(model.pier.m_MomentSupportList[5].m_nKind, 0);
+    // The unused entries at 0 stand behind everything in the walk, since supports are taken in list order.
+    EXPECT_THAT(model.pier.m_MomentPointX, ElementsAre(10, 21, 19, 30, 0, 0));
+}
