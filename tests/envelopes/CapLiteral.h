@@ -1,0 +1,57 @@
+#pragma once
+
+#include "model/Pier.h"
+
+// The cap searches in their plainest form: one search over the load cases for each class, sense and side,
+// step by step, every value looked up anew. Slow and long on purpose; the searches of the product must agree
+// with it.
+class LiteralCap {
+  public:
+    explicit LiteralCap(CPier& source)
+        : pier(source),
+          shearSupports(source.m_ShearSupports),
+          shearBearings(source.m_ShearBearings),
+          momentSupports(source.m_MomentSupports),
+          momentBearings(source.m_MomentBearings) {}
+
+    void ShearAtSupports() { AtSupports(true); }
+    void MomentAtSupports() { AtSupports(false); }
+    void ShearAtBearings();
+    void MomentAtBearings();
+
+    CPier& pier;
+    CCapTable shearSupports, shearBearings, momentSupports, momentBearings;
+
+  private:
+    // A candidate of a section: the element on its left or its right.
+    struct Candidate {
+        bool found = false;
+        CCapPlace place;
+        double t = 0.0;
+        int end = 0;
+    };
+    struct Outcome {
+        int status = 1;  // absent
+        int loadCase = -1;
+        double value = 0.0;
+    };
+    using Reader = double (LiteralCap::*)(const Candidate&, int loadCase, int component) const;
+
+    bool IsInClass(int loadCase, int slot) const;
+    int ElementOf(const Candidate& candidate) const;
+    double ReadEnd(const Candidate& candidate, int loadCase, int component) const;
+    double ReadInside(const Candidate& candidate, int loadCase, int component) const;
+    int Search(Reader reader, bool seesMask, int component, int sense, const Candidate& candidate, int slot,
+               int& loadCase, int tie) const;
+    int AtSection(int component, int sense, Candidate& candidate, int slot, int& loadCase, int tie) const;
+    Outcome Evaluate(Candidate& candidate, bool atNode, bool shear, int sense, int slot) const;
+    Outcome EvaluateBearing(const Candidate& candidate, int component, int sense, int slot, int tie) const;
+    double MaskedRead(const Candidate& candidate, bool atNode, int loadCase, int component) const;
+    int Choose(bool shear, int sense, const Outcome& a, const Outcome& b, double dcA, double dcB) const;
+
+    void AtSupports(bool shear);
+    void AtLocation(bool shear, int support, int kind);
+    void FindAtNode(Candidate& candidate, int node) const;
+    void Store(CCapEntry& entry, const Candidate& chosen, const Outcome& outcome, bool atNode,
+               int node) const;
+};
