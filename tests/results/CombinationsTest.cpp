@@ -1,0 +1,172 @@
+#include "ResultProject.h"
+#include "results/CollectData.h"
+
+namespace {
+
+const CPier& First() {
+    return g_DataSet.FirstPier();
+}
+
+ResultProject& WithFamily(ResultProject& project, int family, int cases, const std::string& rows) {
+    project.cases = cases;
+    project.substructures[0].codeFamily = family;
+    project.Write([](std::size_t, int, int, int) { return 0.0F; });
+    project.WriteFile(".LIM", "LIMIT STATES\nA= 1 F= 2\ntext\nmore text\n" + rows + ":\n");
+    return project;
+}
+
+}  // namespace
+
+TEST(Combinations, RowsOfTheListGiveNamesNumbersAndClasses) {
+    ResultProject project;
+    WithFamily(project, 0, 6, "101 1 3\n108 7 2\n");
+    ASSERT_TRUE(project.Load());
+    const int numbers[] = {1, 2, 3, 7, 8, 0};
+    const char* names[] = {"STRENGTH-I", "STRENGTH-I", "STRENGTH-I", "SERVICE-I", "SERVICE-I", "none"};
+    const int classes[] = {0, 0, 0, 1, 1, 0};
+    for (std::size_t c = 0; c < 6; ++c) {
+        EXPECT_EQ(First().m_LoadCases[c].m_nNumber, numbers[c]) << c;
+        EXPECT_EQ(First().m_LoadCases[c].m_sLimitState, names[c]) << c;
+        EXPECT_EQ(First().m_LoadCases[c].m_nLimitClass, classes[c]) << c;
+    }
+    EXPECT_THAT(First().m_nFirstOfClass, testing::ElementsAre(0, 3, -1, -1));
+    EXPECT_TRUE(First().m_bCombinations);
+}
+
+TEST(Combinations, AListOutOfUseLeavesEveryCaseWithoutALimitState) {
+    ResultProject project;
+    WithFamily(project, 0, 2, "101 1 2\n");
+    project.WriteFile(".LIM", "x\nA= 0 F= 1\nx\nx\n112 1 2\n:\n");
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(First().m_LoadCases[1].m_sLimitState, "none");
+    EXPECT_EQ(First().m_LoadCases[1].m_nLimitClass, 0);
+    EXPECT_THAT(First().m_nFirstOfClass, testing::ElementsAre(0, -1, -1, -1));
+}
+
+TEST(Combinations, ARowOfNoneAssignsNothing) {
+    ResultProject project;
+    WithFamily(project, 0, 3, "101 1 1\n106 5 0\n108 2 1\n");
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(First().m_LoadCases[1].m_sLimitState, "SERVICE-I");
+    EXPECT_EQ(First().m_LoadCases[1].m_nNumber, 2);
+    EXPECT_EQ(First().m_LoadCases[2].m_sLimitState, "none");
+}
+
+TEST(Combinations, ARowThatTakesBackCasesNeverWritesBeforeTheFirst) {
+    ResultProject project;
+    WithFamily(project, 0, 2, "101 1 -3\n112 1 4\n");
+    ASSERT_TRUE(project.Load());
+    // Three of the four positions lie before the first case.
+    EXPECT_EQ(First().m_LoadCases[0].m_sLimitState, "FATIGUE-I");
+    EXPECT_EQ(First().m_LoadCases[0].m_nNumber, 4);
+    EXPECT_EQ(First().m_LoadCases[1].m_sLimitState, "none");
+}
+
+TEST(Combinations, ALineWithoutThreeNumbersIsPassedOver) {
+    ResultProject project;
+    WithFamily(project, 0, 2, "words\n101 1\n\n101 1 2\n");
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(First().m_LoadCases[1].m_sLimitState, "STRENGTH-I");
+}
+
+TEST(Combinations, TheSecondOfTheSkippedLinesMayHoldTheFirstRow) {
+    ResultProject project;
+    WithFamily(project, 0, 1, "");
+    project.WriteFile(".LIM", "x\nA= 1 F= 1\nx\n106 4 1\n:\n");
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(First().m_LoadCases[0].m_sLimitState, "EXTREME-I");
+}
+
+TEST(Combinations, MoreRowsThanCasesEndTheList) {
+    ResultProject project;
+    WithFamily(project, 0, 2, "101 1 1\n106 2 3\n112 9 1\n");
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(First().m_LoadCases[1].m_nLimitClass, 2);
+    EXPECT_THAT(First().m_nFirstOfClass, testing::ElementsAre(0, -1, 1, -1));
+}
+
+TEST(Combinations, FatigueAloneLeavesTheOtherClassesAbsent) {
+    ResultProject project;
+    WithFamily(project, 0, 2, "112 1 2\n");
+    ASSERT_TRUE(project.Load());
+    EXPECT_THAT(First().m_nFirstOfClass, testing::ElementsAre(-1, -1, -1, 0));
+    EXPECT_TRUE(g_DataSet.HasOnlyFatigue());
+}
+
+TEST(Combinations, LoadFactorDesignHasOneClassAndNoFirstCases) {
+    ResultProject project;
+    WithFamily(project, 1, 2, "201 1 1\n210 2 1\n");
+    ASSERT_TRUE(project.Load());
+    EXPECT_TRUE(First().m_bCombinations);
+    EXPECT_EQ(First().m_LoadCases[1].m_sLimitState, "GROUP-IX");
+    EXPECT_EQ(First().m_LoadCases[1].m_nLimitClass, 0);
+    EXPECT_THAT(First().m_nFirstOfClass, testing::ElementsAre(-1, -1, -1, -1));
+}
+
+TEST(Combinations, AnUnknownCodeIsToldForEachCombinationAndCountsAsService) {
+    ResultProject project;
+    WithFamily(project, 2, 3, "101 1 2\n318 3 1\n");
+    const MessageLog log;
+    ASSERT_TRUE(project.Load());
+    EXPECT_THAT(log.texts, testing::ElementsAre("Invalid limit state", "Invalid limit state"));
+    EXPECT_EQ(First().m_LoadCases[0].m_nLimitClass, 1);
+    EXPECT_EQ(First().m_LoadCases[2].m_sLimitState, "SLD-GROUP-VIII");
+}
+
+TEST(Combinations, TheNamesFollowTheCodes) {
+    EXPECT_EQ(CCollectData::LimitStateName(101), "STRENGTH-I");
+    EXPECT_EQ(CCollectData::LimitStateName(113), "FATIGUE-II");
+    EXPECT_EQ(CCollectData::LimitStateName(211), "GROUP-VESSEL");
+    EXPECT_EQ(CCollectData::LimitStateName(304), "LFD-GROUP-III");
+    // The host names 305 as 307.
+    EXPECT_EQ(CCollectData::LimitStateName(305), "LFD-GROUP-VI");
+    EXPECT_EQ(CCollectData::LimitStateName(307), "LFD-GROUP-VI");
+    EXPECT_EQ(CCollectData::LimitStateName(310), "LFD-GROUP-IX");
+    for (const int code : {0, 100, 114, 200, 212, 300, 319})
+        EXPECT_EQ(CCollectData::LimitStateName(code), "ERROR 1");
+}
+
+TEST(Combinations, ATitleMayLookLikeAMark) {
+    ResultProject project;
+    WithFamily(project, 0, 3, "101 1 3\n");
+    project.WriteFile(
+        ".CMB",
+        "heading\r\n[Comb. 1]\r\n[Comb. in its title\r\n\r\nx\r\n[Comb. 2]\r\n  Dead and live \r\n"
+        "a\nb\nc\nd\ne\n[Comb. 3]\nlate\n");
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(First().m_LoadCases[0].m_sName, "[Comb. in its title");
+    EXPECT_EQ(First().m_LoadCases[1].m_sName, "Dead and live ");
+    // Four lines without a mark are looked at; the line behind them stands for the title.
+    EXPECT_EQ(First().m_LoadCases[2].m_sName, "e");
+}
+
+TEST(Combinations, WithoutAFamilyFileTheTextFilesAreStillRead) {
+    ResultProject project;
+    project.Write();
+    project.WriteFile(".LIM", "x\nA= 1\nx\nx\n101 5 1\n:\n");
+    ASSERT_TRUE(project.Load());
+    EXPECT_FALSE(First().m_bCombinations);
+    EXPECT_EQ(First().m_nCodeFamily, -1);
+    EXPECT_EQ(First().m_LoadCases[0].m_sName, "");
+    EXPECT_EQ(First().m_LoadCases[0].m_nNumber, 5);
+}
+
+TEST(Combinations, AFamilyOfNoneLeavesTheTextFilesUnread) {
+    ResultProject project;
+    WithFamily(project, -1, 2, "101 1 2\n");
+    ASSERT_TRUE(project.Load());
+    EXPECT_FALSE(First().m_bCombinations);
+    EXPECT_EQ(First().m_LoadCases[0].m_sName, "none");
+    EXPECT_EQ(First().m_LoadCases[0].m_sLimitState, "none");
+}
+
+TEST(Combinations, NamesGoToTheFirstSubstructureAndClassesToEach) {
+    ResultProject project;
+    project.substructures.resize(2);
+    project.substructures[1].codeFamily = 0;
+    WithFamily(project, 0, 2, "106 3 2\n");
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(g_DataSet.m_Piers[1].m_LoadCases[0].m_nLimitClass, 2);
+    EXPECT_EQ(g_DataSet.m_Piers[1].m_LoadCases[0].m_sLimitState, "none");
+    EXPECT_EQ(g_DataSet.m_Piers[0].m_LoadCases[0].m_sLimitState, "EXTREME-I");
+}

@@ -1,0 +1,139 @@
+#include "ResultProject.h"
+
+namespace {
+
+// The load must end in a file exception whose text names the file and holds the words.
+void ExpectFault(const ResultProject& project, const std::string& file, const std::string& words) {
+    try {
+        project.Load();
+        FAIL() << "loaded in spite of " << words;
+    } catch (const CFileException& error) {
+        EXPECT_THAT(std::string(error.what()), testing::HasSubstr(file));
+        EXPECT_THAT(std::string(error.what()), testing::HasSubstr(words));
+    }
+}
+
+}  // namespace
+
+TEST(LoadProject, LaterSubstructuresCarryTheirNumbers) {
+    ResultProject project;
+    project.substructures.resize(3);
+    project.substructures[1].pileSections = {{2, 2}, {2, 2}};
+    project.Write();
+    EXPECT_TRUE(std::filesystem::exists(project.Path(".PLF2")));
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(g_DataSet.m_Piers.size(), 3U);
+    EXPECT_EQ(g_DataSet.m_Piers[0].Element(0).m_nSection, 1);
+    EXPECT_EQ(g_DataSet.m_Piers[1].Element(0).m_nSection, 2);
+    EXPECT_EQ(g_DataSet.m_Piers[2].Element(0).m_nSection, 1);
+}
+
+TEST(LoadProject, FilesAreFoundWhateverTheCaseOfTheirNames) {
+    ResultProject project;
+    project.Write();
+    for (const auto& [is, was] : {std::pair{".plf", ".PLF"},
+                                  {".pil", ".PIL"},
+                                  {".NCV", ".ncv"},
+                                  {".VMD", ".vmd"},
+                                  {".twr", ".TWR"}}) {
+        std::filesystem::rename(project.Path(was), project.Path(is));
+    }
+    EXPECT_TRUE(project.Load());
+}
+
+TEST(LoadProject, EveryCaseIsSelectedAtFirst) {
+    ResultProject project;
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    EXPECT_THAT(g_DataSet.FirstPier().m_CaseSelected, testing::ElementsAre(1, 1));
+}
+
+TEST(LoadProject, WithoutColumnsThereIsNoFrame) {
+    ResultProject project;
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    const CFrame& frame = g_DataSet.FirstPier().m_Frame;
+    EXPECT_TRUE(frame.m_Columns.empty());
+    EXPECT_EQ(frame.m_Beam.m_nElements, 0);
+    EXPECT_EQ(frame.m_Cantilevers[0].m_nElements, 0);
+}
+
+TEST(LoadProject, OnlyAFirstCapKeepsTheShearTableValid) {
+    ResultProject project;
+    project.substructures[0] = MakePier();
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    EXPECT_TRUE(g_DataSet.m_bTableValid[3]);
+    project.substructures = {ResultSubstructure{}, MakePier()};
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    EXPECT_FALSE(g_DataSet.m_bTableValid[3]);
+}
+
+TEST(LoadProject, MissingFilesAreNamed) {
+    for (const char* suffix : {".TWR", ".PLF", ".PIL", ".ncv", ".vmd", ".pls"}) {
+        ResultProject project;
+        project.substructures[0] = MakePier();
+        project.Write();
+        project.Remove(suffix);
+        EXPECT_THROW(project.Load(), CFileException) << suffix;
+    }
+}
+
+TEST(LoadProject, CountsThatLieAreNamed) {
+    ResultProject project;
+    project.Write();
+    project.WriteFile(".TWR", SeqBytes().Ints({-1}).End());
+    ExpectFault(project, "p.TWR", "-1 substructures");
+    project.WriteFile(".TWR", SeqBytes().Ints({2000000000}).End());
+    ExpectFault(project, "p.TWR", "2000000000 substructures");
+    project.Write();
+    project.WriteFile(".ncv", ResultProject::Convergence(2000000000).End());
+    ExpectFault(project, "p.vmd", "2000000000 load cases");
+    project.WriteFile(".ncv", ResultProject::Convergence(-4).End());
+    ExpectFault(project, "p.ncv", "-4 load cases");
+    project.Write();
+    project.WriteFile(".PLF", SeqBytes().Ints({1 << 30}).End());
+    ExpectFault(project, "p.PLF", "1073741824 section blocks");
+    project.substructures[0].columns = 1 << 30;
+    project.Write();
+    ExpectFault(project, "p.PLF", "1073741824 columns");
+    project.substructures[0] = ResultSubstructure{};
+    project.substructures[0].type = 12;
+    project.Write();
+    ExpectFault(project, "p.PLF", "structure type 12");
+}
+
+TEST(LoadProject, ATruncatedFileIsNamedWithTheRecordThatIsMissing) {
+    ResultProject project;
+    project.Write();
+    std::filesystem::resize_file(project.Path(".PLF"), 40);
+    ExpectFault(project, "p.PLF", "section record");
+    project.Write();
+    std::filesystem::resize_file(project.Path(".PIL"), 20);
+    ExpectFault(project, "p.PIL", "pile model counts");
+    project.Write();
+    std::filesystem::resize_file(project.Path(".ncv"), 3);
+    ExpectFault(project, "p.ncv", "case count");
+}
+
+TEST(LoadProject, EveryTruncationOfEverySequentialFileLoadsOrIsNamed) {
+    ResultProject project;
+    project.substructures[0] = MakePier();
+    project.substructures[0].codeFamily = 0;
+    for (const char* suffix : {".TWR", ".PLF", ".PIL", ".ncv", ".pls", ".ash"}) {
+        project.Write();
+        const auto size = std::filesystem::file_size(project.Path(suffix));
+        for (std::uintmax_t cut = 0; cut < size; ++cut) {
+            project.Write();
+            std::filesystem::resize_file(project.Path(suffix), cut);
+            const MessageLog log;
+            try {
+                project.Load();
+            } catch (const CFileException& error) {
+                EXPECT_THAT(std::string(error.what()), testing::HasSubstr("p."))
+                    << suffix << " cut at " << cut;
+            }
+        }
+    }
+}

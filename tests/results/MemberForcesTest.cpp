@@ -1,0 +1,196 @@
+#include <cmath>
+#include <limits>
+
+#include "ResultProject.h"
+
+// Which record of the force file feeds which element, and with which sign.
+
+namespace {
+
+double Force(int loadCase, int element, int end, int component) {
+    return GetForce(g_DataSet.FirstPier().Forces(loadCase, element), end, component);
+}
+
+// The record of a block that an element was fed from, by PlainWord: record * 100 + word 13 at FAX I.
+int RecordOf(int loadCase, int element) {
+    return static_cast<int>(Force(loadCase, element, kEndI, kAxial) - 13 - loadCase * 10000) / 100;
+}
+
+float Ones(std::size_t, int, int, int) {
+    return 1.0F;
+}
+
+}  // namespace
+
+TEST(MemberForces, APileElementTurnsTheSignsOfItsRecord) {
+    ResultProject project;
+    project.Write(Ones);
+    ASSERT_TRUE(project.Load());
+    const double i[] = {1, -1, -1, 1, 1, -1, 1};
+    const double j[] = {1, 1, 1, -1, -1, -1, 1};
+    for (int component = 0; component < 7; ++component) {
+        EXPECT_EQ(Force(0, 0, kEndI, component), i[component]) << component;
+        EXPECT_EQ(Force(0, 0, kEndJ, component), j[component]) << component;
+    }
+}
+
+TEST(MemberForces, AColumnElementKeepsTheTorqueAtI) {
+    ResultProject project;
+    project.substructures[0] = MakePier();
+    project.Write(Ones);
+    ASSERT_TRUE(project.Load());
+    const int column = g_DataSet.FirstPier().ColumnElement(1, 0);
+    EXPECT_EQ(Force(0, column, kEndI, kF22), -1.0);
+    EXPECT_EQ(Force(0, column, kEndJ, kF22), 1.0);
+    EXPECT_EQ(Force(0, column, kEndI, kTorque), 1.0);
+    EXPECT_EQ(Force(0, column, kEndJ, kTorque), -1.0);
+}
+
+TEST(MemberForces, EachWordGoesToItsComponent) {
+    ResultProject project;
+    project.Write([](std::size_t, int, int, int w) { return static_cast<float>(w); });
+    ASSERT_TRUE(project.Load());
+    const double i[] = {13, -1, -2, 6, 5, -15, 11};
+    const double j[] = {14, 3, 4, -8, -7, -16, 12};
+    for (int component = 0; component < 7; ++component) {
+        EXPECT_EQ(Force(1, 3, kEndI, component), i[component]) << component;
+        EXPECT_EQ(Force(1, 3, kEndJ, component), j[component]) << component;
+    }
+}
+
+TEST(MemberForces, PilesComeInOrderFromTheHeadCaseAfterCase) {
+    ResultProject project;
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    const CPier& pier = g_DataSet.FirstPier();
+    for (int c = 0; c < 2; ++c) {
+        for (int p = 0; p < 2; ++p) {
+            for (int e = 0; e < 2; ++e) EXPECT_EQ(RecordOf(c, pier.PileElement(p, e)), p * 2 + e + 1);
+        }
+    }
+}
+
+TEST(MemberForces, APiersElementsTakeTheRecordsOfTheirNumbers) {
+    ResultProject project;
+    project.substructures[0] = MakePier();
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    const CPier& pier = g_DataSet.FirstPier();
+    // Four pile records come first; element number n is record 4 + n.
+    const CFrame& frame = pier.m_Frame;
+    for (int e = 0; e < 2; ++e) {
+        EXPECT_EQ(RecordOf(1, pier.ColumnElement(0, e)), 4 + 9 + e);
+        EXPECT_EQ(RecordOf(1, frame.m_Cantilevers[0].m_nFirstElement + e), 4 + 11 + e);
+        EXPECT_EQ(RecordOf(1, frame.m_Beam.m_nFirstElement + e), 4 + 13 + e);
+        EXPECT_EQ(RecordOf(1, pier.ColumnElement(1, e)), 4 + 15 + e);
+        EXPECT_EQ(RecordOf(1, frame.m_Cantilevers[1].m_nFirstElement + e), 4 + 17 + e);
+    }
+}
+
+TEST(MemberForces, AnElementAtAGapStaysAtZero) {
+    ResultProject project;
+    project.substructures[0] = MakePier();
+    ResultSubstructure& sub = project.substructures[0];
+    // Number 14, the second element of the span, has no row: the rows behind it move up by one record.
+    sub.rows.erase(sub.rows.begin() + 13);
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    const CPier& pier = g_DataSet.FirstPier();
+    const CFrame& frame = pier.m_Frame;
+    const int span = frame.m_Beam.m_nFirstElement;
+    EXPECT_EQ(RecordOf(0, span), 4 + 13);
+    for (int component = 0; component < 7; ++component) EXPECT_EQ(Force(0, span + 1, kEndI, component), 0.0);
+    EXPECT_EQ(pier.Element(span + 1).m_nSection, -1);
+    EXPECT_TRUE(pier.IsMasked(span + 1));
+    EXPECT_FALSE(pier.IsMasked(span));
+    EXPECT_EQ(RecordOf(0, pier.ColumnElement(1, 0)), 4 + 14);
+    EXPECT_EQ(RecordOf(0, frame.m_Cantilevers[1].m_nFirstElement + 1), 4 + 17);
+    EXPECT_EQ(pier.Element(frame.m_Cantilevers[1].m_nFirstElement).m_nSection, 4);
+}
+
+TEST(MemberForces, RatiosThatAreNoNumbersReadAsZeroInPilesAlone) {
+    ResultProject project;
+    ResultSubstructure& sub = project.substructures[0];
+    sub.extraMembers = 1;
+    sub.xMemberSections = 1;
+    sub.rows = {{1, 1, 2, 7}};
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    project.Write([nan](std::size_t, int, int, int w) { return w == 11 || w == 12 ? nan : 2.0F; });
+    ASSERT_TRUE(project.Load());
+    const CPier& pier = g_DataSet.FirstPier();
+    EXPECT_EQ(Force(0, 0, kEndI, kDemandCapacity), 0.0);
+    EXPECT_EQ(Force(0, 0, kEndJ, kDemandCapacity), 0.0);
+    const int extra = pier.m_Frame.m_XMembers[0].m_nFirstElement;
+    EXPECT_TRUE(std::isnan(Force(0, extra, kEndI, kDemandCapacity)));
+    EXPECT_TRUE(pier.m_bPileForcesFinite);
+    EXPECT_FALSE(pier.m_bXMemberForcesFinite);
+}
+
+TEST(MemberForces, TheLastRecordsOfABlockAreTheExtraMembers) {
+    ResultProject project;
+    ResultSubstructure& sub = project.substructures[0];
+    sub.extraMembers = 2;
+    sub.xMemberSections = 2;
+    sub.rows = {{1, 1, 1, 1}, {2, 4, 9, 8}, {3, 5, 10, 7}};
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    const CPier& pier = g_DataSet.FirstPier();
+    for (int x = 0; x < 2; ++x) {
+        const int element = pier.m_Frame.m_XMembers[static_cast<std::size_t>(x)].m_nFirstElement;
+        EXPECT_EQ(RecordOf(0, element), 4 + 2 + x);
+        EXPECT_EQ(pier.Element(element).m_nElementNumber, 2 + x);
+        EXPECT_EQ(pier.Element(element).m_nNodeI, 4 + x);
+        EXPECT_EQ(pier.Element(element).m_nNodeJ, 9 + x);
+        EXPECT_EQ(pier.Element(element).m_nSection, 8 - x);
+    }
+    EXPECT_EQ(pier.m_nXMemberFirstSection, 7);
+}
+
+TEST(MemberForces, AFirstGroupKeepsTheFramesOfLaterSubstructuresUnread) {
+    ResultProject project;
+    project.substructures = {ResultSubstructure{}, MakePier()};
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    const CPier& pier = g_DataSet.m_Piers[1];
+    EXPECT_EQ(GetForce(pier.Forces(0, pier.ColumnElement(0, 0)), kEndI, kAxial), 0.0);
+    EXPECT_NE(GetForce(pier.Forces(0, pier.PileElement(0, 0)), kEndI, kAxial), 0.0);
+}
+
+TEST(MemberForces, AShortFileRepeatsTheRecordBeforeAndSaysSoOnce) {
+    ResultProject project;
+    project.Write();
+    std::filesystem::resize_file(project.Path(".vmd"), 68 * 6 + 20);
+    const MessageLog log;
+    ASSERT_TRUE(project.Load());
+    ASSERT_EQ(log.texts.size(), 1U);
+    EXPECT_THAT(log.texts[0], testing::HasSubstr("p.vmd"));
+    EXPECT_THAT(log.texts[0], testing::HasSubstr(": 2 force records are missing"));
+    EXPECT_TRUE(g_DataSet.m_bForceFileShort);
+    const CPier& pier = g_DataSet.FirstPier();
+    // Case 1 has its first pile; both elements of the second take the second element's record.
+    EXPECT_EQ(RecordOf(1, pier.PileElement(0, 1)), 2);
+    EXPECT_EQ(RecordOf(1, pier.PileElement(1, 0)), 2);
+    EXPECT_EQ(RecordOf(1, pier.PileElement(1, 1)), 2);
+}
+
+TEST(MemberForces, AMissingFileIsNamed) {
+    ResultProject project;
+    project.Write();
+    project.Remove(".vmd");
+    try {
+        project.Load();
+        FAIL();
+    } catch (const CFileException& error) {
+        EXPECT_THAT(std::string(error.what()), testing::HasSubstr("p.vmd"));
+    }
+}
+
+TEST(MemberForces, ALongFileIsReadInPiecesWithoutASeam) {
+    ResultProject project;
+    project.cases = 9000;  // 36000 records, more than one piece
+    project.Write([](std::size_t, int c, int r, int) { return static_cast<float>(c * 4 + r); });
+    ASSERT_TRUE(project.Load());
+    for (const int c : {0, 1, 8190, 8191, 8192, 8193, 8999}) {
+        for (int e = 0; e < 4; ++e) EXPECT_EQ(Force(c, e, kEndI, kAxial), c * 4 + e + 1);
+    }
+}
