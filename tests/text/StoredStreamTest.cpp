@@ -1,0 +1,162 @@
+// The text stream that stores its line feeds expanded, on every platform.
+#include "text/StoredStream.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+
+namespace {
+
+class StoredText : public testing::Test {
+  protected:
+    void SetUp() override {
+        m_folder = std::filesystem::path(testing::TempDir()) /
+                   ("stored-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
+        std::filesystem::create_directories(m_folder);
+    }
+    void TearDown() override { std::filesystem::remove_all(m_folder); }
+
+    std::string Path() const { return (m_folder / "table.txt").string(); }
+    std::string Stored() const {
+        std::ifstream file(Path(), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    static std::string Expanded(const std::string& text) {
+        std::string out;
+        for (const char c : text) {
+            if (c == '\n') out += '\r';
+            out += c;
+        }
+        return out;
+    }
+
+    std::filesystem::path m_folder;
+};
+
+TEST_F(StoredText, ALineFeedTakesTwoBytes) {
+    StoredStream out(Path());
+    out << "a\n"
+        << "\n"
+        << "b";
+    out.Close();
+    EXPECT_EQ(Stored(), "a\r\n\r\nb");
+}
+
+TEST_F(StoredText, ACarriageReturnOfTheTextIsKeptBesideTheExpansion) {
+    StoredStream out(Path());
+    out << "a\r\nb";
+    out.Close();
+    EXPECT_EQ(Stored(), "a\r\r\nb");
+}
+
+TEST_F(StoredText, PositionsCountStoredBytes) {
+    StoredStream out(Path());
+    EXPECT_EQ(out.Position(), 0);
+    out << "obj\n";
+    EXPECT_EQ(out.Position(), 5);
+    out << "\n\n";
+    EXPECT_EQ(out.Position(), 9);
+    out << "";
+    EXPECT_EQ(out.Position(), 9);
+    out << std::string_view("a\0b", 3);
+    EXPECT_EQ(out.Position(), 12);
+    out.Close();
+    EXPECT_EQ(Stored(), std::string("obj\r\n\r\n\r\na\0b", 12));
+}
+
+// Line feeds in every place around the end of the buffer, where the two bytes must not be parted wrongly.
+TEST_F(StoredText, LineFeedsSurviveTheEndOfTheBuffer) {
+    constexpr std::size_t kBuffer = std::size_t{1} << 18;
+    for (std::size_t before = kBuffer - 4; before <= kBuffer + 2; ++before) {
+        const std::string text = std::string(before, 'x') + "\n\ny\n";
+        StoredStream out(Path());
+        out << text;
+        EXPECT_EQ(out.Position(), static_cast<std::int64_t>(before) + 7);
+        out.Close();
+        EXPECT_FALSE(out.Failed());
+        ASSERT_TRUE(Stored() == Expanded(text)) << before;
+    }
+}
+
+TEST_F(StoredText, PiecesOfAnySizeAddUp) {
+    std::mt19937 random(3);
+    StoredStream out(Path());
+    std::string all;
+    for (int i = 0; i < 400; ++i) {
+        std::string piece(random() % 5000, 'a');
+        for (char& c : piece) c = random() % 8 == 0 ? '\n' : static_cast<char>('a' + random() % 26);
+        out << piece;
+        all += piece;
+        ASSERT_EQ(out.Position(), static_cast<std::int64_t>(Expanded(all).size()));
+    }
+    out.Close();
+    EXPECT_TRUE(Stored() == Expanded(all));
+}
+
+TEST_F(StoredText, AFileOfNothingButLineFeedsDoubles) {
+    StoredStream out(Path());
+    out << std::string(400'000, '\n');
+    out.Close();
+    EXPECT_TRUE(Stored() == Expanded(std::string(400'000, '\n')));
+}
+
+TEST_F(StoredText, OpeningTruncatesAndBeginsAtZero) {
+    StoredStream out(Path());
+    out << "an earlier and longer table\n";
+    out.Open(Path());
+    EXPECT_EQ(out.Position(), 0);
+    out << "new";
+    out.Close();
+    EXPECT_EQ(Stored(), "new");
+}
+
+TEST_F(StoredText, TheEndOfItsLifeStoresTheRest) {
+    { StoredStream(Path()) << "kept\n"; }
+    EXPECT_EQ(Stored(), "kept\r\n");
+}
+
+TEST_F(StoredText, AStreamThatCannotOpenSwallowsTheText) {
+    const std::filesystem::path missing = m_folder / "missing" / "table.txt";
+    StoredStream out(missing.string());
+    EXPECT_TRUE(out.Failed());
+    EXPECT_FALSE(out.IsOpen());
+    out << "into nothing\n";
+    EXPECT_EQ(out.Position(), 0);
+    out.Close();
+    EXPECT_TRUE(out.Failed());
+    EXPECT_FALSE(std::filesystem::exists(missing));
+}
+
+TEST_F(StoredText, AStreamThatWasNeverOpenedSwallowsTheText) {
+    StoredStream out;
+    out << "into nothing\n";
+    out.Close();
+    EXPECT_EQ(out.Position(), 0);
+    EXPECT_FALSE(out.IsOpen());
+}
+
+TEST_F(StoredText, AFullDeviceFailsAtTheCloseAndTheStateCanBeCleared) {
+    ASSERT_TRUE(std::filesystem::exists("/dev/full"));
+    StoredStream out("/dev/full");
+    ASSERT_TRUE(out.IsOpen());
+    out << "a table\n";
+    EXPECT_FALSE(out.Failed());  // still in the buffer
+    out.Close();
+    EXPECT_TRUE(out.Failed());
+    out.ClearState();
+    EXPECT_FALSE(out.Failed());
+}
+
+TEST_F(StoredText, AFullDeviceFailsWhenTheBufferIsFullToo) {
+    StoredStream out("/dev/full");
+    out << std::string(1'000'000, 'x');
+    EXPECT_TRUE(out.Failed());
+    out << "swallowed";
+    out.Close();
+    EXPECT_TRUE(out.Failed());
+}
+
+}  // namespace
