@@ -1,0 +1,294 @@
+#include "tables/ReportModel.h"
+
+// Tables 3 and 4, on result tables filled by hand.
+namespace {
+
+const std::string kShearHead =
+    "    LOCATION  ELEM  PROP       NODE  LOAD  I/J         FAX         F22         F33         M22         "
+    "M33"
+    "      TORQUE      D/C\n"
+    "      & SIDE   NO.   NO.        NO.  CASE           (Kips)      (Kips)      (Kips)    (Kip-ft)    "
+    "(Kip-ft)"
+    "    (Kip-ft)  (Ratio)\n\n";
+const std::string kMomentHead =
+    "    LOCATION  ELEM  PROP       NODE  LOAD  I/J         FAX         M22         M33      D/C\n"
+    "      & SIDE   NO.   NO.        NO.  CASE           (Kips)    (Kip-ft)    (Kip-ft)  (Ratio)\n\n";
+const std::string kShearKeyTail =
+    "    LF  = Left Face of Column                  L   = Left Side of Bearing\n"
+    "    RF  = Right Face of Column                 R   = Right Side of Bearing\n"
+    "    LCL = Left Centerline of Column            LR  = Bearing Is In The Left Row\n"
+    "    RCL = Right Centerline of Column           RR  = Bearing Is In The Right Row\n";
+const std::string kColumnWord = "    Col = Column                               Brg = Bearing\n";
+
+}  // namespace
+
+class CapTables : public ReportTest {
+  protected:
+    static void AddShearSection(CPier& pier, double x, int support, int kind) {
+        pier.m_ShearSupportX.push_back(x);
+        pier.m_ShearSupportList.push_back({support, kind});
+        pier.m_nCapShearSupports = static_cast<int>(pier.m_ShearSupportX.size());
+        CountRows(pier);
+    }
+    static void AddMomentSection(CPier& pier, double x, int support, int kind) {
+        pier.m_MomentSupportX.push_back(x);
+        pier.m_MomentSupportList.push_back({support, kind});
+        pier.m_nCapMomentSupports = static_cast<int>(pier.m_MomentSupportX.size());
+        CountRows(pier);
+    }
+    static void AddBearing(CPier& pier, double x, const CBearingLocation& location) {
+        pier.m_BearingX.push_back(x);
+        pier.m_BearingList.push_back(location);
+        pier.m_nCapBearings = static_cast<int>(pier.m_BearingX.size());
+        CountRows(pier);
+    }
+    static void CountRows(CPier& pier) {
+        pier.m_nCapShearPoints = pier.m_nCapShearSupports + 2 * pier.m_nCapBearings;
+        pier.m_nCapMomentPoints = pier.m_nCapMomentSupports + pier.m_nCapBearings;
+    }
+    static void AllocateCap(CPier& pier, int slots) {
+        pier.m_ShearSupports.Allocate(4, slots, 4);
+        pier.m_MomentSupports.Allocate(4, slots, 3);
+        pier.m_ShearBearings.Allocate(4, slots, 4);
+        pier.m_MomentBearings.Allocate(4, slots, 2);
+    }
+    static void Set(CCapEntry& entry, int loadCase, int element, int section, int end, int node,
+                    int second = 0) {
+        entry.record = CCapRecord{};
+        entry.record.m_nLoadCase = loadCase;
+        entry.record.m_nElementNumber = element;
+        entry.record.m_nSection = section;
+        entry.record.m_nEnd = end;
+        entry.record.m_nNode = node;
+        entry.record.m_nSecondNode = second;
+        entry.values = {1.0, -2.5, 3.0, 4.0, -1234.5, 6.0, 0.75};
+    }
+    static void SetMissing(CCapEntry& entry) { entry.record.m_nMissing = 1; }
+    // The lines of the block that begins with `heading`, up to the next empty line.
+    static std::string RowsBehind(const std::string& text, const std::string& heading) {
+        const std::size_t at = text.find(heading);
+        if (at == std::string::npos) return "no such heading";
+        const std::size_t first = at + heading.size();
+        return text.substr(first, text.find("\n\n", first) + 1 - first);
+    }
+};
+
+TEST_F(CapTables, ShearOfAPierInFull) {
+    AddPiers(1);
+    Fill(Pier(), 0, 1, 0, 2);
+    AllocateCap(Pier(), 1);
+    AddShearSection(Pier(), 1.0, 0, 0);
+    AddShearSection(Pier(), 3.0, 0, 3);
+    AddBearing(Pier(), 1.0, {0, 2, true, true});  // on the left face: the face comes first
+    Set(Pier().m_ShearSupports.At(0, 0, 0, 0), 0, 7, 2, kInsideElement, 11, 12);
+    Set(Pier().m_ShearSupports.At(0, 0, 3, 0), 1, 8, 2, kEndI, 13);
+    Set(Pier().m_ShearBearings.At(0, 0, 0, 0), 1, 9, 3, kEndJ, 14);
+    Set(Pier().m_ShearBearings.At(0, 0, 1, 0), 0, 10, 3, kEndI, 14);
+    Set(Pier().m_ShearSupports.At(0, 0, 0, 1), -1, 7, 2, kEndI, 11);
+    SetMissing(Pier().m_ShearSupports.At(0, 0, 3, 1));
+    Set(Pier().m_ShearBearings.At(0, 0, 0, 1), 1, 9, 3, kEndJ, 14);
+    Set(Pier().m_ShearBearings.At(0, 0, 1, 1), 0, 10, 3, kEndI, 14);
+    const std::string values =
+        "        1.00       -2.50        3.00        4.00    -1234.50        6.00     0.75\n";
+    EXPECT_EQ(
+        Text(&CWriteData::WriteCapShearText),
+        "\t                                        Pier Cap Shear F22 Design\n\n\n"
+        "Pier Cap Shear F22 Design, Substructure  1:\n"
+        "Maximum (+) Shear Forces at the Left and Right of the Bearings and at the Left Face, Right Face and"
+        " Centerline of Supports\n\n\n" +
+            kShearHead +  //
+            "    Col 1 LF     7     2      11,12     1  I,J" + values +
+            "     Brg 1 L     9     3         14     2    J" + values +
+            "     Brg 1 R    10     3         14     1    I" + values +
+            "    Col 1 RF     8     2         13     2    I" + values +
+            "\n\n\n"
+            "Pier Cap Shear F22 Design, Substructure  1:\n"
+            "Minimum (-) Shear Forces at the Left and Right of the Bearings and at the Left Face, Right Face "
+            "and"
+            " Centerline of Supports\n\n\n" +
+            kShearHead +
+            // The filler has the limit state gap in a table without that column.
+            "    Col 1 LF     7     2         11  none            ***  ***         ***         ***         "
+            "***"
+            "         ***         ***         ***      ***\n"
+            "     Brg 1 L     9     3         14     2    J" +
+            values + "     Brg 1 R    10     3         14     1    I" + values +
+            "    Col 1 RF  miss   ***        ***   ***  ***         ***         ***         ***         ***"
+            "         ***         ***      ***\n"
+            "\n\n \"Location & Side\" Key:\n\n" +
+            kColumnWord + kShearKeyTail);
+    EXPECT_EQ(m_nLines, 3 + (4 + 3 + 4) + 3 + (4 + 3 + 4) + 4 + 5);
+}
+
+TEST_F(CapTables, MomentOfAPierInFull) {
+    AddPiers(1);
+    Fill(Pier(), 0, 1, 0, 1);
+    AllocateCap(Pier(), 1);
+    AddMomentSection(Pier(), 2.0, 0, 1);
+    AddBearing(Pier(), 1.0, {0, 0, false, false});  // flags play no part in this table
+    AddBearing(Pier(), 3.0, {2, 1, false, false});
+    for (int extreme = 0; extreme < 2; ++extreme) {
+        Set(Pier().m_MomentSupports.At(0, 0, 1, extreme), 0, 7, 2, kEndI, 11);
+        Set(Pier().m_MomentBearings.At(0, 0, 0, extreme), 0, 9, 3, kEndJ, 14);
+        Set(Pier().m_MomentBearings.At(2, 0, 1, extreme), 0, 10, 3, -1, 15);
+    }
+    const std::string values = "        1.00        4.00    -1234.50     0.75\n";
+    const std::string rows = kMomentHead +  //
+                             "    Brg 1 LR     9     3         14     1    J" + values +
+                             "    Col 1 CL     7     2         11     1    I" + values +
+                             "    Brg 3 RR    10     3         15     1  ***" + values;
+    EXPECT_EQ(
+        Text(&CWriteData::WriteCapMomentText),
+        Blanks(32) +
+            "Pier Cap M33 Moment Design\n\n\n"
+            "Pier Cap M33 Moment Design, Substructure  1:\n"
+            "Maximum (+) Moment Forces at the Bearings and at the Left Face, Right Face and Centerline of"
+            " Supports\n"
+            "(+M33 = Tension at Bottom)\n\n\n" +
+            rows +
+            "\n\n\n"
+            "Pier Cap M33 Moment Design, Substructure  1:\n"
+            "Minimum (-) Moment Forces at the Bearings and at the Left Face, Right Face and Centerline of"
+            " Supports\n\n\n" +
+            rows + "\n\n \"Location & Side\" Key:\n\n" + kColumnWord +
+            "    LF  = Left Face of Column                  LR  = Bearing Is In The Left Row\n"
+            "    RF  = Right Face of Column                 RR  = Bearing Is In The Right Row\n"
+            "    CL  = Centerline of Column\n");
+    EXPECT_EQ(m_nLines, 3 + (5 + 3 + 3) + 3 + (4 + 3 + 3) + 4 + 4);
+}
+
+TEST_F(CapTables, ABearingSideWithoutItsFlagNamesItsElementAndNothingElse) {
+    AddPiers(1);
+    Fill(Pier(), 0, 1, 0, 1);
+    AllocateCap(Pier(), 1);
+    AddBearing(Pier(), 1.0, {0, 0, false, true});
+    AddBearing(Pier(), 2.0, {0, 1, true, false});
+    for (int kind = 0; kind < 4; ++kind) Set(Pier().m_ShearBearings.At(0, 0, kind, 0), 0, 9, 3, kEndJ, 14);
+    const std::string fillers =
+        "         ***         ***         ***         ***         ***         ***      ***\n";
+    const std::string values =
+        "        1.00       -2.50        3.00        4.00    -1234.50        6.00     0.75\n";
+    EXPECT_EQ(RowsBehind(Text(&CWriteData::WriteCapShearText), kShearHead),
+              "  Brg 1 L LR     9     3         14   *** none" + fillers +  //
+                  "  Brg 1 R LR     9     3         14     1    J" + values +
+                  "  Brg 1 L RR     9     3         14     1    J" + values +
+                  "  Brg 1 R RR     9     3         14   *** none" + fillers);
+}
+
+TEST_F(CapTables, FillersOfCombinationsHaveTheLimitStateGap) {
+    AddPiers(1);
+    Fill(Pier(), 0, 1, 0, 1);
+    MakeCombinations(Pier(), kFamilyLfd, {});
+    Pier().m_LoadCases[0].m_sLimitState = "GROUP-IA";
+    AllocateCap(Pier(), 1);
+    AddShearSection(Pier(), 1.0, 0, 1);
+    AddShearSection(Pier(), 1.0, 0, 2);
+    AddShearSection(Pier(), 2.0, 1, 9);  // no such kind
+    AddBearing(Pier(), 3.0, {0, 3, false, true});
+    SetMissing(Pier().m_ShearSupports.At(0, 0, 1, 0));
+    Set(Pier().m_ShearSupports.At(0, 0, 2, 0), 0, 7, 2, kEndI, 11);
+    Set(Pier().m_ShearBearings.At(0, 0, 0, 0), 0, 9, 3, kEndJ, 14);
+    Set(Pier().m_ShearBearings.At(0, 0, 1, 0), -1, 10, 3, kEndI, 14);
+    const std::string text = Text(&CWriteData::WriteCapShearText);
+    const std::string fillers =
+        "         ***         ***         ***         ***         ***         ***      ***\n";
+    EXPECT_NE(text.find("   Col 1 LCL  miss   ***        ***   ***            ***  ***" + fillers),
+              std::string::npos);
+    EXPECT_NE(
+        text.find("   Col 1 RCL     7     2         11     1       GROUP-IA    I        1.00       -2.50"),
+        std::string::npos);
+    EXPECT_NE(text.find("     Brg 1 L     9     3         14   ***            *** none" + fillers),
+              std::string::npos);
+    EXPECT_NE(text.find("     Brg 1 R    10     3         14  none            ***  ***" + fillers),
+              std::string::npos);
+    EXPECT_EQ(text.substr(0, text.find('\n')), Blanks(53) + "Pier Cap Shear F22 Design");
+    EXPECT_NE(text.find(" LOAD FACTOR DESIGN DATA\n\n    LOCATION"), std::string::npos);
+}
+
+TEST_F(CapTables, FatigueAloneHasItsBlockInTheMomentTable) {
+    AddPiers(1);
+    Fill(Pier(), 0, 1, 0, 1);
+    MakeCombinations(Pier(), kFamilyLrfd, {3});
+    AllocateCap(Pier(), 4);
+    AddMomentSection(Pier(), 1.0, 0, 0);
+    SetMissing(Pier().m_MomentSupports.At(0, 3, 0, 0));
+    SetMissing(Pier().m_MomentSupports.At(0, 3, 0, 1));
+    const std::string text = Text(&CWriteData::WriteCapMomentText);
+    const std::string row =
+        "    Col 1 LF  miss   ***        ***   ***            ***  ***         ***         ***         ***"
+        "      ***\n";
+    EXPECT_EQ(text.find("STRENGTH"), std::string::npos);
+    // Slot 3 is the last one, so no empty lines part it from what follows.
+    EXPECT_NE(text.find(row + "\n\n\nPier Cap M33 Moment Design, Substructure  1:\nMinimum"),
+              std::string::npos);
+    EXPECT_EQ(m_nLines, 3 + (5 + 2 + 3 + 1) + 3 + (4 + 2 + 3 + 1) + 4 + 4);
+    // The shear table has headings and no block at all.
+    Text(&CWriteData::WriteCapShearText);
+    EXPECT_EQ(m_nLines, 3 + 4 + 3 + 4 + 4 + 5);
+}
+
+TEST_F(CapTables, ASectionIsFollowedByItsGapThoughTheNextOneIsAbsent) {
+    AddPiers(1);
+    Fill(Pier(), 0, 1, 0, 1);
+    MakeCombinations(Pier(), kFamilyLrfd, {0, 2});
+    AllocateCap(Pier(), 4);
+    AddShearSection(Pier(), 1.0, 0, 0);
+    for (int slot = 0; slot < 4; ++slot) SetMissing(Pier().m_ShearSupports.At(0, slot, 0, 0));
+    const std::string text = Text(&CWriteData::WriteCapShearText);
+    EXPECT_NE(text.find("      ***\n\n\n EXTREME CASE DATA\n\n"), std::string::npos);
+    // The extreme block has its two empty lines too, before the three that end the extreme.
+    EXPECT_NE(text.find("      ***\n\n\n\n\n\nPier Cap Shear F22 Design, Substructure  1:\nMinimum"),
+              std::string::npos);
+    EXPECT_EQ(text.find("SERVICE"), std::string::npos);
+}
+
+TEST_F(CapTables, AMastHasItsWordInLabelsAndKey) {
+    AddPiers(1, kTypeMast);
+    Fill(Pier(), 0, 1, 0, 1);
+    AllocateCap(Pier(), 1);
+    AddShearSection(Pier(), 1.0, 0, 0);
+    Set(Pier().m_ShearSupports.At(0, 0, 0, 0), 0, 7, 2, kEndI, 11);
+    const std::string text = Text(&CWriteData::WriteCapShearText);
+    EXPECT_NE(text.find("\n    Mst 1 LF     7     2         11     1    I"), std::string::npos);
+    EXPECT_NE(text.find("\n    Mst = Mast                                 Brg = Bearing\n"
+                        "    LF  = Left Face of Mast                    L   = Left Side of Bearing\n"),
+              std::string::npos);
+}
+
+TEST_F(CapTables, TheKeyOfSeveralSubstructuresNamesPiersAndBents) {
+    AddPiers(3);
+    Pier(1).m_nStructureType = kTypePileBent;
+    Pier(2).m_nStructureType = kTypePileGroup;
+    for (CPier& pier : g_DataSet.m_Piers) Fill(pier, 1, 0, 0, 1);
+    const std::string tail =
+        "    LF  = Left Face of Support                 LR  = Bearing Is In The Left Row\n"
+        "    RF  = Right Face of Support                RR  = Bearing Is In The Right Row\n"
+        "    CL  = Centerline of Support\n";
+    std::string text = Text(&CWriteData::WriteCapMomentText);
+    EXPECT_EQ(text.substr(text.find("Key:")),
+              "Key:\n\n    Col = Column" + Blanks(31) +
+                  "\n"
+                  "    Pil = Pile                                 Brg = Bearing\n" +
+                  tail);
+    // Each substructure's blocks have its own title.
+    EXPECT_NE(text.find("\n\n\nBent Cap Moment Design, Substructure  2:\n"), std::string::npos);
+    EXPECT_NE(text.find("\n\n\n, Substructure  3:\n"), std::string::npos);
+    Pier(1).m_nStructureType = kTypeWallA;
+    text = Text(&CWriteData::WriteCapMomentText);
+    EXPECT_EQ(text.substr(text.find("Key:")), "Key:\n\n" + kColumnWord + tail);
+    Pier(0).m_nStructureType = kTypeMast;
+    text = Text(&CWriteData::WriteCapMomentText);
+    EXPECT_EQ(text.substr(text.find("Key:")), "Key:\n\n" + tail);
+}
+
+TEST_F(CapTables, AnEmptyHeadLeavesTwoEmptyLinesAndCountsThree) {
+    AddPiers(1);
+    Fill(Pier(), 0, 1, 0, 1);
+    AllocateCap(Pier(), 1);
+    AddShearSection(Pier(), 1.0, 0, 0);
+    SetMissing(Pier().m_ShearSupports.At(0, 0, 0, 0));
+    g_DataSet.m_nAnalysisMode = 3;
+    const std::string text = Text(&CWriteData::WriteCapShearText);
+    EXPECT_NE(text.find("Supports\n\n\n\n\n    Col 1 LF  miss"), std::string::npos);
+    EXPECT_EQ(m_nLines, 3 + (4 + 3 + 1) + 3 + (4 + 3 + 1) + 4 + 5);
+}
