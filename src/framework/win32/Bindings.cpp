@@ -1,0 +1,25 @@
+#include "framework/win32/Bindings.h"
+
+namespace {
+
+constexpr const char* kObjectProperty = "LumerinObject";
+
+BOOL CALLBACK UnbindControl(HWND control, LPARAM) {
+    if (HANDLE property = RemovePropA(control, kObjectProperty))
+        static_cast<CWnd*>(property)->m_hWnd = nullptr;
+    return TRUE;
+}
+
+}  // namespace
+
+namespace win32 {
+
+void Bind(HWND control, CWnd& object) {
+    SetPropA(control, kObjectProperty, &object);
+}
+
+void UnbindControls(HWND dialog) {
+    EnumChildWindows(dialog, UnbindControl, 0);
+}
+
+}  // namespace win32

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "framework/Window.h"
+#include "framework/win32/Windows32.h"
+
+// Which object belongs to which control. The objects may outlive the windows; none keeps a handle of a window
+// that is gone.
+namespace win32 {
+
+void Bind(HWND control, CWnd& object);
+// Takes the handles out of the objects of a dialog's controls. Called while the controls still exist.
+void UnbindControls(HWND dialog);
+
+}  // namespace win32

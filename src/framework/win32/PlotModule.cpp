@@ -1,0 +1,46 @@
+#include <array>
+
+#include "framework/win32/Windows32.h"
+
+// The call of the plot module's export.
+
+namespace {
+
+using PlotExport = int(WINAPI*)(int format, const char* dataFile, const char* plot, const char* family,
+                                const char* version, const char* zeroA, const char* zeroB,
+                                const char* argument);
+
+// The system's words for an error, in the user's language.
+std::string SystemText(DWORD error) {
+    char* text = nullptr;
+    FormatMessageA(
+        FORMAT_MESSAGE_ALLOCATE_BUFFER | FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr,
+        error, MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT), reinterpret_cast<char*>(&text), 0, nullptr);
+    if (text == nullptr) return {};
+    std::string words(text);
+    LocalFree(text);
+    return words;
+}
+
+}  // namespace
+
+namespace services {
+
+PlotModuleResult CallPlotModule(const char* module, const char* exportName, const PlotModuleCall& call,
+                                std::string& systemText) {
+    const HMODULE library = LoadLibraryA(module);
+    if (library == nullptr) return PlotModuleResult::moduleMissing;
+    const FARPROC address = GetProcAddress(library, exportName);
+    if (address == nullptr) {
+        systemText = SystemText(GetLastError());
+        FreeLibrary(library);
+        return PlotModuleResult::exportMissing;
+    }
+    const auto launch = reinterpret_cast<PlotExport>(reinterpret_cast<void*>(address));
+    launch(call.format, call.dataFile.c_str(), call.plot.c_str(), call.family.c_str(), call.version.c_str(),
+           call.zeroA.c_str(), call.zeroB.c_str(), call.argument.c_str());
+    // The module stays loaded: its windows live on behind the call.
+    return PlotModuleResult::called;
+}
+
+}  // namespace services

@@ -1,0 +1,39 @@
+#pragma once
+
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+
+// Names that the platform's header turns into macros and that are ours: the two identifiers have the same
+// values, and a method keeps its name in every file.
+#undef IDOK
+#undef IDCANCEL
+#undef SetWindowText
+#undef GetWindowText
+#undef DrawText
+
+#include "framework/Backend.h"
+
+// The backend on real windows: a window handle of the framework is the platform's own, under another type.
+
+inline HWND ToHwnd(WindowHandle window) {
+    return reinterpret_cast<HWND>(window);
+}
+
+inline WindowHandle FromHwnd(HWND window) {
+    return reinterpret_cast<WindowHandle>(window);
+}
+
+// The number of the platform's wait cursor.
+inline constexpr WORD kWaitCursor = 32514;
+
+namespace win32 {
+
+// The module that this code lives in, whatever program loaded it; its resources are looked up here.
+HINSTANCE ModuleInstance();
+
+// The window that owns the next dialog or message box: the front dialog, else the host's active window.
+HWND OwnerWindow();
+
+}  // namespace win32
