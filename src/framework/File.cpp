@@ -1,13 +1,10 @@
 #include "framework/File.h"
 
 #include <cerrno>
-#include <filesystem>
 #include <system_error>
 #include <utility>
 
 namespace {
-
-namespace fs = std::filesystem;
 
 CFileException::Cause CauseOf(int osError) {
     if (osError == ENOENT || osError == ENOTDIR) return CFileException::fileNotFound;
@@ -26,32 +23,6 @@ std::string OpenFault(int osError) {
     }
 }
 
-char LowerAscii(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool SameButForCase(const std::string& a, const std::string& b) {
-    if (a.size() != b.size()) return false;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-        if (LowerAscii(a[i]) != LowerAscii(b[i])) return false;
-    }
-    return true;
-}
-
-// The entry of `folder` that is called `name` but for case; of several the first in byte order, so that the
-// choice does not depend on the file system's order. Empty: there is none.
-std::string EntryAnyCase(const fs::path& folder, const std::string& name) {
-    std::error_code failure;
-    std::string found;
-    fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, failure);
-    while (!failure && entry != fs::directory_iterator()) {
-        const std::string candidate = entry->path().filename().string();
-        if (SameButForCase(candidate, name) && (found.empty() || candidate < found)) found = candidate;
-        entry.increment(failure);
-    }
-    return found;
-}
-
 bool SeekTo(std::FILE* file, std::int64_t offset, int origin) {
 #ifdef _WIN32
     return _fseeki64(file, offset, origin) == 0;
@@ -67,22 +38,6 @@ CFileException::CFileException(Cause cause, std::string fileName, const std::str
     m_strText = m_strFileName + ": " + fault;
 }
 
-std::string FindFileAnyCase(const std::string& path) {
-    std::error_code failure;
-    if (fs::exists(path, failure)) return path;
-    fs::path found;
-    for (const fs::path& part : fs::path(path)) {
-        fs::path next = found / part;
-        if (!fs::exists(next, failure)) {
-            const std::string entry = EntryAnyCase(found, part.string());
-            if (entry.empty()) return {};
-            next = found / entry;
-        }
-        found = std::move(next);
-    }
-    return found.string();
-}
-
 CFile::CFile(const std::string& path) {
     CFileException failure(CFileException::none, path, "");
     if (!Open(path, &failure)) throw failure;
@@ -91,10 +46,9 @@ CFile::CFile(const std::string& path) {
 bool CFile::Open(const std::string& path, CFileException* error) {
     Close();
     m_strPath = path;
-    std::error_code ignored;
     const std::string found = FindFileAnyCase(path);
     int osError = found.empty() ? ENOENT : 0;
-    if (osError == 0 && fs::is_directory(found, ignored)) osError = EISDIR;
+    if (osError == 0 && IsFolder(found)) osError = EISDIR;
     if (osError == 0) {
         errno = 0;
         m_file.reset(std::fopen(found.c_str(), "rb"));

@@ -25,6 +25,7 @@ class CFileException : public std::exception {
 // Where an existing file lies: `path` itself, or on a file system that tells case from case the one whose
 // folders and name differ from it in case alone. Empty: there is none.
 std::string FindFileAnyCase(const std::string& path);
+bool IsFolder(const std::string& path);
 
 // A file opened for reading with sharing allowed for all. Reading fails with CFileException.
 class CFile {

@@ -1,0 +1,60 @@
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include "framework/File.h"
+
+// Files on a file system that tells upper from lower case.
+
+namespace {
+
+namespace fs = std::filesystem;
+
+char LowerAscii(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool SameButForCase(const std::string& a, const std::string& b) {
+    if (a.size() != b.size()) return false;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (LowerAscii(a[i]) != LowerAscii(b[i])) return false;
+    }
+    return true;
+}
+
+// The entry of `folder` that is called `name` but for case; of several the first in byte order, so that the
+// choice does not depend on the file system's order. Empty: there is none.
+std::string EntryAnyCase(const fs::path& folder, const std::string& name) {
+    std::error_code failure;
+    std::string found;
+    fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, failure);
+    while (!failure && entry != fs::directory_iterator()) {
+        const std::string candidate = entry->path().filename().string();
+        if (SameButForCase(candidate, name) && (found.empty() || candidate < found)) found = candidate;
+        entry.increment(failure);
+    }
+    return found;
+}
+
+}  // namespace
+
+std::string FindFileAnyCase(const std::string& path) {
+    std::error_code failure;
+    if (fs::exists(path, failure)) return path;
+    fs::path found;
+    for (const fs::path& part : fs::path(path)) {
+        fs::path next = found / part;
+        if (!fs::exists(next, failure)) {
+            const std::string entry = EntryAnyCase(found, part.string());
+            if (entry.empty()) return {};
+            next = found / entry;
+        }
+        found = std::move(next);
+    }
+    return found.string();
+}
+
+bool IsFolder(const std::string& path) {
+    std::error_code ignored;
+    return fs::is_directory(path, ignored);
+}
