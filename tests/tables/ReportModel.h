@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cstdio>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -34,6 +35,7 @@ class ReportTest : public ::testing::Test {
         g_DataSet.Reset();
         g_DataSet.FreePiers();
         headless::ResetState();
+        std::remove(Path().c_str());
     }
 
     static void AddPiers(std::size_t count, int type = kTypePier) {

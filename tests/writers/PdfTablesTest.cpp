@@ -1,0 +1,325 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "tables/ReportModel.h"
+#include "writers/PdfFile.h"
+#include "writers/PdfSink.h"
+
+class PdfTables : public ReportTest {
+  protected:
+    using PdfMember = int (CWriteData::*)(StoredStream&, CPdfWriter&);
+    using TextMember = int (CWriteData::*)(StoredStream&);
+
+    PdfFile Write(PdfMember write, bool landscape = true) {
+        CWriteData writer;
+        StoredStream out(Path());
+        CPdfWriter pdf(landscape);
+        pdf.WriteHeader(out);
+        m_nLines = (writer.*write)(out, pdf);
+        pdf.Finish(out);
+        out.Close();
+        return PdfFile(StoredBytes());
+    }
+    // A table of pile ratios with as many rows as it has properties, none of which has a result.
+    static void MakePileRatios(std::size_t piers, int properties) {
+        AddPiers(piers);
+        for (CPier& pier : g_DataSet.m_Piers) {
+            Fill(pier, 1, 0, 0, 1);
+            pier.m_nPileSections = properties;
+            pier.m_PileDc.Allocate(properties, 1, 1);
+            for (int p = 0; p < properties; ++p) pier.m_PileDc.At(p, 0) = kNotFoundRecord;
+        }
+    }
+    static std::vector<std::string> SplitText(const std::string& text) {
+        std::vector<std::string> lines;
+        for (std::size_t at = 0; at < text.size();) {
+            const std::size_t end = text.find('\n', at);
+            lines.push_back(text.substr(at, end - at));
+            at = end + 1;
+        }
+        return lines;
+    }
+    // Every line of every page equals the text form's, but for the margin of titles and table 0's gaps.
+    void ExpectTextLines(PdfMember writePdf, TextMember writeText, std::size_t titleLines, bool keyed) {
+        const PdfFile file = Write(writePdf);
+        std::vector<std::string> text = SplitText(Text(writeText));
+        if (keyed) text.emplace_back();  // the key is not cut at its end
+        ASSERT_EQ(file.pages.size(), 1U);
+        const std::vector<std::string>& lines = file.pages[0].lines;
+        ASSERT_EQ(lines.size(), text.size());
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            const std::string shown = lines[i] == "\r\n" || lines[i] == " " ? "" : lines[i];
+            if (i < titleLines) {
+                EXPECT_EQ(Trim(shown), Trim(text[i]));
+            } else {
+                EXPECT_EQ(shown, text[i]) << i;
+            }
+        }
+    }
+};
+
+TEST_F(PdfTables, OnePageShowsTheLinesOfTheText) {
+    MakePileRatios(2, 3);
+    for (CPier& pier : g_DataSet.m_Piers) {
+        pier.m_ppMaxTension = {{0}};
+        pier.m_ppMaxCompression = {{-1}};
+        pier.m_nColumnSections = 1;
+        pier.m_ColumnDc.Allocate(1, 1, 1);
+    }
+    ExpectTextLines(&CWriteData::WriteMaxAxialPdf, &CWriteData::WriteMaxAxialText, 3, false);
+    ExpectTextLines(&CWriteData::WritePileDcPdf, &CWriteData::WritePileDcText, 1, false);
+    ExpectTextLines(&CWriteData::WriteColumnDcPdf, &CWriteData::WriteColumnDcText, 1, false);
+    Pier(1).m_nStructureType = kTypePileBent;
+    ExpectTextLines(&CWriteData::WriteColumnDcPdf, &CWriteData::WriteColumnDcText, 1, false);
+}
+
+TEST_F(PdfTables, TheKeyOfACapTableEndsInAnEmptyLine) {
+    AddPiers(1);
+    Fill(Pier(), 0, 1, 0, 1);
+    ExpectTextLines(&CWriteData::WriteCapShearPdf, &CWriteData::WriteCapShearText, 1, true);
+    ExpectTextLines(&CWriteData::WriteCapMomentPdf, &CWriteData::WriteCapMomentText, 1, true);
+    const std::vector<std::string> lines = Write(&CWriteData::WriteCapMomentPdf).pages.at(0).lines;
+    EXPECT_NE(std::find(lines.begin(), lines.end(), "(+M33 = Tension at Bottom)"), lines.end());
+}
+
+TEST_F(PdfTables, TitlesHaveTheMarginsOfTheNarrowerFont) {
+    struct Case {
+        PdfMember write;
+        const char* margin;
+        std::size_t blanks, blanksOfCombinations;
+    };
+    const Case cases[] = {
+        {&CWriteData::WriteMaxAxialPdf, "\t", 19, 38},
+        {&CWriteData::WritePileDcPdf, "\t", 21, 36},
+        {&CWriteData::WriteColumnDcPdf, "\t", 34, 36},
+        {&CWriteData::WriteCapShearPdf, "\t", 50, 53},
+        {&CWriteData::WriteCapMomentPdf, "", 38, 45},
+        {&CWriteData::WritePileForcesPdf, "\t", 33, 46},
+        {&CWriteData::WriteColumnForcesPdf, "\t", 33, 46},
+        {&CWriteData::WriteExtraMemberForcesPdf, "\t", 40, 53},
+    };
+    for (const Case& c : cases) {
+        AddPiers(1);
+        Fill(Pier(), 1, 0, 0, 1);
+        const std::string plain = Write(c.write).pages.at(0).lines.at(0);
+        EXPECT_EQ(plain.substr(0, plain.find_first_not_of(" \t")), c.margin + Blanks(c.blanks));
+        MakeCombinations(Pier(), kFamilyLfd, {});
+        const std::string wide = Write(c.write).pages.at(0).lines.at(0);
+        EXPECT_EQ(wide.substr(0, wide.find_first_not_of(" \t")), Blanks(c.blanksOfCombinations));
+    }
+}
+
+TEST_F(PdfTables, GapsOfTheAxialTableHoldLineFeedsAndBlanks) {
+    AddPiers(1);
+    Fill(Pier(), 1, 0, 0, 1);
+    MakeCombinations(Pier(), kFamilyArema, {0, 1});
+    Pier().m_ppMaxTension = Pier().m_ppMaxCompression = {{-1}, {-1}};
+    const PdfFile file = Write(&CWriteData::WriteMaxAxialPdf, false);
+    const std::vector<std::string>& lines = file.pages.at(0).lines;
+    EXPECT_EQ(lines.at(0), Blanks(38) + "Maximum Axial Forces at All Pile Heads");
+    EXPECT_EQ(lines.at(1), Blanks(37) + "(USE TO COMPARE TO PILE DRIVE CAPACITY)");
+    EXPECT_EQ(lines.at(2), Blanks(32) + "MAXIMUM COMPRESSION AND MAXIMUM TENSION FORCES");
+    EXPECT_EQ(lines.at(5), " MAXIMUM LOAD FACTOR DESIGN DATA");
+    // Title 5, heading 2, head 4, one row: the gap is at 12.
+    EXPECT_EQ(lines.at(12), "\r\n");
+    EXPECT_EQ(lines.at(13), "\r\n");
+    EXPECT_EQ(lines.at(14), " MAXIMUM SERVICE LOAD DESIGN DATA");
+    EXPECT_EQ(lines.at(21), " ");
+    EXPECT_EQ(lines.at(22), " ");
+    EXPECT_EQ(lines.size(), 23U);
+    EXPECT_EQ(m_nLines, 23);
+}
+
+TEST_F(PdfTables, ATableOfOnePageHasNoContinuation) {
+    // Title 3, heading 2, head 3: 43 rows bring the page to line 51, and no further row asks for more.
+    MakePileRatios(1, 43);
+    const PdfFile file = Write(&CWriteData::WritePileDcPdf);
+    EXPECT_EQ(file.pages.size(), 1U);
+    EXPECT_EQ(file.Bytes().find("cont..."), std::string::npos);
+    EXPECT_EQ(m_nLines, 51 + 2 + 2);
+}
+
+TEST_F(PdfTables, ARowAtLine51GoesToTheNextPageBehindTheHead) {
+    MakePileRatios(1, 44);
+    const PdfFile file = Write(&CWriteData::WritePileDcPdf);
+    ASSERT_EQ(file.pages.size(), 2U);
+    const std::vector<std::string>& first = file.pages[0].lines;
+    ASSERT_EQ(first.size(), 53U);
+    EXPECT_EQ(first[50], "   43          -1    -1      No valid load case");
+    EXPECT_EQ(first[51], "");
+    EXPECT_EQ(first[52], Blanks(71 + 66) + "cont...");
+    const std::vector<std::string>& second = file.pages[1].lines;
+    ASSERT_GE(second.size(), 6U);
+    EXPECT_EQ(second[0], "cont...");
+    EXPECT_EQ(second[1], "");
+    EXPECT_EQ(second[2].substr(0, 14), " PROP  PILE  E");
+    EXPECT_EQ(second[3].substr(0, 14), "  NO.   NO.   ");
+    EXPECT_EQ(second[4], "");
+    EXPECT_EQ(second[5], "   44          -1    -1      No valid load case");
+    // The count begins at 5 behind the break.
+    EXPECT_EQ(m_nLines, 5 + 1 + 2 + 2);
+}
+
+TEST_F(PdfTables, FurtherPagesHoldFortySixRows) {
+    MakePileRatios(1, 43 + 46 + 46);
+    EXPECT_EQ(Write(&CWriteData::WritePileDcPdf).pages.size(), 3U);
+    MakePileRatios(1, 43 + 46 + 46 + 1);
+    EXPECT_EQ(Write(&CWriteData::WritePileDcPdf).pages.size(), 4U);
+}
+
+TEST_F(PdfTables, TheAxialTableContinuesFurtherLeftAndUpright) {
+    AddPiers(1);
+    Fill(Pier(), 61, 0, 0, 1);  // title 5, head 4: 60 rows bring the upright page to line 69 of 71
+    Pier().m_ppMaxTension = Pier().m_ppMaxCompression = {std::vector<int>(61, -1)};
+    const PdfFile file = Write(&CWriteData::WriteMaxAxialPdf, false);
+    ASSERT_EQ(file.pages.size(), 2U);
+    EXPECT_EQ(file.pages[0].lines.size(), 71U);
+    EXPECT_EQ(file.pages[0].lines.back(), Blanks(57 + 52) + "cont...");
+    // The head comes with its two lines alone, though five are counted.
+    const std::vector<std::string>& second = file.pages[1].lines;
+    EXPECT_EQ(second.at(2).substr(0, 15), "   SUBSTRUCTURE");
+    EXPECT_EQ(second.at(4).substr(0, 22), "              1     61");
+    EXPECT_EQ(m_nLines, 5 + 1 + 2);
+}
+
+TEST_F(PdfTables, CapHeadsAreContinuedWithOneEmptyLine) {
+    AddPiers(1);
+    Fill(Pier(), 0, 1, 0, 1);
+    CPier& pier = Pier();
+    const int rows = 60;
+    pier.m_ShearSupports.Allocate(rows, 1, 4);
+    for (int i = 0; i < rows; ++i) {
+        pier.m_ShearSupportX.push_back(i);
+        pier.m_ShearSupportList.push_back({i, 0});
+    }
+    pier.m_nCapShearSupports = pier.m_nCapShearPoints = rows;
+    const PdfFile file = Write(&CWriteData::WriteCapShearPdf);
+    ASSERT_GE(file.pages.size(), 3U);
+    // Title 3, heading 4, head 3: 41 rows up to line 51.
+    EXPECT_EQ(file.pages[0].lines.at(9), "");
+    EXPECT_EQ(file.pages[0].lines.at(50).substr(0, 13), "   Col 41 LF ");
+    EXPECT_EQ(file.pages[0].lines.back(), Blanks(71 + 66) + "cont...");
+    const std::vector<std::string>& second = file.pages[1].lines;
+    EXPECT_EQ(second.at(0), "cont...");
+    EXPECT_EQ(second.at(2).substr(0, 12), "    LOCATION");
+    EXPECT_EQ(second.at(4), "");
+    EXPECT_EQ(second.at(5).substr(0, 13), "   Col 42 LF ");
+    // 19 rows and the three empty lines: 27. The minimum's heading, 15 lines before the end, still fits.
+    EXPECT_EQ(second.at(27), "Pier Cap Shear F22 Design, Substructure  1:");
+}
+
+TEST_F(PdfTables, AHeadingNeedsFifteenLinesAndABlockSix) {
+    struct Case {
+        BreakPoint point;
+        int lines;
+        std::size_t pages;
+    };
+    const Case cases[] = {
+        {BreakPoint::pierHeading, 37, 1}, {BreakPoint::pierHeading, 38, 2}, {BreakPoint::columnHead, 46, 1},
+        {BreakPoint::columnHead, 47, 2},  {BreakPoint::columnHead, 48, 2},  {BreakPoint::key, 46, 1},
+        {BreakPoint::key, 47, 2},
+    };
+    for (const Case& c : cases) {
+        StoredStream out(Path());
+        CPdfWriter pdf(true);
+        pdf.WriteHeader(out);
+        CPdfSink sink(out, pdf, false);
+        for (int i = 0; i < c.lines; ++i) sink.Line("line");
+        sink.MayBreak(c.point);
+        sink.Line("next");
+        EXPECT_EQ(sink.Lines(), c.pages == 1 ? c.lines + 1 : 1);
+        sink.EndTable();
+        pdf.Finish(out);
+        out.Close();
+        const PdfFile file(StoredBytes());
+        ASSERT_EQ(file.pages.size(), c.pages) << c.lines;
+        // A break before a heading, a head or the key leaves no words of continuation.
+        EXPECT_EQ(file.Bytes().find("cont..."), std::string::npos);
+        EXPECT_EQ(file.pages.back().lines.back(), "next");
+    }
+}
+
+TEST_F(PdfTables, AnEmptyHeadShowsNothingOnEitherPage) {
+    MakePileRatios(1, 44);
+    g_DataSet.m_nAnalysisMode = 3;
+    const PdfFile file = Write(&CWriteData::WritePileDcPdf);
+    ASSERT_EQ(file.pages.size(), 2U);
+    // Three lines are counted for it all the same, so the page has three lines fewer.
+    EXPECT_EQ(file.pages[0].lines.size(), 50U);
+    EXPECT_EQ(file.pages[0].lines.at(5).substr(0, 5), "    1");
+    EXPECT_EQ(file.pages[1].lines.at(2).substr(0, 5), "   44");
+}
+
+TEST_F(PdfTables, FootersShowTheirBackslashes) {
+    MakePileRatios(1, 50);
+    g_FooterOn = g_FooterFileName = 1;
+    g_ProjectBasePath = "\\\\server\\jobs\\p";
+    const PdfFile file = Write(&CWriteData::WritePileDcPdf);
+    ASSERT_EQ(file.pages.size(), 2U);
+    for (const PdfPage& page : file.pages) EXPECT_EQ(page.footer, "\\\\\\\\server\\\\jobs\\\\p.in");
+}
+
+TEST_F(PdfTables, FatigueAloneGivesOneMomentBlockAnExtreme) {
+    AddPiers(1);
+    Fill(Pier(), 0, 1, 0, 1);
+    MakeCombinations(Pier(), kFamilyLrfd, {3});
+    const std::vector<std::string> lines = Write(&CWriteData::WriteCapMomentPdf).pages.at(0).lines;
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), " FATIGUE CASE DATA"), 2);
+    const auto heads = std::count_if(
+        lines.begin(), lines.end(), [](const std::string& line) { return line.starts_with("    LOCATION"); });
+    EXPECT_EQ(heads, 2);
+}
+
+TEST_F(PdfTables, TablesThatAreNotEnabledLeaveTheDocumentAlone) {
+    EXPECT_TRUE(Write(&CWriteData::WriteCapShearPdf).pages.empty());
+    EXPECT_EQ(m_nLines, 0);
+    AddPiers(1);
+    g_DataSet.m_bTableEnabled.fill(false);
+    EXPECT_TRUE(Write(&CWriteData::WritePileForcesPdf).pages.empty());
+    EXPECT_EQ(m_nLines, 0);
+}
+
+TEST_F(PdfTables, EachTableOfAReportHasItsOwnPages) {
+    MakePileRatios(1, 2);
+    Pier().m_ppMaxTension = Pier().m_ppMaxCompression = {{-1}};
+    CWriteData writer;
+    StoredStream out(Path());
+    CPdfWriter pdf(true);
+    pdf.WriteHeader(out);
+    EXPECT_GT(writer.WriteMaxAxialPdf(out, pdf), 0);
+    EXPECT_GT(writer.WritePileDcPdf(out, pdf), 0);
+    pdf.Finish(out);
+    out.Close();
+    const PdfFile file(StoredBytes());
+    ASSERT_EQ(file.pages.size(), 2U);
+    for (const PdfPage& page : file.pages) {
+        EXPECT_EQ(static_cast<std::size_t>(page.declaredLength), page.content.size());
+    }
+    EXPECT_NE(file.Bytes().find("/MediaBox [ 0 0 792 612 ]"), std::string::npos);
+}
+
+TEST_F(PdfTables, TheTitlePageIsADocumentOfItsOwn) {
+    headless::State().viewerNumbers["iPointSize"] = 140;  // 34 lines a page: 18 less 2
+    g_FooterOn = g_FooterDate = 1;
+    CWriteData writer;
+    StoredStream out(Path());
+    writer.WriteTitlePagePdf(out);
+    EXPECT_FALSE(out.IsOpen());
+    const PdfFile file(StoredBytes());
+    ASSERT_EQ(file.pages.size(), 1U);
+    const std::vector<std::string>& lines = file.pages[0].lines;
+    ASSERT_EQ(lines.size(), 16U + 5U);
+    for (std::size_t i = 0; i < 16; ++i) EXPECT_EQ(lines[i], "");
+    // Centred on 114 characters, the width of a 10 point font, whatever the viewer's is.
+    EXPECT_EQ(lines[16], Blanks(53) + "Lumerin");
+    EXPECT_EQ(lines[17], Blanks(57));
+    EXPECT_EQ(lines[18], Blanks(47) + "Results generated by");
+    EXPECT_EQ(lines[19], Blanks(46) + "Tarnsway Version 5.2.1");
+    EXPECT_EQ(lines[20], Blanks(42) + "on Saturday, November 14, 2026");
+    EXPECT_EQ(file.pages[0].footer, "");
+    EXPECT_NE(file.Bytes().find("/MediaBox [ 0 0 612 792 ]"), std::string::npos);
+    EXPECT_EQ(static_cast<std::size_t>(file.pages[0].declaredLength), file.pages[0].content.size());
+}
