@@ -55,14 +55,20 @@ bool CFile::Open(const std::string& path, CFileException* error) {
         if (m_file != nullptr) return true;
         osError = errno;
     }
+    m_nOpenError = osError;
     if (error != nullptr) *error = CFileException(CauseOf(osError), path, OpenFault(osError), osError);
     return false;
 }
 
-unsigned CFile::ReadBytes(void* buffer, unsigned count) {
-    if (m_file == nullptr) {
-        throw CFileException(CFileException::fileNotFound, m_strPath, "the file is not open for reading");
+void CFile::ThrowNotOpen() const {
+    if (m_nOpenError == 0) {
+        throw CFileException(CFileException::generic, m_strPath, "the file is not open for reading");
     }
+    throw CFileException(CauseOf(m_nOpenError), m_strPath, OpenFault(m_nOpenError), m_nOpenError);
+}
+
+unsigned CFile::ReadBytes(void* buffer, unsigned count) {
+    if (m_file == nullptr) ThrowNotOpen();
     const std::size_t got = std::fread(buffer, 1, count, m_file.get());
     if (got < count && std::ferror(m_file.get()) != 0) {
         throw CFileException(CFileException::generic, m_strPath, "the file could not be read", errno);
@@ -71,9 +77,7 @@ unsigned CFile::ReadBytes(void* buffer, unsigned count) {
 }
 
 void CFile::Seek(std::int64_t position) {
-    if (m_file == nullptr) {
-        throw CFileException(CFileException::fileNotFound, m_strPath, "the file is not open for reading");
-    }
+    if (m_file == nullptr) ThrowNotOpen();
     if (position < 0 || !SeekTo(m_file.get(), position, SEEK_SET)) {
         throw CFileException(CFileException::badFormat, m_strPath,
                              "a position outside the file was asked for");

@@ -38,7 +38,8 @@ class CFile {
     void Close() { m_file.reset(); }
     bool IsOpen() const { return m_file != nullptr; }
 
-    // Bytes read: fewer than `count` only at the end of the file. Throws on a closed file.
+    // Bytes read: fewer than `count` only at the end of the file. Throws on a closed file; where the file
+    // could not be opened the fault is told then.
     unsigned ReadBytes(void* buffer, unsigned count);
     void Seek(std::int64_t position);  // from the start; throws when negative
     std::int64_t Length() const;
@@ -49,6 +50,9 @@ class CFile {
     struct Closer {
         void operator()(std::FILE* file) const { std::fclose(file); }
     };
+    [[noreturn]] void ThrowNotOpen() const;
+
     std::unique_ptr<std::FILE, Closer> m_file;
     std::string m_strPath;
+    int m_nOpenError = 0;  // of an open that failed
 };
