@@ -1,0 +1,72 @@
+#include <gmock/gmock.h>
+#include <sys/wait.h>
+
+#include <cstdio>
+#include <fstream>
+
+#include "samples/SampleFolder.h"
+
+// The program itself: arguments, exit statuses and streams.
+
+namespace {
+
+using testing::HasSubstr;
+
+struct Outcome {
+    int status = -1;
+    std::string output;  // both streams
+};
+
+Outcome RunProgram(const std::string& arguments) {
+    const std::string command = std::string(LUMERIN_BINARY_DIR) + "/lumerin " + arguments + " 2>&1";
+    Outcome outcome;
+    std::FILE* pipe = popen(command.c_str(), "r");
+    if (pipe == nullptr) return outcome;
+    char buffer[4096];
+    while (const std::size_t got = std::fread(buffer, 1, sizeof buffer, pipe))
+        outcome.output.append(buffer, got);
+    const int code = pclose(pipe);
+    outcome.status = WIFEXITED(code) ? WEXITSTATUS(code) : -1;
+    return outcome;
+}
+
+TEST(Program, HelpAndVersionAreNoFailure) {
+    EXPECT_EQ(RunProgram("--help").status, 0);
+    EXPECT_EQ(RunProgram("report --help").status, 0);
+    EXPECT_THAT(RunProgram("drive --help").output, HasSubstr("SCRIPT"));
+    const Outcome version = RunProgram("--version");
+    EXPECT_EQ(version.status, 0);
+    EXPECT_THAT(version.output, testing::StartsWith("lumerin "));
+}
+
+TEST(Program, WrongUsageEndsWithTwo) {
+    const SampleFolder folder;
+    const std::string project = folder.Write("pier") + ".in ";
+    for (const std::string& arguments :
+         {std::string(), std::string("print"), std::string("report"), std::string("drive"),
+          "report " + project + "--table none", "report " + project + "--format xml",
+          "report " + project + "--cases 0", "report " + project + "--footer page",
+          "report " + project + "--clock now", "report " + project + "--font-size 0",
+          "report " + project + "--unknown", "drive " + project, "drive " + project + "/nowhere/script"}) {
+        EXPECT_EQ(RunProgram(arguments).status, 2) << arguments;
+    }
+}
+
+TEST(Program, ReportsDrivesAndTellsWhatWentWrong) {
+    const SampleFolder folder;
+    const std::string base = folder.Write("pier");
+    const Outcome report = RunProgram("report " + base + ".in --table axial --clock 2026-11-14T08:30:00");
+    EXPECT_EQ(report.status, 0);
+    EXPECT_EQ(report.output, base + "_Max_Axial_Forces_Pile_Heads.txt\n");
+    EXPECT_EQ(RunProgram("report " + base + ".in /nowhere/q.in --table axial").status, 3);
+    const std::string script = folder.Base("script");
+    std::ofstream(script) << "key Esc\n";
+    const Outcome drive = RunProgram("drive " + base + ".in " + script + " --format pdf");
+    EXPECT_EQ(drive.status, 0);
+    EXPECT_EQ(drive.output, "{\"dialog\":\"Lumerin Generator\"}\n{\"result\":0}\n");
+    EXPECT_EQ(RunProgram("drive " + base + ".in - < " + script).output, drive.output);
+    std::ofstream(script) << "jump 5\n";
+    EXPECT_EQ(RunProgram("drive " + base + ".in " + script).status, 2);
+}
+
+}  // namespace

@@ -1,0 +1,74 @@
+#include "batch/Script.h"
+
+#include <gmock/gmock.h>
+
+namespace {
+
+std::string FaultOf(const std::string& script) {
+    try {
+        ParseScript(script);
+    } catch (const ScriptError& error) {
+        return error.what();
+    }
+    return "";
+}
+
+TEST(Script, ReadsEveryAction) {
+    const std::vector<ScriptAction> actions = ParseScript(
+        "click 1004\ntext 1025 12 b\nfocus 1025\nselect 1027 3\nspin 1026 up\nspin 1026 down\n"
+        "cell 2 1 0\ngraph-click -1.5\nanswer yes\nanswer no\ndump\nshot a b.png\nkey Esc\nkey Return\nkey "
+        "F1 1001\n");
+    const ScriptVerb verbs[] = {ScriptVerb::click,     ScriptVerb::text,       ScriptVerb::focus,
+                                ScriptVerb::select,    ScriptVerb::spinUp,     ScriptVerb::spinDown,
+                                ScriptVerb::cell,      ScriptVerb::graphClick, ScriptVerb::answerYes,
+                                ScriptVerb::answerNo,  ScriptVerb::dump,       ScriptVerb::shot,
+                                ScriptVerb::keyEscape, ScriptVerb::keyReturn,  ScriptVerb::keyHelp};
+    ASSERT_EQ(actions.size(), std::size(verbs));
+    for (std::size_t i = 0; i < actions.size(); ++i) {
+        EXPECT_EQ(actions[i].verb, verbs[i]) << i;
+        EXPECT_EQ(actions[i].line, static_cast<int>(i) + 1);
+    }
+    EXPECT_EQ(actions[0].id, 1004);
+    EXPECT_EQ(actions[1].text, "12 b");
+    EXPECT_EQ(actions[3].number, 3);
+    EXPECT_EQ(actions[6].id, 2);
+    EXPECT_EQ(actions[6].number, 1);
+    EXPECT_EQ(actions[6].text, "0");
+    EXPECT_EQ(actions[7].x, -1.5);
+    EXPECT_EQ(actions[11].text, "a b.png");
+    EXPECT_EQ(actions[14].id, 1001);
+}
+
+TEST(Script, PassesOverCommentsEmptyLinesAndCarriageReturns) {
+    const auto actions = ParseScript("# a comment\n\n  \t\nclick 1 # and one behind\r\n  dump\r\n#\ntext 5");
+    ASSERT_EQ(actions.size(), 3U);
+    EXPECT_EQ(actions[0].line, 4);
+    EXPECT_EQ(actions[1].line, 5);
+    EXPECT_EQ(actions[2].line, 7);
+    EXPECT_EQ(actions[2].text, "");
+}
+
+TEST(Script, AnEmptyTextIsAText) {
+    EXPECT_EQ(ParseScript("text 5").front().text, "");
+    EXPECT_EQ(ParseScript("cell 1 1").front().text, "");
+    EXPECT_EQ(ParseScript("text 5 a#b").front().text, "a#b");
+}
+
+TEST(Script, NamesTheLineOfAFault) {
+    EXPECT_EQ(FaultOf("dump\n\npress 1004\n"), "script line 3: unknown action press");
+    EXPECT_EQ(FaultOf("click"), "script line 1: expected a control's identifier");
+    EXPECT_EQ(FaultOf("click x1"), "script line 1: x1 is not a control's identifier");
+    EXPECT_EQ(FaultOf("click 99999999999"), "script line 1: 99999999999 is not a control's identifier");
+    EXPECT_EQ(FaultOf("click 1 2"), "script line 1: unexpected text behind the action: 2");
+    EXPECT_EQ(FaultOf("spin 5 left"), "script line 1: expected up or down, not left");
+    EXPECT_EQ(FaultOf("answer maybe"), "script line 1: expected yes or no, not maybe");
+    EXPECT_EQ(FaultOf("key Enter"), "script line 1: unknown key Enter");
+    EXPECT_EQ(FaultOf("key F1"), "script line 1: expected a control's identifier");
+    EXPECT_EQ(FaultOf("graph-click here"), "script line 1: here is not a place on the x axis");
+    EXPECT_EQ(FaultOf("graph-click nan"), "script line 1: nan is not a place on the x axis");
+    EXPECT_EQ(FaultOf("shot"), "script line 1: expected the picture's file");
+    EXPECT_EQ(FaultOf("cell 1"), "script line 1: expected a column's number");
+    EXPECT_EQ(FaultOf("DUMP"), "script line 1: unknown action DUMP");
+}
+
+}  // namespace
