@@ -7,8 +7,8 @@
 class CObject;
 
 struct CRuntimeClass {
-    const char* m_pszName;
-    const CRuntimeClass* m_pBase;
+    const char* m_pszName = "";
+    const CRuntimeClass* m_pBase = nullptr;
     std::unique_ptr<CObject> (*m_pfnCreate)() = nullptr;  // null: objects are not made by their class
 
     bool IsDerivedFrom(const CRuntimeClass& base) const {

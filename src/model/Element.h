@@ -10,13 +10,14 @@ inline constexpr int kNoTieBreak = 7;
 enum ElementEnd { kEndI = 0, kEndJ = 1, kInsideElement = 2 };
 
 // Floats that one element keeps for one load case: the seven components at I, then the seven at J.
-inline constexpr std::size_t kForcesPerElement = 2 * kComponents;
+inline constexpr std::size_t kForcesPerElement = std::size_t{2} * kComponents;
 using ElementForces = std::span<const float, kForcesPerElement>;
 
 // The value of a component at an end, widened for comparing and computing; 0.0 for another end or component.
 inline double GetForce(ElementForces forces, int end, int component) {
     if (end < kEndI || end > kEndJ || component < 0 || component >= kComponents) return 0.0;
-    return static_cast<double>(forces[static_cast<std::size_t>(end * kComponents + component)]);
+    return static_cast<double>(
+        forces[static_cast<std::size_t>(end) * kComponents + static_cast<std::size_t>(component)]);
 }
 
 // The identity of one beam element. It is the same in every load case, so it lives once.
