@@ -8,6 +8,7 @@
 #include "framework/Backend.h"
 #include "framework/ControlList.h"
 #include "framework/headless/GraphPeer.h"
+#include "text/Utf8.h"
 
 // The events and states of driven dialogs as JSON, one object a line, in fixed key order. The same lines come
 // from every face of the product, so that two outputs can be compared byte for byte.
@@ -41,6 +42,3 @@ class JsonLines {
   private:
     std::ostream& m_out;
 };
-
-// A text of the Western code page as UTF-8; a text that is UTF-8 already (a path) stays.
-std::string ToUtf8(std::string_view text);

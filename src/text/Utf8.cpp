@@ -1,4 +1,4 @@
-#include "batch/JsonLines.h"
+#include "text/Utf8.h"
 
 namespace {
 
