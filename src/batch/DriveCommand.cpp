@@ -21,6 +21,12 @@ bool ReadScript(const std::string& path, std::string& script) {
     return !file.bad();
 }
 
+// Another file of the folder that `path` lies in.
+std::string Beside(const std::string& path, const std::string& name) {
+    const std::size_t separator = path.rfind('/');
+    return path.substr(0, separator == std::string::npos ? 0 : separator + 1) + name;
+}
+
 }  // namespace
 
 ExitStatus RunDrive(const DriveOptions& options, std::ostream& out, std::ostream& err) {
@@ -42,6 +48,7 @@ ExitStatus DriveScript(const DriveOptions& options, const std::string& script, s
         return kExitUsage;
     }
     ScriptDriver driver(std::move(actions), out);
+    driver.SetHasPlotModule(options.hasPlotModule);
     bool loaded = false;
     headless::SetSink(&driver);
     headless::SetModalDriver([&](headless::HeadlessDialog& dialog) {
@@ -50,15 +57,24 @@ ExitStatus DriveScript(const DriveOptions& options, const std::string& script, s
         }
         driver.Drive(dialog);
     });
-    const unsigned result =
-        LaunchLumerin(options.format, options.project.c_str(), options.common.version.c_str(), "", "", "");
+    std::string project = options.project;
+    bool allLoaded = true;
+    for (bool more = true; more;) {
+        loaded = false;
+        const unsigned result =
+            LaunchLumerin(options.format, project.c_str(), options.common.version.c_str(), "", "", "");
+        JsonLines(out).Result(result);
+        // Without a project the dialog is all there is to drive; that is no failure.
+        allLoaded = allLoaded && (loaded || project.empty());
+        const ScriptAction* again = driver.TakeAgain();
+        more = again != nullptr;
+        if (more && !again->text.empty()) project = Beside(project, again->text);
+    }
     headless::SetModalDriver(nullptr);
     headless::SetSink(nullptr);
-    JsonLines(out).Result(result);
     out.flush();
     if (const ScriptAction* left = driver.FirstLeftOver()) {
         err << "lumerin: script line " << left->line << ": the last dialog is closed" << std::endl;
     }
-    // Without a project the dialog is all there is to drive; that is no failure.
-    return loaded || options.project.empty() ? kExitDone : kExitNotLoaded;
+    return allLoaded ? kExitDone : kExitNotLoaded;
 }

@@ -10,10 +10,11 @@ struct DriveOptions {
     std::string project;
     std::string script;  // its path; "-" for standard input
     int format = 0;
+    bool hasPlotModule = true;
     CommonOptions common;
 };
 
-// One call of the export under a script; the JSON lines go to `out`.
+// Calls of the export under a script, one and another for each line "again"; the JSON lines go to `out`.
 ExitStatus RunDrive(const DriveOptions& options, std::ostream& out, std::ostream& err);
 // The same with the script's text at hand.
 ExitStatus DriveScript(const DriveOptions& options, const std::string& script, std::ostream& out,

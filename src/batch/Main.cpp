@@ -50,6 +50,8 @@ void AddDrive(CLI::App& program, DriveOptions& options, std::string& format) {
         ->required();
     command.add_option("--format", format,
                        "Format that the dialog starts on: text, pdf, excel (default text)");
+    command.add_flag("!--without-plot-module", options.hasPlotModule,
+                     "Behave as on a machine without the plot module");
     AddCommonOptions(command, options.common);
     command.footer(
         "Prints what happens as JSON, one object a line. Exit status: 0 done, 2 wrong usage or a line that "

@@ -141,6 +141,11 @@ constexpr VerbReader kVerbs[] = {
          action.text = line.Rest();
      }},
     {"key", ReadKey},
+    {"again",
+     [](LineReader& line, ScriptAction& action) {
+         action.verb = ScriptVerb::again;
+         action.text = line.Rest();
+     }},
 };
 
 ScriptAction ReadAction(LineReader& line, int number) {
@@ -157,6 +162,23 @@ ScriptAction ReadAction(LineReader& line, int number) {
 }
 
 }  // namespace
+
+std::string RefusedName(const ScriptAction& action) {
+    switch (action.verb) {
+        case ScriptVerb::cell:
+            return "cell " + std::to_string(action.id) + " " + std::to_string(action.number);
+        case ScriptVerb::graphClick:
+            return "graph-click";
+        case ScriptVerb::shot:
+            return "shot";
+        case ScriptVerb::keyEscape:
+            return "key Esc";
+        case ScriptVerb::keyReturn:
+            return "key Return";
+        default:
+            return std::to_string(action.id);
+    }
+}
 
 std::vector<ScriptAction> ParseScript(std::string_view script) {
     std::vector<ScriptAction> actions;

@@ -24,6 +24,7 @@ enum class ScriptVerb {
     keyEscape,
     keyReturn,
     keyHelp,  // id
+    again,    // text: the project's file beside the last one, empty for the same project
 };
 
 struct ScriptAction {
@@ -34,6 +35,9 @@ struct ScriptAction {
     double x = 0.0;
     std::string text;
 };
+
+// How the line "refused" names an action that a user could not have done.
+std::string RefusedName(const ScriptAction& action);
 
 // A line that is no action.
 class ScriptError : public std::runtime_error {

@@ -39,9 +39,18 @@ ScriptDriver::ScriptDriver(std::vector<ScriptAction> actions, std::ostream& out)
 
 void ScriptDriver::Drive(headless::HeadlessDialog& dialog) {
     while (dialog.IsOpen() && m_nNext < m_actions.size()) {
-        const ScriptAction& action = m_actions[m_nNext++];
+        const ScriptAction& action = m_actions[m_nNext];
+        if (action.verb == ScriptVerb::again) return;
+        ++m_nNext;
         Play(action, dialog);
     }
+}
+
+const ScriptAction* ScriptDriver::TakeAgain() {
+    const ScriptAction* next = FirstLeftOver();
+    if (next == nullptr || next->verb != ScriptVerb::again) return nullptr;
+    ++m_nNext;
+    return next;
 }
 
 const ScriptAction* ScriptDriver::FirstLeftOver() const {
@@ -49,7 +58,6 @@ const ScriptAction* ScriptDriver::FirstLeftOver() const {
 }
 
 void ScriptDriver::Play(const ScriptAction& action, headless::HeadlessDialog& dialog) {
-    std::string name = std::to_string(action.id);
     bool done = true;
     switch (action.verb) {
         case ScriptVerb::click:
@@ -71,11 +79,9 @@ void ScriptDriver::Play(const ScriptAction& action, headless::HeadlessDialog& di
             done = dialog.Spin(action.id, false);
             break;
         case ScriptVerb::cell:
-            name = "cell " + name + " " + std::to_string(action.number);
             done = dialog.TypeCell(action.id, action.number, action.text);
             break;
         case ScriptVerb::graphClick:
-            name = "graph-click";
             done = dialog.ClickGraph(action.x);
             break;
         case ScriptVerb::answerYes:
@@ -88,22 +94,21 @@ void ScriptDriver::Play(const ScriptAction& action, headless::HeadlessDialog& di
             Dump(dialog);
             break;
         case ScriptVerb::shot:  // there is no screen
-            name = "shot";
             done = false;
             break;
         case ScriptVerb::keyEscape:
-            name = "key Esc";
             done = dialog.PressEscape();
             break;
         case ScriptVerb::keyReturn:
-            name = "key Return";
             done = dialog.PressReturn();
             break;
         case ScriptVerb::keyHelp:
             done = dialog.PressHelp(action.id);
             break;
+        case ScriptVerb::again:  // between two calls, never inside one
+            break;
     }
-    if (!done) m_lines.Refused(name);
+    if (!done) m_lines.Refused(RefusedName(action));
 }
 
 void ScriptDriver::Dump(headless::HeadlessDialog& dialog) {
@@ -138,6 +143,7 @@ int ScriptDriver::OnShellOpen(const std::string&, const std::string& file, const
 
 services::PlotModuleResult ScriptDriver::OnPlotModule(const std::string& module,
                                                       const services::PlotModuleCall& call, std::string&) {
+    if (!m_bHasPlotModule) return services::PlotModuleResult::moduleMissing;
     m_lines.Module(module, call);
     return services::PlotModuleResult::called;
 }

@@ -16,6 +16,10 @@ class ScriptDriver : public headless::Sink {
 
     // Plays until the dialog is closed or the script ends.
     void Drive(headless::HeadlessDialog& dialog);
+    // The action that opens the dialog once more behind a call; null when another one is next, or none.
+    const ScriptAction* TakeAgain();
+    // Without the plot module a press that wants it fails as on a machine that lacks it.
+    void SetHasPlotModule(bool has) { m_bHasPlotModule = has; }
     // The action that found no open dialog any more; null when all were played.
     const ScriptAction* FirstLeftOver() const;
 
@@ -32,6 +36,7 @@ class ScriptDriver : public headless::Sink {
     std::vector<ScriptAction> m_actions;
     std::size_t m_nNext = 0;
     JsonLines m_lines;
+    bool m_bHasPlotModule = true;
 };
 
 // The shell's code for a viewer start without a screen: success when the document is there (or is a page of
