@@ -117,6 +117,9 @@ class CGridCtrl : public CWnd {
     void OnSize();
     void OnGotFocus();
     void OnNotify(const EditNotice& notice);
+    // A mouse button over the title tip; true: the cell below was double-clicked.
+    bool OnTipButton(unsigned time) { return m_TitleTip.OnButton(*m_pHost, time); }
+    void HideTip() { m_TitleTip.Hide(*m_pHost); }
 
     // ---- layout and drawing (GridLayout.cpp, GridDraw.cpp)
     bool CellRect(int row, int column, GridRect& rect) const;  // false: scrolled out, or hidden

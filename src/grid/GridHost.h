@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <stdexcept>
 #include <string>
 
 #include "grid/Canvas.h"
@@ -45,11 +46,18 @@ class GridHost {
     virtual void HideTip() {}
 };
 
+// The platform refused the grid its window class.
+class CResourceException : public std::runtime_error {
+  public:
+    CResourceException() : std::runtime_error("the grid's window class could not be registered") {}
+};
+
 namespace gridplatform {
 
 // Binds the grid to the window of its control; called by CGridCtrl::OnAttach.
 std::unique_ptr<GridHost> MakeHost(CGridCtrl& grid);
-// Registers the window class "MFCGridCtrl" and prepares the clipboard, once a module.
+// Registers the window class "MFCGridCtrl" and prepares the clipboard, once a module. Throws
+// CResourceException.
 void PrepareWindowClass();
 
 }  // namespace gridplatform

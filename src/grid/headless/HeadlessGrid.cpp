@@ -7,6 +7,7 @@
 
 namespace {
 
+constexpr int kBorders = 2;    // pixels of both borders of the control
 constexpr int kBarWidth = 17;  // pixels of a scroll bar at 96 pixels an inch
 constexpr int kCharacterWidth = 6, kCharacterHeight = 15;
 // Pixels of a dialog unit's multiple with the dialogs' font at 96 pixels an inch.
@@ -57,7 +58,7 @@ void RedrawLabel(CLabel&) {}
 std::unique_ptr<GridHost> MakeHost(CGridCtrl& grid) {
     if (grid.m_hWnd == nullptr) return std::make_unique<GridHost>();
     const ControlSpec& spec = headless::SpecOf(grid.m_hWnd);
-    const GridSize size{Scaled(spec.width, kBaseX, 4), Scaled(spec.height, kBaseY, 8)};
+    const GridSize size{Scaled(spec.width, kBaseX, 4) - kBorders, Scaled(spec.height, kBaseY, 8) - kBorders};
     auto host = std::make_unique<HeadlessGrid>(grid, size);
     headless::AttachGrid(grid.m_hWnd, *host);
     return host;

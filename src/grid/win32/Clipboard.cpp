@@ -1,0 +1,127 @@
+// The clipboard as OLE has it: a data object that offers one text.
+#include "framework/win32/Windows32.h"
+// OLE and the shell want windows.h before them.
+#include <ole2.h>
+#include <shlobj.h>
+
+#include <cstring>
+#include <memory>
+#include <string>
+
+#include "grid/win32/GridWindow.h"
+
+namespace {
+
+FORMATETC PlainText() {
+    return {CF_TEXT, nullptr, DVASPECT_CONTENT, -1, TYMED_HGLOBAL};
+}
+
+bool OffersFormat(const FORMATETC& wanted) {
+    return wanted.cfFormat == CF_TEXT && (wanted.tymed & TYMED_HGLOBAL) != 0 &&
+           wanted.dwAspect == DVASPECT_CONTENT;
+}
+
+HGLOBAL GlobalText(const std::string& text) {
+    const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, text.size() + 1);
+    if (memory == nullptr) return nullptr;
+    if (void* bytes = GlobalLock(memory)) {
+        std::memcpy(bytes, text.c_str(), text.size() + 1);
+        GlobalUnlock(memory);
+    }
+    return memory;
+}
+
+// The platform's interfaces have no virtual destructor: objects go by Release alone.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+
+// Counts its own references, as OLE demands, and goes with the last one.
+class TextObject final : public IDataObject {
+  public:
+    explicit TextObject(std::string text) : m_text(std::move(text)) {}
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+        if (object == nullptr) return E_POINTER;
+        *object = nullptr;
+        if (IsEqualIID(id, IID_IUnknown) == FALSE && IsEqualIID(id, IID_IDataObject) == FALSE) {
+            return E_NOINTERFACE;
+        }
+        *object = static_cast<IDataObject*>(this);
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG left = --m_references;
+        if (left == 0) std::unique_ptr<TextObject>(this).reset();
+        return left;
+    }
+
+    HRESULT STDMETHODCALLTYPE GetData(FORMATETC* format, STGMEDIUM* medium) override {
+        if (format == nullptr || medium == nullptr) return E_POINTER;
+        if (!OffersFormat(*format)) return DV_E_FORMATETC;
+        *medium = STGMEDIUM{};
+        medium->tymed = TYMED_HGLOBAL;
+        medium->hGlobal = GlobalText(m_text);
+        return medium->hGlobal != nullptr ? S_OK : E_OUTOFMEMORY;
+    }
+    HRESULT STDMETHODCALLTYPE QueryGetData(FORMATETC* format) override {
+        return format != nullptr && OffersFormat(*format) ? S_OK : DV_E_FORMATETC;
+    }
+    HRESULT STDMETHODCALLTYPE EnumFormatEtc(DWORD direction, IEnumFORMATETC** formats) override {
+        if (direction != DATADIR_GET) return E_NOTIMPL;
+        FORMATETC format = PlainText();
+        return SHCreateStdEnumFmtEtc(1, &format, formats);
+    }
+    HRESULT STDMETHODCALLTYPE GetDataHere(FORMATETC*, STGMEDIUM*) override { return DV_E_FORMATETC; }
+    HRESULT STDMETHODCALLTYPE GetCanonicalFormatEtc(FORMATETC*, FORMATETC* out) override {
+        if (out != nullptr) out->ptd = nullptr;
+        return DATA_S_SAMEFORMATETC;
+    }
+    HRESULT STDMETHODCALLTYPE SetData(FORMATETC*, STGMEDIUM*, BOOL) override { return E_NOTIMPL; }
+    HRESULT STDMETHODCALLTYPE DAdvise(FORMATETC*, DWORD, IAdviseSink*, DWORD*) override {
+        return OLE_E_ADVISENOTSUPPORTED;
+    }
+    HRESULT STDMETHODCALLTYPE DUnadvise(DWORD) override { return OLE_E_ADVISENOTSUPPORTED; }
+    HRESULT STDMETHODCALLTYPE EnumDAdvise(IEnumSTATDATA**) override { return OLE_E_ADVISENOTSUPPORTED; }
+
+  private:
+    std::string m_text;
+    ULONG m_references = 1;
+};
+
+#pragma GCC diagnostic pop
+
+struct Releaser {
+    void operator()(IUnknown* object) const { object->Release(); }
+};
+
+}  // namespace
+
+namespace win32 {
+
+void PutClipboardText(const std::string& text) {
+    const std::unique_ptr<TextObject, Releaser> object(std::make_unique<TextObject>(text).release());
+    // The flush leaves the text on the clipboard when this module is gone.
+    if (SUCCEEDED(OleSetClipboard(object.get()))) OleFlushClipboard();
+}
+
+std::string ClipboardText() {
+    IDataObject* got = nullptr;
+    if (FAILED(OleGetClipboard(&got)) || got == nullptr) return {};
+    const std::unique_ptr<IDataObject, Releaser> object(got);
+    FORMATETC format = PlainText();
+    STGMEDIUM medium{};
+    if (FAILED(object->GetData(&format, &medium))) return {};
+    std::string text;
+    if (medium.tymed == TYMED_HGLOBAL) {
+        if (const auto* bytes = static_cast<const char*>(GlobalLock(medium.hGlobal))) {
+            text.assign(bytes, strnlen(bytes, GlobalSize(medium.hGlobal)));
+            GlobalUnlock(medium.hGlobal);
+        }
+    }
+    ReleaseStgMedium(&medium);
+    return text;
+}
+
+}  // namespace win32

@@ -1,0 +1,305 @@
+#include "grid/win32/GridWindow.h"
+
+// The common controls want windows.h before them.
+#include <commctrl.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "grid/win32/GdiCanvas.h"
+#include "grid/win32/GridMessages.h"
+
+namespace {
+
+constexpr UINT_PTR kSubclass = 1;
+constexpr UINT_PTR kDragTimer = 1;
+constexpr UINT kDragTimerMilliseconds = 100;
+
+GridPoint PointOf(LPARAM lParam) {
+    return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+}
+
+}  // namespace
+
+namespace win32 {
+
+KeyState Keys() {
+    return {GetKeyState(VK_SHIFT) < 0, GetKeyState(VK_CONTROL) < 0};
+}
+
+}  // namespace win32
+
+namespace gridplatform {
+
+std::unique_ptr<GridHost> MakeHost(CGridCtrl& grid) {
+    if (grid.m_hWnd == nullptr) return std::make_unique<GridHost>();
+    return std::make_unique<GridWindow>(grid, ToHwnd(grid.m_hWnd));
+}
+
+}  // namespace gridplatform
+
+GridWindow::GridWindow(CGridCtrl& grid, HWND window) : m_grid(grid), m_window(window), m_tip(grid) {
+    // The editor is a child: painting leaves its place out.
+    const LONG style = GetWindowLongA(m_window, GWL_STYLE);
+    SetWindowLongA(m_window, GWL_STYLE, style | WS_CLIPCHILDREN);
+    SetWindowSubclass(m_window, Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+}
+
+GridWindow::~GridWindow() {
+    m_editors.clear();
+    if (m_window != nullptr) RemoveWindowSubclass(m_window, Procedure, kSubclass);
+}
+
+GridSize GridWindow::ClientSize() const {
+    RECT client{};
+    if (m_window != nullptr) GetClientRect(m_window, &client);
+    return {static_cast<int>(client.right), static_cast<int>(client.bottom)};
+}
+
+std::string GridWindow::WindowText() const {
+    return backend::Text(FromHwnd(m_window));
+}
+
+void GridWindow::Invalidate(const GridRect& rect) {
+    const RECT area = win32::ToRect(rect);
+    if (m_window != nullptr) InvalidateRect(m_window, &area, FALSE);
+}
+
+void GridWindow::InvalidateAll() {
+    if (m_window != nullptr) InvalidateRect(m_window, nullptr, FALSE);
+}
+
+void GridWindow::SetScrollBar(bool vertical, const ScrollPlace& place) {
+    if (m_window == nullptr) return;
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    // A forced bar stays, greyed, when there is nothing to scroll.
+    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | (m_bForced[vertical ? 1 : 0] ? SIF_DISABLENOSCROLL : 0);
+    info.nMax = std::max(place.count - 1, 0);
+    info.nPage = static_cast<UINT>(std::max(place.page, 1));
+    info.nPos = place.position;
+    SetScrollInfo(m_window, vertical ? SB_VERT : SB_HORZ, &info, TRUE);
+}
+
+void GridWindow::ForceScrollBar(bool vertical, bool forced) {
+    if (m_window == nullptr) return;
+    m_bForced[vertical ? 1 : 0] = forced;
+    ShowScrollBar(m_window, vertical ? SB_VERT : SB_HORZ, forced ? TRUE : FALSE);
+}
+
+void GridWindow::TakeFocus() {
+    if (m_window != nullptr && GetFocus() != m_window) ::SetFocus(m_window);
+}
+
+void GridWindow::LeaveByTab(bool backwards) {
+    if (m_window != nullptr)
+        PostMessageA(GetParent(m_window), WM_NEXTDLGCTL, backwards ? TRUE : FALSE, FALSE);
+}
+
+void GridWindow::CaptureMouse(bool captured) {
+    if (m_window == nullptr) return;
+    if (captured) {
+        SetCapture(m_window);
+        SetTimer(m_window, kDragTimer, kDragTimerMilliseconds, nullptr);
+        return;
+    }
+    KillTimer(m_window, kDragTimer);
+    if (GetCapture() == m_window) ReleaseCapture();
+}
+
+void GridWindow::SweepEditors() {
+    std::erase_if(m_editors, [](const auto& editor) { return editor->IsGone(); });
+}
+
+bool GridWindow::OpenEditor(std::unique_ptr<CInPlaceEdit> editor, const GridRect& rect) {
+    if (m_window == nullptr) return false;
+    SweepEditors();
+    m_editors.push_back(std::make_unique<EditorWindow32>(m_window, std::move(editor)));
+    if (m_editors.back()->Create(rect, m_grid.DefaultCell(false, false).GetFont())) return true;
+    m_editors.pop_back();
+    return false;
+}
+
+void GridWindow::ShowTip(const GridRect& rect, const std::string& text, const FontRecord& font) {
+    if (m_window != nullptr) m_tip.Show(m_window, rect, text, font);
+}
+
+LRESULT CALLBACK GridWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                       DWORD_PTR data) {
+    auto& self = *reinterpret_cast<GridWindow*>(data);
+    if (message == WM_NCDESTROY) {
+        RemoveWindowSubclass(window, Procedure, id);
+        self.m_window = nullptr;
+        return DefSubclassProc(window, message, wParam, lParam);
+    }
+    LRESULT result = 0;
+    return self.OnMessage(message, wParam, lParam, result) ? result
+                                                           : DefSubclassProc(window, message, wParam, lParam);
+}
+
+bool GridWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+    switch (message) {
+        case WM_PAINT:
+            OnPaint();
+            return true;
+        case WM_ERASEBKGND:
+            result = 1;
+            return true;
+        case WM_SIZE:
+            m_grid.OnSize();
+            return true;
+        case WM_GETDLGCODE:
+            result = DialogCode(lParam);
+            return true;
+        case WM_SETFOCUS:
+            m_grid.OnGotFocus();
+            return true;
+        case WM_KILLFOCUS:
+            m_grid.HideTip();
+            return false;
+        case WM_TIMER:
+            m_grid.OnDragTimer();
+            return true;
+        case WM_VSCROLL:
+            OnScrollMessage(true, wParam);
+            return true;
+        case WM_HSCROLL:
+            OnScrollMessage(false, wParam);
+            return true;
+        case WM_MOUSEWHEEL:
+            m_grid.OnMouseWheel(static_cast<short>(HIWORD(wParam)) / WHEEL_DELTA);
+            return true;
+        case WM_KEYDOWN:
+        case WM_CHAR:
+            return OnKey(message, wParam);
+        default:
+            break;
+    }
+    if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) return OnMouse(message, wParam, lParam);
+    return OnQuery(message, wParam, lParam, result);
+}
+
+bool GridWindow::OnMouse(UINT message, WPARAM wParam, LPARAM lParam) {
+    const GridPoint point = PointOf(lParam);
+    switch (message) {
+        case WM_LBUTTONDOWN:
+            m_grid.OnLeftDown(point, {(wParam & MK_SHIFT) != 0, (wParam & MK_CONTROL) != 0});
+            return true;
+        case WM_LBUTTONUP:
+            m_grid.OnLeftUp(point);
+            return true;
+        case WM_LBUTTONDBLCLK:
+            m_grid.OnDoubleClick(point);
+            return true;
+        case WM_MOUSEMOVE:
+            m_grid.OnMouseMove(point, (wParam & MK_LBUTTON) != 0);
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool GridWindow::OnKey(UINT message, WPARAM wParam) {
+    const auto code = static_cast<unsigned>(wParam);
+    CInPlaceEdit* editor = m_grid.OpenEditor();
+    if (editor != nullptr && editor->m_hWnd != nullptr) {
+        // Typed before the focus reached the editor.
+        PostMessageA(ToHwnd(editor->m_hWnd), message, wParam, 1);
+        return true;
+    }
+    return message == WM_CHAR ? m_grid.OnChar(code, win32::Keys()) : m_grid.OnKeyDown(code, win32::Keys());
+}
+
+LRESULT GridWindow::DialogCode(LPARAM lParam) const {
+    LRESULT code = DLGC_WANTARROWS | DLGC_WANTCHARS;
+    if (m_grid.TabMoves()) code |= DLGC_WANTTAB;
+    const auto* message = reinterpret_cast<const MSG*>(lParam);
+    // Return opens an editor; where nothing can be edited it stays the dialog's, and so does Esc.
+    const bool isReturn =
+        message != nullptr && message->message == WM_KEYDOWN && message->wParam == VK_RETURN;
+    if (isReturn && m_grid.IsEditable()) code |= DLGC_WANTMESSAGE;
+    return code;
+}
+
+void GridWindow::OnPaint() {
+    PAINTSTRUCT paint{};
+    const HDC dc = BeginPaint(m_window, &paint);
+    GdiCanvas canvas(dc);
+    m_grid.Paint(canvas, {paint.rcPaint.left, paint.rcPaint.top, paint.rcPaint.right, paint.rcPaint.bottom});
+    EndPaint(m_window, &paint);
+}
+
+void GridWindow::OnScrollMessage(bool vertical, WPARAM wParam) {
+    SCROLLINFO info{};
+    info.cbSize = sizeof info;
+    info.fMask = SIF_ALL;
+    GetScrollInfo(m_window, vertical ? SB_VERT : SB_HORZ, &info);
+    const int page = static_cast<int>(info.nPage);
+    int position = info.nPos;
+    switch (LOWORD(wParam)) {
+        case SB_LINEUP:
+            --position;
+            break;
+        case SB_LINEDOWN:
+            ++position;
+            break;
+        case SB_PAGEUP:
+            position -= page;
+            break;
+        case SB_PAGEDOWN:
+            position += page;
+            break;
+        case SB_THUMBTRACK:
+        case SB_THUMBPOSITION:
+            position = info.nTrackPos;
+            break;
+        case SB_TOP:
+            position = 0;
+            break;
+        case SB_BOTTOM:
+            position = info.nMax;
+            break;
+        default:
+            return;
+    }
+    m_grid.OnScroll(vertical, position);
+}
+
+bool GridWindow::OnQuery(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+    const int row = static_cast<int>(wParam), column = static_cast<int>(lParam);
+    GridRect rect;
+    switch (message) {
+        case kGridRowCount:
+            result = m_grid.GetRowCount();
+            return true;
+        case kGridColumnCount:
+            result = m_grid.GetColumnCount();
+            return true;
+        case kGridGoTo:
+            m_grid.EndOpenEdit();
+            result = m_grid.MoveFocusCell(row, column) ? TRUE : FALSE;
+            if (result == FALSE) return true;
+            m_grid.SelectRange(row, column, row, column, false, true);
+            m_grid.ScrollCellIntoView(row, column);
+            return true;
+        case kGridCellPoint:
+            result = -1;
+            if (m_grid.CellRect(row, column, rect)) {
+                result = MAKELRESULT((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
+            }
+            return true;
+        case kGridCellText: {
+            auto& query = *reinterpret_cast<GridCellText*>(lParam);
+            result = m_grid.IsCellInRange(query.row, query.column) ? TRUE : FALSE;
+            const std::string text = m_grid.GetCellText(query.row, query.column);
+            query.length = static_cast<int>(text.size());
+            if (query.text == nullptr || query.capacity <= 0) return true;
+            const int bytes = std::min(query.length, query.capacity - 1);
+            std::memcpy(query.text, text.data(), static_cast<std::size_t>(bytes));
+            query.text[bytes] = '\0';
+            return true;
+        }
+        default:
+            return false;
+    }
+}

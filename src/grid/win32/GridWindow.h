@@ -1,0 +1,61 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "framework/win32/Windows32.h"
+#include "grid/GridCtrl.h"
+#include "grid/win32/EditorWindow32.h"
+#include "grid/win32/TipWindow.h"
+
+namespace win32 {
+
+// The modifier keys of the message that is being handled.
+KeyState Keys();
+void PutClipboardText(const std::string& text);
+std::string ClipboardText();
+
+}  // namespace win32
+
+// The window of a grid: its messages become the grid's events.
+class GridWindow : public GridHost {
+  public:
+    GridWindow(CGridCtrl& grid, HWND window);
+    GridWindow(const GridWindow&) = delete;
+    GridWindow& operator=(const GridWindow&) = delete;
+    ~GridWindow() override;
+
+    GridSize ClientSize() const override;
+    std::string WindowText() const override;
+    void Invalidate(const GridRect& rect) override;
+    void InvalidateAll() override;
+    void SetScrollBar(bool vertical, const ScrollPlace& place) override;
+    void ForceScrollBar(bool vertical, bool forced) override;
+    void TakeFocus() override;
+    void LeaveByTab(bool backwards) override;
+    void CaptureMouse(bool captured) override;
+    void SetClipboard(const std::string& text) override { win32::PutClipboardText(text); }
+    std::string Clipboard() const override { return win32::ClipboardText(); }
+    bool OpenEditor(std::unique_ptr<CInPlaceEdit> editor, const GridRect& rect) override;
+    void ShowTip(const GridRect& rect, const std::string& text, const FontRecord& font) override;
+    void HideTip() override { m_tip.Hide(); }
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                      DWORD_PTR data);
+    // True: the message was handled with that result.
+    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+    bool OnMouse(UINT message, WPARAM wParam, LPARAM lParam);
+    bool OnKey(UINT message, WPARAM wParam);
+    bool OnQuery(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+    LRESULT DialogCode(LPARAM lParam) const;
+    void OnPaint();
+    void OnScrollMessage(bool vertical, WPARAM wParam);
+    void SweepEditors();
+
+    CGridCtrl& m_grid;
+    HWND m_window;
+    bool m_bForced[2] = {false, false};  // horizontal, vertical
+    std::vector<std::unique_ptr<EditorWindow32>> m_editors;
+    TipWindow m_tip;
+};

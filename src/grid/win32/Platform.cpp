@@ -1,0 +1,75 @@
+// What the grid asks of the platform apart from its window.
+#include "framework/win32/Windows32.h"
+// OLE wants windows.h before it.
+#include <ole2.h>
+
+#include "grid/GridHost.h"
+#include "grid/win32/GdiCanvas.h"
+
+namespace {
+
+constexpr const char* kClassName = "MFCGridCtrl";
+constexpr UINT kClassStyle = 11;  // double clicks, redraw on both size changes
+constexpr const char* kOleFailedText =
+    "OLE initialization failed. Make sure that the OLE libraries are the correct version";
+
+class ScreenContext {
+  public:
+    ScreenContext() : m_dc(GetDC(nullptr)) {}
+    ScreenContext(const ScreenContext&) = delete;
+    ScreenContext& operator=(const ScreenContext&) = delete;
+    ~ScreenContext() { ReleaseDC(nullptr, m_dc); }
+    HDC Get() const { return m_dc; }
+
+  private:
+    HDC m_dc;
+};
+
+void RegisterGridClass() {
+    WNDCLASSA window{};
+    if (GetClassInfoA(win32::ModuleInstance(), kClassName, &window) != FALSE) return;
+    window.style = kClassStyle;
+    window.lpfnWndProc = DefWindowProcA;
+    window.hInstance = win32::ModuleInstance();
+    window.hCursor = LoadCursorA(nullptr, MAKEINTRESOURCEA(32512));  // the arrow
+    window.hbrBackground = GetSysColorBrush(kColourShadow);
+    window.lpszClassName = kClassName;
+    if (RegisterClassA(&window) == 0) throw CResourceException();
+}
+
+void InitialiseOle() {
+    // Once for the thread of the dialogs; that it is initialised already is fine.
+    static bool done = false;
+    if (done) return;
+    done = true;
+    if (FAILED(OleInitialize(nullptr))) AfxMessageBox(kOleFailedText);
+}
+
+}  // namespace
+
+namespace gridplatform {
+
+Colour SystemColour(int index) {
+    return GetSysColor(index);
+}
+
+GridSize MeasureText(const std::string& text, const FontRecord& font) {
+    const ScreenContext screen;
+    return GdiCanvas(screen.Get()).TextSize(text, font);
+}
+
+int ScreenDpi() {
+    const ScreenContext screen;
+    return GetDeviceCaps(screen.Get(), LOGPIXELSX);
+}
+
+unsigned DoubleClickTime() {
+    return GetDoubleClickTime();
+}
+
+void PrepareWindowClass() {
+    RegisterGridClass();
+    InitialiseOle();
+}
+
+}  // namespace gridplatform
