@@ -88,7 +88,7 @@ class CForceSearch {
     std::array<float, kExtremes> m_best{};
     // The values to beat, repeated for both ends of two neighbouring elements, so that one comparison of
     // whole vectors passes over two elements that beat nothing, which are nearly all.
-    std::array<float, kPair> m_greatest, m_least;
+    std::array<float, kPair> m_greatest{}, m_least{};
     std::array<FoundEnd, kExtremes> m_found{};
 };
 
