@@ -64,7 +64,7 @@ class CCapWalk {
 
     void WriteHeading(const CPier& pier, int number, int extreme) {
         std::string heading = TableTitle(m_layout.table, pier.m_nStructureType);
-        AppendNumbered(heading, m_cap.blockHeading[extreme], number);
+        AppendNumbered(heading, m_cap.blockHeading[static_cast<std::size_t>(extreme)], number);
         const std::size_t feed = heading.find('\n');
         m_sink.Line(std::string_view(heading).substr(0, feed));
         m_sink.Line(std::string_view(heading).substr(feed + 1));
@@ -84,7 +84,7 @@ class CCapWalk {
 
     void AppendRow(const CCapRow& row) {
         const CCapRecord& record = row.pEntry->record;
-        const int form = m_bLimitStates ? 1 : 0;
+        const std::size_t form = m_bLimitStates ? 1 : 0;
         if (record.m_nMissing == 1) {
             m_row += m_cap.missing[form];
             return;
@@ -124,7 +124,7 @@ class CCapWalk {
         AppendInt(m_row, record.m_nLoadCase + 1LL, 5);
         if (m_bLimitStates) AppendLeftPadded(m_row, LimitStateOf(record.m_nLoadCase), 15);
         AppendEnd(record.m_nEnd);
-        for (int i = 0; i < m_cap.values; ++i) {
+        for (std::size_t i = 0; i < m_cap.values; ++i) {
             if (i + 1 < m_cap.values) m_row += "   ";
             AppendFixed(m_row, values[static_cast<std::size_t>(m_cap.valueOrder[i])], 2, 9);
         }

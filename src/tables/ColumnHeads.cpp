@@ -1,4 +1,5 @@
 #include <array>
+#include <utility>
 
 #include "model/DataSet.h"
 #include "tables/Catalogue.h"
@@ -50,11 +51,6 @@ constexpr std::array<const char*, 3> kCombUpper{
     "   SUBSTRUCTURE   PILE  LOAD          AREMA  MAX TENSION      D/C    LOAD         AREMA     MAX COMP    "
     "  D/C"};
 
-void AddLine(ColumnHead& head, std::string line) {
-    head.lines[head.lineCount] = std::move(line);
-    ++head.lineCount;
-}
-
 bool IsNamedFamily(int family) {
     return family >= kFamilyLrfd && family <= kFamilyArema;
 }
@@ -63,16 +59,16 @@ void AddPileHeadLines(ColumnHead& head, const CPier& first, int mode, bool us) {
     if (first.m_bCombinations) {
         // A family without a name has the lower line alone.
         if (IsNamedFamily(first.m_nCodeFamily)) {
-            AddLine(head, kCombUpper[static_cast<std::size_t>(first.m_nCodeFamily)]);
+            head.lines.emplace_back(kCombUpper[static_cast<std::size_t>(first.m_nCodeFamily)]);
         }
-        AddLine(head, us ? kCombLowerUs : kCombLowerSi);
+        head.lines.emplace_back(us ? kCombLowerUs : kCombLowerSi);
         return;
     }
     const StepWords words = StepWordsOf({}, false, mode);
     if (words.upper == nullptr) return;
     const PileHeadLines& lines = mode == 1 ? kTimeStepHead : kLoadCaseHead;
-    AddLine(head, lines.upper);
-    AddLine(head, us ? lines.lowerUs : lines.lowerSi);
+    head.lines.emplace_back(lines.upper);
+    head.lines.emplace_back(us ? lines.lowerUs : lines.lowerSi);
 }
 
 std::string LimitStateHeading(const HeadTexts& texts, int family) {
@@ -87,7 +83,7 @@ void AddSteppedLines(ColumnHead& head, const HeadTexts& texts, const CPier& firs
     if (words.upper == nullptr) {
         // The cap tables end their head with the line feed of the block, so it is there for an empty head
         // too.
-        if (cap) AddLine(head, {});
+        if (cap) head.lines.emplace_back();
         return;
     }
     std::string upper = first.m_nStructureType == kTypeNoPileTables ? texts.openingType8 : texts.opening;
@@ -98,11 +94,11 @@ void AddSteppedLines(ColumnHead& head, const HeadTexts& texts, const CPier& firs
     lower += us ? texts.unitsUs : texts.unitsSi;
     if (!combinations || IsNamedFamily(first.m_nCodeFamily)) {
         if (combinations) upper += LimitStateHeading(texts, first.m_nCodeFamily);
-        AddLine(head, upper + texts.columns);
+        head.lines.push_back(upper + texts.columns);
     } else if (cap) {
-        AddLine(head, {});
+        head.lines.emplace_back();
     }
-    AddLine(head, std::move(lower));
+    head.lines.push_back(std::move(lower));
 }
 
 }  // namespace
@@ -124,7 +120,7 @@ ColumnHead BuildColumnHead(const TableLayout& layout) {
     const bool cap = layout.table == kTableCapShear || layout.table == kTableCapMoment;
     AddSteppedLines(head, layout.head, first, mode, us, cap);
     // An empty head of a section table takes its empty line with it.
-    if (head.lineCount == 0) head.linesBehind = 0;
+    if (head.lines.empty()) head.linesBehind = 0;
     return head;
 }
 

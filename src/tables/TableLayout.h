@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include "model/Pier.h"
 #include "session/Constants.h"
@@ -22,8 +24,8 @@ struct TitleMargins {
     // The column tables go by the number of substructures in place of the limit state column: one is wide.
     bool byPierCount = false;
     // Blanks before the second and third title line, which table 0 alone has.
-    std::size_t furtherWide[2] = {0, 0};
-    std::size_t furtherNarrow[2] = {0, 0};
+    std::array<std::size_t, 2> furtherWide = {0, 0};
+    std::array<std::size_t, 2> furtherNarrow = {0, 0};
 };
 
 // The two lines of a column head, up to the step column and behind it.
@@ -51,7 +53,7 @@ struct MemberRowTexts {
     const char* valueGap = " ";  // before each value but the last
     const char* missing = "";    // behind the property, where a force has no result
     // Behind property, member, element and node of a ratio without result, plain and with limit states.
-    const char* missingRatio[2] = {"", ""};
+    std::array<const char*, 2> missingRatio = {"", ""};
     const char* pierHeading = "";
     const char* pierHeadingType8 = "";
     const char* pierHeadingBent = "";  // for a pile bent, which then has no blocks; empty: no such rule
@@ -60,13 +62,14 @@ struct MemberRowTexts {
 
 // The words of tables 3 and 4.
 struct CapTexts {
-    const char* blockHeading[2] = {"", ""};  // by extreme, two lines, with the substructure's number
-    const char* maximumRemark = "";          // a third line of the maximum block
-    int values = 0;                          // printed value columns
-    int valueOrder[kComponents] = {};        // their components
+    std::array<const char*, 2> blockHeading = {"",
+                                               ""};  // by extreme, two lines, with the substructure's number
+    const char* maximumRemark = "";                  // a third line of the maximum block
+    std::size_t values = 0;                          // printed value columns
+    std::array<int, kComponents> valueOrder = {};    // their components
     // Rows without a result, plain and with limit states.
-    const char* missing[2] = {"", ""};
-    const char* sideMissing[2] = {"", ""};
+    std::array<const char*, 2> missing = {"", ""};
+    std::array<const char*, 2> sideMissing = {"", ""};
     const char* noLoadCase = "";
 };
 
@@ -85,8 +88,7 @@ const TableLayout& LayoutOf(int table);  // 0 to 7
 
 // The column head of a table for the project as it stands.
 struct ColumnHead {
-    std::string lines[2];
-    int lineCount = 0;         // of `lines`
+    std::vector<std::string> lines;
     int linesBehind = 0;       // empty lines behind it on every page
     int linesBehindFirst = 0;  // further ones at a block's start
     int counted = 0;           // lines that the page arithmetic takes for it at a block's start

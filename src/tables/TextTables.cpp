@@ -33,7 +33,7 @@ class CTextSink : public CLineSink {
     }
 
     void Head(const ColumnHead& head) override {
-        for (int i = 0; i < head.lineCount; ++i) m_out << head.lines[i] << "\n";
+        for (const std::string& line : head.lines) m_out << line << "\n";
         for (int i = 0; i < head.linesBehind + head.linesBehindFirst; ++i) m_out << "\n";
         m_nLines += head.counted;
     }

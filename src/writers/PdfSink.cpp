@@ -47,7 +47,7 @@ void CPdfSink::Gap(int lines, GapStyle style) {
 }
 
 void CPdfSink::ShowHead(int linesBehind) {
-    for (int i = 0; i < m_head.lineCount; ++i) Show(m_head.lines[i]);
+    for (const std::string& line : m_head.lines) Show(line);
     for (int i = 0; i < linesBehind; ++i) Show("");
 }
 

@@ -10,7 +10,7 @@ class ColumnHeads : public ReportTest {
     static std::string Lines(int table) {
         const ColumnHead head = BuildColumnHead(LayoutOf(table));
         std::string text;
-        for (int i = 0; i < head.lineCount; ++i) text += head.lines[i] + "\n";
+        for (const std::string& line : head.lines) text += line + "\n";
         return text;
     }
     static int Counted(int table) { return BuildColumnHead(LayoutOf(table)).counted; }

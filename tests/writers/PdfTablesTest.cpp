@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -41,6 +44,13 @@ class PdfTables : public ReportTest {
             at = end + 1;
         }
         return lines;
+    }
+    // The words of a line with one blank between them.
+    static std::string Words(const std::string& line) {
+        std::istringstream in(line);
+        std::string words;
+        for (std::string word; in >> word;) words += (words.empty() ? "" : " ") + word;
+        return words;
     }
     // Every line of every page equals the text form's, but for the margin of titles and table 0's gaps.
     void ExpectTextLines(PdfMember writePdf, TextMember writeText, std::size_t titleLines, bool keyed) {
@@ -299,6 +309,35 @@ TEST_F(PdfTables, EachTableOfAReportHasItsOwnPages) {
         EXPECT_EQ(static_cast<std::size_t>(page.declaredLength), page.content.size());
     }
     EXPECT_NE(file.Bytes().find("/MediaBox [ 0 0 792 612 ]"), std::string::npos);
+}
+
+TEST_F(PdfTables, AViewerShowsTheWordsOfTheTextLineByLine) {
+    if (std::system("pdftotext -v >/dev/null 2>&1") != 0) GTEST_SKIP() << "pdftotext is not installed";
+    MakePileRatios(1, 60);
+    g_FooterOn = g_FooterVersion = 1;
+    const std::size_t pages = Write(&CWriteData::WritePileDcPdf).pages.size();
+    ASSERT_EQ(pages, 2U);
+    const std::string shownPath = Path() + ".shown";
+    const std::string command = "pdftotext -layout '" + Path() + "' '" + shownPath + "' 2>/dev/null";
+    ASSERT_EQ(std::system(command.c_str()), 0);
+    std::ifstream shown(shownPath);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(shown, line);) {
+        const std::string words = Words(line);
+        const bool frame =
+            words.starts_with("v5.2.1") || words.starts_with("(Page") || words.starts_with("Page ");
+        if (!words.empty() && words != "cont..." && !frame) lines.push_back(words);
+    }
+    shown.close();
+    std::remove(shownPath.c_str());
+    std::vector<std::string> expected;
+    for (const std::string& line : SplitText(Text(&CWriteData::WritePileDcText))) {
+        if (!Words(line).empty()) expected.push_back(Words(line));
+    }
+    // The second page repeats the head: title, heading, two lines of head and 43 rows stand before it.
+    const std::vector<std::string> head(expected.begin() + 2, expected.begin() + 4);
+    expected.insert(expected.begin() + 4 + 43, head.begin(), head.end());
+    EXPECT_EQ(lines, expected);
 }
 
 TEST_F(PdfTables, TheTitlePageIsADocumentOfItsOwn) {
