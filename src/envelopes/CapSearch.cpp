@@ -47,7 +47,7 @@ double ReadCapForce(const CPier& pier, const CapReading& reading, int loadCase, 
     if (!reading.inside) return GetForce(forces, reading.end, component);
     if (component < 0 || component >= kComponents) return 0.0;
     const float atI = forces[static_cast<std::size_t>(component)];
-    const float atJ = forces[static_cast<std::size_t>(kComponents + component)];
+    const float atJ = forces[kComponents + static_cast<std::size_t>(component)];
     const float drop = atI - atJ;
     return static_cast<double>(atI) - static_cast<double>(drop) * reading.t;
 }
@@ -89,7 +89,7 @@ CapSideResult CapSide::Search(int component, int tieBreak, int slot, int sense) 
     if (!m_bSearched) {
         const int element = Element();
         if (element < 0) return {};
-        const bool inside = m_kind == kInsideElement && HasInnerFraction();
+        const bool inside = m_kind == kInside && HasInnerFraction();
         m_extremes = FindCapExtremes(m_pier, {element, m_nEnd, m_place.m_dT, inside}, component, tieBreak);
         m_bMasked = m_pier.IsMasked(element);
         m_bSearched = true;
@@ -105,7 +105,7 @@ CapSideResult CapSide::Search(int component, int tieBreak, int slot, int sense) 
 // A face so close to a node that its fraction rounds to that end is searched as an end. A side whose own end
 // lies at the other end of the element then moves on to the neighbour, and the next search looks there.
 void CapSide::MoveToOwnElement() {
-    if (m_kind != kInsideElement || HasInnerFraction()) return;
+    if (m_kind != kInside || HasInnerFraction()) return;
     const bool back = m_place.m_dT == 0.0 && m_nEnd == kEndJ;
     const bool forward = m_place.m_dT == 1.0 && m_nEnd == kEndI;
     if (!back && !forward) return;
@@ -114,7 +114,7 @@ void CapSide::MoveToOwnElement() {
 }
 
 int CapSide::ReadValue(int loadCase, int component, double& out) const {
-    if (m_kind == kInsideElement) return InterpolateForce(m_pier, m_place, loadCase, component, out);
+    if (m_kind == kInside) return InterpolateForce(m_pier, m_place, loadCase, component, out);
     return GetForceAtPlace(m_pier, m_place, m_nEnd, loadCase, component, out);
 }
 

@@ -48,9 +48,9 @@ struct CapSideResult {
 class CapSide {
   public:
     enum Kind {
-        kAtNode,         // at an end; a masked element gives nothing
-        kInsideElement,  // by interpolation; a masked element gives nothing
-        kAtBearing,      // at an end; the search itself sees masked elements too
+        kAtNode,     // at an end; a masked element gives nothing
+        kInside,     // by interpolation; a masked element gives nothing
+        kAtBearing,  // at an end; the search itself sees masked elements too
     };
     CapSide(const CPier& pier, Kind kind, int end) : m_pier(pier), m_kind(kind), m_nEnd(end) {
         m_place.m_dT = end == kEndI ? 0.0 : 1.0;
@@ -70,7 +70,6 @@ class CapSide {
     int End() const { return m_nEnd; }
     // The element in the list; -1 after the message for a place that is none.
     int Element() const { return m_pier.GetElement(m_place.m_nKind, m_place.m_nIndex, m_place.m_nElement); }
-    bool IsInsideElement() const { return m_kind == kInsideElement; }
     // Whether t lies properly inside the element, as all but rounded faces do.
     bool HasInnerFraction() const { return m_place.m_dT != 0.0 && m_place.m_dT != 1.0; }
 

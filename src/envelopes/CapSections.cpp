@@ -41,8 +41,8 @@ CapSection FaceSection(const CPier& pier, const CapForm& form, int support, int 
         section.right.FindAtNode(section.node);
         return section;
     }
-    CapSection section{false, -1, CapSide(pier, CapSide::kInsideElement, kEndJ),
-                       CapSide(pier, CapSide::kInsideElement, kEndI), false};
+    CapSection section{false, -1, CapSide(pier, CapSide::kInside, kEndJ),
+                       CapSide(pier, CapSide::kInside, kEndI), false};
     CCapPlace place;
     if (!pier.LocateOnCap(support + 1, kind, x, form.locateMode, place)) return section;
     section.left.SetPlace(place);
