@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+
+#include "host/HostWindows.h"
+
+// What a user does to a control. Each returns false when it is refused: no such control, or a disabled or
+// hidden one. A press is posted, and worked off behind the return.
+namespace actions {
+
+bool Click(HWND dialog, int id);
+bool TypeText(HWND dialog, int id, const std::string& text);
+bool Focus(HWND dialog, int id);
+bool SelectEntry(HWND dialog, int id, int entry);
+bool Spin(HWND dialog, int id, bool up);
+// Puts the focus on the cell of the grid; the text is typed on the keyboard then.
+bool TypeCell(HWND dialog, int row, int column, const std::string& text);
+// The F1 key over a control, whether it can have the focus or not.
+bool PressHelp(HWND dialog, int id);
+
+}  // namespace actions

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/HostWindows.h"
+
+// The grid's cells, asked of its window.
+namespace gridreader {
+
+// The texts of all cells, row by row.
+std::vector<std::vector<std::string>> ReadRows(HWND grid);
+
+// Puts the focus on the cell. False: there is no such cell.
+bool GoToCell(HWND grid, int row, int column);
+
+}  // namespace gridreader

@@ -1,0 +1,3 @@
+#pragma once
+
+#include "framework/win32/Windows32.h"

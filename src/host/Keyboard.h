@@ -1,0 +1,15 @@
+#pragma once
+
+#include <string_view>
+
+#include "host/HostWindows.h"
+
+// The real keyboard: keys go to the window that has the focus, through the queue of the system. They arrive a
+// while after the call.
+namespace keyboard {
+
+void Press(WORD key);
+// Types characters that the keyboard's layout has; false for one that it has not, which ends the typing.
+bool Type(std::string_view text);
+
+}  // namespace keyboard

@@ -1,0 +1,161 @@
+#include <fcntl.h>
+#include <io.h>
+
+#include <CLI/CLI.hpp>
+#include <array>
+#include <cstdlib>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <memory>
+#include <stdexcept>
+
+#include "host/HostWindows.h"
+#include "host/WindowDriver.h"
+
+// Stands in for the host program: it loads the module that lies beside it, calls the export, and can play a
+// script on the module's real windows. It carries the host's name, which the module trims off its path.
+
+namespace {
+
+constexpr const char* kViewerKey = "SOFTWARE\\Microsoft\\Notepad";
+constexpr UINT kTickMilliseconds = 10;
+enum HostExit { kDone = 0, kUsage = 2, kBroken = 3 };
+
+struct HostOptions {
+    std::string project, script, version, clock;
+    std::string format = "text";
+    int fontSize = 0;
+};
+
+using ModuleExport = unsigned(WINAPI*)(int, const char*, const char*, const char*, const char*, const char*);
+
+std::string FullPath(const std::string& path) {
+    std::array<char, MAX_PATH> full{};
+    if (path.empty()) return path;
+    const DWORD length =
+        GetFullPathNameA(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
+    return length > 0 && length < full.size() ? std::string(full.data(), length) : path;
+}
+
+std::string FolderOf(const std::string& path) {
+    return path.substr(0, path.find_last_of('\\') + 1);
+}
+
+ModuleExport LoadModule() {
+    std::array<char, MAX_PATH> program{};
+    GetModuleFileNameA(nullptr, program.data(), static_cast<DWORD>(program.size()));
+    const std::string path = FolderOf(program.data()) + "Lumerin.dll";
+    const HMODULE module = LoadLibraryA(path.c_str());
+    if (module == nullptr) throw std::runtime_error(path + " could not be loaded");
+    const FARPROC address = GetProcAddress(module, "LaunchLumerin");
+    if (address == nullptr) throw std::runtime_error(path + " has no export LaunchLumerin");
+    return reinterpret_cast<ModuleExport>(reinterpret_cast<void*>(address));
+}
+
+int FormatNumber(const std::string& format) {
+    if (format == "text") return 2;
+    if (format == "pdf") return 1;
+    if (format == "excel") return 0;
+    return std::stoi(format);  // any number, as a host might pass it
+}
+
+// The text viewer's font size as it stands in the registry, for the time of the run.
+class ViewerFont {
+  public:
+    explicit ViewerFont(int points) : m_bSet(points > 0) {
+        if (!m_bSet) return;
+        const auto tenths = static_cast<DWORD>(points) * 10;
+        RegSetKeyValueA(HKEY_CURRENT_USER, kViewerKey, "iPointSize", REG_DWORD, &tenths, sizeof tenths);
+    }
+    ViewerFont(const ViewerFont&) = delete;
+    ViewerFont& operator=(const ViewerFont&) = delete;
+    ~ViewerFont() {
+        if (m_bSet) RegDeleteKeyValueA(HKEY_CURRENT_USER, kViewerKey, "iPointSize");
+    }
+
+  private:
+    bool m_bSet;
+};
+
+std::unique_ptr<WindowDriver>& Driver() {
+    static std::unique_ptr<WindowDriver> driver;
+    return driver;
+}
+
+void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
+    try {
+        Driver()->Tick();
+    } catch (const std::exception& error) {
+        // Nothing may unwind the platform's frames.
+        std::cerr << "Tarnsway: " << error.what() << std::endl;
+        ExitProcess(kBroken);
+    }
+}
+
+std::string ReadScript(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    if (!file) throw std::runtime_error("the script " + path + " could not be read");
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+HostExit Drive(const HostOptions& options, ModuleExport launch) {
+    Driver() = std::make_unique<WindowDriver>(ParseScript(ReadScript(options.script)), std::cout);
+    const UINT_PTR timer = SetTimer(nullptr, 0, kTickMilliseconds, OnTimer);
+    std::string project = FullPath(options.project);
+    for (bool more = true; more;) {
+        const unsigned result =
+            launch(FormatNumber(options.format), project.c_str(), options.version.c_str(), "", "", "");
+        Driver()->EndCall(result);
+        const ScriptAction* again = Driver()->TakeAgain();
+        more = again != nullptr;
+        if (more && !again->text.empty()) project = FolderOf(project) + again->text;
+    }
+    KillTimer(nullptr, timer);
+    if (const ScriptAction* left = Driver()->FirstLeftOver()) {
+        std::cerr << "Tarnsway: script line " << left->line << ": the last dialog is closed" << std::endl;
+    }
+    Driver().reset();
+    std::cout.flush();
+    return kDone;
+}
+
+HostExit Run(const HostOptions& options) {
+    if (!options.clock.empty()) _putenv_s("LUMERIN_CLOCK", options.clock.c_str());
+    const ViewerFont font(options.fontSize);
+    const ModuleExport launch = LoadModule();
+    if (!options.script.empty()) return Drive(options, launch);
+    const std::string project = FullPath(options.project);
+    const unsigned result =
+        launch(FormatNumber(options.format), project.c_str(), options.version.c_str(), "", "", "");
+    JsonLines(std::cout).Result(result);
+    std::cout.flush();
+    return kDone;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    // The lines end as they do on every platform.
+    _setmode(_fileno(stdout), _O_BINARY);
+    HostOptions options;
+    CLI::App program("Stand-in for the host program of Lumerin.dll");
+    program.add_option("PROJECT", options.project, "Input file of a project (.in), or \"\" for none")
+        ->required();
+    program.add_option("SCRIPT", options.script, "File of actions for the dialogs, one a line");
+    program.add_option("--format", options.format, "Format to start on: text, pdf, excel, or a number");
+    program.add_option("--version-text", options.version, "The host's version");
+    program.add_option("--font-size", options.fontSize, "Font size of the text viewer in points");
+    program.add_option("--clock", options.clock, "Date and time to print, YYYY-MM-DDTHH:MM:SS");
+    try {
+        program.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return program.exit(error) == 0 ? kDone : kUsage;
+    }
+    try {
+        return Run(options);
+    } catch (const std::exception& error) {
+        std::cerr << "Tarnsway: " << error.what() << std::endl;
+        return kUsage;
+    }
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+#include "batch/JsonLines.h"
+
+// What leaves the module for another program is told by that program: the recorder, in the place of a viewer,
+// and the recording plot module append a line to a file that the environment names.
+class Records {
+  public:
+    // Makes the file and names it in the environment, for this process and those that it starts.
+    explicit Records(JsonLines& lines);
+    Records(const Records&) = delete;
+    Records& operator=(const Records&) = delete;
+    ~Records();
+
+    // Prints what was recorded since the last time. False: a started program has not written its line yet.
+    bool Print();
+
+  private:
+    void PrintLine(const std::string& line);
+
+    JsonLines& m_lines;
+    std::string m_sPath;
+    std::size_t m_nRead = 0;  // bytes of the file that are printed
+};

@@ -1,0 +1,170 @@
+#include "host/WindowDriver.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "framework/Dialog.h"
+#include "host/Actions.h"
+#include "host/GridReader.h"
+#include "host/Keyboard.h"
+#include "host/Picture.h"
+#include "host/WindowReader.h"
+
+namespace {
+
+// A key takes this many ticks from the keyboard to the window that has the focus.
+constexpr int kKeySettle = 12;
+// Ticks after which a window that was answered counts as another one under the same handle.
+constexpr int kAnswerPatience = 50;
+
+bool UsesKeyboard(ScriptVerb verb) {
+    return verb == ScriptVerb::cell || verb == ScriptVerb::keyEscape || verb == ScriptVerb::keyReturn ||
+           verb == ScriptVerb::keyHelp;
+}
+
+}  // namespace
+
+WindowDriver::WindowDriver(std::vector<ScriptAction> actions, std::ostream& out)
+    : m_actions(std::move(actions)), m_lines(out), m_records(m_lines) {}
+
+void WindowDriver::Tick() {
+    if (m_nSettle > 0) {
+        --m_nSettle;
+        return;
+    }
+    const HWND front = FrontDialog();
+    if (front == nullptr) return;
+    m_records.Print();
+    if (IsMessageBox(front)) {
+        AnswerBox(front);
+        return;
+    }
+    m_hAnswered = nullptr;
+    NoteDialog(front);
+    PlayNext(front);
+}
+
+void WindowDriver::AnswerBox(HWND box) {
+    if (box == m_hAnswered && ++m_nAnsweredTicks < kAnswerPatience) return;
+    m_hAnswered = box;
+    m_nAnsweredTicks = 0;
+    const MessageBoxState state = ReadMessageBox(box);
+    m_lines.Message(state.text, state.title, state.icon);
+    const HWND wanted = m_bAnswerYes ? state.yes : state.no;
+    PostMessageA(wanted != nullptr ? wanted : state.ok, BM_CLICK, 0, 0);
+}
+
+void WindowDriver::NoteDialog(HWND dialog) {
+    const auto known = std::find(m_open.begin(), m_open.end(), dialog);
+    if (known != m_open.end()) {
+        m_open.erase(known + 1, m_open.end());
+        return;
+    }
+    m_open.push_back(dialog);
+    m_lines.Dialog(TextOf(dialog));
+}
+
+void WindowDriver::PlayNext(HWND dialog) {
+    if (m_nNext >= m_actions.size() || m_actions[m_nNext].verb == ScriptVerb::again) {
+        CloseDialog(dialog);
+        return;
+    }
+    // The action is over before it is played: it may open a window, whose loop ticks on.
+    const ScriptAction& action = m_actions[m_nNext++];
+    if (!Perform(action, dialog)) {
+        m_lines.Refused(RefusedName(action));
+    } else if (UsesKeyboard(action.verb)) {
+        m_nSettle = kKeySettle;
+    }
+}
+
+bool WindowDriver::Perform(const ScriptAction& action, HWND dialog) {
+    SetForegroundWindow(dialog);
+    switch (action.verb) {
+        case ScriptVerb::click:
+            return actions::Click(dialog, action.id);
+        case ScriptVerb::text:
+            return actions::TypeText(dialog, action.id, action.text);
+        case ScriptVerb::focus:
+            return actions::Focus(dialog, action.id);
+        case ScriptVerb::select:
+            return actions::SelectEntry(dialog, action.id, action.number);
+        case ScriptVerb::spinUp:
+            return actions::Spin(dialog, action.id, true);
+        case ScriptVerb::spinDown:
+            return actions::Spin(dialog, action.id, false);
+        case ScriptVerb::cell:
+            return actions::TypeCell(dialog, action.id, action.number, action.text);
+        case ScriptVerb::graphClick:
+            return false;
+        case ScriptVerb::answerYes:
+        case ScriptVerb::answerNo:
+            m_bAnswerYes = action.verb == ScriptVerb::answerYes;
+            return true;
+        case ScriptVerb::dump:
+            Dump(dialog);
+            return true;
+        case ScriptVerb::shot:
+            return SavePicture(dialog, action.text);
+        case ScriptVerb::keyEscape:
+            keyboard::Press(VK_ESCAPE);
+            return true;
+        case ScriptVerb::keyReturn:
+            keyboard::Press(VK_RETURN);
+            return true;
+        case ScriptVerb::keyHelp:
+            return actions::PressHelp(dialog, action.id);
+        case ScriptVerb::again:
+            break;
+    }
+    return true;
+}
+
+void WindowDriver::Dump(HWND dialog) {
+    const std::vector<HWND> controls = ControlsOf(dialog);
+    for (const HWND control : controls) {
+        const ControlState state = ReadControl(control);
+        const bool hasId = static_cast<WORD>(state.id) != 0xffff;
+        if (hasId) m_lines.Control(state);
+    }
+    for (const HWND control : controls) {
+        if (KindOf(control) != ControlKind::grid) continue;
+        int row = 0;
+        for (const auto& cells : gridreader::ReadRows(control)) m_lines.Row(row++, cells);
+    }
+}
+
+// As a user would who wants to leave: by the button "Close", else by Cancel. A dialog that stays all the same
+// is ended.
+void WindowDriver::CloseDialog(HWND dialog) {
+    if (m_hClosing == dialog) {
+        EndDialog(dialog, IDCANCEL);
+        return;
+    }
+    m_hClosing = dialog;
+    int id = IDCANCEL;
+    for (const HWND control : ControlsOf(dialog)) {
+        const bool visibleButton = KindOf(control) == ControlKind::button && HasStyle(control, WS_VISIBLE);
+        if (visibleButton && TextOf(control) == "Close") id = GetDlgCtrlID(control);
+    }
+    if (!actions::Click(dialog, id)) PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+}
+
+void WindowDriver::EndCall(unsigned result) {
+    m_records.Print();
+    m_lines.Result(result);
+    m_open.clear();
+    m_hAnswered = m_hClosing = nullptr;
+    m_nSettle = 0;
+}
+
+const ScriptAction* WindowDriver::TakeAgain() {
+    const ScriptAction* next = FirstLeftOver();
+    if (next == nullptr || next->verb != ScriptVerb::again) return nullptr;
+    ++m_nNext;
+    return next;
+}
+
+const ScriptAction* WindowDriver::FirstLeftOver() const {
+    return m_nNext < m_actions.size() ? &m_actions[m_nNext] : nullptr;
+}

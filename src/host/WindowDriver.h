@@ -1,0 +1,45 @@
+#pragma once
+
+#include <ostream>
+#include <vector>
+
+#include "batch/JsonLines.h"
+#include "batch/Script.h"
+#include "host/HostWindows.h"
+#include "host/Records.h"
+
+// Plays a script on the module's real windows. It lives on the thread of the dialogs: a timer calls Tick in
+// whatever modal loop is running, and only when that loop has nothing else to do, so that a press has been
+// worked off, or has opened another window, by the time of the next tick.
+class WindowDriver {
+  public:
+    WindowDriver(std::vector<ScriptAction> actions, std::ostream& out);
+
+    void Tick();
+
+    // Prints what the call left behind and its result.
+    void EndCall(unsigned result);
+    // The action that opens the dialog once more behind a call; null when another one is next, or none.
+    const ScriptAction* TakeAgain();
+    // The action that found no open dialog any more; null when all were played.
+    const ScriptAction* FirstLeftOver() const;
+
+  private:
+    void AnswerBox(HWND box);
+    void NoteDialog(HWND dialog);
+    void PlayNext(HWND dialog);
+    bool Perform(const ScriptAction& action, HWND dialog);
+    void Dump(HWND dialog);
+    void CloseDialog(HWND dialog);
+
+    std::vector<ScriptAction> m_actions;
+    std::size_t m_nNext = 0;
+    JsonLines m_lines;
+    Records m_records;
+    std::vector<HWND> m_open;    // the dialogs that were told, the front one last
+    HWND m_hAnswered = nullptr;  // a message box whose button was pressed
+    HWND m_hClosing = nullptr;   // a dialog whose "Close" was pressed
+    int m_nSettle = 0;           // ticks to let pass: keys of the keyboard are on their way
+    int m_nAnsweredTicks = 0;    // how long the answered box has stayed
+    bool m_bAnswerYes = true;
+};

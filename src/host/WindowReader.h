@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "batch/JsonLines.h"
+#include "host/HostWindows.h"
+
+// What is really on the screen: dialogs, message boxes and controls, read from their windows.
+
+struct MessageBoxState {
+    std::string text, title;
+    MessageIcon icon = MessageIcon::none;
+    HWND yes = nullptr, no = nullptr, ok = nullptr;  // null: no such button
+};
+
+std::string TextOf(HWND window);
+bool HasStyle(HWND window, DWORD style);
+
+// The one dialog or message box of this thread that takes input; null while there is none.
+HWND FrontDialog();
+// A box of the platform: it has no controls but texts, an icon and buttons.
+bool IsMessageBox(HWND dialog);
+MessageBoxState ReadMessageBox(HWND box);
+
+// The direct children in the order of the resource.
+std::vector<HWND> ControlsOf(HWND dialog);
+// The kind by class and style of the window.
+ControlKind KindOf(HWND control);
+ControlState ReadControl(HWND control);
