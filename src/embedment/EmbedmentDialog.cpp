@@ -1,8 +1,10 @@
 #include "embedment/EmbedmentDialog.h"
 
-#include "framework/Backend.h"
+#include "embedment/MPTEDlg.h"
 
-// Until the dialog of the study is built.
-void RunEmbedmentDialog(int /*units*/, int /*format*/) {
-    AfxMessageBox("The embedment study is not built yet.", MessageIcon::error);
+void RunEmbedmentDialog(int units, int format) {
+    CMPTEDlg dialog;
+    dialog.SetUnits(units);
+    dialog.SetFormat(format);
+    dialog.DoModal();
 }

@@ -1,0 +1,189 @@
+#include "embedment/EmbedmentResults.h"
+
+#include <limits>
+
+#include "framework/Backend.h"
+#include "framework/File.h"
+#include "session/Session.h"
+#include "text/Format.h"
+#include "text/KeyedLine.h"
+#include "writers/PdfExport.h"
+
+namespace {
+
+constexpr int kLineLength = 256;  // 255 characters and the end of the line
+constexpr const char* kEndMark = "EOF";
+
+// More than any study has; a header beyond them is broken.
+constexpr int kMostTrials = 10000;
+constexpr int kMostCases = 1000000;
+
+enum HeaderPlace {
+    kSubstructurePlace = 0,
+    kTrialPlace = 1,
+    kCasePlace = 3,
+    kEmbedmentPlace = 4,
+    kHeaderPlaces
+};
+constexpr std::size_t kDataPlaces = 1 + 2 * kQuantityCount;
+
+// Trial files write their integers as reals. What is no int reads as `fallback`.
+int Truncated(double value, int fallback) {
+    constexpr double kLow = std::numeric_limits<int>::min(), kHigh = std::numeric_limits<int>::max();
+    return value >= kLow && value <= kHigh ? static_cast<int>(value) : fallback;
+}
+
+void RequireCount(const std::string& path, const char* what, int count, int most) {
+    if (count >= 0 && count <= most) return;
+    throw CFileException(CFileException::badCount, path, FormatInt(count) + " " + what + " cannot be");
+}
+
+}  // namespace
+
+CEmbedmentResults::CEmbedmentResults() {
+    ReadGlobalData();
+    const std::string path = EmbedmentBaseFile();
+    RequireCount(path, "embedment trials", m_nTrials, kMostTrials);
+    RequireCount(path, "load cases", m_nCases, kMostCases);
+    m_nTableCases = m_nCases;
+    const auto trials = static_cast<std::size_t>(m_nTrials);
+    m_pppValues.resize(trials);
+    m_pppLocations.resize(trials);
+    m_pEmbedments.assign(trials, 0.0);
+    m_pIncomplete.assign(trials, 1);
+}
+
+bool CEmbedmentResults::ReadGlobalData() {
+    ifstreamex file(EmbedmentBaseFile());
+    if (!file.is_open()) {
+        AfxMessageBox("Error opening the base PEL results file.");
+        return false;
+    }
+    std::string line;
+    while (file.GetLineEx(line, kLineLength)) {
+        std::array<int, kHeaderPlaces> header{};
+        if (line.empty() || ReadKeyedInts(line, "", header) == 0) continue;
+        m_nSubstructure = header[kSubstructurePlace];
+        m_nTrials = header[kTrialPlace];
+        m_nCases = header[kCasePlace];
+        return true;
+    }
+    AfxMessageBox("Error reading PEL global data.");
+    return false;
+}
+
+std::string CEmbedmentResults::TrialPath(int trial) const {
+    if (trial == 0) return EmbedmentBaseFile();
+    const std::string folder = FolderOf(g_InputFilePath);
+    std::string name = g_InputFilePath.substr(folder.size());
+    const std::size_t point = name.rfind('.');
+    if (point != std::string::npos) name.erase(point);
+    const std::string mark = "MPTE" + FormatInt(trial + 1);
+    return folder + mark + services::FolderSeparator() + name + "_" + mark + ".PEL";
+}
+
+void CEmbedmentResults::LoadTrials() {
+    for (int trial = 0; trial < m_nTrials; ++trial) {
+        const std::string path = TrialPath(trial);
+        if (IsTrialFileComplete(path)) ReadTrialFile(path, trial);
+    }
+}
+
+bool CEmbedmentResults::IsTrialFileComplete(const std::string& path) {
+    ifstreamex file(path);
+    if (!file.is_open()) return false;
+    std::string line;
+    while (file.GetLineEx(line, kLineLength)) {
+        if (line == kEndMark) return true;
+    }
+    return false;
+}
+
+void CEmbedmentResults::ReadTrialFile(const std::string& path, int trial) {
+    ifstreamex file(path);
+    if (!file.is_open()) {
+        AfxMessageBox("Error opening the PEL results file.");
+        return;
+    }
+    if (!IsTrial(trial)) return;
+    std::string line;
+    if (file.GetLineEx(line, kLineLength) && !line.empty()) ReadHeader(line, trial);
+    while (file.GetLineEx(line, kLineLength)) {
+        if (line == kEndMark) {
+            m_pIncomplete[static_cast<std::size_t>(trial)] = 0;
+        } else if (!line.empty()) {
+            ReadCase(line, trial);
+        }
+    }
+}
+
+// The number of trials stays that of the base file, which sized the table.
+void CEmbedmentResults::ReadHeader(const std::string& line, int trial) {
+    std::array<double, kHeaderPlaces> header{};
+    if (ReadKeyedDoubles(line, "", header) == 0) return;
+    m_nSubstructure = Truncated(header[kSubstructurePlace], m_nSubstructure);
+    const int cases = Truncated(header[kCasePlace], m_nCases);
+    if (cases >= 0 && cases <= kMostCases) m_nCases = cases;
+    m_pEmbedments[static_cast<std::size_t>(trial)] = header[kEmbedmentPlace];
+}
+
+void CEmbedmentResults::ReadCase(const std::string& line, int trial) {
+    std::array<double, kDataPlaces> data{};
+    if (ReadKeyedDoubles(line, "", data) == 0) return;
+    const int number = Truncated(data[0], 0);
+    if (number < 1 || number > m_nTableCases) return;
+    auto& values = m_pppValues[static_cast<std::size_t>(trial)];
+    auto& locations = m_pppLocations[static_cast<std::size_t>(trial)];
+    const auto row = static_cast<std::size_t>(number - 1);
+    if (row >= values.size()) {
+        values.resize(row + 1);
+        locations.resize(row + 1);
+    }
+    for (std::size_t q = 0; q < kQuantityCount; ++q) {
+        values[row][q] = data[1 + 2 * q];
+        locations[row][q] = Truncated(data[2 + 2 * q], 0);
+    }
+}
+
+double CEmbedmentResults::GetEmbedment(int trial) const {
+    return IsTrial(trial) ? m_pEmbedments[static_cast<std::size_t>(trial)] : 0.0;
+}
+
+namespace {
+
+template <class Table>
+auto ValueAt(const Table& table, int loadCase, int quantity) {
+    using Value = typename Table::value_type::value_type;
+    const bool known = loadCase >= 0 && static_cast<std::size_t>(loadCase) < table.size() && quantity >= 0 &&
+                       quantity < kQuantityCount;
+    return known ? table[static_cast<std::size_t>(loadCase)][static_cast<std::size_t>(quantity)] : Value{};
+}
+
+}  // namespace
+
+double CEmbedmentResults::GetValue(int trial, int loadCase, int quantity) const {
+    return IsTrial(trial) ? ValueAt(m_pppValues[static_cast<std::size_t>(trial)], loadCase, quantity) : 0.0;
+}
+
+int CEmbedmentResults::GetLocation(int trial, int loadCase, int quantity) const {
+    return IsTrial(trial) ? ValueAt(m_pppLocations[static_cast<std::size_t>(trial)], loadCase, quantity) : 0;
+}
+
+bool CEmbedmentResults::IsTrialIncomplete(int trial) const {
+    return !IsTrial(trial) || m_pIncomplete[static_cast<std::size_t>(trial)] != 0;
+}
+
+int CEmbedmentResults::FindAdjacentTrial(int trial, bool backwards) const {
+    const int step = backwards ? -1 : 1;
+    for (int at = trial + step; at >= 0 && at < m_nTrials; at += step) {
+        if (!IsTrialIncomplete(at)) return at;
+    }
+    return -1;
+}
+
+CEmbedmentResults::Order CEmbedmentResults::GetTrialOrder() const {
+    const int first = FirstTrial();
+    const int second = first < 0 ? -1 : FindAdjacentTrial(first, false);
+    if (second < 0) return kNoOrder;
+    return GetEmbedment(first) <= GetEmbedment(second) ? kAscending : kDescending;
+}

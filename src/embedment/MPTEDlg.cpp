@@ -1,0 +1,252 @@
+#include "embedment/MPTEDlg.h"
+
+#include <array>
+
+#include "grid/CellNumber.h"
+#include "grid/GridCellNumeric.h"
+#include "grid/GridHelpers.h"
+#include "model/DataSet.h"
+#include "session/Constants.h"
+#include "session/Session.h"
+#include "text/Format.h"
+#include "writers/GridExport.h"
+#include "writers/PdfExport.h"
+
+namespace {
+
+const ControlSpec kControls[] = {
+#include "framework/ControlTable.h"
+
+#include "embedment/dialogs/EmbedmentDialog.inc"
+};
+
+enum ControlId {
+    kExport = 1022,
+    kCase = 1025,
+    kSpin = 1026,
+    kQuantity = 1027,
+    kGrid = 1028,
+    kGraph = 1029,
+    kCaseLabel = 1030,
+    kNotes = 1031,
+    kIndividual = 1033,
+    kEnvelope = 1034,
+    kEnvelopeMode = 1035,
+};
+
+constexpr int kHeadingRows = 2, kColumns = 5;
+constexpr int kEmbedmentColumn = 3, kValueColumn = 4;
+constexpr int kRowHeight = 30;
+constexpr Colour kWhite = 0xffffff;
+constexpr Colour kGridBackground = 0xd7d7d7;
+constexpr int kCaptureMargin = 5;  // pixels right of the graph's window
+
+constexpr const char* kQuantityEntries[] = {"Lateral Displacement", "Lateral X-Displacement",
+                                            "Lateral Y-Displacement", "Max Axial Force", "Min Axial Force"};
+
+// The quotes are those of the Western code page.
+constexpr const char* kDisplacementNote =
+    "2. The \x91Lateral Displacement\x92, \x91Lateral X-Displacement\x92, and \x91Lateral Y-Displacement\x92 "
+    "plots display maximums of resultant Lateral Displacement, X-displacement, and Y-displacement across "
+    "pile "
+    "heads.";
+constexpr const char* kForceNote =
+    "3. The \x91Max Axial Force\x92 plot displays maximum axial force for all pile elements. The \x91Min "
+    "Axial "
+    "Force\x92 plot displays minimum axial force for all pile elements.";
+
+bool HasCombinations() {
+    return !g_DataSet.IsPierless() && g_DataSet.FirstPier().m_bCombinations;
+}
+
+}  // namespace
+
+const DialogSpec g_EmbedmentDialogSpec{1002, "Minimum Pile Tip Embedment", 566, 316, true, kControls};
+
+CMPTEDlg::CMPTEDlg() : CDialog(g_EmbedmentDialogSpec) {
+    m_Graph.m_onClick = [this] { RunGuarded(*this, [this] { OnGraphClick(); }); };
+}
+
+bool CMPTEDlg::OnCommand(int id, Notice notice) {
+    static const CommandEntry<CMPTEDlg> kMap[] = {
+        {Notice::selectionChanged, kQuantity, kQuantity, &CMPTEDlg::OnQuantityChanged},
+        {Notice::selectionChanged, kEnvelopeMode, kEnvelopeMode, &CMPTEDlg::OnQuantityChanged},
+        {Notice::focusLost, kCase, kCase, &CMPTEDlg::OnCaseFocusLost},
+        {Notice::textChanged, kCase, kCase, &CMPTEDlg::OnCaseChanged},
+        {Notice::clicked, kExport, kExport, &CMPTEDlg::OnExport},
+        {Notice::clicked, kIndividual, kIndividual, &CMPTEDlg::OnIndividual},
+        {Notice::clicked, kEnvelope, kEnvelope, &CMPTEDlg::OnEnvelope},
+    };
+    return Dispatch(*this, kMap, id, notice) || CDialog::OnCommand(id, notice);
+}
+
+void CMPTEDlg::DoDataExchange(CDataExchange& exchange) {
+    // The text first: its change notice finds no spin button at the start and is passed over.
+    DDX_Text(exchange, kCase, m_nCase);
+    DDX_Control(exchange, kSpin, m_spinCase);
+    DDX_Control(exchange, kQuantity, m_cmbQuantity);
+    DDX_Control(exchange, kEnvelopeMode, m_cmbEnvelope);
+    DDX_Control(exchange, kGrid, m_Grid);
+    DDX_Control(exchange, kGraph, m_Graph);
+    DDX_Radio(exchange, kIndividual, m_nViewMode);
+}
+
+bool CMPTEDlg::OnInitDialog() {
+    const bool focus = CDialog::OnInitDialog();
+    EnableItem(kEnvelopeMode, false);
+    m_pResults.LoadTrials();
+    m_spinCase.SetRange(1, m_pResults.GetCaseCount());
+    m_nCase = 1;
+    m_spinCase.SetPos(1);
+    for (const char* entry : kQuantityEntries) m_cmbQuantity.AddString(entry);
+    m_cmbQuantity.SetCurSel(0);
+    m_cmbEnvelope.AddString("Max Envelope");
+    m_cmbEnvelope.AddString("Min Envelope");
+    m_cmbEnvelope.SetCurSel(0);
+    SetUpGrid();
+    FillGrid();
+    DrawPlot();
+    SetCaptions();
+    return focus;
+}
+
+void CMPTEDlg::SetUpGrid() {
+    const int rows = m_pResults.GetTrialCount() + kHeadingRows;
+    m_Grid.ClearGrid();
+    m_Grid.SetRowCount(rows);
+    m_Grid.SetColumnCount(kColumns);
+    for (int row = 0; row < rows; ++row) m_Grid.SetRowHeight(row, kRowHeight);
+    m_Grid.SetFixedRowCount(0);
+    m_Grid.SetFixedColumnCount(0);
+    m_Grid.DefaultCell(false, false).SetBackground(kWhite);
+    m_Grid.SetBackground(kGridBackground);
+    m_Grid.SetEditable(false);
+    m_Grid.SetRowsResizable(false);
+    m_Grid.SetColumnsResizable(false);
+    m_Grid.SetFixedRowClickSelects(false);
+    m_Grid.SetFixedColumnClickSelects(false);
+    SetGridHeadings();
+    for (int row = kHeadingRows; row < rows; ++row) {
+        m_Grid.SetCellClass(row, kValueColumn, CGridCellFloat::classCGridCellFloat);
+    }
+    ShadeFixedCells(m_Grid, kHeadingRows, 1);
+    const std::array<int, kColumns> weights{80, 110, 70, 125, 125};
+    std::array<int, kColumns> widths{};
+    FitColumns(m_Grid, weights, widths);
+    SetGridAlignment(m_Grid, kHeadingRows, 1, kTextCenter, kTextCenter, kTextRight);
+}
+
+void CMPTEDlg::SetCaptions() {
+    SetItemText(kCaseLabel, g_DataSet.GetLoadLabel(true, false));
+    SetItemText(kIndividual, "Individual " + g_DataSet.GetLoadLabel(false, false));
+    SetItemText(kEnvelope, (g_AllLoadCases ? "Envelope (All " : "Envelope (Custom Set of ") +
+                               g_DataSet.GetLoadLabel(true, true) + ")");
+    SetItemText(kExport, m_nFormat == kFormatPdf ? "PDF" : "Excel");
+    SetWindowText(
+        FormatNumbered("Minimum Pile Tip Embedment - Substructure %i", m_pResults.GetSubstructure()));
+    const std::string notes[] = {
+        HasCombinations() ? "1. Results are presented for each load combination and each embedment."
+                          : "1. Results are presented for each load case and each embedment.",
+        kDisplacementNote, kForceNote};
+    CStatic control;
+    control.m_hWnd = backend::Control(m_hWnd, kNotes);
+    SetNotesText(control, notes);
+}
+
+void SetNotesText(CWnd& control, std::span<const std::string> lines) {
+    std::string text;
+    for (const std::string& line : lines) text += line + "\n\n";
+    control.SetWindowText(text);
+}
+
+// ---- choice of the case, the mode and the quantity
+
+void CMPTEDlg::OnCaseChanged(int) {
+    if (m_spinCase.m_hWnd != nullptr && !m_bRestoring) TakeCase(false);
+}
+
+void CMPTEDlg::OnCaseFocusLost(int) {
+    TakeCase(true);
+}
+
+void CMPTEDlg::TakeCase(bool emptyIsInvalid) {
+    const std::string text = ItemText(kCase);
+    if (text.empty() && !emptyIsInvalid) return;
+    const int number = ReadCellInt(text);
+    if (number >= 1 && number <= m_pResults.GetCaseCount()) {
+        UpdateData(true);
+        m_nCase = number;
+        m_spinCase.SetPos(m_nCase);
+        FillGrid();
+        DrawPlot();
+        return;
+    }
+    m_bRestoring = true;
+    CDataExchange exchange(*this, false);
+    DDX_Text(exchange, kCase, m_nCase);
+    m_bRestoring = false;
+    AfxMessageBox("Invalid load case.");
+}
+
+void CMPTEDlg::OnIndividual(int) {
+    UpdateData(true);
+    EnableItem(kCaseLabel, true);
+    EnableItem(kCase, true);
+    m_cmbEnvelope.EnableWindow(false);
+    FillGrid();
+    DrawPlot();
+}
+
+void CMPTEDlg::OnEnvelope(int) {
+    UpdateData(true);
+    EnableItem(kCaseLabel, false);
+    EnableItem(kCase, false);
+    m_cmbEnvelope.EnableWindow(true);
+    FillGrid();
+    DrawPlot();
+}
+
+void CMPTEDlg::OnQuantityChanged(int) {
+    SetGridHeadings();
+    FillGrid();
+    DrawPlot();
+}
+
+void CMPTEDlg::OnGraphClick() {
+    const int row = GridRowForX(m_Graph.GetClickedX());
+    if (row < kHeadingRows || row >= m_Grid.GetRowCount()) return;
+    m_Grid.ScrollCellIntoView(row, kEmbedmentColumn);
+    m_Grid.MoveFocusCell(row, kEmbedmentColumn);
+    m_Grid.SelectRange(row, kEmbedmentColumn, row, kEmbedmentColumn, true, true);
+}
+
+// ---- export
+
+void CMPTEDlg::CaptureGraphImage(const std::string& path) {
+    const ScreenRect place = m_Graph.Place();
+    m_Capture.Capture(1.0, path, true, place.left, place.top, place.right + kCaptureMargin, place.bottom);
+}
+
+void CMPTEDlg::ExportPdf() {
+    const std::string folder = FolderOf(g_InputFilePath);
+    const std::string image = folder + BuildPlotTitle(m_nCase, m_cmbQuantity.GetCurSel()) + ".bmp";
+    CaptureGraphImage(image);
+    CPdfExport pdf(m_Grid, folder + g_PdfTempName, folder + "MPTE.pdf");
+    pdf.m_sTitle = "Minimum Pile Tip Embedment Analysis Results";
+    pdf.m_sImagePath = image;
+    pdf.m_nHeaderRows = kHeadingRows;
+    pdf.m_sColumnWidth = "auto";
+    // Width 0 leaves the choice to the builder.
+    pdf.m_pColumnTypes.assign(pdf.m_pColumnTypes.size(), 0);
+    pdf.WriteAndStart();
+}
+
+void CMPTEDlg::OnExport(int) {
+    if (m_nFormat == kFormatPdf) {
+        ExportPdf();
+        return;
+    }
+    const std::string title = BuildPlotTitle(m_nCase, m_cmbQuantity.GetCurSel());
+    const std::array<int, 3> types{kExportInteger, kExportReal2, kExportReal6};
+    ExportGrid(title, title, kHeadingRows, 0, types, m_Grid, 2.0);
+}

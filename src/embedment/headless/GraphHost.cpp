@@ -1,0 +1,14 @@
+#include "embedment/GraphHost.h"
+
+#include "embedment/NTGraphTarnsway.h"
+
+namespace graphplatform {
+
+std::unique_ptr<GraphHost> MakeHost(CNTGraphTarnsway& graph) {
+    headless::AttachGraph(graph.m_hWnd, graph);
+    return std::make_unique<PlotGraphHost>(graph.Plot(), [&graph] { graph.OnClicked(); });
+}
+
+void PrepareWindowClass() {}
+
+}  // namespace graphplatform

@@ -1,0 +1,169 @@
+#include "embedment/win32/GraphWindow.h"
+
+// The common controls want windows.h before them.
+#include <commctrl.h>
+
+#include <algorithm>
+#include <cstring>
+
+#include "embedment/GraphRecord.h"
+#include "embedment/NTGraphTarnsway.h"
+#include "embedment/win32/ControlHost.h"
+#include "embedment/win32/GraphMessages.h"
+#include "embedment/win32/PlotGdiCanvas.h"
+
+namespace {
+
+constexpr UINT_PTR kSubclass = 1;
+constexpr WORD kArrow = 32512;  // the platform's arrow cursor
+
+SIZE ClientSize(HWND window) {
+    RECT area{};
+    GetClientRect(window, &area);
+    return {area.right, area.bottom};
+}
+
+}  // namespace
+
+namespace graphplatform {
+
+void PrepareWindowClass() {
+    WNDCLASSA found{};
+    if (GetClassInfoA(win32::ModuleInstance(), kGraphWindowClass, &found)) return;
+    WNDCLASSA graph{};
+    graph.style = CS_HREDRAW | CS_VREDRAW;
+    graph.lpfnWndProc = DefWindowProcA;
+    graph.hInstance = win32::ModuleInstance();
+    graph.hCursor = LoadCursorA(nullptr, MAKEINTRESOURCEA(kArrow));
+    graph.lpszClassName = kGraphWindowClass;
+    RegisterClassA(&graph);
+}
+
+std::unique_ptr<GraphHost> MakeHost(CNTGraphTarnsway& graph) {
+    if (graph.m_hWnd == nullptr) {
+        return std::make_unique<PlotGraphHost>(graph.Plot(), [&graph] { graph.OnClicked(); });
+    }
+    const HWND window = ToHwnd(graph.m_hWnd);
+    // The control takes its place first; what the graph's window is asked comes to it before the control.
+    std::unique_ptr<GraphHost> control = ControlHost::Create(graph, window);
+    auto host = std::make_unique<GraphWindow>(graph, window);
+    host->UseControl(std::move(control));
+    return host;
+}
+
+}  // namespace graphplatform
+
+GraphWindow::GraphWindow(CNTGraphTarnsway& graph, HWND window)
+    : PlotGraphHost(graph.Plot(), [&graph] { graph.OnClicked(); }), m_graph(graph), m_window(window) {
+    SetWindowSubclass(m_window, Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+}
+
+GraphWindow::~GraphWindow() {
+    if (m_window != nullptr) RemoveWindowSubclass(m_window, Procedure, kSubclass);
+}
+
+void GraphWindow::Set(int dispatchId, const GraphValue& value) {
+    if (m_control != nullptr) m_control->Set(dispatchId, value);
+}
+
+GraphValue GraphWindow::Get(int dispatchId) const {
+    return m_control != nullptr ? m_control->Get(dispatchId) : PlotGraphHost::Get(dispatchId);
+}
+
+void GraphWindow::Call(int dispatchId, std::span<const GraphValue> arguments) {
+    if (m_control != nullptr) m_control->Call(dispatchId, arguments);
+}
+
+void GraphWindow::EndDrawing() {
+    if (m_window != nullptr && m_control == nullptr) InvalidateRect(m_window, nullptr, FALSE);
+}
+
+ScreenRect GraphWindow::Place() const {
+    RECT place{};
+    if (m_window != nullptr) GetWindowRect(m_window, &place);
+    return {static_cast<int>(place.left), static_cast<int>(place.top), static_cast<int>(place.right),
+            static_cast<int>(place.bottom)};
+}
+
+LRESULT CALLBACK GraphWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                        DWORD_PTR data) {
+    auto& self = *reinterpret_cast<GraphWindow*>(data);
+    if (message == WM_NCDESTROY) {
+        RemoveWindowSubclass(window, Procedure, id);
+        self.m_window = nullptr;
+        return DefSubclassProc(window, message, wParam, lParam);
+    }
+    LRESULT result = 0;
+    return self.OnMessage(message, lParam, result) ? result
+                                                   : DefSubclassProc(window, message, wParam, lParam);
+}
+
+bool GraphWindow::OnMessage(UINT message, LPARAM lParam, LRESULT& result) {
+    if (message == kGraphDrawing) {
+        CopyDrawing(lParam);
+        return true;
+    }
+    if (message == kGraphPointOf) {
+        result = m_control == nullptr ? PointOf(*reinterpret_cast<const double*>(lParam)) : -1;
+        return true;
+    }
+    if (m_control != nullptr) return false;
+    switch (message) {
+        case WM_PAINT:
+            OnPaint();
+            return true;
+        case WM_ERASEBKGND:
+            result = 1;
+            return true;
+        case WM_LBUTTONUP:
+            OnClick(static_cast<short>(LOWORD(lParam)));
+            return true;
+        default:
+            return false;
+    }
+}
+
+void GraphWindow::CopyDrawing(LPARAM lParam) const {
+    auto& query = *reinterpret_cast<GraphDrawingText*>(lParam);
+    const std::string text = WriteGraphCalls(m_graph.LastDrawing());
+    query.length = static_cast<int>(text.size());
+    if (query.text == nullptr || query.capacity <= 0) return;
+    const int bytes = std::min(query.length, query.capacity - 1);
+    std::memcpy(query.text, text.data(), static_cast<std::size_t>(bytes));
+    query.text[bytes] = '\0';
+}
+
+LRESULT GraphWindow::PointOf(double x) const {
+    const SIZE size = ClientSize(m_window);
+    const HDC dc = GetDC(m_window);
+    const double pixel = m_plot.PixelOf(x, PlotGdiCanvas(dc), size.cx, size.cy);
+    ReleaseDC(m_window, dc);
+    if (!(pixel >= 0.0 && pixel < size.cx)) return -1;
+    return MAKELRESULT(static_cast<int>(pixel), size.cy / 2);
+}
+
+void GraphWindow::OnClick(int pixelX) {
+    const SIZE size = ClientSize(m_window);
+    const HDC dc = GetDC(m_window);
+    const double x = m_plot.XAt(pixelX, PlotGdiCanvas(dc), size.cx, size.cy);
+    ReleaseDC(m_window, dc);
+    Click(x);
+}
+
+// Off the screen first: a plot that is drawn again on every choice must not flicker.
+void GraphWindow::OnPaint() {
+    PAINTSTRUCT paint{};
+    const HDC screen = BeginPaint(m_window, &paint);
+    const SIZE size = ClientSize(m_window);
+    const HDC dc = CreateCompatibleDC(screen);
+    const HBITMAP bitmap =
+        CreateCompatibleBitmap(screen, std::max<int>(size.cx, 1), std::max<int>(size.cy, 1));
+    const HGDIOBJ before = SelectObject(dc, bitmap);
+    PlotGdiCanvas canvas(dc);
+    m_plot.Draw(canvas, size.cx, size.cy);
+    BitBlt(screen, 0, 0, size.cx, size.cy, dc, 0, 0, SRCCOPY);
+    SelectObject(dc, before);
+    DeleteObject(bitmap);
+    DeleteDC(dc);
+    EndPaint(m_window, &paint);
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "embedment/GraphHost.h"
+#include "framework/win32/Windows32.h"
+
+// The graph's place in the dialog: it answers what other programs ask and shows the module's own plot, unless
+// a control of the machine took the place.
+class GraphWindow : public PlotGraphHost {
+  public:
+    GraphWindow(CNTGraphTarnsway& graph, HWND window);
+    GraphWindow(const GraphWindow&) = delete;
+    GraphWindow& operator=(const GraphWindow&) = delete;
+    ~GraphWindow() override;
+
+    // Calls go to the control from now on; it is all that is drawn.
+    void UseControl(std::unique_ptr<GraphHost> control) { m_control = std::move(control); }
+
+    void Set(int dispatchId, const GraphValue& value) override;
+    GraphValue Get(int dispatchId) const override;
+    void Call(int dispatchId, std::span<const GraphValue> arguments) override;
+    void EndDrawing() override;
+    ScreenRect Place() const override;
+
+  private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                      DWORD_PTR data);
+    bool OnMessage(UINT message, LPARAM lParam, LRESULT& result);
+    LRESULT PointOf(double x) const;
+    void CopyDrawing(LPARAM lParam) const;
+    void OnPaint();
+    void OnClick(int pixelX);
+
+    CNTGraphTarnsway& m_graph;
+    HWND m_window;
+    std::unique_ptr<GraphHost> m_control;
+};
