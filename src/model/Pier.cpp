@@ -1,6 +1,7 @@
 #include "model/Pier.h"
 
 #include <algorithm>
+#include <new>
 
 namespace {
 
@@ -45,7 +46,26 @@ void CPier::AllocateMembers(const CMemberCounts& counts, int loadCases) {
     m_Masked.assign(frameElements, 0);
     m_nLoadCases = AtLeastZero(loadCases);
     m_LoadCases.assign(static_cast<std::size_t>(m_nLoadCases), CLoadCase{});
-    m_Forces.assign(static_cast<std::size_t>(m_nLoadCases) * elements * kForcesPerElement, 0.0F);
+    AllocateForces();
+}
+
+// Zeroed pages come from the system untouched, so forces that are read at once are written once.
+void CPier::AllocateForces() {
+    constexpr std::size_t kBlockBytes = std::size_t{16} << 20;
+    m_ForceBlocks.clear();
+    const std::size_t caseFloats = m_Elements.size() * kForcesPerElement;
+    if (caseFloats == 0) return;
+    m_nBlockShift = 0;
+    while ((caseFloats * sizeof(float)) << (m_nBlockShift + 1) <= kBlockBytes) ++m_nBlockShift;
+    const std::size_t cases = static_cast<std::size_t>(m_nLoadCases);
+    const std::size_t perBlock = std::size_t{1} << m_nBlockShift;
+    for (std::size_t done = 0; done < cases; done += perBlock) {
+        const std::size_t here = std::min(perBlock, cases - done);
+        // NOLINTNEXTLINE(cppcoreguidelines-no-malloc)
+        void* block = std::calloc(here * caseFloats, sizeof(float));
+        if (block == nullptr) throw std::bad_alloc();
+        m_ForceBlocks.emplace_back(static_cast<float*>(block));
+    }
 }
 
 std::vector<int> CPier::CollectSections(const CMember& member) const {

@@ -2,6 +2,8 @@
 
 #include <array>
 #include <cstdint>
+#include <cstdlib>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -17,7 +19,8 @@ class CPier {
     // ---- members and forces (model/)
 
     // Lays the members out in the element list, in the order piles, columns, left cantilever, spans, right
-    // cantilever, extra members, and takes zeroed forces for all cases. Counts below 0 count as 0.
+    // cantilever, extra members, and takes zeroed forces for all cases. Counts below 0 count as 0. Throws
+    // std::bad_alloc when the forces do not fit into memory.
     void AllocateMembers(const struct CMemberCounts& counts, int loadCases);
 
     int ElementCount() const { return static_cast<int>(m_Elements.size()); }
@@ -27,11 +30,16 @@ class CPier {
     // The fourteen floats of an element in a load case. Both indices are trusted: they come from the walk
     // over this substructure's own members.
     ElementForces Forces(int loadCase, int element) const {
-        return ElementForces(m_Forces.data() + ForceOffset(loadCase, element), kForcesPerElement);
+        return ElementForces(CaseForces(loadCase) + static_cast<std::size_t>(element) * kForcesPerElement,
+                             kForcesPerElement);
+    }
+    // The forces of all elements of a load case, in the order of the element list.
+    std::span<float> MutableCase(int loadCase) {
+        return {CaseForces(loadCase), m_Elements.size() * kForcesPerElement};
     }
     std::span<float, kForcesPerElement> MutableForces(int loadCase, int element) {
-        return std::span<float, kForcesPerElement>(m_Forces.data() + ForceOffset(loadCase, element),
-                                                   kForcesPerElement);
+        return std::span<float, kForcesPerElement>(
+            CaseForces(loadCase) + static_cast<std::size_t>(element) * kForcesPerElement, kForcesPerElement);
     }
     // The widths of the columns and the cap; element is an index of the element list behind the piles.
     CSectionData& SectionData(int element) {
@@ -195,16 +203,24 @@ class CPier {
     bool m_bPileHeadsFinite = true;  // D/C and FAX at the head ends
 
   private:
-    std::size_t ForceOffset(int loadCase, int element) const {
-        return (static_cast<std::size_t>(loadCase) * m_Elements.size() + static_cast<std::size_t>(element)) *
-               kForcesPerElement;
+    struct FreeForces {
+        void operator()(float* forces) const { std::free(forces); }
+    };
+    float* CaseForces(int loadCase) const {
+        const std::size_t c = static_cast<std::size_t>(loadCase);
+        const std::size_t inBlock = c & ((std::size_t{1} << m_nBlockShift) - 1);
+        return m_ForceBlocks[c >> m_nBlockShift].get() + inBlock * m_Elements.size() * kForcesPerElement;
     }
+    void AllocateForces();
 
     std::vector<CElement> m_Elements;
     int m_nFirstFrameElement = 0;  // piles come first in the list; the frame's elements follow
     std::vector<CSectionData> m_SectionData;
     std::vector<std::uint8_t> m_Masked;
-    std::vector<float> m_Forces;  // [load case][element][14]
+    // [load case][element][14], in blocks of whole cases: a 32-bit process finds room for many middling
+    // pieces where it finds none for one of a gigabyte.
+    std::vector<std::unique_ptr<float[], FreeForces>> m_ForceBlocks;
+    unsigned m_nBlockShift = 0;  // a block has 1 << shift cases
 };
 
 // The sizes that CPier::AllocateMembers lays out.

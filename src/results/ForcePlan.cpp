@@ -128,25 +128,10 @@ std::vector<CForceRead> PlanForceReads(const CPier& pier, const CPierReadState& 
     return planner.Take();
 }
 
-bool StoreForceRecord(ForceKind kind, const float* words, float* forces) {
-    // End I: FAX, F22, F33, M22, M33, torque, D/C; end J the same.
-    forces[0] = words[13];
-    forces[1] = -words[1];
-    forces[2] = -words[2];
-    forces[3] = words[6];
-    forces[4] = words[5];
-    forces[5] = kind == ForceKind::pile ? -words[15] : words[15];
-    forces[6] = words[11];
-    forces[7] = words[14];
-    forces[8] = words[3];
-    forces[9] = words[4];
-    forces[10] = -words[8];
-    forces[11] = -words[7];
-    forces[12] = -words[16];
-    forces[13] = words[12];
-    if (kind != ForceKind::extraMember) {
-        if (!std::isfinite(forces[6])) forces[6] = 0.0F;
-        if (!std::isfinite(forces[13])) forces[13] = 0.0F;
+bool RepairRatios(ForceKind kind, float* forces) {
+    for (const std::size_t ratio :
+         {std::size_t{kDemandCapacity}, std::size_t{kComponents + kDemandCapacity}}) {
+        if (kind != ForceKind::extraMember && !std::isfinite(forces[ratio])) forces[ratio] = 0.0F;
     }
     return std::all_of(forces, forces + kForcesPerElement, [](float force) { return std::isfinite(force); });
 }

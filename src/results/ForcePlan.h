@@ -25,6 +25,31 @@ struct CForceRead {
 // right, the columns, the extra members. `firstType` is the first substructure's structure type.
 std::vector<CForceRead> PlanForceReads(const CPier& pier, const CPierReadState& state, int firstType);
 
+// Replaces ratios that are no numbers by 0.0, but for those of extra members. Returns whether all fourteen
+// forces are finite now.
+bool RepairRatios(ForceKind kind, float* forces);
+
 // Stores a record's words as the element's fourteen forces, signs turned as tables show them.
-// Returns whether all of them are finite.
-bool StoreForceRecord(ForceKind kind, const float* words, float* forces);
+// Returns whether all of them are finite. In the header because it runs once for every record of a project.
+inline bool StoreForceRecord(ForceKind kind, const float* words, float* forces) {
+    // End I: FAX, F22, F33, M22, M33, torque, D/C; end J the same.
+    forces[0] = words[13];
+    forces[1] = -words[1];
+    forces[2] = -words[2];
+    forces[3] = words[6];
+    forces[4] = words[5];
+    forces[5] = kind == ForceKind::pile ? -words[15] : words[15];
+    forces[6] = words[11];
+    forces[7] = words[14];
+    forces[8] = words[3];
+    forces[9] = words[4];
+    forces[10] = -words[8];
+    forces[11] = -words[7];
+    forces[12] = -words[16];
+    forces[13] = words[12];
+    // A difference with itself is zero for finite numbers and not a number for all others.
+    float sum = 0.0F;
+    for (std::size_t i = 0; i < kForcesPerElement; ++i) sum += forces[i] - forces[i];
+    if (sum == 0.0F) return true;
+    return RepairRatios(kind, forces);
+}

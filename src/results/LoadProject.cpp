@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <new>
 
 #include "framework/File.h"
 #include "results/CollectData.h"
@@ -59,7 +60,14 @@ void AllocateModel(int k, CPier& pier) {
                                  " load cases of which the model files tell");
     }
     counts.spanElements = static_cast<int>(std::max(spans, 0LL));
-    pier.AllocateMembers(counts, g_DataSet.m_nLoadCases);
+    try {
+        pier.AllocateMembers(counts, g_DataSet.m_nLoadCases);
+    } catch (const std::bad_alloc&) {
+        pier = CPier();
+        throw CFileException(CFileException::generic, path,
+                             "needs " + std::to_string((perCase * cases + identity) >> 20) +
+                                 " MB of memory for its forces, more than this process can have");
+    }
     pier.AllocateCaseSelection(g_DataSet.m_nLoadCases);
     pier.SelectAllCases();
 }

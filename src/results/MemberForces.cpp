@@ -58,9 +58,8 @@ class ForceReader {
 
     void ReadBlocks(int cases) {
         std::vector<float> piece(kPieceRecords * kForceRecordWords);
-        const std::size_t total = static_cast<std::size_t>(cases) * static_cast<std::size_t>(m_block);
-        int loadCase = 0;
-        std::size_t inBlock = 0;
+        const std::size_t block = m_targets.size();
+        const std::size_t total = static_cast<std::size_t>(cases) * block;
         m_file.Seek(0);
         for (std::size_t done = 0; done < total;) {
             const std::size_t records = std::min(kPieceRecords, total - done);
@@ -68,29 +67,37 @@ class ForceReader {
             if (m_file.ReadBytes(piece.data(), bytes) != bytes) {
                 throw CFileException(CFileException::endOfFile, m_path, "was cut while it was read");
             }
-            for (std::size_t r = 0; r < records; ++r) {
-                Store(loadCase, m_targets[inBlock], piece.data() + r * kForceRecordWords);
-                if (++inBlock == m_targets.size()) {
-                    inBlock = 0;
-                    ++loadCase;
-                }
+            for (std::size_t r = 0; r < records;) {
+                const std::size_t inBlock = (done + r) % block;
+                const std::size_t here = std::min(block - inBlock, records - r);
+                StoreRun(static_cast<int>((done + r) / block), inBlock, here,
+                         piece.data() + r * kForceRecordWords);
+                r += here;
             }
             done += records;
         }
     }
 
+    // Stores consecutive records of one case's block.
+    void StoreRun(int loadCase, std::size_t inBlock, std::size_t count, const float* words) {
+        float* forces = m_pier.MutableCase(loadCase).data();
+        for (std::size_t i = 0; i < count; ++i, words += kForceRecordWords)
+            Store(forces, m_targets[inBlock + i], words);
+    }
+
     void ReadCaseByRecord(int loadCase) {
         const long long before = loadCase * m_block;
+        float* forces = m_pier.MutableCase(loadCase).data();
         for (const CForceRead& read : m_reads) {
             m_file.Read(m_record.data(), before + read.record);
-            Store(loadCase, {read.element, read.kind}, m_record.data());
+            Store(forces, {read.element, read.kind}, m_record.data());
         }
     }
 
-    void Store(int loadCase, const Target& target, const float* words) {
+    void Store(float* forces, const Target& target, const float* words) {
         if (target.element < 0) return;
-        if (StoreForceRecord(target.kind, words, m_pier.MutableForces(loadCase, target.element).data()))
-            return;
+        float* to = forces + static_cast<std::size_t>(target.element) * kForcesPerElement;
+        if (StoreForceRecord(target.kind, words, to)) return;
         if (target.kind == ForceKind::pile) m_pier.m_bPileForcesFinite = false;
         if (target.kind == ForceKind::extraMember) m_pier.m_bXMemberForcesFinite = false;
         // Cap elements are watched by the cap tables' own check, on the values that these show.
