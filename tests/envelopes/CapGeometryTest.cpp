@@ -36,9 +36,9 @@ TEST(CapGeometry, BentCapPointsTakePileHeadsFromTheListsStart) {
 }
 
 TEST(CapGeometry, SizesGoByTheNumberOfSupports) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{6, 8, 13}};
-    const CapModel with(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{6, 8, 13}};
+    const CapModel with(shape);
     EXPECT_EQ(with.pier.m_nCapMomentSupports, 6);
     EXPECT_EQ(with.pier.m_nCapShearSupports, 8);
     EXPECT_EQ(with.pier.m_nCapBearings, 3);
@@ -53,10 +53,10 @@ TEST(CapGeometry, SizesGoByTheNumberOfSupports) {
 }
 
 TEST(CapGeometry, OneSupportWithoutCantileversHasNoShearEntries) {
-    CapSpec spec = TwoColumnsWithoutCantilevers();
-    spec.supports = 1;
-    spec.x = {10};
-    CapModel model(spec);
+    CapShape shape = TwoColumnsWithoutCantilevers();
+    shape.supports = 1;
+    shape.x = {10};
+    CapModel model(shape);
     EXPECT_EQ(model.pier.m_nCapShearSupports, 0);
     EXPECT_EQ(model.pier.m_nCapMomentSupports, 1);
     model.ComputeShear();
@@ -65,10 +65,10 @@ TEST(CapGeometry, OneSupportWithoutCantileversHasNoShearEntries) {
 }
 
 TEST(CapGeometry, MastKeepsItsTablesEmpty) {
-    CapSpec spec = TwoColumns();
-    spec.type = 3;
-    spec.bearingNodes = {{6}};
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.type = 3;
+    shape.bearingNodes = {{6}};
+    CapModel model(shape);
     model.pier.BuildCapGeometry();
     model.ComputeShear();
     model.ComputeMoment();
@@ -100,9 +100,9 @@ TEST(CapGeometry, CountsThatTheModelDoesNotHoldAllocateNothing) {
 }
 
 TEST(CapBearings, OneRowStandsInItsOwnOrderWithCode2) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{8, 6, 13, 99}};
-    const CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{8, 6, 13, 99}};
+    const CapModel model(shape);
     // Node 6 is the left tip: an element starts there, none ends. Node 13 is the right tip. 99 is off the
     // cap.
     EXPECT_THAT(Locations(model.pier.m_BearingList),
@@ -111,9 +111,9 @@ TEST(CapBearings, OneRowStandsInItsOwnOrderWithCode2) {
 }
 
 TEST(CapBearings, TwoRowsMergeByXAndShareAnEntryAtEqualX) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{7, 8}, {6, 8, 12}};  // x 5 20 and 0 20 35
-    const CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{7, 8}, {6, 8, 12}};  // x 5 20 and 0 20 35
+    const CapModel model(shape);
     EXPECT_EQ(model.pier.m_nCapBearings, 4);
     EXPECT_EQ(model.pier.m_nMaxRowBearings, 3);
     EXPECT_THAT(Locations(model.pier.m_BearingList),
@@ -122,9 +122,9 @@ TEST(CapBearings, TwoRowsMergeByXAndShareAnEntryAtEqualX) {
 }
 
 TEST(CapBearings, EqualXOnDifferentNodesLeavesAnUnusedEntry) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{5}, {4}};  // the top of column 1 and the node below it: both at x 10
-    const CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{5}, {4}};  // the top of column 1 and the node below it: both at x 10
+    const CapModel model(shape);
     // The length counts nodes, the merge compares x: two places for one entry, the second keeps zeros.
     EXPECT_EQ(model.pier.m_nCapBearings, 2);
     EXPECT_THAT(Locations(model.pier.m_BearingList), ElementsAre(Row{0, 3, 1, 1}, Row{0, 0, 0, 0}));
@@ -132,10 +132,10 @@ TEST(CapBearings, EqualXOnDifferentNodesLeavesAnUnusedEntry) {
 }
 
 TEST(CapBearings, ListNeverGrowsPastItsLength) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{12, 6},
-                         {6, 12}};  // left row 35 0, right row 0 35: no pair of cursors meets at first
-    const CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{12, 6},
+                          {6, 12}};  // left row 35 0, right row 0 35: no pair of cursors meets at first
+    const CapModel model(shape);
     // Every node of the right row is one of the left, so the length is 2; the merge wants three: the right
     // bearing at 0, both at 35, the left one at 0.
     EXPECT_EQ(model.pier.m_nCapBearings, 2);
@@ -143,10 +143,10 @@ TEST(CapBearings, ListNeverGrowsPastItsLength) {
 }
 
 TEST(CapPoints, SupportsComeBeforeBearingsAtTheSameX) {
-    CapSpec spec = TwoColumns();
-    spec.width = 10;               // faces at 5 15 25 35
-    spec.bearingNodes = {{7, 8}};  // 5 20
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.width = 10;               // faces at 5 15 25 35
+    shape.bearingNodes = {{7, 8}};  // 5 20
+    CapModel model(shape);
     model.ComputeShear();
     model.ComputeMoment();
     EXPECT_THAT(model.pier.m_ShearPointX, ElementsAre(5, 5, 5, 10, 10, 15, 20, 20, 25, 30, 30, 35));
@@ -178,9 +178,9 @@ TEST(CapPoints, WithoutCantileversTheShearListDropsTheLastCentreline) {
 }
 
 TEST(CapPoints, CantileverShorterThanTheFaceLeavesTrailingZeros) {
-    CapSpec spec = TwoColumns();
-    spec.width = 22;  // the left face would lie at -1, left of the tip at 0; the right one at 41, past 40
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.width = 22;  // the left face would lie at -1, left of the tip at 0; the right one at 41, past 40
+    CapModel model(shape);
     EXPECT_FALSE(model.pier.IsShearSection(0, 0));
     EXPECT_FALSE(model.pier.IsShearSection(1, 3));
     EXPECT_TRUE(model.pier.IsShearSection(0, 3));

@@ -9,7 +9,7 @@
 // A cap built by hand. Its nodes stand in the node list as the results list them: the first column, the left
 // cantilever, then span after span with the column behind it, the right cantilever last; in a bent the pile
 // heads come first. `x` names the cap's nodes from left to right.
-struct CapSpec {
+struct CapShape {
     int type = 0;
     int supports = 2;
     int columnNodes = 1;
@@ -27,17 +27,17 @@ struct CapSpec {
 
 class CapModel {
   public:
-    explicit CapModel(const CapSpec& spec) : m_spec(spec) {
+    explicit CapModel(const CapShape& shape) : m_shape(shape) {
         SetCounts();
         ListNodes();
         NumberChain();
         SetCases();
-        for (const std::vector<int>& bearings : spec.bearingNodes) {
+        for (const std::vector<int>& bearings : shape.bearingNodes) {
             CBearingRow row;
             for (int node : bearings) row.m_Bearings.push_back({node});
             pier.m_BearingRows.push_back(row);
         }
-        pier.m_nBearingRows = static_cast<int>(spec.bearingNodes.size());
+        pier.m_nBearingRows = static_cast<int>(shape.bearingNodes.size());
         pier.AllocateResultTables();
     }
 
@@ -66,7 +66,7 @@ class CapModel {
 
   private:
     void SetCounts() {
-        const CapSpec& s = m_spec;
+        const CapShape& s = m_shape;
         const int cantilever = s.cantilevers ? s.cantileverNodes + 1 : 0;
         CMemberCounts counts;
         counts.columns = s.type == 7 ? 0 : s.supports;
@@ -99,14 +99,14 @@ class CapModel {
     }
     // Takes the next cap node: its x goes to the node list's end, its number to the chain at `at`.
     void ListNode(std::size_t at) {
-        pier.m_dNodes.push_back({m_spec.x.at(at), 0.0, 0.0});
-        nodes.at(at) = m_spec.foundationNodes + static_cast<int>(pier.m_dNodes.size());
+        pier.m_dNodes.push_back({m_shape.x.at(at), 0.0, 0.0});
+        nodes.at(at) = m_shape.foundationNodes + static_cast<int>(pier.m_dNodes.size());
     }
     void ListRun(std::size_t first, int count) {
         for (int i = 0; i < count; ++i) ListNode(first + static_cast<std::size_t>(i));
     }
     void ListNodes() {
-        const CapSpec& s = m_spec;
+        const CapShape& s = m_shape;
         const int cantilever = s.cantilevers ? s.cantileverNodes + 1 : 0;
         const auto top = [&](int c) { return static_cast<std::size_t>(cantilever + c * (s.spanNodes + 1)); };
         nodes.assign(s.x.size(), 0);
@@ -137,41 +137,41 @@ class CapModel {
         }
     }
     void SetCases() {
-        pier.AllocateCaseSelection(m_spec.cases);
+        pier.AllocateCaseSelection(m_shape.cases);
         pier.SelectAllCases();
-        pier.m_nCodeFamily = m_spec.family;
-        pier.m_bCombinations = !m_spec.limitClasses.empty();
-        for (std::size_t i = 0; i < m_spec.limitClasses.size(); ++i) {
-            pier.m_LoadCases.at(i).m_nLimitClass = m_spec.limitClasses[i];
+        pier.m_nCodeFamily = m_shape.family;
+        pier.m_bCombinations = !m_shape.limitClasses.empty();
+        for (std::size_t i = 0; i < m_shape.limitClasses.size(); ++i) {
+            pier.m_LoadCases.at(i).m_nLimitClass = m_shape.limitClasses[i];
         }
     }
 
-    CapSpec m_spec;
+    CapShape m_shape;
     std::vector<int> m_chain;
 };
 
 // Two columns of width 4 under a cap of 40 with cantilevers. Nodes from the left: 6 7 5 8 11 12 13; elements
 // 21 to 26. Columns stand at 10 and 30.
-inline CapSpec TwoColumns() {
-    CapSpec spec;
-    spec.x = {0, 5, 10, 20, 30, 35, 40};
-    return spec;
+inline CapShape TwoColumns() {
+    CapShape shape;
+    shape.x = {0, 5, 10, 20, 30, 35, 40};
+    return shape;
 }
 
 // The same without cantilevers. Nodes 5 6 9; elements 21 and 22.
-inline CapSpec TwoColumnsWithoutCantilevers() {
-    CapSpec spec;
-    spec.cantilevers = false;
-    spec.x = {10, 20, 30};
-    return spec;
+inline CapShape TwoColumnsWithoutCantilevers() {
+    CapShape shape;
+    shape.cantilevers = false;
+    shape.x = {10, 20, 30};
+    return shape;
 }
 
 // A bent on two piles with cantilevers. Nodes from the left: 3 4 1 5 2 6 7.
-inline CapSpec TwoPileBent() {
-    CapSpec spec = TwoColumns();
-    spec.type = 7;
-    spec.foundationNodes = 0;
-    return spec;
+inline CapShape TwoPileBent() {
+    CapShape shape = TwoColumns();
+    shape.type = 7;
+    shape.foundationNodes = 0;
+    return shape;
 }
 
 // Collects the messages that are shown while it lives.

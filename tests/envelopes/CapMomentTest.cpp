@@ -27,9 +27,9 @@ void SetAtTop(CapModel& model, int loadCase, float leftMoment, float leftRatio, 
 }  // namespace
 
 TEST(CapMoment, CentrelineComparesBothElements) {
-    CapSpec spec = TwoColumns();
-    spec.cases = 2;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.cases = 2;
+    CapModel model(shape);
     SetAtTop(model, 0, 100, 0, 80, 0);
     SetAtTop(model, 1, -50, 0, -60, 0);
     model.ComputeMoment();
@@ -41,9 +41,9 @@ TEST(CapMoment, CentrelineComparesBothElements) {
 }
 
 TEST(CapMoment, EqualMomentsGoToTheCaseWithTheHigherRatio) {
-    CapSpec spec = TwoColumns();
-    spec.cases = 4;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.cases = 4;
+    CapModel model(shape);
     const float ratios[] = {0.5F, 0.9F, 0.9F, 0.7F};
     for (int c = 0; c < 4; ++c) SetAtTop(model, c, 10, ratios[c], -1000, 0);
     model.ComputeMoment();
@@ -52,9 +52,9 @@ TEST(CapMoment, EqualMomentsGoToTheCaseWithTheHigherRatio) {
 }
 
 TEST(CapMoment, EqualMomentsOfAMinimumGoToTheHigherRatioToo) {
-    CapSpec spec = TwoColumns();
-    spec.cases = 2;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.cases = 2;
+    CapModel model(shape);
     SetAtTop(model, 0, -10, 0.1F, 1000, 0);
     SetAtTop(model, 1, -10, 0.2F, 1000, 0);
     model.ComputeMoment();
@@ -62,9 +62,9 @@ TEST(CapMoment, EqualMomentsOfAMinimumGoToTheHigherRatioToo) {
 }
 
 TEST(CapMoment, EqualSidesGoToTheHigherRatioAndElseToTheRight) {
-    CapSpec spec = TwoColumns();
-    spec.cases = 2;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.cases = 2;
+    CapModel model(shape);
     SetAtTop(model, 0, 40, 0.9F, 10, 0);
     SetAtTop(model, 1, 10, 0, 40, 0.8F);
     model.ComputeMoment();
@@ -88,9 +88,9 @@ TEST(CapMoment, SideThatIsNoNumberIsDecidedByTheRatio) {
 }
 
 TEST(CapMoment, InsideAnElementTheMomentIsInterpolated) {
-    CapSpec spec = TwoColumns();
-    spec.cases = 2;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.cases = 2;
+    CapModel model(shape);
     model.Set(0, 3, kM33, 10, 60);  // element 24 from 20 to 30; left face of column 2 at 28, t 0.8
     model.Set(1, 3, kM33, 100, 0);
     model.ComputeMoment();
@@ -103,9 +103,9 @@ TEST(CapMoment, InsideAnElementTheMomentIsInterpolated) {
 }
 
 TEST(CapMoment, TieInsideAnElementGoesByTheInterpolatedRatio) {
-    CapSpec spec = TwoColumns();
-    spec.cases = 2;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.cases = 2;
+    CapModel model(shape);
     for (int c = 0; c < 2; ++c) model.Set(c, 3, kM33, 10, 10);
     model.Set(0, 3, kDemandCapacity, 1.0F, 0.0F);  // 0.2 at t 0.8
     model.Set(1, 3, kDemandCapacity, 0.0F, 0.5F);  // 0.4 there
@@ -114,9 +114,9 @@ TEST(CapMoment, TieInsideAnElementGoesByTheInterpolatedRatio) {
 }
 
 TEST(CapMoment, FaceOnANodeReportsOneNode) {
-    CapSpec spec = TwoColumns();
-    spec.width = 10;  // right face of column 2 at 35, node 12
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.width = 10;  // right face of column 2 at 35, node 12
+    CapModel model(shape);
     model.Set(0, 4, kM33, 0, 5);
     model.Set(0, 5, kM33, 4, 0);
     model.ComputeMoment();
@@ -127,10 +127,10 @@ TEST(CapMoment, FaceOnANodeReportsOneNode) {
 }
 
 TEST(CapMoment, FatigueAloneHasItsSlot) {
-    CapSpec spec = TwoColumns();
-    spec.family = 0;
-    spec.limitClasses = {3};
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.family = 0;
+    shape.limitClasses = {3};
+    CapModel model(shape);
     SetAtTop(model, 0, 7, 0, 5, 0);
     model.ComputeMoment();
     EXPECT_DOUBLE_EQ(model.pier.m_MomentSupports.At(0, 3, kCentre, kMax).values[kM33], 7);
@@ -150,9 +150,9 @@ TEST(CapMoment, WithoutCantileversTheLastCentrelineIsMissing) {
 }
 
 TEST(CapMomentBearings, LastNodeOfACapWithoutCantileversHasTheLeftSideAlone) {
-    CapSpec spec = TwoColumnsWithoutCantilevers();
-    spec.bearingNodes = {{9}};
-    CapModel model(spec);
+    CapShape shape = TwoColumnsWithoutCantilevers();
+    shape.bearingNodes = {{9}};
+    CapModel model(shape);
     model.Set(0, 1, kM33, 0, -8);
     model.ComputeMoment();
     for (int sense : {kMax, kMin}) {
@@ -163,10 +163,10 @@ TEST(CapMomentBearings, LastNodeOfACapWithoutCantileversHasTheLeftSideAlone) {
 }
 
 TEST(CapMomentBearings, MoreCriticalSideIsReported) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{5}};
-    spec.cases = 2;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{5}};
+    shape.cases = 2;
+    CapModel model(shape);
     SetAtTop(model, 0, 30, 0, 40, 0);
     SetAtTop(model, 1, -30, 0, -20, 0);
     model.ComputeMoment();
@@ -177,9 +177,9 @@ TEST(CapMomentBearings, MoreCriticalSideIsReported) {
 }
 
 TEST(CapMomentBearings, MaskedSideGivesWayAndTwoOfThemAreMissing) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{5}};
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{5}};
+    CapModel model(shape);
     SetAtTop(model, 0, 30, 0, 40, 0);
     model.Mask(2);
     model.ComputeMoment();
@@ -192,20 +192,20 @@ TEST(CapMomentBearings, MaskedSideGivesWayAndTwoOfThemAreMissing) {
 }
 
 TEST(CapMomentBearings, BearingOffTheCapLosesEveryWord) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{99}};
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{99}};
+    CapModel model(shape);
     model.ComputeMoment();
     EXPECT_EQ(model.pier.m_MomentBearings.At(0, 0, 0, kMin).record,
               (CCapRecord{-1, -1, -1, -1, -1, -1, -1, -1, -1, 1}));
 }
 
 TEST(CapMomentBearings, ClassWithoutCasesGoesToTheRightSide) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{5}};
-    spec.family = 2;
-    spec.limitClasses = {0};
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{5}};
+    shape.family = 2;
+    shape.limitClasses = {0};
+    CapModel model(shape);
     model.ComputeMoment();
     EXPECT_EQ(model.pier.m_MomentBearings.At(0, 1, 0, kMax).record,
               Record(-1, 3, 0, 23, kEndI, 5, kCapSpan, 0));

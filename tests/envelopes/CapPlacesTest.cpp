@@ -60,16 +60,16 @@ TEST(CapPlaces, OutsideTheStretchIsNotFound) {
 }
 
 TEST(CapPlaces, MiddleSupportFacesGoByTheirSpans) {
-    CapSpec spec = TwoColumnsWithoutCantilevers();
-    spec.supports = 3;
-    spec.x = {10, 20, 30, 40, 50};
-    const CapModel without(spec);
+    CapShape shape = TwoColumnsWithoutCantilevers();
+    shape.supports = 3;
+    shape.x = {10, 20, 30, 40, 50};
+    const CapModel without(shape);
     EXPECT_EQ(Locate(without.pier, 2, 0, 28, kShear), (Found{1, 0, 1, 0.8}));
     EXPECT_EQ(Locate(without.pier, 2, 3, 32, kShear), (Found{1, 1, 0, 0.2}));
     EXPECT_EQ(Locate(without.pier, 3, 0, 48, kShear), (Found{1, 1, 1, 0.8}));
-    spec.cantilevers = true;
-    spec.x = {0, 5, 10, 20, 30, 40, 50, 55, 60};
-    const CapModel with(spec);
+    shape.cantilevers = true;
+    shape.x = {0, 5, 10, 20, 30, 40, 50, 55, 60};
+    const CapModel with(shape);
     EXPECT_EQ(Locate(with.pier, 2, 0, 28, kShear), (Found{1, 0, 1, 0.8}));
     EXPECT_EQ(Locate(with.pier, 2, 3, 32, kShear), (Found{1, 1, 0, 0.2}));
     EXPECT_EQ(Locate(with.pier, 3, 3, 52, kShear), (Found{0, 1, 0, 0.4}));
@@ -131,10 +131,10 @@ TEST(CapPlaces, PlacesBeyondTheMembersAreNoElements) {
 }
 
 TEST(CapPlaces, StepsGoFromMemberToMember) {
-    CapSpec spec = TwoColumns();
-    spec.supports = 3;
-    spec.x = {0, 5, 10, 20, 30, 40, 50, 55, 60};
-    const CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.supports = 3;
+    shape.x = {0, 5, 10, 20, 30, 40, 50, 55, 60};
+    const CapModel model(shape);
     EXPECT_EQ(Step(model.pier, 1, {1, 0, 1, 0.0}), (Found{1, 0, 0, 1.0}));
     EXPECT_EQ(Step(model.pier, 1, {1, 1, 0, 0.0}), (Found{1, 0, 1, 1.0}));
     EXPECT_EQ(Step(model.pier, 1, {1, 0, 0, 0.0}), (Found{0, 0, 1, 1.0}));
@@ -147,10 +147,10 @@ TEST(CapPlaces, StepsGoFromMemberToMember) {
 }
 
 TEST(CapPlaces, StepsOverASingleSupportGoFromCantileverToCantilever) {
-    CapSpec spec;
-    spec.supports = 1;
-    spec.x = {0, 5, 10, 15, 20};
-    const CapModel model(spec);
+    CapShape shape;
+    shape.supports = 1;
+    shape.x = {0, 5, 10, 15, 20};
+    const CapModel model(shape);
     EXPECT_EQ(Step(model.pier, 1, {0, 1, 0, 0.0}), (Found{0, 0, 1, 1.0}));
     EXPECT_EQ(Step(model.pier, 0, {0, 0, 1, 1.0}), (Found{0, 1, 0, 0.0}));
 }

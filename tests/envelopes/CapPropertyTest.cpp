@@ -22,38 +22,38 @@ float RandomForce(Random& random) {
     return static_cast<float>(pick % 5 - 2);
 }
 
-CapSpec RandomSpec(Random& random) {
-    CapSpec spec;
-    spec.type = Pick(random, 0, 1) == 0 ? 0 : 7;
-    spec.foundationNodes = spec.type == 0 ? Pick(random, 0, 2) : 0;
-    spec.supports = Pick(random, 1, 4);
-    spec.columnNodes = Pick(random, 1, 2);
-    spec.spanNodes = Pick(random, 0, 2);
-    spec.cantilevers = Pick(random, 0, 2) != 0;
-    spec.cantileverNodes = Pick(random, 0, 2);
-    spec.width = Pick(random, 0, 12);  // faces on nodes, between them, past the tips
-    spec.cases = Pick(random, 1, 9);
-    const int cantilever = spec.cantilevers ? spec.cantileverNodes + 1 : 0;
-    const int nodes = 2 * cantilever + (spec.supports - 1) * (spec.spanNodes + 1) + 1;
+CapShape RandomShape(Random& random) {
+    CapShape shape;
+    shape.type = Pick(random, 0, 1) == 0 ? 0 : 7;
+    shape.foundationNodes = shape.type == 0 ? Pick(random, 0, 2) : 0;
+    shape.supports = Pick(random, 1, 4);
+    shape.columnNodes = Pick(random, 1, 2);
+    shape.spanNodes = Pick(random, 0, 2);
+    shape.cantilevers = Pick(random, 0, 2) != 0;
+    shape.cantileverNodes = Pick(random, 0, 2);
+    shape.width = Pick(random, 0, 12);  // faces on nodes, between them, past the tips
+    shape.cases = Pick(random, 1, 9);
+    const int cantilever = shape.cantilevers ? shape.cantileverNodes + 1 : 0;
+    const int nodes = 2 * cantilever + (shape.supports - 1) * (shape.spanNodes + 1) + 1;
     // A far left tip makes a face's fraction round to the end of its element.
     double x = Pick(random, 0, 5) == 0 ? -1e17 : 0.0;
     for (int i = 0; i < nodes; ++i) {
-        spec.x.push_back(x);
+        shape.x.push_back(x);
         x = std::max(x, 0.0) + Pick(random, 1, 4);
     }
     const int rows = Pick(random, 0, 2);
     for (int row = 0; row < rows; ++row) {
         std::vector<int> bearings;
         for (int i = Pick(random, 0, 4); i > 0; --i) bearings.push_back(Pick(random, 0, 25));
-        spec.bearingNodes.push_back(bearings);
+        shape.bearingNodes.push_back(bearings);
     }
     const int families[] = {-1, 0, 1, 2};
-    spec.family = families[Pick(random, 0, 3)];
-    if (spec.family >= 0) {
-        const int classes = spec.family == 0 ? 3 : (spec.family == 2 ? 1 : 0);
-        for (int c = 0; c < spec.cases; ++c) spec.limitClasses.push_back(Pick(random, 0, classes));
+    shape.family = families[Pick(random, 0, 3)];
+    if (shape.family >= 0) {
+        const int classes = shape.family == 0 ? 3 : (shape.family == 2 ? 1 : 0);
+        for (int c = 0; c < shape.cases; ++c) shape.limitClasses.push_back(Pick(random, 0, classes));
     }
-    return spec;
+    return shape;
 }
 
 void Fill(CapModel& model, Random& random) {
@@ -87,7 +87,7 @@ TEST(CapProperty, OneWalkAgreesWithTheSearchForEachClassAndSense) {
     Random random(20260817);
     for (int run = 0; run < 4000; ++run) {
         SCOPED_TRACE(run);
-        CapModel model(RandomSpec(random));
+        CapModel model(RandomShape(random));
         Fill(model, random);
         LiteralCap literal(model.pier);
         // The second round works on another selection and on what the first one left in the tables.

@@ -18,10 +18,10 @@ CCapRecord Record(int loadCase, int prop, int index, int elem, int end, int node
 }  // namespace
 
 TEST(CapShear, FaceOnANodeComparesBothElements) {
-    CapSpec spec = TwoColumns();
-    spec.width = 10;  // left face of column 1 at 5, node 7: element 21 ends there, 22 starts there
-    spec.cases = 2;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.width = 10;  // left face of column 1 at 5, node 7: element 21 ends there, 22 starts there
+    shape.cases = 2;
+    CapModel model(shape);
     model.Set(0, 0, kF22, 50, 10);
     model.Set(1, 0, kF22, 60, 20);
     model.Set(0, 1, kF22, 30, 90);
@@ -39,9 +39,9 @@ TEST(CapShear, FaceOnANodeComparesBothElements) {
 }
 
 TEST(CapShear, EqualValuesOnBothSidesGoToTheLeft) {
-    CapSpec spec = TwoColumns();
-    spec.width = 10;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.width = 10;
+    CapModel model(shape);
     model.Set(0, 0, kF22, 0, 40);
     model.Set(0, 1, kF22, 40, 0);
     model.ComputeShear();
@@ -87,9 +87,9 @@ TEST(CapShear, CentrelineEntriesReadOneSideEach) {
 }
 
 TEST(CapShear, MaximumIsAlgebraic) {
-    CapSpec spec = TwoColumns();
-    spec.cases = 3;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.cases = 3;
+    CapModel model(shape);
     model.Set(0, 2, kF22, -70, 0);
     model.Set(1, 2, kF22, -20, 0);
     model.Set(2, 2, kF22, -90, 0);
@@ -100,9 +100,9 @@ TEST(CapShear, MaximumIsAlgebraic) {
 }
 
 TEST(CapShear, EarliestCaseWinsATieWhateverItsRatio) {
-    CapSpec spec = TwoColumns();
-    spec.cases = 3;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.cases = 3;
+    CapModel model(shape);
     for (int c = 0; c < 3; ++c) {
         model.Set(c, 2, kF22, 5, 5);
         model.Set(c, 2, kDemandCapacity, static_cast<float>(c), 0);
@@ -114,9 +114,9 @@ TEST(CapShear, EarliestCaseWinsATieWhateverItsRatio) {
 }
 
 TEST(CapShear, ANumberNeverDisplacesASeedThatIsNone) {
-    CapSpec spec = TwoColumns();
-    spec.cases = 2;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.cases = 2;
+    CapModel model(shape);
     model.Set(0, 2, kF22, kNaN, 0);
     model.Set(1, 2, kF22, 5, 0);
     model.ComputeShear();
@@ -125,9 +125,9 @@ TEST(CapShear, ANumberNeverDisplacesASeedThatIsNone) {
 }
 
 TEST(CapShear, MaskedElementLeavesTheSectionToTheOtherSide) {
-    CapSpec spec = TwoColumns();
-    spec.width = 10;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.width = 10;
+    CapModel model(shape);
     model.Set(0, 0, kF22, 0, 10);
     model.Set(0, 1, kF22, 90, 0);
     model.Mask(1);
@@ -137,9 +137,9 @@ TEST(CapShear, MaskedElementLeavesTheSectionToTheOtherSide) {
 }
 
 TEST(CapShear, BothSidesMaskedIsMissingAndKeepsTheOtherWords) {
-    CapSpec spec = TwoColumns();
-    spec.width = 10;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.width = 10;
+    CapModel model(shape);
     model.Set(0, 0, kF22, 0, 10);
     model.ComputeShear();
     model.Mask(0);
@@ -160,11 +160,11 @@ TEST(CapShear, MaskedElementInsideIsMissing) {
 }
 
 TEST(CapShear, ClassesHaveTheirOwnExtremes) {
-    CapSpec spec = TwoColumns();
-    spec.family = 0;
-    spec.limitClasses = {1, 0, 1, 3};
-    spec.cases = 4;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.family = 0;
+    shape.limitClasses = {1, 0, 1, 3};
+    shape.cases = 4;
+    CapModel model(shape);
     const float shear[] = {10, -20, 30, 40};
     for (int c = 0; c < 4; ++c) model.Set(c, 2, kF22, shear[c], 0);
     model.ComputeShear();
@@ -179,10 +179,10 @@ TEST(CapShear, ClassesHaveTheirOwnExtremes) {
 }
 
 TEST(CapShear, ClassWithoutCasesGivesNoLoadCaseButAPlace) {
-    CapSpec spec = TwoColumns();
-    spec.family = 2;
-    spec.limitClasses = {0};
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.family = 2;
+    shape.limitClasses = {0};
+    CapModel model(shape);
     model.Set(0, 2, kF22, 5, 0);
     model.ComputeShear();
     const CCapEntry& entry = model.pier.m_ShearSupports.At(0, 1, kRightCentre, kMax);
@@ -203,10 +203,10 @@ TEST(CapShear, ValuesStayWhereNoCaseIsLeft) {
 }
 
 TEST(CapShear, WithoutCantileversTheSecondCentrelineLooksAtTheNextNode) {
-    CapSpec spec = TwoColumnsWithoutCantilevers();
-    spec.supports = 3;
-    spec.x = {10, 20, 30, 40, 50};  // nodes 5 6 9 10 13; elements 21 to 24
-    CapModel model(spec);
+    CapShape shape = TwoColumnsWithoutCantilevers();
+    shape.supports = 3;
+    shape.x = {10, 20, 30, 40, 50};  // nodes 5 6 9 10 13; elements 21 to 24
+    CapModel model(shape);
     model.Set(0, 1, kF22, 0, 1);  // ends at the second column's top, node 9
     model.Set(0, 2, kF22, 2, 3);  // ends at node 10, in the span behind it
     model.Set(0, 3, kF22, 4, 5);  // starts there
@@ -220,10 +220,10 @@ TEST(CapShear, WithoutCantileversTheSecondCentrelineLooksAtTheNextNode) {
 }
 
 TEST(CapShearBearings, SidesAreTheElementsAroundTheNode) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{8}};  // element 23 ends there, 24 starts there
-    spec.cases = 2;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{8}};  // element 23 ends there, 24 starts there
+    shape.cases = 2;
+    CapModel model(shape);
     model.Set(0, 2, kF22, 0, 10);
     model.Set(1, 2, kF22, 0, 20);
     model.Set(0, 3, kF22, 9, 0);
@@ -238,9 +238,9 @@ TEST(CapShearBearings, SidesAreTheElementsAroundTheNode) {
 }
 
 TEST(CapShearBearings, TipHasNoResultOnItsOuterSide) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{13, 99}};
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{13, 99}};
+    CapModel model(shape);
     model.ComputeShear();
     const CCapRecord none{-1, -1, -1, -1, -1, -1, -1, -1, -1, 1};
     EXPECT_EQ(model.pier.m_ShearBearings.At(0, 0, 1, kMax).record, none);
@@ -250,10 +250,10 @@ TEST(CapShearBearings, TipHasNoResultOnItsOuterSide) {
 }
 
 TEST(CapShearBearings, MaskedElementIsSearchedButHasNoForces) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{8}};
-    spec.cases = 2;
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{8}};
+    shape.cases = 2;
+    CapModel model(shape);
     model.Set(1, 2, kF22, 0, 20);
     model.Mask(2);
     model.ComputeShear();
@@ -263,9 +263,9 @@ TEST(CapShearBearings, MaskedElementIsSearchedButHasNoForces) {
 }
 
 TEST(CapShearBearings, SecondRowHasItsOwnRecords) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{8}, {8, 12}};
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{8}, {8, 12}};
+    CapModel model(shape);
     model.Set(0, 4, kF22, 0, 6);
     model.ComputeShear();
     EXPECT_EQ(model.pier.m_ShearBearings.Kinds(), 4);

@@ -39,19 +39,19 @@ TEST(CapSupports, BentCountsItsPiles) {
 }
 
 TEST(CapSupports, BentLosesItsRightFaceToTheNodeBeforeTheTip) {
-    CapSpec spec = TwoPileBent();
-    spec.width = 12;  // right face at 36, inside the cantilever that ends at 40 but past the node at 35
-    const CapModel model(spec);
+    CapShape shape = TwoPileBent();
+    shape.width = 12;  // right face at 36, inside the cantilever that ends at 40 but past the node at 35
+    const CapModel model(shape);
     EXPECT_FALSE(model.pier.IsMomentSection(1, 2));
     EXPECT_TRUE(model.pier.IsMomentSection(0, 0));
 }
 
 TEST(CapSupports, SingleColumnTakesTheLeftCantileversLastNodeForItsRightTip) {
-    CapSpec spec;
-    spec.supports = 1;
-    spec.foundationNodes = 0;
-    spec.x = {0, 5, 10, 15, 20};
-    CapModel model(spec);
+    CapShape shape;
+    shape.supports = 1;
+    shape.foundationNodes = 0;
+    shape.x = {0, 5, 10, 15, 20};
+    CapModel model(shape);
     // Column nodes 1 2 3, left cantilever 4 5, right 6 7; index 3 + 1 = 4 is node 5 at x 5.
     EXPECT_EQ(model.pier.GetSupportNode(0), 3);
     EXPECT_DOUBLE_EQ(model.pier.GetCantileverEndX(1), 5);
@@ -73,17 +73,17 @@ TEST(CapSupports, OuterFacesNeedCantilevers) {
 }
 
 TEST(CapSupports, FaceOnTheTipExists) {
-    CapSpec spec = TwoColumns();
-    spec.width = 20;  // faces at 0 and 40, the tips
-    const CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.width = 20;  // faces at 0 and 40, the tips
+    const CapModel model(shape);
     EXPECT_TRUE(model.pier.IsShearSection(0, 0));
     EXPECT_TRUE(model.pier.IsShearSection(1, 3));
 }
 
 TEST(CapSupports, MastHasNoRightFaceAtItsFirstSupport) {
-    CapSpec spec = TwoColumnsWithoutCantilevers();
-    spec.type = 3;
-    const CapModel model(spec);
+    CapShape shape = TwoColumnsWithoutCantilevers();
+    shape.type = 3;
+    const CapModel model(shape);
     EXPECT_FALSE(model.pier.IsShearSection(0, 3));
     EXPECT_TRUE(model.pier.IsShearSection(0, 2));
     EXPECT_FALSE(model.pier.IsMomentSection(0, 2));
@@ -93,10 +93,10 @@ TEST(CapSupports, MastHasNoRightFaceAtItsFirstSupport) {
 }
 
 TEST(CapSupports, MastLookups) {
-    CapSpec spec = TwoColumns();
-    spec.type = 3;
-    spec.foundationNodes = 1;
-    const CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.type = 3;
+    shape.foundationNodes = 1;
+    const CapModel model(shape);
     // n 12, f 3, s 1, k 2: 3 + (12 - 1 - 6 - 2) = 6, for every support.
     EXPECT_EQ(model.pier.GetSupportNode(0), 6);
     EXPECT_EQ(model.pier.GetSupportNode(1), 6);

@@ -81,10 +81,10 @@ class EnvelopeFile : public testing::Test {
 // Columns at 10 and 30, substructure at 4, a bearing over the first column. Element 21 runs from 10 to 20, 22
 // on to 30. The second case has no forces.
 CapModel TwoCaseModel() {
-    CapSpec spec = TwoColumnsWithoutCantilevers();
-    spec.cases = 2;
-    spec.bearingNodes = {{5}};
-    CapModel model(spec);
+    CapShape shape = TwoColumnsWithoutCantilevers();
+    shape.cases = 2;
+    shape.bearingNodes = {{5}};
+    CapModel model(shape);
     model.Set(0, 0, kF22, 100, 50);
     model.Set(0, 1, kF22, -20, -30);
     model.Set(0, 0, kM33, 7, 0);
@@ -153,10 +153,10 @@ TEST_F(EnvelopeFile, MetricPositionsAreThePlainX) {
 }
 
 TEST_F(EnvelopeFile, LfdNamesItsBlocksLikePlainCases) {
-    CapSpec spec = TwoColumns();
-    spec.family = 1;
-    spec.limitClasses = {0};
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.family = 1;
+    shape.limitClasses = {0};
+    CapModel model(shape);
     Add(model);
     const std::string text = Write();
     EXPECT_THAT(text, HasSubstr("A= 1\r\n"));
@@ -166,11 +166,11 @@ TEST_F(EnvelopeFile, LfdNamesItsBlocksLikePlainCases) {
 }
 
 TEST_F(EnvelopeFile, LrfdHasTheBlocksOfItsPresentClasses) {
-    CapSpec spec = TwoColumns();
-    spec.family = 0;
-    spec.cases = 3;
-    spec.limitClasses = {0, 2, 3};
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.family = 0;
+    shape.cases = 3;
+    shape.limitClasses = {0, 2, 3};
+    CapModel model(shape);
     Add(model);
     EXPECT_THAT(Write(), HasSubstr("AASHTO_LIMITSTATE_STATUS\r\nD= 0\r\nSHSTR= 1\r\nSHEXT= 1\r\nSHSER= 0\r\n"
                                    "MOSTR= 1\r\nMOEXT= 1\r\nMOSER= 0\r\nMOFAT= 1\r\n:\r\n\r\n"));
@@ -182,11 +182,11 @@ TEST_F(EnvelopeFile, LrfdHasTheBlocksOfItsPresentClasses) {
 }
 
 TEST_F(EnvelopeFile, AremaNamesBothItsDesigns) {
-    CapSpec spec = TwoColumns();
-    spec.family = 2;
-    spec.cases = 2;
-    spec.limitClasses = {1, 0};
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.family = 2;
+    shape.cases = 2;
+    shape.limitClasses = {1, 0};
+    CapModel model(shape);
     Add(model);
     EXPECT_THAT(Write(),
                 HasSubstr("STATUS\r\nD= 2\r\nSHLFD= 1\r\nSHSLD= 1\r\nMOLFD= 1\r\nMOSLD= 1\r\n:\r\n\r\n"));
@@ -199,9 +199,9 @@ TEST_F(EnvelopeFile, AremaNamesBothItsDesigns) {
 }
 
 TEST_F(EnvelopeFile, TwoRowsOfBearings) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{7, 8}, {8, 12}};  // 5 and 20, 20 and 35
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{7, 8}, {8, 12}};  // 5 and 20, 20 and 35
+    CapModel model(shape);
     Add(model);
     std::vector<std::string> labels;
     for (const std::string& line : Block("SHEAR_MAX_PIER0")) {
@@ -217,9 +217,9 @@ TEST_F(EnvelopeFile, TwoRowsOfBearings) {
 }
 
 TEST_F(EnvelopeFile, BearingOffTheCapIsMissingBeforeItsFlagsAreAsked) {
-    CapSpec spec = TwoColumns();
-    spec.bearingNodes = {{99}};
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{99}};
+    CapModel model(shape);
     Add(model);
     EXPECT_EQ(Block("SHEAR_MAX_PIER0")[0],
               "L= Brg 1 L     C=             0.00 E= 0            F=             0.00");
@@ -238,9 +238,9 @@ TEST_F(EnvelopeFile, NoSelectedCaseReadsNone) {
 }
 
 TEST_F(EnvelopeFile, UnusedListEntriesReadAsTheFirstLeftFace) {
-    CapSpec spec = TwoColumns();
-    spec.width = 22;  // neither outer face lies on the cap
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.width = 22;  // neither outer face lies on the cap
+    CapModel model(shape);
     Add(model);
     // The entry is support 1, left face, at 0; its record was never written: case 0 and no force.
     EXPECT_EQ(Block("MOMENT_MAX_PIER0").back(),
@@ -250,7 +250,7 @@ TEST_F(EnvelopeFile, UnusedListEntriesReadAsTheFirstLeftFace) {
 TEST_F(EnvelopeFile, SubstructuresCountFromZeroAndOneWithoutCapHasEmptyBlocks) {
     CapModel model(TwoColumns());
     Add(model);
-    CapSpec group = TwoColumns();
+    CapShape group = TwoColumns();
     group.type = 1;
     CapModel second(group);
     Add(second);
@@ -260,10 +260,10 @@ TEST_F(EnvelopeFile, SubstructuresCountFromZeroAndOneWithoutCapHasEmptyBlocks) {
 }
 
 TEST_F(EnvelopeFile, InvalidOrDisabledTablesHaveNoBlocks) {
-    CapSpec spec = TwoColumns();
-    spec.family = 1;
-    spec.limitClasses = {0};
-    CapModel model(spec);
+    CapShape shape = TwoColumns();
+    shape.family = 1;
+    shape.limitClasses = {0};
+    CapModel model(shape);
     Add(model);
     g_DataSet.m_bTableValid[3] = false;
     g_DataSet.m_bTableEnabled[4] = false;
