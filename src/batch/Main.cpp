@@ -6,6 +6,7 @@
 
 #include "app/Launch.h"
 #include "batch/DriveCommand.h"
+#include "batch/EmbedmentCommand.h"
 #include "batch/ReportDriver.h"
 
 // The program lumerin: report tables of a project without a screen.
@@ -59,6 +60,28 @@ void AddDrive(CLI::App& program, DriveOptions& options, std::string& format) {
         "no action, 3 the project could not be loaded (the script is played all the same).");
 }
 
+void AddEmbedment(CLI::App& program, EmbedmentOptions& options, std::string& envelope) {
+    CLI::App& command = *program.add_subcommand("embedment", "Show the embedment study of a project");
+    command.add_option("PROJECT", options.project, "Input file of a project (.in)")->required();
+    CLI::Option* loadCase =
+        command.add_option("--case", options.loadCase, "Number of the load case (default 1)");
+    command.add_option("--envelope", envelope, "max or min over all cases in place of one case")
+        ->excludes(loadCase);
+    command
+        .add_option("--quantity", options.quantity,
+                    "0 lateral displacement (default), 1 along x, 2 along y, 3 greatest, 4 least axial force")
+        ->check(CLI::Range(0, 4));
+    command.add_option("--svg", options.picture, "Write the curve to this file");
+    command.add_flag("--excel", options.workbook, "Write the table as a workbook beside the project");
+    AddCommonOptions(command, options.common);
+    command.footer(
+        "Prints the table and the path of each file that was written. Exit status: 0 done, 1 the project "
+        "has\n"
+        "no study or a part of it could not be read or written, 2 wrong usage or no such case, 3 the "
+        "project\n"
+        "could not be loaded.");
+}
+
 void FinishReport(ReportOptions& options, const ReportTexts& texts) {
     for (const std::string& format : texts.formats) options.formats.push_back(ReadFormat(format));
     if (options.formats.empty()) options.formats.push_back(ReadFormat("text"));
@@ -83,6 +106,9 @@ int Run(int argc, char** argv) {
     std::string driveFormat = "text";
     AddReport(program, report, texts);
     AddDrive(program, drive, driveFormat);
+    EmbedmentOptions embedment;
+    std::string envelope;
+    AddEmbedment(program, embedment, envelope);
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
@@ -91,6 +117,11 @@ int Run(int argc, char** argv) {
     if (program.got_subcommand("report")) {
         FinishReport(report, texts);
         return RunReports(report, std::cout, std::cerr);
+    }
+    if (program.got_subcommand("embedment")) {
+        if (!envelope.empty()) embedment.envelope = ReadEnvelope(envelope);
+        ApplyOptions(embedment.common);
+        return RunEmbedment(embedment, std::cout, std::cerr);
     }
     drive.format = ReadFormat(driveFormat);
     ApplyOptions(drive.common);

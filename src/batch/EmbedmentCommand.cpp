@@ -1,0 +1,160 @@
+#include "batch/EmbedmentCommand.h"
+
+#include <algorithm>
+#include <fstream>
+#include <stdexcept>
+
+#include "app/DesignerDlg.h"
+#include "app/Launch.h"
+#include "batch/Progress.h"
+#include "batch/ScriptDriver.h"
+#include "embedment/MPTEDlg.h"
+#include "embedment/SvgCanvas.h"
+#include "session/Constants.h"
+#include "text/Utf8.h"
+
+namespace {
+
+constexpr int kStudyButton = 1022;  // of the report dialog
+constexpr int kExportButton = 1022, kCaseEdit = 1025, kQuantityList = 1027;
+constexpr int kEnvelopeButton = 1034, kEnvelopeList = 1035;
+constexpr double kPictureWidth = 900.0, kPictureHeight = 540.0;
+constexpr const char* kColumnGap = "  ";
+
+using Rows = std::vector<std::vector<std::string>>;
+
+std::vector<std::size_t> ColumnWidths(const Rows& rows) {
+    std::vector<std::size_t> widths;
+    for (const auto& row : rows) {
+        widths.resize(std::max(widths.size(), row.size()));
+        for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
+    }
+    return widths;
+}
+
+}  // namespace
+
+int ReadEnvelope(std::string_view text) {
+    if (text == "max") return 0;
+    if (text == "min") return 1;
+    throw std::invalid_argument("\"" + std::string(text) + "\" is no envelope (max, min)");
+}
+
+EmbedmentDriver::EmbedmentDriver(const EmbedmentOptions& options, std::ostream& out, std::ostream& err)
+    : m_options(options), m_out(out), m_err(err) {}
+
+ExitStatus EmbedmentDriver::Run() {
+    Progress progress(m_err, "Loading " + ToUtf8(m_options.project));
+    headless::SetSink(this);
+    headless::SetModalDriver([this, &progress](headless::HeadlessDialog& dialog) {
+        progress.End();
+        Drive(dialog);
+    });
+    LaunchLumerin(kFormatSpreadsheet, m_options.project.c_str(), m_options.common.version.c_str(), "", "",
+                  "");
+    headless::SetModalDriver(nullptr);
+    headless::SetSink(nullptr);
+    return m_status;
+}
+
+void EmbedmentDriver::Fail(ExitStatus status, const std::string& text) {
+    m_err << ToUtf8(m_options.project + ": " + text) << std::endl;
+    m_status = std::max(m_status, status);
+}
+
+void EmbedmentDriver::Drive(headless::HeadlessDialog& dialog) {
+    if (auto* report = dynamic_cast<CDesignerDlg*>(&dialog.Dialog())) {
+        if (report->IsProjectLoaded()) {
+            DriveReport(dialog);
+        } else {
+            m_status = kExitNotLoaded;
+        }
+    } else if (const auto* study = dynamic_cast<CMPTEDlg*>(&dialog.Dialog())) {
+        DriveStudy(dialog, *study);
+    }
+}
+
+void EmbedmentDriver::DriveReport(headless::HeadlessDialog& dialog) {
+    if (!dialog.Click(kStudyButton)) Fail(kExitIncomplete, "the project has no embedment study");
+}
+
+void EmbedmentDriver::DriveStudy(headless::HeadlessDialog& dialog, const CMPTEDlg& study) {
+    // An opening that had something to say shows a study that is not whole.
+    if (m_nMessages > 0) m_status = std::max(m_status, kExitIncomplete);
+    if (!ChooseView(dialog)) return;
+    PrintTable(dialog, study);
+    if (!m_options.picture.empty()) WritePicture(study);
+    if (m_options.workbook) dialog.Click(kExportButton);
+    if (!m_Written.empty()) m_out << '\n';
+    for (const std::string& path : m_Written) m_out << path << '\n';
+    m_out.flush();
+}
+
+bool EmbedmentDriver::ChooseView(headless::HeadlessDialog& dialog) {
+    const int before = m_nMessages;
+    if (m_options.envelope >= 0) {
+        dialog.Click(kEnvelopeButton);
+        dialog.SelectEntry(kEnvelopeList, m_options.envelope);
+    } else {
+        dialog.TypeText(kCaseEdit, std::to_string(m_options.loadCase));
+    }
+    dialog.SelectEntry(kQuantityList, m_options.quantity);
+    if (m_nMessages == before) return true;
+    m_status = std::max(m_status, kExitUsage);
+    return false;
+}
+
+void EmbedmentDriver::PrintTable(headless::HeadlessDialog& dialog, const CMPTEDlg& study) {
+    const NativeWindow* grid = dialog.FindKind(ControlKind::grid);
+    if (grid == nullptr || grid->grid == nullptr) return;
+    Rows rows;
+    for (int row = 0; row < grid->grid->RowCount(); ++row) rows.push_back(grid->grid->RowTexts(row));
+    const std::vector<std::size_t> widths = ColumnWidths(rows);
+    // The plot's caption names the one case, in an envelope too.
+    const NativeWindow* quantity = dialog.Find(kQuantityList);
+    const NativeWindow* envelope = dialog.Find(kEnvelopeList);
+    m_out << (m_options.envelope >= 0 ? envelope->text + " - Embedment vs " + quantity->text
+                                      : study.BuildPlotTitle(m_options.loadCase, m_options.quantity))
+          << '\n';
+    for (const auto& row : rows) {
+        std::string line;
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            if (i > 0) line += kColumnGap;
+            line.append(widths[i] - row[i].size(), ' ').append(row[i]);
+        }
+        m_out << ToUtf8(line) << '\n';
+    }
+}
+
+void EmbedmentDriver::WritePicture(const CMPTEDlg& study) {
+    std::ofstream file(m_options.picture, std::ios::binary);
+    file << PlotAsSvg(study.m_Graph.Plot(), kPictureWidth, kPictureHeight);
+    file.close();
+    if (file) {
+        m_Written.push_back(m_options.picture);
+    } else {
+        Fail(kExitIncomplete, "the picture " + m_options.picture + " could not be written");
+    }
+}
+
+MessageAnswer EmbedmentDriver::OnMessage(const headless::Message& message) {
+    ++m_nMessages;
+    Fail(kExitDone, message.text);
+    return Sink::OnMessage(message);
+}
+
+int EmbedmentDriver::OnShellOpen(const std::string&, const std::string& file, const std::string& parameters) {
+    const int code = ShellCodeOfDocument(file, parameters);
+    const std::string& quoted = parameters.empty() ? file : parameters;
+    if (code > 32) {
+        m_Written.push_back(quoted.substr(1, quoted.size() - 2));
+    } else {
+        m_status = std::max(m_status, kExitIncomplete);
+    }
+    return code;
+}
+
+ExitStatus RunEmbedment(const EmbedmentOptions& options, std::ostream& out, std::ostream& err) {
+    EmbedmentDriver driver(options, out, err);
+    return driver.Run();
+}
