@@ -2,6 +2,7 @@
 // The common controls want windows.h before them.
 #include <commctrl.h>
 
+#include "host/GraphReader.h"
 #include "host/GridReader.h"
 #include "host/Keyboard.h"
 #include "host/WindowReader.h"
@@ -17,6 +18,15 @@ HWND FindUsable(HWND dialog, int id) {
 HWND FindUsable(HWND dialog, int id, ControlKind kind) {
     const HWND control = FindUsable(dialog, id);
     return control != nullptr && KindOf(control) == kind ? control : nullptr;
+}
+
+// The first control of the kind, when it can be used.
+HWND FindUsableKind(HWND dialog, ControlKind kind) {
+    for (const HWND control : ControlsOf(dialog)) {
+        if (KindOf(control) != kind) continue;
+        return IsWindowEnabled(control) && HasStyle(control, WS_VISIBLE) ? control : nullptr;
+    }
+    return nullptr;
 }
 
 bool IsPressable(ControlKind kind) {
@@ -87,16 +97,18 @@ bool Spin(HWND dialog, int id, bool up) {
 }
 
 bool TypeCell(HWND dialog, int row, int column, const std::string& text) {
-    for (const HWND control : ControlsOf(dialog)) {
-        if (KindOf(control) != ControlKind::grid) continue;
-        if (!IsWindowEnabled(control) || !HasStyle(control, WS_VISIBLE)) return false;
-        MoveFocus(dialog, control);
-        if (!gridreader::GoToCell(control, row, column)) return false;
-        keyboard::Type(text);
-        keyboard::Press(VK_RETURN);
-        return true;
-    }
-    return false;
+    const HWND grid = FindUsableKind(dialog, ControlKind::grid);
+    if (grid == nullptr) return false;
+    MoveFocus(dialog, grid);
+    if (!gridreader::GoToCell(grid, row, column)) return false;
+    keyboard::Type(text);
+    keyboard::Press(VK_RETURN);
+    return true;
+}
+
+bool ClickGraph(HWND dialog, double x) {
+    const HWND graph = FindUsableKind(dialog, ControlKind::graph);
+    return graph != nullptr && graphreader::Click(graph, x);
 }
 
 bool PressHelp(HWND dialog, int id) {

@@ -15,6 +15,8 @@ bool SelectEntry(HWND dialog, int id, int entry);
 bool Spin(HWND dialog, int id, bool up);
 // Puts the focus on the cell of the grid; the text is typed on the keyboard then.
 bool TypeCell(HWND dialog, int row, int column, const std::string& text);
+// A click on the plot at that place of its x axis.
+bool ClickGraph(HWND dialog, double x);
 // The F1 key over a control, whether it can have the focus or not.
 bool PressHelp(HWND dialog, int id);
 

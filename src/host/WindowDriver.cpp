@@ -5,6 +5,7 @@
 
 #include "framework/Dialog.h"
 #include "host/Actions.h"
+#include "host/GraphReader.h"
 #include "host/GridReader.h"
 #include "host/Keyboard.h"
 #include "host/Picture.h"
@@ -96,7 +97,7 @@ bool WindowDriver::Perform(const ScriptAction& action, HWND dialog) {
         case ScriptVerb::cell:
             return actions::TypeCell(dialog, action.id, action.number, action.text);
         case ScriptVerb::graphClick:
-            return false;
+            return actions::ClickGraph(dialog, action.x);
         case ScriptVerb::answerYes:
         case ScriptVerb::answerNo:
             m_bAnswerYes = action.verb == ScriptVerb::answerYes;
@@ -131,6 +132,9 @@ void WindowDriver::Dump(HWND dialog) {
         if (KindOf(control) != ControlKind::grid) continue;
         int row = 0;
         for (const auto& cells : gridreader::ReadRows(control)) m_lines.Row(row++, cells);
+    }
+    for (const HWND control : controls) {
+        if (KindOf(control) == ControlKind::graph) m_lines.Plot(graphreader::ReadDrawing(control));
     }
 }
 

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <vector>
+
+#include "framework/headless/GraphPeer.h"
+#include "host/HostWindows.h"
+
+// The plot, asked of its window.
+namespace graphreader {
+
+// The calls of the last drawing; empty when the window does not tell them.
+std::vector<GraphCall> ReadDrawing(HWND graph);
+
+// Posts a click of the mouse at that x of the data. False: the place is not on the plot.
+bool Click(HWND graph, double x);
+
+}  // namespace graphreader
