@@ -121,9 +121,9 @@ TEST_F(LoadCaseDialog, TheGridIsSetUpForTyping) {
         EXPECT_EQ(grid.GetCell(1, 1)->GetBackground(), 0xffffffu);
         EXPECT_TRUE(grid.GetCell(1, 1)->IsKindOf(CGridCellBOOL::classCGridCellBOOL));
         EXPECT_FALSE(grid.GetCell(0, 1)->IsKindOf(CGridCellBOOL::classCGridCellBOOL));
-        // 162 dialog units are 284 pixels; the borders take 2 and the scroll bar 17 of them.
-        EXPECT_EQ(grid.GetColumnWidth(0), 133);
-        EXPECT_EQ(grid.GetColumnWidth(1), 132);
+        // 162 dialog units are 284 pixels; the borders take 4 and the scroll bar 17 of them.
+        EXPECT_EQ(grid.GetColumnWidth(0), 132);
+        EXPECT_EQ(grid.GetColumnWidth(1), 131);
     });
 }
 

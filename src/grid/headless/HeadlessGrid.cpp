@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int kBorders = 2;    // pixels of both borders of the control
+constexpr int kBorders = 4;    // pixels of both sunken borders of the control
 constexpr int kBarWidth = 17;  // pixels of a scroll bar at 96 pixels an inch
 constexpr int kCharacterWidth = 6, kCharacterHeight = 15;
 // Pixels of a dialog unit's multiple with the dialogs' font at 96 pixels an inch.
