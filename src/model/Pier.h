@@ -204,7 +204,7 @@ class CPier {
 
   private:
     struct FreeForces {
-        void operator()(float* forces) const { std::free(forces); }
+        void operator()(float* forces) const { std::free(forces); }  // NOLINT(cppcoreguidelines-no-malloc)
     };
     float* CaseForces(int loadCase) const {
         const std::size_t c = static_cast<std::size_t>(loadCase);
