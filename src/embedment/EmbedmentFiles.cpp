@@ -25,8 +25,9 @@ class InputLines {
         if (c == std::char_traits<char>::eof()) return false;
         while (c != std::char_traits<char>::eof() && c != '\n') {
             if (m_line.size() == kLongestLine) {
-                m_bEnded = true;
-                break;
+                // The carriage return of a line's end is none of its characters.
+                m_bEnded = c != '\r' || m_stream.peek() != '\n';
+                if (m_bEnded) break;
             }
             m_line.push_back(static_cast<char>(c));
             c = m_stream.get();

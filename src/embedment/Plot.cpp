@@ -152,7 +152,7 @@ CPlot::Layout CPlot::MakeLayout(const PlotCanvas& canvas, double width, double h
     frame.left = std::round(em * 2.6 + labelWidth + em * 0.4 + layout.tick);
     frame.top = std::round(em * 2.9);
     frame.right = std::round(width - std::max(em * 1.2, lastLabel / 2.0 + em * 0.6));
-    frame.bottom = std::round(height - em * 4.1);
+    frame.bottom = std::round(height - em * 4.2);
     frame.right = std::max(frame.right, frame.left + 1.0);
     frame.bottom = std::max(frame.bottom, frame.top + 1.0);
     return layout;
@@ -212,7 +212,7 @@ void CPlot::DrawAxes(PlotCanvas& canvas, const Layout& layout) const {
         const double x = frame.left + room * static_cast<double>(i);
         canvas.RuleLine({x, frame.bottom}, {x, frame.bottom + layout.tick}, 1.0, kFrame);
         if (i % every != 0) continue;
-        canvas.Text(layout.x.labels[i], {x, frame.bottom + layout.tick + em * 1.05}, layout.text,
+        canvas.Text(layout.x.labels[i], {x, frame.bottom + layout.tick + em * 1.15}, layout.text,
                     TextAnchor::middle, false, kInk);
     }
     for (std::size_t i = 0; i < countY; ++i) {
@@ -230,7 +230,7 @@ void CPlot::DrawTexts(PlotCanvas& canvas, const Layout& layout, double width) co
     const double middle = (frame.left + frame.right) / 2.0;
     const double roomAround = 2.0 * std::min(middle, width - middle) - em;
     FitText(canvas, Text(kGraphCaption), {middle, frame.top - em * 1.0}, layout.title, roomAround, false);
-    FitText(canvas, Text(kGraphLabelX), {middle, frame.bottom + layout.tick + em * 2.75}, layout.text,
+    FitText(canvas, Text(kGraphLabelX), {middle, frame.bottom + layout.tick + em * 2.85}, layout.text,
             roomAround, false);
     FitText(canvas, Text(kGraphLabelY), {em * 1.6, (frame.top + frame.bottom) / 2.0}, layout.text,
             frame.Height() + em * 2.0, true);

@@ -103,14 +103,13 @@ void SvgCanvas::Disc(PlotPoint centre, double radius, std::uint32_t fill, std::u
 void SvgCanvas::Text(std::string_view text, PlotPoint at, const PlotFont& font, TextAnchor anchor,
                      bool turned, std::uint32_t colour) {
     constexpr const char* kAnchors[] = {"start", "middle", "end"};
-    m_sBody += "<text" + Attribute("x", Coordinate(at.x)) + Attribute("y", Coordinate(at.y)) +
-               Attribute("font-size", Coordinate(font.height)) +
+    m_sBody += "<text" + Attribute("font-size", Coordinate(font.height)) +
                Attribute("text-anchor", kAnchors[static_cast<std::size_t>(anchor)]) +
                Attribute("fill", ColourText(colour));
     if (font.bold) m_sBody += " font-weight=\"bold\"";
-    if (turned) {
-        m_sBody += Attribute("transform", "rotate(-90 " + Coordinate(at.x) + ' ' + Coordinate(at.y) + ')');
-    }
+    const std::string x = Coordinate(at.x), y = Coordinate(at.y);
+    m_sBody += turned ? Attribute("transform", "translate(" + x + ' ' + y + ") rotate(-90)")
+                      : Attribute("x", x) + Attribute("y", y);
     m_sBody += '>' + Escaped(text) + "</text>\n";
 }
 

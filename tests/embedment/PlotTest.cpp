@@ -1,0 +1,234 @@
+#include "embedment/Plot.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <limits>
+
+#include "embedment/SvgCanvas.h"
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+// Writes down what is drawn; a character is half as wide as high.
+class RecordingCanvas : public PlotCanvas {
+  public:
+    struct TextCall {
+        std::string text;
+        PlotPoint at;
+        double height;
+        bool turned;
+    };
+    void FillRect(const PlotRect& rect, std::uint32_t) override { fills.push_back(rect); }
+    void RuleLine(PlotPoint from, PlotPoint to, double, std::uint32_t) override {
+        rules.emplace_back(from, to);
+    }
+    void Polyline(std::span<const PlotPoint> points, double, std::uint32_t) override {
+        lines.emplace_back(points.begin(), points.end());
+    }
+    void Disc(PlotPoint centre, double, std::uint32_t, std::uint32_t) override { discs.push_back(centre); }
+    void Text(std::string_view text, PlotPoint at, const PlotFont& font, TextAnchor, bool turned,
+              std::uint32_t) override {
+        texts.push_back({std::string(text), at, font.height, turned});
+    }
+    double TextWidth(std::string_view text, const PlotFont& font) const override {
+        return static_cast<double>(text.size()) * font.height / 2.0;
+    }
+    std::vector<std::string> Texts() const {
+        std::vector<std::string> all;
+        for (const TextCall& call : texts) all.push_back(call.text);
+        return all;
+    }
+
+    std::vector<PlotRect> fills;
+    std::vector<std::pair<PlotPoint, PlotPoint>> rules;
+    std::vector<std::vector<PlotPoint>> lines;
+    std::vector<PlotPoint> discs;
+    std::vector<TextCall> texts;
+};
+
+constexpr double kWidth = 520.0, kHeight = 260.0;  // text of 10 pixels
+
+CPlot MakePlot(double minX, double maxX, double minY, double maxY) {
+    CPlot plot;
+    plot.Set(kGraphCaption, std::string("Caption"));
+    plot.Set(kGraphLabelX, std::string("Length"));
+    plot.Set(kGraphLabelY, std::string("Force"));
+    plot.Set(kGraphColour, 0x0000ff);
+    plot.Set(kGraphShowGrid, true);
+    plot.Call(kGraphClearElements, {});
+    plot.Call(kGraphAddElement, {});
+    plot.Set(kGraphElement, 0);
+    plot.Call(kGraphSetRanges, std::vector<GraphValue>{minX, maxX, minY, maxY});
+    plot.Set(kGraphTicksX, 2);
+    plot.Set(kGraphTicksY, 4);
+    plot.Set(kGraphFormatX, std::string("%.2f"));
+    plot.Set(kGraphFormatY, std::string("%.1f"));
+    return plot;
+}
+
+void AddPoint(CPlot& plot, double x, double y) {
+    plot.Call(kGraphPlotPoint, std::vector<GraphValue>{x, y, 1});
+}
+
+RecordingCanvas Drawn(const CPlot& plot) {
+    RecordingCanvas canvas;
+    plot.Draw(canvas, kWidth, kHeight);
+    return canvas;
+}
+
+}  // namespace
+
+TEST(Plot, AnswersTheIdsThatItWasTold) {
+    CPlot plot;
+    EXPECT_EQ(std::get<int>(plot.Get(kGraphElementCount)), 0);
+    plot.Call(kGraphAddElement, {});
+    plot.Call(kGraphAddElement, {});
+    EXPECT_EQ(std::get<int>(plot.Get(kGraphElementCount)), 2);
+    plot.Call(kGraphClearElements, {});
+    EXPECT_EQ(std::get<int>(plot.Get(kGraphElementCount)), 0);
+    plot.Set(kGraphElementB, 5);
+    EXPECT_EQ(std::get<int>(plot.Get(kGraphElementB)), 5);
+    plot.Call(999, {});  // an id that it does not know
+}
+
+TEST(Plot, LabelsBothAxesFromEndToEndInTheirFormats) {
+    const RecordingCanvas canvas = Drawn(MakePlot(10.0, 20.0, -1.0, 1.0));
+    EXPECT_THAT(canvas.Texts(), ElementsAre("10.00", "15.00", "20.00", "-1.0", "-0.5", "0.0", "0.5", "1.0",
+                                            "Caption", "Length", "Force"));
+    EXPECT_TRUE(canvas.texts.back().turned);
+}
+
+TEST(Plot, EverythingLiesInsideTheDrawing) {
+    for (const double width : {120.0, 580.0, 3000.0}) {
+        for (const double height : {90.0, 306.0, 2000.0}) {
+            RecordingCanvas canvas;
+            CPlot plot = MakePlot(9.0, 24.0, -1952.0, 48.0);
+            AddPoint(plot, 10.0, -500.0);
+            AddPoint(plot, 20.0, 0.0);
+            plot.Draw(canvas, width, height);
+            for (const auto& text : canvas.texts) {
+                EXPECT_GE(text.at.x, 0.0) << width << " x " << height;
+                EXPECT_LE(text.at.x, width);
+                EXPECT_GE(text.at.y, 0.0);
+                EXPECT_LE(text.at.y, height);
+            }
+            for (const auto& [from, to] : canvas.rules) {
+                EXPECT_LE(std::max(from.x, to.x), width);
+                EXPECT_LE(std::max(from.y, to.y), height);
+            }
+        }
+    }
+}
+
+TEST(Plot, JoinsThePointsByALine) {
+    CPlot plot = MakePlot(10.0, 20.0, 0.0, 4.0);
+    AddPoint(plot, 10.0, 0.0);
+    AddPoint(plot, 15.0, 2.0);
+    AddPoint(plot, 20.0, 4.0);
+    const RecordingCanvas canvas = Drawn(plot);
+    ASSERT_EQ(canvas.lines.size(), 1u);
+    ASSERT_EQ(canvas.lines[0].size(), 3u);
+    ASSERT_EQ(canvas.discs.size(), 3u);
+    // The middle of the data is the middle between its ends.
+    EXPECT_NEAR(canvas.discs[1].x, (canvas.discs[0].x + canvas.discs[2].x) / 2.0, 1e-9);
+    EXPECT_NEAR(canvas.discs[1].y, (canvas.discs[0].y + canvas.discs[2].y) / 2.0, 1e-9);
+    EXPECT_GT(canvas.discs[0].y, canvas.discs[2].y);  // greater values are higher up
+}
+
+TEST(Plot, ALineToAPointOutsideEndsAtTheFrame) {
+    CPlot plot = MakePlot(10.0, 20.0, 0.0, 4.0);
+    AddPoint(plot, 10.0, 2.0);
+    AddPoint(plot, 20.0, 6.0);  // leaves the frame half-way, at x 15
+    const RecordingCanvas canvas = Drawn(plot);
+    ASSERT_EQ(canvas.discs.size(), 1u);
+    ASSERT_EQ(canvas.lines.size(), 1u);
+    const double middle = plot.PixelOf(15.0, canvas, kWidth, kHeight);
+    EXPECT_NEAR(canvas.lines[0].back().x, middle, 1e-9);
+    CPlot outside = MakePlot(10.0, 20.0, 0.0, 4.0);
+    AddPoint(outside, 10.0, 5.0);
+    AddPoint(outside, 20.0, 6.0);
+    EXPECT_TRUE(Drawn(outside).lines.empty());
+    EXPECT_TRUE(Drawn(outside).discs.empty());
+}
+
+TEST(Plot, APlaceAndItsXBelongTogether) {
+    const CPlot plot = MakePlot(10.0, 20.0, 0.0, 4.0);
+    const RecordingCanvas canvas;
+    for (const double x : {5.0, 10.0, 12.5, 20.0, 31.0}) {
+        EXPECT_NEAR(plot.XAt(plot.PixelOf(x, canvas, kWidth, kHeight), canvas, kWidth, kHeight), x, 1e-9);
+    }
+}
+
+TEST(Plot, ARangeWithoutLengthOrEndDrawsTheFrameAlone) {
+    const double inf = std::numeric_limits<double>::infinity();
+    const double ranges[][2] = {{1.0, 1.0}, {2.0, 1.0}, {-inf, inf}, {std::nan(""), 1.0}, {-1e308, 1e308}};
+    for (const auto& range : ranges) {
+        CPlot plot = MakePlot(range[0], range[1], 0.0, 1.0);
+        AddPoint(plot, 1.0, 0.5);
+        const RecordingCanvas canvas = Drawn(plot);
+        EXPECT_TRUE(canvas.discs.empty());
+        EXPECT_TRUE(canvas.lines.empty());
+        EXPECT_GE(canvas.rules.size(), 4u);
+        EXPECT_TRUE(std::isfinite(plot.PixelOf(1.0, canvas, kWidth, kHeight)));
+    }
+}
+
+TEST(Plot, LongNumbersTakeTheShortForm) {
+    const RecordingCanvas canvas = Drawn(MakePlot(1.0, 2.0, 0.0, 4e20));
+    EXPECT_THAT(canvas.Texts(), testing::Contains("4e+20"));
+}
+
+TEST(Plot, PointsWithoutAnElementAreDropped) {
+    CPlot plot;
+    plot.Call(kGraphSetRanges, std::vector<GraphValue>{0.0, 1.0, 0.0, 1.0});
+    AddPoint(plot, 0.5, 0.5);
+    plot.Call(kGraphAddElement, {});
+    plot.Set(kGraphElement, 7);
+    AddPoint(plot, 0.5, 0.5);
+    plot.Call(kGraphPlotPoint, {});
+    plot.Call(kGraphSetRanges, {});
+    EXPECT_TRUE(Drawn(plot).discs.empty());
+}
+
+TEST(Plot, ACaptionThatIsTooLongGetsSmaller) {
+    CPlot plot = MakePlot(0.0, 1.0, 0.0, 1.0);
+    plot.Set(kGraphCaption, std::string(80, 'x'));
+    const RecordingCanvas canvas = Drawn(plot);
+    for (const auto& text : canvas.texts) {
+        if (text.text.size() == 80) {
+            EXPECT_LT(text.height, 12.0);
+        }
+    }
+}
+
+TEST(SvgCanvas, WritesTextsAsXml) {
+    CPlot plot = MakePlot(0.0, 1.0, 0.0, 1.0);
+    plot.Set(kGraphCaption, std::string("a<b> & \"c\" \x91"
+                                        "d\x92 \x01\xb0"));
+    const std::string picture = PlotAsSvg(plot, 300.0, 200.0);
+    EXPECT_THAT(picture, HasSubstr("a&lt;b&gt; &amp; &quot;c&quot; \xe2\x80\x98"
+                                   "d\xe2\x80\x99 \xc2\xb0<"));
+    EXPECT_THAT(picture, HasSubstr("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"300\" height=\"200\""));
+    EXPECT_THAT(picture, Not(HasSubstr("nan")));
+    EXPECT_EQ(picture.substr(picture.size() - 7), "</svg>\n");
+}
+
+TEST(SvgCanvas, DrawsEachPointAndOneLine) {
+    CPlot plot = MakePlot(0.0, 1.0, 0.0, 1.0);
+    AddPoint(plot, 0.25, 0.25);
+    AddPoint(plot, 0.75, 0.75);
+    const std::string picture = PlotAsSvg(plot, 300.0, 200.0);
+    const auto count = [&picture](const std::string& word) {
+        std::size_t found = 0;
+        for (std::size_t at = picture.find(word); at != std::string::npos; at = picture.find(word, at + 1))
+            ++found;
+        return found;
+    };
+    EXPECT_EQ(count("<circle"), 2u);
+    EXPECT_EQ(count("<polyline"), 1u);
+    EXPECT_EQ(count("stroke=\"#ff0000\""), 4u);  // the colour is blue, green, red from the top: grid lines
+}
