@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -96,6 +97,10 @@ PlotModuleResult CallPlotModule(const char* module, const char* exportName, cons
 // Whether `c` separates folders on this platform, and the separator that it writes itself.
 bool IsFolderSeparator(char c);
 char FolderSeparator();
+
+// Tells the system that a big piece of memory will be filled, so that it may back it with large pages: taking
+// gigabytes four kilobytes at a time costs more than reading the files that fill them. Advice alone.
+void PreferLargePages(void* memory, std::size_t bytes);
 
 }  // namespace services
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <new>
 
+#include "framework/Backend.h"
+
 namespace {
 
 int AtLeastZero(int count) {
@@ -65,6 +67,7 @@ void CPier::AllocateForces() {
         void* block = std::calloc(here * caseFloats, sizeof(float));
         if (block == nullptr) throw std::bad_alloc();
         m_ForceBlocks.emplace_back(static_cast<float*>(block));
+        services::PreferLargePages(block, here * caseFloats * sizeof(float));
     }
 }
 

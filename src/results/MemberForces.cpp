@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr std::size_t kPieceRecords = std::size_t{1} << 15;  // 2.2 MB
+constexpr std::size_t kPieceRecords = std::size_t{1} << 12;  // 280 KB stay in the processor's cache
 
 class ForceReader {
   public:

@@ -1,6 +1,8 @@
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include <array>
+#include <cstdint>
 #include <ctime>
 
 #include "framework/Clock.h"
@@ -16,10 +18,12 @@ headless::Sink& CurrentSink() {
     return sink == nullptr ? silent : *sink;
 }
 
-std::string RunningProgram() {
+// With its trailing separator.
+std::string ProgramFolder() {
     std::array<char, 4096> path{};
     const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
-    return length > 0 ? std::string(path.data(), static_cast<std::size_t>(length)) : std::string();
+    const std::string program(path.data(), length > 0 ? static_cast<std::size_t>(length) : 0);
+    return program.substr(0, program.rfind('/') + 1);
 }
 
 }  // namespace
@@ -52,18 +56,16 @@ int ShellOpen(const std::string& verb, const std::string& file, const std::strin
     return CurrentSink().OnShellOpen(verb, file, parameters);
 }
 
+// The native program is its own host and holds the module's code itself. What lies beside either is looked
+// for beside the program, by the names whose letters the product trims off.
 std::string HostProgramPath() {
     const std::string& path = headless::State().programPath;
-    return path.empty() ? RunningProgram() : path;
+    return path.empty() ? ProgramFolder() + "Tarnsway.exe" : path;
 }
 
 std::string ModulePath() {
     const std::string& path = headless::State().modulePath;
-    if (!path.empty()) return path;
-    // The native program holds the module's code itself; its help files lie beside it all the same.
-    const std::string program = RunningProgram();
-    const std::size_t slash = program.rfind('/');
-    return program.substr(0, slash == std::string::npos ? 0 : slash + 1) + "Lumerin.dll";
+    return path.empty() ? ProgramFolder() + "Lumerin.dll" : path;
 }
 
 bool ReadViewerNumber(const char* name, int& value) {
@@ -114,6 +116,14 @@ bool IsFolderSeparator(char c) {
 
 char FolderSeparator() {
     return '/';
+}
+
+void PreferLargePages(void* memory, std::size_t bytes) {
+    // The advice goes to whole pages; those at the two ends are left out.
+    const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    const std::size_t before = (page - reinterpret_cast<std::uintptr_t>(memory) % page) % page;
+    if (bytes < before + page) return;
+    madvise(static_cast<char*>(memory) + before, (bytes - before) / page * page, MADV_HUGEPAGE);
 }
 
 }  // namespace services
