@@ -66,8 +66,8 @@ TEST(ScaleAxis, ALengthOfAPowerOfTenKeepsItsEnds) {
 }
 
 TEST(ScaleAxis, ShortRangesSnapToADigitOfTheStep) {
-    // 0.2 to 0.7: widened 0.15 to 0.75, length 0.6 and a little, step 0.2; the digit 1 of 0.1 goes down to 0.
-    // 0, 0.2, 0.4, 0.6, 0.8: four steps until 0.75 is passed.
+    // 0.2 to 0.7: widened 0.15 to 0.75, length 0.6, which is not below the limit 6: step 0.2; the digit 1 of
+    // 0.1 goes down to 0. 0, 0.2, 0.4, 0.6, 0.8: four steps until 0.75 is passed.
     ExpectAxis(0.2, 0.7, 0.0, 0.8, 4, 1);
     // 0.93 to 0.985: widened 0.9245 to 0.9905, length 0.066, step 0.02; 0.92 keeps 0.9 and its digit 2 goes
     // to 0. 0.90, 0.92 ... 1.00: five steps until 0.9905 is passed.
