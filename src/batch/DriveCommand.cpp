@@ -23,7 +23,7 @@ bool ReadScript(const std::string& path, std::string& script) {
 
 // Another file of the folder that `path` lies in.
 std::string Beside(const std::string& path, const std::string& name) {
-    const std::size_t separator = path.rfind('/');
+    const std::size_t separator = path.find_last_of("/\\");
     return path.substr(0, separator == std::string::npos ? 0 : separator + 1) + name;
 }
 

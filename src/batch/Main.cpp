@@ -50,7 +50,7 @@ void AddDrive(CLI::App& program, DriveOptions& options, std::string& format) {
     command.add_option("SCRIPT", options.script, "File of actions, one a line; - for standard input")
         ->required();
     command.add_option("--format", format,
-                       "Format that the dialog starts on: text, pdf, excel (default text)");
+                       "Format that the dialog starts on: text, pdf, excel or a number (default text)");
     command.add_flag("!--without-plot-module", options.hasPlotModule,
                      "Behave as on a machine without the plot module");
     AddCommonOptions(command, options.common);
@@ -123,7 +123,7 @@ int Run(int argc, char** argv) {
         ApplyOptions(embedment.common);
         return RunEmbedment(embedment, std::cout, std::cerr);
     }
-    drive.format = ReadFormat(driveFormat);
+    drive.format = ReadStartFormat(driveFormat);
     ApplyOptions(drive.common);
     return RunDrive(drive, std::cout, std::cerr);
 }

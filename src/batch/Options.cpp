@@ -106,6 +106,13 @@ int ReadFormat(std::string_view text) {
     throw std::invalid_argument("\"" + std::string(text) + "\" is no format (text, pdf, excel)");
 }
 
+int ReadStartFormat(std::string_view text) {
+    int number = 0;
+    const char* end = text.data() + text.size();
+    const auto [at, fault] = std::from_chars(text.data(), end, number);
+    return fault == std::errc() && at == end ? number : ReadFormat(text);
+}
+
 int TableButton(std::string_view name) {
     for (const NamedButton& table : kTables) {
         if (name == table.name) return table.button;

@@ -28,6 +28,8 @@ struct FooterParts {
 FooterParts ReadFooter(std::string_view text);  // "none", or a list of date, time, version, filename
 
 int ReadFormat(std::string_view text);  // text, pdf, excel: the number of the format
+// The same, or any number, as a host might pass it.
+int ReadStartFormat(std::string_view text);
 
 // The report dialog's button of a table's short name; 0 when there is no such table.
 int TableButton(std::string_view name);

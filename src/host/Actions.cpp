@@ -56,6 +56,8 @@ bool Click(HWND dialog, int id) {
     if (control == nullptr) return false;
     const ControlKind kind = KindOf(control);
     if (IsPressable(kind)) {
+        // A button that a mouse presses is the one that Return presses next.
+        if (kind == ControlKind::button) MoveFocus(dialog, control);
         PostMessageA(control, BM_CLICK, 0, 0);
     } else if (kind == ControlKind::edit || (kind == ControlKind::text && HasStyle(control, SS_NOTIFY))) {
         PostMouseClick(control, 2, 2);

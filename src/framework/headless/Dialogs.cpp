@@ -152,6 +152,13 @@ bool HeadlessDialog::SelectEntry(int id, int entry) {
 bool HeadlessDialog::Spin(int id, bool up) {
     NativeWindow* control = FindUsable(id);
     if (control == nullptr || control->spec->kind != ControlKind::spin) return false;
+    // The platform's spin button does nothing while the edit control that shows its position is disabled.
+    const NativeWindow* before = nullptr;
+    for (const auto& other : m_window.controls) {
+        if (other.get() == control) break;
+        before = other.get();
+    }
+    if (before != nullptr && before->spec->kind == ControlKind::edit && !before->enabled) return true;
     const bool ascending = control->spinLow <= control->spinHigh;
     const int step = up == ascending ? 1 : -1;
     Run([control, step] { backend::SpinSetPosition(control, control->spinPosition + step); });

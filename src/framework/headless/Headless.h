@@ -112,7 +112,7 @@ struct Settings {
     std::optional<LocalTime> clock;             // unset: LUMERIN_CLOCK, else the machine's clock
     std::map<std::string, int> viewerNumbers;   // the text viewer's settings; absent by default
     std::map<std::string, std::string> viewerTexts;
-    std::string programPath, modulePath;  // empty: those of the running program
+    std::string programPath, modulePath;  // empty: the host's and the module's names beside the program
     ModalDriver driver;
     Sink* sink = nullptr;
     int waitCursorDepth = 0;
