@@ -215,6 +215,8 @@ TEST_F(EmbedmentDialogTest, TheModesEnableTheirControls) {
         EXPECT_FALSE(front.Find(1025)->enabled);
         EXPECT_TRUE(front.Find(1035)->enabled);
         EXPECT_FALSE(front.TypeText(1025, "2"));
+        EXPECT_TRUE(front.Spin(1026, true));  // the spin button is not disabled, but turns no disabled number
+        EXPECT_EQ(front.Find(1025)->text, "1");
         ASSERT_TRUE(front.Click(1033));
         EXPECT_EQ(dialog.m_nViewMode, 0);
         EXPECT_TRUE(front.Find(1030)->enabled);
