@@ -65,6 +65,8 @@ std::string BitmapBytes(const Picture& picture) {
 }  // namespace
 
 Picture TakePicture(HWND window) {
+    // The title bar of the window that has the focus, drawn as such even where no window manager said so.
+    SendMessageA(window, WM_NCACTIVATE, GetActiveWindow() == window ? TRUE : FALSE, 0);
     UpdateWindow(window);
     RECT frame{};
     GetWindowRect(window, &frame);
