@@ -154,6 +154,39 @@ TEST_F(DriveTest, HelpAndThePlotModuleAreTold) {
                 HasSubstr("{\"module\":\"Sorvane.dll\",\"arguments\":[0,\"" + base + "_Envelopes.txt\","));
 }
 
+// The second call starts afresh: all footer boxes are checked again, and the first call's result comes first.
+TEST_F(DriveTest, AgainEndsTheCallAndMakesAnother) {
+    const std::string base = folder.Write("pier");
+    folder.Write("bent");
+    EXPECT_EQ(Drive(base + ".in", "click 1015\nkey Esc\nagain\ndump\nagain bent.in\ndump\n", 1), kExitDone);
+    ASSERT_GE(lines.size(), 4U);
+    EXPECT_EQ(lines[1], "{\"result\":0}");
+    EXPECT_EQ(lines[2], lines[0]);
+    EXPECT_EQ(Control(1015)["checked"], true);
+    EXPECT_EQ(Control(1007)["text"], "Bent Cap Shear Design");  // the last dump is the other project's
+    EXPECT_EQ(lines.back(), "{\"result\":1}");
+    EXPECT_EQ(err.str(), "");
+}
+
+TEST_F(DriveTest, AgainInAnInnerDialogClosesBothFirst) {
+    const std::string base = folder.Write("pier");
+    EXPECT_EQ(Drive(base + ".in", "click 1038\nclick 1039\nagain\nclick 1\n"), kExitDone);
+    const std::vector<std::string> wanted = {"{\"dialog\":\"Lumerin Generator\"}",
+                                             "{\"dialog\":\"Choose Load Combinations\"}", "{\"result\":1}",
+                                             "{\"dialog\":\"Lumerin Generator\"}", "{\"result\":1}"};
+    EXPECT_EQ(lines, wanted);
+}
+
+TEST_F(DriveTest, WithoutThePlotModuleThePressIsTold) {
+    DriveOptions options;
+    options.project = folder.Write("pier") + ".in";
+    options.format = 2;
+    options.hasPlotModule = false;
+    DriveScript(options, "click 1009\n", out, err);
+    EXPECT_THAT(out.str(), HasSubstr("Pier Cap Envelopes could not be displayed.  Please contact Ovrelle."));
+    EXPECT_THAT(out.str(), testing::Not(HasSubstr("Sorvane.dll")));
+}
+
 TEST_F(DriveTest, TheSameScriptGivesTheSameOutputTwice) {
     const std::string project = folder.Write("bridge") + ".in";
     const std::string script = "click 1020\nclick 1001\nclick 1019\nclick 1015\nclick 1001\ndump\n";

@@ -67,4 +67,12 @@ TEST(Options, FontSizeAndClockReachTheServices) {
     headless::ResetState();
 }
 
+// A host may pass any number; the dialog then selects no format.
+TEST(Options, AStartFormatMayBeAnyNumber) {
+    EXPECT_EQ(ReadStartFormat("pdf"), 1);
+    EXPECT_EQ(ReadStartFormat("7"), 7);
+    EXPECT_EQ(ReadStartFormat("-1"), -1);
+    EXPECT_THROW(ReadStartFormat("7x"), std::invalid_argument);
+}
+
 }  // namespace
