@@ -23,8 +23,16 @@ build() {
     cmake --preset "$1" >/dev/null && cmake --build --preset "$1" -j "$jobs" -- --quiet
 }
 
+# The tests write thousands of small files: in memory, where there is room for that.
+if [[ -d /dev/shm && -w /dev/shm ]]; then
+    scratch=$(mktemp -d /dev/shm/lumerin.XXXXXX)
+else
+    scratch=$(mktemp -d)
+fi
+trap 'rm -rf "$scratch"' EXIT
+
 run_tests() {
-    ctest --test-dir "build/$1" --output-on-failure -j "$jobs"
+    TMPDIR=$scratch ctest --test-dir "build/$1" --output-on-failure -j "$jobs"
 }
 
 format() {
