@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 
 #include "results/CollectData.h"
@@ -13,16 +14,20 @@ constexpr int kSiUnits = 1;
 
 using Entry = std::array<double, 3>;
 
+// A row's entries may stand in records of their own or in one: they are asked for together.
 std::vector<Entry> ReadEntries(CSeqFile& file, int count) {
     std::vector<Entry> entries(static_cast<std::size_t>(count));
-    for (Entry& entry : entries) file.ReadRecord(entry.data(), 24, "bearing entry");
+    file.ReadRecord(entries.data(), static_cast<unsigned>(entries.size() * sizeof(Entry)), "bearing entries");
     return entries;
 }
 
 // The node numbers of a row's records, one less than its entries.
 std::vector<int> ReadNodes(CSeqFile& file, int entries) {
+    std::vector<std::array<int, 3>> records(static_cast<std::size_t>(std::max(entries - 1, 0)));
+    file.ReadRecord(records.data(), static_cast<unsigned>(records.size() * sizeof(records[0])),
+                    "bearing nodes");
     std::vector<int> nodes;
-    for (int i = 0; i < entries - 1; ++i) nodes.push_back(file.ReadInts<3>("bearing node")[1]);
+    for (const std::array<int, 3>& record : records) nodes.push_back(record[1]);
     return nodes;
 }
 
@@ -48,8 +53,7 @@ CBearingRow MakeRow(const std::vector<int>& nodes, int entries) {
 void CCollectData::ReadBearings(int k) {
     const int firstType = g_DataSet.FirstPier().m_nStructureType;
     if (firstType != kTypePier && firstType != kTypePileBent) return;
-    CSeqFile file;
-    file.Open(SubstructureFile(".pls", k + 1));
+    CSeqFile file(SubstructureFile(".pls", k + 1));
     const std::array<int, 12> counts = file.ReadInts<12>("bearing counts");
     const int left = counts[0], right = counts[1];
     file.CheckCount(left, 24, "bearing entries");

@@ -31,6 +31,7 @@ class ForceReader {
             cases = static_cast<int>(std::min<long long>(whole / m_block, m_pier.m_nLoadCases));
             ReadBlocks(cases);
         }
+        TakeLastRecordOf(cases - 1);
         for (int c = cases; c < m_pier.m_nLoadCases; ++c) ReadCaseByRecord(c);
         m_pier.m_bPileHeadsFinite = m_pier.m_bPileForcesFinite || HeadsFinite();
         return std::max(0LL, m_block * m_pier.m_nLoadCases - whole);
@@ -83,6 +84,12 @@ class ForceReader {
         float* forces = m_pier.MutableCase(loadCase).data();
         for (std::size_t i = 0; i < count; ++i, words += kForceRecordWords)
             Store(forces, m_targets[inBlock + i], words);
+    }
+
+    // A file can end with a case; the next one then begins with a record that is missing.
+    void TakeLastRecordOf(int loadCase) {
+        if (loadCase < 0) return;
+        m_file.Read(m_record.data(), loadCase * m_block + m_reads.back().record);
     }
 
     void ReadCaseByRecord(int loadCase) {

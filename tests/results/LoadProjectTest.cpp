@@ -80,6 +80,16 @@ TEST(LoadProject, MissingFilesAreNamed) {
     }
 }
 
+TEST(LoadProject, AFileWithoutItsMarkIsNamed) {
+    for (const char* suffix : {".TWR", ".PLF", ".PIL", ".ncv", ".pls"}) {
+        ResultProject project;
+        project.substructures[0] = MakePier();
+        project.Write();
+        project.WriteFile(suffix, "X" + SeqBytes().Zeros(48).End());
+        ExpectFault(project, std::string("p") + suffix, "its mark is missing");
+    }
+}
+
 TEST(LoadProject, CountsThatLieAreNamed) {
     ResultProject project;
     project.Write();

@@ -173,6 +173,19 @@ TEST(MemberForces, AShortFileRepeatsTheRecordBeforeAndSaysSoOnce) {
     EXPECT_EQ(RecordOf(1, pier.PileElement(1, 1)), 2);
 }
 
+TEST(MemberForces, AFileCutBetweenTwoCasesRepeatsTheLastRecordToo) {
+    ResultProject project;
+    project.Write();
+    // Four records a case: the second of the two cases is missing as a whole.
+    std::filesystem::resize_file(project.Path(".vmd"), 68 * 4);
+    const MessageLog log;
+    ASSERT_TRUE(project.Load());
+    ASSERT_EQ(log.texts.size(), 1U);
+    EXPECT_THAT(log.texts[0], testing::HasSubstr(": 4 force records are missing"));
+    // Record 4 of case 0, word 13.
+    for (int e = 0; e < 4; ++e) EXPECT_EQ(Force(1, e, kEndI, kAxial), 413.0) << e;
+}
+
 TEST(MemberForces, AMissingFileIsNamed) {
     ResultProject project;
     project.Write();

@@ -176,6 +176,28 @@ TEST(Bearings, RowsExactlyTheLimitApartAreOne) {
     }
 }
 
+TEST(Bearings, EntriesOfARowMayShareARecord) {
+    ResultProject project;
+    project.substructures[0] = MakePier();
+    project.Write();
+    // Six entries are 144 bytes, a block of 128 and one of 16, so that the sixth lies across both. It alone
+    // brings the rows together.
+    std::vector<int> counts(12, 0);
+    counts[0] = counts[1] = 6;
+    std::vector<double> left(18, 0.0), right(18, 0.0);
+    for (std::size_t i = 0; i < 5; ++i) right[3 * i + 1] = 9.0;
+    const std::vector<int> nodes{0, 6, 0, 0, 7, 0, 0, 5, 0, 0, 8, 0, 0, 11, 0};
+    project.WriteFile(".pls",
+                      SeqBytes().Ints(counts).Doubles(left).Doubles(right).Ints(nodes).Ints(nodes).End());
+    ASSERT_TRUE(project.Load());
+    const CPier& pier = g_DataSet.FirstPier();
+    ASSERT_EQ(pier.m_nBearingRows, 1);
+    ASSERT_EQ(pier.m_BearingRows[0].m_Bearings.size(), 3U);
+    EXPECT_EQ(pier.m_BearingRows[0].m_Bearings[0].m_nNode, 6);
+    EXPECT_EQ(pier.m_BearingRows[0].m_Bearings[1].m_nNode, 7);
+    EXPECT_EQ(pier.m_BearingRows[0].m_Bearings[2].m_nNode, 5);
+}
+
 TEST(Bearings, NoEntriesGiveTwoRowsOfNone) {
     ResultProject project;
     project.substructures[0] = MakePier();
