@@ -1,6 +1,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <future>
+#include <system_error>
+#include <thread>
 
 #include "framework/Backend.h"
 #include "results/CollectData.h"
@@ -14,6 +17,14 @@
 namespace {
 
 constexpr std::size_t kPieceRecords = std::size_t{1} << 12;  // 280 KB stay in the processor's cache
+// A thread is worth its start for so many records, 17 MB; more than four only wait for the memory.
+constexpr std::size_t kRecordsForAThread = std::size_t{1} << 18;
+constexpr std::size_t kMostThreads = 4;
+
+// What the records of a stretch of cases told about the forces of each family.
+struct CFiniteForces {
+    bool piles = true, columns = true, extraMembers = true;
+};
 
 class ForceReader {
   public:
@@ -31,8 +42,10 @@ class ForceReader {
             cases = static_cast<int>(std::min<long long>(whole / m_block, m_pier.m_nLoadCases));
             ReadBlocks(cases);
         }
+        CFiniteForces finite;
         TakeLastRecordOf(cases - 1);
-        for (int c = cases; c < m_pier.m_nLoadCases; ++c) ReadCaseByRecord(c);
+        for (int c = cases; c < m_pier.m_nLoadCases; ++c) ReadCaseByRecord(c, finite);
+        Note(finite);
         m_pier.m_bPileHeadsFinite = m_pier.m_bPileForcesFinite || HeadsFinite();
         return std::max(0LL, m_block * m_pier.m_nLoadCases - whole);
     }
@@ -57,33 +70,62 @@ class ForceReader {
         return true;
     }
 
+    // Splits the cases among threads: taking fresh memory from the system costs as much as reading, and both
+    // go on side by side. Each thread has a file, a piece and cases of its own.
     void ReadBlocks(int cases) {
+        const std::size_t records = static_cast<std::size_t>(cases) * m_targets.size();
+        const std::size_t processors = std::max(1U, std::thread::hardware_concurrency());
+        const std::size_t parts = std::min({records / kRecordsForAThread + 1, processors, kMostThreads});
+        const auto part = [&](std::size_t i) {
+            return static_cast<int>(static_cast<std::size_t>(cases) * i / parts);
+        };
+        std::vector<std::future<CFiniteForces>> others;
+        std::size_t started = 1;
+        try {
+            for (; started < parts; ++started) {
+                others.push_back(std::async(std::launch::async, &ForceReader::ReadCases, this, part(started),
+                                            part(started + 1)));
+            }
+        } catch (const std::system_error&) {
+            // No further thread to be had: this one reads what is left.
+        }
+        Note(ReadCases(part(0), part(1)));
+        if (started < parts) Note(ReadCases(part(started), cases));
+        for (std::future<CFiniteForces>& other : others) Note(other.get());
+    }
+
+    CFiniteForces ReadCases(int first, int last) const {
+        CFiniteForces finite;
+        CDirFile file;
+        file.Open(m_path, kForceRecordBytes);
         std::vector<float> piece(kPieceRecords * kForceRecordWords);
         const std::size_t block = m_targets.size();
-        const std::size_t total = static_cast<std::size_t>(cases) * block;
-        m_file.Seek(0);
-        for (std::size_t done = 0; done < total;) {
-            const std::size_t records = std::min(kPieceRecords, total - done);
+        const std::size_t end = static_cast<std::size_t>(last) * block;
+        file.Seek(static_cast<long long>(first) * m_block * kForceRecordBytes);
+        for (std::size_t done = static_cast<std::size_t>(first) * block; done < end;) {
+            const std::size_t records = std::min(kPieceRecords, end - done);
             const unsigned bytes = static_cast<unsigned>(records * kForceRecordBytes);
-            if (m_file.ReadBytes(piece.data(), bytes) != bytes) {
+            if (file.ReadBytes(piece.data(), bytes) != bytes) {
                 throw CFileException(CFileException::endOfFile, m_path, "was cut while it was read");
             }
             for (std::size_t r = 0; r < records;) {
                 const std::size_t inBlock = (done + r) % block;
                 const std::size_t here = std::min(block - inBlock, records - r);
                 StoreRun(static_cast<int>((done + r) / block), inBlock, here,
-                         piece.data() + r * kForceRecordWords);
+                         piece.data() + r * kForceRecordWords, finite);
                 r += here;
             }
             done += records;
         }
+        return finite;
     }
 
     // Stores consecutive records of one case's block.
-    void StoreRun(int loadCase, std::size_t inBlock, std::size_t count, const float* words) {
+    void StoreRun(int loadCase, std::size_t inBlock, std::size_t count, const float* words,
+                  CFiniteForces& finite) const {
         float* forces = m_pier.MutableCase(loadCase).data();
         for (std::size_t i = 0; i < count; ++i, words += kForceRecordWords)
-            Store(forces, m_targets[inBlock + i], words);
+            Store(forces, m_targets[inBlock + i], words, finite);
     }
 
     // A file can end with a case; the next one then begins with a record that is missing.
@@ -92,24 +134,29 @@ class ForceReader {
         m_file.Read(m_record.data(), loadCase * m_block + m_reads.back().record);
     }
 
-    void ReadCaseByRecord(int loadCase) {
+    void ReadCaseByRecord(int loadCase, CFiniteForces& finite) {
         const long long before = loadCase * m_block;
         float* forces = m_pier.MutableCase(loadCase).data();
         for (const CForceRead& read : m_reads) {
             m_file.Read(m_record.data(), before + read.record);
-            Store(forces, {read.element, read.kind}, m_record.data());
+            Store(forces, {read.element, read.kind}, m_record.data(), finite);
         }
     }
 
-    void Store(float* forces, const Target& target, const float* words) {
+    void Store(float* forces, const Target& target, const float* words, CFiniteForces& finite) const {
         if (target.element < 0) return;
         float* to = forces + static_cast<std::size_t>(target.element) * kForcesPerElement;
         if (StoreForceRecord(target.kind, words, to)) return;
-        if (target.kind == ForceKind::pile) m_pier.m_bPileForcesFinite = false;
-        if (target.kind == ForceKind::extraMember) m_pier.m_bXMemberForcesFinite = false;
+        if (target.kind == ForceKind::pile) finite.piles = false;
+        if (target.kind == ForceKind::extraMember) finite.extraMembers = false;
         // Cap elements are watched by the cap tables' own check, on the values that these show.
-        if (target.kind == ForceKind::frame && IsColumnElement(target.element))
-            m_pier.m_bColumnForcesFinite = false;
+        if (target.kind == ForceKind::frame && IsColumnElement(target.element)) finite.columns = false;
+    }
+
+    void Note(const CFiniteForces& finite) {
+        if (!finite.piles) m_pier.m_bPileForcesFinite = false;
+        if (!finite.columns) m_pier.m_bColumnForcesFinite = false;
+        if (!finite.extraMembers) m_pier.m_bXMemberForcesFinite = false;
     }
 
     bool IsColumnElement(int element) const {
