@@ -45,6 +45,6 @@ int main(int argc, char** argv) {
         }
     }
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
-    std::printf("seconds %.6f sum %.9g\n", took.count(), sum);
+    std::printf("seconds %.6f\nsum %.9g\n", took.count(), sum);
     return 0;
 }

@@ -1,0 +1,119 @@
+#!/usr/bin/python3
+"""report.py BUILD PROJECTS: measures the whole program and its yardsticks and prints one table.
+
+BUILD has the programs, PROJECTS the sample projects; bench/run.sh makes both. The count of rounds is five.
+"""
+import os
+import pathlib
+import subprocess
+import sys
+
+import measure
+
+ROUNDS = 5
+SHEET_ROWS_OF_THE_PEER = 200_000
+PDF_LINES = 500_000
+PROJECTS = ("cases-8", "cases-80", "cases-800", "piles-800")
+BIG = "cases-800"
+
+
+class Table:
+    def __init__(self):
+        self.missed = []
+        print(f"{'what':<46}{'measured':>14}{'target':>14}")
+
+    def line(self, what, measured, target="", reached=True):
+        mark = "" if reached else "  missed"
+        print(f"{what:<46}{measured:>14}{target:>14}{mark}", flush=True)
+        if not reached:
+            self.missed.append(what)
+
+    def at_most(self, what, value, limit, unit="x"):
+        self.line(what, f"{value:.2f} {unit}", f"<= {limit:g} {unit}", value <= limit)
+
+    def at_least(self, what, value, limit, unit="x"):
+        self.line(what, f"{value:.2f} {unit}", f">= {limit:g} {unit}", value >= limit)
+
+
+def measure_project(table, build, folder, name):
+    """Times of one project; returns the seconds of load and collect, and of the whole report."""
+    project = folder / f"{name}.in"
+    files = measure.force_files(folder, name)
+    megabytes = measure.force_bytes(folder, name) / 1e6
+    big = name == BIG
+    plan = folder / f"{name}.plan"
+    with open(plan, "w", encoding="ascii") as out:
+        subprocess.run([build / "bench-stages", "plan", project], stdout=out, check=True)
+    commands = [[build / "sum-floats", *files], [build / "bench-stages", "collect", project],
+                [build / "lumerin", "report", project, "--table", "full", "--format", "text"]]
+    peer = pathlib.Path(__file__).parent / "peers" / "sections.py"
+    numpy, = measure.rounds([["/usr/bin/python3", peer, plan, *files]], ROUNDS)
+    # A virtual machine may hand memory that lies idle for some seconds back to its host, and getting it again
+    # costs more than all else; the peer, which takes little memory for long, has its rounds before.
+    sums, stages, reports = measure.rounds(commands, ROUNDS)
+    if abs(stages[0]["extremes"] - numpy[0]["extremes"]) > 1e-3:
+        raise SystemExit(f"{name}: NumPy finds other extremes than the product")
+    seconds = lambda run: run["seconds"]
+    wall = lambda run: run.wall
+    yard, collect = measure.median(sums, seconds), measure.median(stages, seconds)
+    report, peer = measure.median(reports, wall), measure.median(numpy, wall)
+    peak = max(run.peak for run in reports) / 1e6
+    table.line(f"{name}: force file", f"{megabytes:.1f} MB")
+    table.line(f"{name}: (a) sum of all floats", f"{yard:.4f} s")
+    table.line(f"{name}: (b) section tables in NumPy", f"{peer:.4f} s")
+    table.line(f"{name}: load", f"{measure.median(stages, lambda run: run['load']):.4f} s")
+    table.line(f"{name}: load + collect", f"{collect:.4f} s")
+    table.line(f"{name}: full report in text", f"{report:.4f} s")
+    table.at_most(f"{name}: load + collect : (a)", collect / yard, 3) if big else table.line(
+        f"{name}: load + collect : (a)", f"{collect / yard:.2f} x")
+    table.at_most(f"{name}: full report : (a)", report / yard, 3.5) if big else table.line(
+        f"{name}: full report : (a)", f"{report / yard:.2f} x")
+    table.at_least(f"{name}: (b) : full report", peer / report, 3) if big else table.line(
+        f"{name}: (b) : full report", f"{peer / report:.2f} x")
+    table.at_most(f"{name}: peak memory", peak, 1.25 * megabytes + 64 * 1.048576, "MB")
+    return collect, report
+
+
+def measure_writers(table, build, folder):
+    sheet, pdf = folder / "sheet.xml", folder / "lines.pdf"
+    commands = [[build / "bench-stages", "sheet", folder / f"{BIG}.in", sheet],
+                [build / "bench-stages", "pdf", PDF_LINES, pdf]]
+    peers = [("xlsx_cells", SHEET_ROWS_OF_THE_PEER, folder / "peer.xlsx"),
+             ("haru_lines", PDF_LINES, folder / "peer.pdf")]
+    for program, amount, file in peers:
+        if not (build / program).exists():
+            raise SystemExit(f"{program} was not built: its library is missing")
+        commands.append([build / program, amount, file])
+    sheets, pdfs, xlsx, haru = measure.rounds(commands, ROUNDS)
+    rate = lambda what: lambda run: run[what] / run["seconds"] / 1e6
+    ours, theirs = measure.median(sheets, rate("cells")), measure.median(xlsx, rate("cells"))
+    table.line("pile head sheet, million cells a second", f"{ours:.2f}")
+    table.line("libxlsxwriter, million cells a second", f"{theirs:.2f}")
+    table.at_least("pile head sheet : libxlsxwriter", ours / theirs, 4)
+    ours, theirs = measure.median(pdfs, rate("lines")), measure.median(haru, rate("lines"))
+    table.line("PDF, million lines a second", f"{ours:.2f}")
+    table.line("libharu, million lines a second", f"{theirs:.2f}")
+    table.at_least("PDF : libharu", ours / theirs, 1.5)
+    for file in (sheet, pdf, *(peer[2] for peer in peers)):
+        os.remove(file)
+
+
+def measure_numbers(table, build):
+    runs, = measure.rounds([[build / "bench-stages", "format"]], ROUNDS)
+    for decimals in (2, 12):
+        table.at_least(f"%.{decimals}f : snprintf", measure.median(runs, lambda run: run[f"faster{decimals}"]), 4)
+
+
+def main():
+    build, folder = (pathlib.Path(word).resolve() for word in sys.argv[1:3])
+    table = Table()
+    times = {name: measure_project(table, build, folder, name) for name in PROJECTS}
+    for index, what in enumerate(("load + collect", "full report")):
+        growth = times[BIG][index] / times["cases-80"][index]
+        table.line(f"{what}, {BIG} : cases-80", f"{growth:.2f} x", "9 to 11 x", 9 <= growth <= 11)
+    measure_writers(table, build, folder)
+    measure_numbers(table, build)
+    print("All targets are reached." if not table.missed else f"Missed: {'; '.join(table.missed)}")
+
+
+main()
