@@ -44,6 +44,7 @@ step "direction of includes" tools/check-floors
 step "formatter" format
 step "native build" build native
 step "native tests" run_tests native
+step "speed ratios" bench/check-ratios
 step "sanitizer build" build sanitize
 step "tests under the sanitizers" run_tests sanitize
 step "lints" tools/lint
