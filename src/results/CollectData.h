@@ -6,12 +6,14 @@
 
 #include "framework/Object.h"
 #include "model/DataSet.h"
+#include "results/SeqFile.h"
 
 // The tables of one substructure's read that later readers of the same substructure need; freed behind it.
 struct CPierReadState {
     std::vector<CElementRow> elementTable;
     std::vector<std::uint8_t> elementMask;       // 1: that element number (less one) has no row
     std::vector<std::vector<int>> pileSections;  // per pile, the section number of each element
+    CDirFile forceFile;                          // opened once for all of its readers
     std::vector<int> pileFlags;                  // one value a pile; carried, not interpreted
 };
 
@@ -22,9 +24,9 @@ class CCollectData : public CObject {
     CCollectData() : m_nUnits(g_DataSet.m_nUnits) {}
 
     // ---- readers; k is the substructure's index from 0
-    bool ReadPierHeader(int k, CPierReadState& state);  // false: nothing converged, the message was shown
-    void ReadMemberForces(int k, const CPierReadState& state);  // all cases of all members in one pass
-    void ReadPileDimensions(int number);                        // number counts from 1
+    bool ReadPierHeader(int k, CPierReadState& state);    // false: nothing converged, the message was shown
+    void ReadMemberForces(int k, CPierReadState& state);  // all cases of all members in one pass
+    void ReadPileDimensions(int number);                  // number counts from 1
     void ReadBearings(int k);
     void ReadCombinationData(int k);
     static std::string LimitStateName(int code);

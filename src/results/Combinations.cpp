@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <array>
+#include <climits>
 #include <string>
 
 #include "framework/Backend.h"
@@ -86,10 +88,11 @@ class LimitStateList {
   private:
     // False: the list names more combinations than there are cases, which ends it.
     bool Assign(int code, int first, int count) {
-        for (int i = 0; i < count; ++i) {
+        // A count below 0 moves back; cases before the first are passed over at once.
+        const int begin = static_cast<int>(std::clamp(-m_nDone, 0LL, static_cast<long long>(INT_MAX)));
+        for (int i = begin; i < count; ++i) {
             const long long j = m_nDone + i;
             if (j >= static_cast<long long>(m_named.size())) return false;
-            if (j < 0) continue;
             // Names and numbers go to the first substructure, from which all tables take them.
             CLoadCase& named = m_named[static_cast<std::size_t>(j)];
             named.m_sLimitState = CCollectData::LimitStateName(code);

@@ -1,14 +1,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <future>
-#include <system_error>
-#include <thread>
 
 #include "framework/Backend.h"
 #include "results/CollectData.h"
 #include "results/ForcePlan.h"
-#include "results/ProjectFiles.h"
 #include "results/SeqFile.h"
 
 // The member force file: for every converged case the end forces of every element, in records of 68 bytes.
@@ -16,10 +12,7 @@
 
 namespace {
 
-constexpr std::size_t kPieceRecords = std::size_t{1} << 12;  // 280 KB stay in the processor's cache
-// A thread is worth its start for so many records, 17 MB; more than four only wait for the memory.
-constexpr std::size_t kRecordsForAThread = std::size_t{1} << 18;
-constexpr std::size_t kMostThreads = 4;
+constexpr std::size_t kPieceRecords = std::size_t{1} << 14;  // 1.1 MB
 
 // What the records of a stretch of cases told about the forces of each family.
 struct CFiniteForces {
@@ -28,9 +21,8 @@ struct CFiniteForces {
 
 class ForceReader {
   public:
-    ForceReader(CPier& pier, std::vector<CForceRead> reads, const std::string& path)
-        : m_pier(pier), m_reads(std::move(reads)), m_path(path) {
-        m_file.Open(m_path, kForceRecordBytes);
+    ForceReader(CPier& pier, std::vector<CForceRead> reads, CDirFile& file)
+        : m_pier(pier), m_reads(std::move(reads)), m_file(file) {
         m_block = static_cast<long long>(g_DataSet.m_nPileElements) + g_DataSet.m_nElements;
     }
 
@@ -38,11 +30,11 @@ class ForceReader {
     long long Read() {
         const long long whole = m_file.Length() / kForceRecordBytes;
         int cases = 0;
+        CFiniteForces finite;
         if (MapBlock()) {
             cases = static_cast<int>(std::min<long long>(whole / m_block, m_pier.m_nLoadCases));
-            ReadBlocks(cases);
+            ReadBlocks(cases, finite);
         }
-        CFiniteForces finite;
         TakeLastRecordOf(cases - 1);
         for (int c = cases; c < m_pier.m_nLoadCases; ++c) ReadCaseByRecord(c, finite);
         Note(finite);
@@ -70,43 +62,16 @@ class ForceReader {
         return true;
     }
 
-    // Splits the cases among threads: taking fresh memory from the system costs as much as reading, and both
-    // go on side by side. Each thread has a file, a piece and cases of its own.
-    void ReadBlocks(int cases) {
-        const std::size_t records = static_cast<std::size_t>(cases) * m_targets.size();
-        const std::size_t processors = std::max(1U, std::thread::hardware_concurrency());
-        const std::size_t parts = std::min({records / kRecordsForAThread + 1, processors, kMostThreads});
-        const auto part = [&](std::size_t i) {
-            return static_cast<int>(static_cast<std::size_t>(cases) * i / parts);
-        };
-        std::vector<std::future<CFiniteForces>> others;
-        std::size_t started = 1;
-        try {
-            for (; started < parts; ++started) {
-                others.push_back(std::async(std::launch::async, &ForceReader::ReadCases, this, part(started),
-                                            part(started + 1)));
-            }
-        } catch (const std::system_error&) {
-            // No further thread to be had: this one reads what is left.
-        }
-        Note(ReadCases(part(0), part(1)));
-        if (started < parts) Note(ReadCases(part(started), cases));
-        for (std::future<CFiniteForces>& other : others) Note(other.get());
-    }
-
-    CFiniteForces ReadCases(int first, int last) const {
-        CFiniteForces finite;
-        CDirFile file;
-        file.Open(m_path, kForceRecordBytes);
+    void ReadBlocks(int cases, CFiniteForces& finite) {
         std::vector<float> piece(kPieceRecords * kForceRecordWords);
         const std::size_t block = m_targets.size();
-        const std::size_t end = static_cast<std::size_t>(last) * block;
-        file.Seek(static_cast<long long>(first) * m_block * kForceRecordBytes);
-        for (std::size_t done = static_cast<std::size_t>(first) * block; done < end;) {
-            const std::size_t records = std::min(kPieceRecords, end - done);
+        const std::size_t total = static_cast<std::size_t>(cases) * block;
+        m_file.Seek(0);
+        for (std::size_t done = 0; done < total;) {
+            const std::size_t records = std::min(kPieceRecords, total - done);
             const unsigned bytes = static_cast<unsigned>(records * kForceRecordBytes);
-            if (file.ReadBytes(piece.data(), bytes) != bytes) {
-                throw CFileException(CFileException::endOfFile, m_path, "was cut while it was read");
+            if (m_file.ReadBytes(piece.data(), bytes) != bytes) {
+                throw CFileException(CFileException::endOfFile, m_file.Path(), "was cut while it was read");
             }
             for (std::size_t r = 0; r < records;) {
                 const std::size_t inBlock = (done + r) % block;
@@ -117,7 +82,6 @@ class ForceReader {
             }
             done += records;
         }
-        return finite;
     }
 
     // Stores consecutive records of one case's block.
@@ -177,8 +141,7 @@ class ForceReader {
 
     CPier& m_pier;
     std::vector<CForceRead> m_reads;
-    std::string m_path;
-    CDirFile m_file;
+    CDirFile& m_file;
     long long m_block = 0;  // records of one case
     std::vector<Target> m_targets;
     std::array<float, kForceRecordWords> m_record{};
@@ -186,15 +149,14 @@ class ForceReader {
 
 }  // namespace
 
-void CCollectData::ReadMemberForces(int k, const CPierReadState& state) {
+void CCollectData::ReadMemberForces(int k, CPierReadState& state) {
     CPier& pier = g_DataSet.m_Piers[static_cast<std::size_t>(k)];
     const int firstType = g_DataSet.FirstPier().m_nStructureType;
     std::vector<CForceRead> reads = PlanForceReads(pier, state, firstType);
     if (reads.empty()) return;
-    const std::string path = SubstructureFile(".vmd", k + 1);
-    const long long missing = ForceReader(pier, std::move(reads), path).Read();
+    const long long missing = ForceReader(pier, std::move(reads), state.forceFile).Read();
     if (missing == 0) return;
     g_DataSet.m_bForceFileShort = true;
-    AfxMessageBox(path + ": " + std::to_string(missing) +
+    AfxMessageBox(state.forceFile.Path() + ": " + std::to_string(missing) +
                   " force records are missing at its end. Each takes the forces of the record before it.");
 }

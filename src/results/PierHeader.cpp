@@ -11,9 +11,10 @@
 
 namespace {
 
-constexpr int kUnitsUsByOtherName = 3;      // the host writes 3 for US units in older projects
-constexpr int kMaxPropertyNumbers = 1000;   // column or extra member sections; far above any model's
-constexpr int kMaxElementNumber = 2000000;  // the mask has one byte for each element number
+constexpr int kUnitsUsByOtherName = 3;           // the host writes 3 for US units in older projects
+constexpr int kMaxPropertyNumbers = 1000;        // column or extra member sections; far above any model's
+constexpr int kMaxElementNumber = 2000000;       // the mask has one byte for each element number
+constexpr long long kMaxMaskBytes = 16LL << 20;  // of all substructures' masks
 constexpr int kMaxInteriorNodes = 1000000;
 
 struct PileModelCounts {
@@ -180,7 +181,9 @@ void BuildElementMask(const CSeqFile& file, CPier& pier, CPierReadState& state, 
         gaps += static_cast<long long>(state.elementTable[i + 1].number) - state.elementTable[i].number - 1;
     }
     const long long size = g_DataSet.m_nElements + gaps;
-    if (size < 0 || size > kMaxElementNumber) {
+    long long masks = size;
+    for (const CPier& read : g_DataSet.m_Piers) masks += static_cast<long long>(read.m_ElementMask.size());
+    if (size < 0 || size > kMaxElementNumber || masks > kMaxMaskBytes) {
         file.Fail(CFileException::badCount,
                   "numbers its elements up to " + std::to_string(size) + ", which can't be");
     }
