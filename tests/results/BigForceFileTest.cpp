@@ -12,10 +12,10 @@
 #include "samples/Project.h"
 #include "session/Session.h"
 
-// A force file that is big enough for several readers side by side must come out as if one had read it.
+// A force file of many pieces must come out as if it had been read in one.
 namespace {
 
-constexpr int kCases = 640;  // 784,640 records: three parts where there are processors for them
+constexpr int kCases = 640;  // 784,640 records, 48 pieces
 constexpr std::size_t kRecordsOfACase = 1226;
 
 class BigForceFile : public testing::Test {
@@ -72,7 +72,7 @@ TEST_F(BigForceFile, EveryPileElementOfEveryCaseHasItsRecord) {
     EXPECT_TRUE(pier.m_bColumnForcesFinite);
 }
 
-TEST_F(BigForceFile, ANumberThatIsNotFiniteIsNoticedInAnyPartOfTheFile) {
+TEST_F(BigForceFile, ANumberThatIsNotFiniteIsNoticedAnywhereInTheFile) {
     for (const int loadCase : {0, 350, kCases - 1}) {
         const auto at = static_cast<std::streamoff>(
             (static_cast<std::size_t>(loadCase) * kRecordsOfACase + 5) * kForceRecordBytes +
