@@ -10,15 +10,14 @@ constexpr int kMostSteps = 10;
 
 // How an axis whose length has that mantissa is divided: the first row whose limit is above it.
 struct Division {
-    double limit;
+    double limit, step;
     int ticks;
-    double step;
     int digit;  // the step's first digit that is not 0
 };
 
 constexpr Division kDivisions[] = {
-    {1.2, 6, 0.2, 2}, {1.5, 5, 0.3, 3}, {2.0, 4, 0.5, 5}, {2.5, 5, 0.5, 5}, {3.0, 6, 0.5, 5},
-    {4.0, 4, 1.0, 1}, {5.0, 5, 1.0, 1}, {6.0, 6, 1.0, 1}, {8.0, 4, 2.0, 2}, {10.0, 5, 2.0, 2},
+    {1.2, 0.2, 6, 2}, {1.5, 0.3, 5, 3}, {2.0, 0.5, 4, 5}, {2.5, 0.5, 5, 5}, {3.0, 0.5, 6, 5},
+    {4.0, 1.0, 4, 1}, {5.0, 1.0, 5, 1}, {6.0, 1.0, 6, 1}, {8.0, 2.0, 4, 2}, {10.0, 2.0, 5, 2},
 };
 
 // The minimum's last digit, by its own digit from 0 to 9, for steps with the digit 1 to 9. They do not round
