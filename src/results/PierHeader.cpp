@@ -180,17 +180,15 @@ void BuildElementMask(const CSeqFile& file, CPier& pier, CPierReadState& state, 
     for (std::size_t i = 0; i + 1 < state.elementTable.size(); ++i) {
         gaps += static_cast<long long>(state.elementTable[i + 1].number) - state.elementTable[i].number - 1;
     }
-    const long long size = g_DataSet.m_nElements + gaps;
-    long long masks = size;
-    for (const CPier& read : g_DataSet.m_Piers) masks += static_cast<long long>(read.m_ElementMask.size());
-    if (size < 0 || size > kMaxElementNumber || masks > kMaxMaskBytes) {
-        file.Fail(CFileException::badCount,
-                  "numbers its elements up to " + std::to_string(size) + ", which can't be");
-    }
-    g_DataSet.m_nElementGaps = static_cast<int>(gaps);
+    g_DataSet.m_nElementGaps = static_cast<int>(std::clamp(gaps, -1LL << 30, 1LL << 30));
     if (firstType == kTypePileGroup || firstType == kTypeSinglePile || firstType == kTypeOtherGroup ||
         firstType == kTypeNoPileTables) {
         return;
+    }
+    const long long size = g_DataSet.m_nElements + gaps;
+    if (size < 0 || size > kMaxElementNumber) {
+        file.Fail(CFileException::badCount,
+                  "numbers its elements up to " + std::to_string(size) + ", which can't be");
     }
     state.elementMask.assign(static_cast<std::size_t>(size), 1);
     for (const CElementRow& row : state.elementTable) {
