@@ -186,7 +186,9 @@ void BuildElementMask(const CSeqFile& file, CPier& pier, CPierReadState& state, 
         return;
     }
     const long long size = g_DataSet.m_nElements + gaps;
-    if (size < 0 || size > kMaxElementNumber) {
+    long long masks = size;
+    for (const CPier& read : g_DataSet.m_Piers) masks += static_cast<long long>(read.m_ElementMask.size());
+    if (size < 0 || size > kMaxElementNumber || masks > kMaxMaskBytes) {
         file.Fail(CFileException::badCount,
                   "numbers its elements up to " + std::to_string(size) + ", which can't be");
     }
