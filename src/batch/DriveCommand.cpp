@@ -7,6 +7,7 @@
 #include "app/DesignerDlg.h"
 #include "app/Launch.h"
 #include "batch/ScriptDriver.h"
+#include "text/Utf8.h"
 
 namespace {
 
@@ -76,5 +77,9 @@ ExitStatus DriveScript(const DriveOptions& options, const std::string& script, s
     if (const ScriptAction* left = driver.FirstLeftOver()) {
         err << "lumerin: script line " << left->line << ": the last dialog is closed" << std::endl;
     }
-    return allLoaded ? kExitDone : kExitNotLoaded;
+    for (const std::string& path : driver.FailedOutputs()) {
+        err << "lumerin: " << ToUtf8(path) << " could not be written whole" << std::endl;
+    }
+    if (!allLoaded) return kExitNotLoaded;
+    return driver.FailedOutputs().empty() ? kExitDone : kExitIncomplete;
 }

@@ -143,6 +143,10 @@ MessageAnswer EmbedmentDriver::OnMessage(const headless::Message& message) {
     return Sink::OnMessage(message);
 }
 
+void EmbedmentDriver::OnOutputFailed(const std::string& path) {
+    Fail(kExitIncomplete, path + " could not be written whole");
+}
+
 int EmbedmentDriver::OnShellOpen(const std::string&, const std::string& file, const std::string& parameters) {
     const int code = ShellCodeOfDocument(file, parameters);
     const std::string& quoted = parameters.empty() ? file : parameters;

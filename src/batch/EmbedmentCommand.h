@@ -29,6 +29,7 @@ class EmbedmentDriver : public headless::Sink {
     ExitStatus Run();
 
     MessageAnswer OnMessage(const headless::Message& message) override;
+    void OnOutputFailed(const std::string& path) override;
     int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters) override;
 
   private:

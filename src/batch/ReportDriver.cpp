@@ -108,14 +108,15 @@ void ReportDriver::DriveCases(headless::HeadlessDialog& dialog) {
 void ReportDriver::PressTable(headless::HeadlessDialog& dialog, CDesignerDlg& report,
                               const std::string& table) {
     m_sWritten.clear();
+    m_sFailed.clear();
     if (!dialog.Click(TableButton(table))) {
         Say(m_sProject + ": the table " + table + " does not apply to this project");
         Worsen(kExitIncomplete);
         return;
     }
-    if (m_sWritten.empty() || report.OutputFailed()) Worsen(kExitIncomplete);
-    if (report.OutputFailed()) {
-        Say(m_sProject + ": the table " + table + " could not be written whole");
+    if (m_sWritten.empty() || !m_sFailed.empty()) Worsen(kExitIncomplete);
+    if (!m_sFailed.empty()) {
+        Say(m_sProject + ": the table " + table + " could not be written whole: " + m_sFailed);
     } else if (!m_sWritten.empty()) {
         m_out << m_sWritten << std::endl;
     }
@@ -127,6 +128,10 @@ MessageAnswer ReportDriver::OnMessage(const headless::Message& message) {
     ++m_nMessages;
     if (message.buttons == MessageButtons::ok) Say(m_sProject + ": " + message.text);
     return Sink::OnMessage(message);
+}
+
+void ReportDriver::OnOutputFailed(const std::string& path) {
+    m_sFailed = path;
 }
 
 int ReportDriver::OnShellOpen(const std::string&, const std::string& file, const std::string& parameters) {

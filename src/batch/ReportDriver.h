@@ -31,6 +31,7 @@ class ReportDriver : public headless::Sink {
     ExitStatus Run(const std::string& project, int format);
 
     MessageAnswer OnMessage(const headless::Message& message) override;
+    void OnOutputFailed(const std::string& path) override;
     int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters) override;
     services::PlotModuleResult OnPlotModule(const std::string& module, const services::PlotModuleCall& call,
                                             std::string& systemText) override;
@@ -52,6 +53,7 @@ class ReportDriver : public headless::Sink {
     int m_nMessages = 0;
     bool m_bCasesChosen = false;
     std::string m_sWritten;  // the file of the press that is running, once its viewer was asked for
+    std::string m_sFailed;   // a file of that press that could not be written whole
     ExitStatus m_status = kExitDone;
 };
 

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <ostream>
+#include <string>
 #include <vector>
 
 #include "batch/JsonLines.h"
@@ -23,8 +24,12 @@ class ScriptDriver : public headless::Sink {
     // The action that found no open dialog any more; null when all were played.
     const ScriptAction* FirstLeftOver() const;
 
+    // Files that could not be written whole, in order.
+    const std::vector<std::string>& FailedOutputs() const { return m_FailedOutputs; }
+
     void OnDialogOpened(headless::HeadlessDialog& dialog) override;
     MessageAnswer OnMessage(const headless::Message& message) override;
+    void OnOutputFailed(const std::string& path) override { m_FailedOutputs.push_back(path); }
     int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters) override;
     services::PlotModuleResult OnPlotModule(const std::string& module, const services::PlotModuleCall& call,
                                             std::string& systemText) override;
@@ -36,6 +41,7 @@ class ScriptDriver : public headless::Sink {
     std::vector<ScriptAction> m_actions;
     std::size_t m_nNext = 0;
     JsonLines m_lines;
+    std::vector<std::string> m_FailedOutputs;
     bool m_bHasPlotModule = true;
 };
 

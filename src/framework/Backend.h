@@ -82,6 +82,10 @@ bool ReadViewerText(const char* name, unsigned capacity, std::string& value);
 
 LocalTime Now();
 
+// Tells that a file could not be opened for writing or took less than all. The dialogs say nothing of it; a
+// program without a screen names the file.
+void TellOutputFailed(const std::string& path);
+
 // Sets the application's default printer to landscape or portrait, where it has one.
 void SetPrinterLandscape(bool landscape);
 

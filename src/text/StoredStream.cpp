@@ -1,6 +1,9 @@
 #include "text/StoredStream.h"
 
 #include <cstring>
+#include <exception>
+
+#include "framework/Backend.h"
 
 namespace {
 constexpr std::size_t kBufferBytes = std::size_t{1} << 18;
@@ -11,8 +14,12 @@ void StoredStream::Open(const std::string& path) {
     m_nUsed = 0;
     m_nPosition = 0;
     m_file.reset(std::fopen(path.c_str(), "wb"));
+    m_strPath = path;
     m_bFailed = m_file == nullptr;
-    if (m_bFailed) return;
+    if (m_bFailed) {
+        TellFailure();
+        return;
+    }
     std::setvbuf(m_file.get(), nullptr, _IONBF, 0);
     m_buffer.resize(kBufferBytes);
 }
@@ -51,4 +58,14 @@ void StoredStream::Close() {
     if (!m_file) return;
     Flush();
     if (std::fclose(m_file.release()) != 0) m_bFailed = true;
+    if (m_bFailed) TellFailure();
+}
+
+// Called on the way out of a failure, so it has none of its own.
+void StoredStream::TellFailure() const {
+    try {
+        services::TellOutputFailed(m_strPath);
+    } catch (const std::exception&) {
+        // There is no memory left for the words either.
+    }
 }

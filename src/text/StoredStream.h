@@ -33,10 +33,12 @@ class StoredStream {
 
   private:
     void Flush();
+    void TellFailure() const;
     struct Closer {
         void operator()(std::FILE* file) const { std::fclose(file); }
     };
     std::unique_ptr<std::FILE, Closer> m_file;
+    std::string m_strPath;
     std::vector<char> m_buffer;
     std::size_t m_nUsed = 0;
     std::int64_t m_nPosition = 0;

@@ -96,6 +96,7 @@ class Sink {
                                                     const services::PlotModuleCall& call,
                                                     std::string& systemText);
     virtual void OnPrinterOrientation(bool /*landscape*/) {}
+    virtual void OnOutputFailed(const std::string& /*path*/) {}
 };
 
 // Presses the buttons of a dialog that was just opened; may return with the dialog open, which closes it.

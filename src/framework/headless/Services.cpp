@@ -101,6 +101,10 @@ LocalTime Now() {
     return now;
 }
 
+void TellOutputFailed(const std::string& path) {
+    CurrentSink().OnOutputFailed(path);
+}
+
 void SetPrinterLandscape(bool landscape) {
     CurrentSink().OnPrinterOrientation(landscape);
 }
