@@ -1,5 +1,6 @@
 #include "app/Launch.h"
 
+#include <exception>
 #include <string>
 
 #include "app/DesignerDlg.h"
@@ -26,10 +27,8 @@ std::string HostText(const char* argument) {
     return TrimBlanks(text);
 }
 
-}  // namespace
-
-unsigned LaunchLumerin(int reportFormat, const char* inputFile, const char* version, const char* textA,
-                       const char* textB, const char* envelopeArgument) {
+unsigned Launch(int reportFormat, const char* inputFile, const char* version, const char* textA,
+                const char* textB, const char* envelopeArgument) {
     g_HostProgramPath = services::HostProgramPath();
     TrimRightCharacters(g_HostProgramPath, g_ModuleFileName);
     g_InitialReportFormat = reportFormat;
@@ -49,4 +48,17 @@ unsigned LaunchLumerin(int reportFormat, const char* inputFile, const char* vers
         g_DataSet.FreePiers();
     }
     return result == IDOK ? 1u : 0u;
+}
+
+}  // namespace
+
+unsigned LaunchLumerin(int reportFormat, const char* inputFile, const char* version, const char* textA,
+                       const char* textB, const char* envelopeArgument) {
+    try {
+        return Launch(reportFormat, inputFile, version, textA, textB, envelopeArgument);
+    } catch (const std::exception&) {
+        // No memory for the dialog itself. Nothing may cross into the host, whose model is still unsaved.
+        g_DataSet.FreePiers();
+        return 0u;
+    }
 }

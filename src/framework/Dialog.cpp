@@ -126,16 +126,29 @@ void CDialog::OnFileException(const std::string& text) {
     AfxMessageBox(text);
 }
 
+namespace {
+
+// A message takes memory too; where none is left the step ends without a word, never the process.
+void TellFailure(CDialog& dialog, const char* head, const char* text) noexcept {
+    try {
+        dialog.OnFileException(std::string(head) + text);
+    } catch (const std::exception&) {
+        return;
+    }
+}
+
+}  // namespace
+
 bool RunGuarded(CDialog& dialog, const std::function<void()>& step) {
     try {
         step();
         return true;
     } catch (const CFileException& failure) {
-        dialog.OnFileException(failure.what());
+        TellFailure(dialog, "", failure.what());
     } catch (const std::bad_alloc&) {
-        dialog.OnFileException("There is not enough memory for this operation.");
+        TellFailure(dialog, "", "There is not enough memory for this operation.");
     } catch (const std::exception& failure) {
-        dialog.OnFileException(std::string("The operation failed: ") + failure.what());
+        TellFailure(dialog, "The operation failed: ", failure.what());
     }
     return false;
 }

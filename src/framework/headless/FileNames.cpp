@@ -1,4 +1,7 @@
+#include <dirent.h>
+
 #include <filesystem>
+#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -9,6 +12,10 @@
 namespace {
 
 namespace fs = std::filesystem;
+
+struct FolderCloser {
+    void operator()(DIR* folder) const { closedir(folder); }
+};
 
 char LowerAscii(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
@@ -25,13 +32,12 @@ bool SameButForCase(const std::string& a, const std::string& b) {
 // The entry of `folder` that is called `name` but for case; of several the first in byte order, so that the
 // choice does not depend on the file system's order. Empty: there is none.
 std::string EntryAnyCase(const fs::path& folder, const std::string& name) {
-    std::error_code failure;
+    // The standard library's walk of a folder ends the process where memory runs out.
+    const std::unique_ptr<DIR, FolderCloser> open(opendir(folder.empty() ? "." : folder.c_str()));
     std::string found;
-    fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, failure);
-    while (!failure && entry != fs::directory_iterator()) {
-        const std::string candidate = entry->path().filename().string();
+    while (const dirent* entry = open == nullptr ? nullptr : readdir(open.get())) {
+        const std::string candidate = entry->d_name;
         if (SameButForCase(candidate, name) && (found.empty() || candidate < found)) found = candidate;
-        entry.increment(failure);
     }
     return found;
 }
