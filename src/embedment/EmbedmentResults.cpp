@@ -135,7 +135,11 @@ void CEmbedmentResults::ReadCase(const std::string& line, int trial) {
     auto& values = m_pppValues[static_cast<std::size_t>(trial)];
     auto& locations = m_pppLocations[static_cast<std::size_t>(trial)];
     const auto row = static_cast<std::size_t>(number - 1);
+    ++m_nFreeRows;
     if (row >= values.size()) {
+        const auto grown = static_cast<long long>(row + 1 - values.size());
+        if (grown > m_nFreeRows) return;
+        m_nFreeRows -= grown;
         values.resize(row + 1);
         locations.resize(row + 1);
     }

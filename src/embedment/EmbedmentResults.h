@@ -66,6 +66,9 @@ class CEmbedmentResults {
     int m_nTrials = 0;
     int m_nSubstructure = 1;
     int m_nTableCases = 0;  // cases that a trial's table can hold, from the base file
+    // Rows that the tables may still grow by. Each line of a file brings its own; the rest serves studies
+    // that leave cases out, and keeps a broken number from taking memory that no file stands behind.
+    long long m_nFreeRows = 200000;
     // By trial; a trial's table grows to the last case that its file has.
     std::vector<TrialTable<double>> m_pppValues;
     std::vector<TrialTable<int>> m_pppLocations;
