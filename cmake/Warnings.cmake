@@ -13,6 +13,13 @@ if(LUMERIN_SANITIZE)
     target_link_options(lumerin-warnings INTERFACE -fsanitize=address,undefined)
     add_compile_definitions(_GLIBCXX_ASSERTIONS)
 endif()
+if(LUMERIN_FUZZ)
+    # The warnings are GCC's to judge; clang is here for its fuzzer alone.
+    target_compile_options(lumerin-warnings INTERFACE -Wno-error -fsanitize=fuzzer-no-link,address,undefined
+        -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(lumerin-warnings INTERFACE -fsanitize=address,undefined)
+    add_compile_definitions(_GLIBCXX_ASSERTIONS)
+endif()
 if(LUMERIN_COVERAGE)
     target_compile_options(lumerin-warnings INTERFACE --coverage -O0 -g)
     target_link_options(lumerin-warnings INTERFACE --coverage)
