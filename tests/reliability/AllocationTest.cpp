@@ -1,0 +1,93 @@
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+#include "app/Launch.h"
+#include "reliability/BrokenProject.h"
+
+// The Nth allocation fails, for N = 1, 2, 3 ... until a run passes clean: no run may end the process, and
+// the run behind it must be whole again.
+
+namespace {
+
+std::atomic<long> g_allocationsLeft{-1};  // below 0: all succeed
+
+void* Allocate(std::size_t bytes) {
+    if (g_allocationsLeft >= 0 && g_allocationsLeft-- == 0) throw std::bad_alloc();
+    void* memory = std::malloc(bytes == 0 ? 1 : bytes);
+    if (memory == nullptr) throw std::bad_alloc();
+    return memory;
+}
+
+}  // namespace
+
+void* operator new(std::size_t bytes) {
+    return Allocate(bytes);
+}
+void* operator new[](std::size_t bytes) {
+    return Allocate(bytes);
+}
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete[](void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+void operator delete[](void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+
+namespace {
+
+// Presses by identifier, the way a dialog's user would. A press that opens a dialog leaves the ones behind it
+// to that dialog, until it is closed.
+constexpr int kPresses[] = {1004, 1007, 1009, 1019, 1001, 1021, 1010, 1038, 1039, 1047, 1046, 1042, 1,
+                            1008, 1022, 1034, 1033, 1022, 2,    1020, 1001, 1011, 1002, 1019, 1002, 1};
+
+// Presses the buttons with the allocation of that number failing.
+class Presses {
+  public:
+    explicit Presses(const std::string& base) : m_project(base + ".in") {}
+
+    // Whether the run came to that allocation.
+    bool RunWithFailure(long number) {
+        headless::ResetState();
+        headless::State().clock = LocalTime{2026, 11, 14, 6, 8, 30, 0};
+        std::size_t next = 0;
+        headless::SetModalDriver([&next](headless::HeadlessDialog& dialog) {
+            while (dialog.IsOpen() && next < std::size(kPresses)) dialog.Click(kPresses[next++]);
+        });
+        g_allocationsLeft = number;
+        LaunchLumerin(kFormatText, m_project.c_str(), "5.2.1", "", "", "");
+        const bool failed = g_allocationsLeft < 0;
+        g_allocationsLeft = -1;
+        headless::ResetState();
+        return failed;
+    }
+
+  private:
+    std::string m_project;
+};
+
+TEST(Allocation, NoFailureEndsTheProcessAndTheNextRunIsWhole) {
+    const BrokenProject project("pier", 2);
+    const std::string report = project.Base() + "_Full_Report.txt";
+    ASSERT_EQ(Report(project.Base()).status, kExitDone);
+    const std::string whole = ReadBytesOf(report);
+    Presses presses(project.Base());
+    long number = 0, runs = 0;
+    // The first hundreds one by one; further on a step that grows, for a run makes some ten thousands.
+    while (presses.RunWithFailure(number)) {
+        ++runs;
+        number += 1 + (number > (kSanitized ? 60 : 600) ? number / (kSanitized ? 20 : 300) : 0);
+    }
+    RecordProperty("runs", static_cast<int>(runs));
+    EXPECT_GT(runs, 100);
+    EXPECT_EQ(Report(project.Base()).status, kExitDone);
+    EXPECT_EQ(ReadBytesOf(report), whole);
+}
+
+}  // namespace

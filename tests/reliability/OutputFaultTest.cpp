@@ -1,0 +1,208 @@
+#include <fcntl.h>
+#include <linux/capability.h>
+#include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <functional>
+
+#include "batch/DriveCommand.h"
+#include "batch/EmbedmentCommand.h"
+#include "reliability/BrokenProject.h"
+
+// Files that can't be written: the program names each and ends with a status other than zero.
+
+namespace {
+
+namespace fs = std::filesystem;
+using testing::Contains;
+using testing::HasSubstr;
+
+constexpr const char* kAxialText = "_Max_Axial_Forces_Pile_Heads.txt";
+const std::vector<std::string> kAllTables{"axial",      "pile-dc",     "column-dc",     "cap-shear",
+                                          "cap-moment", "pile-forces", "column-forces", "extra-members",
+                                          "pile-heads", "title",       "envelopes",     "full"};
+
+// The expectation runs in a child, which may lose rights or room without harm to the tests behind it.
+void InChild(const std::function<void()>& steps) {
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        steps();
+        std::fflush(nullptr);
+        _exit(testing::Test::HasFailure() ? 1 : 0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFEXITED(status)) << "ended by signal " << WTERMSIG(status);
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+void LimitFileSize(rlim_t bytes) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit limit{};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = bytes;
+    setrlimit(RLIMIT_FSIZE, &limit);
+}
+
+TEST(OutputFault, AReadOnlyFolderIsNamedAndTheEarlierFileStays) {
+    const BrokenProject project("pier");
+    const std::string earlier = project.Base() + kAxialText;
+    WriteBytesOf(earlier, "earlier");
+    fs::permissions(earlier, fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    fs::permissions(project.Folder(), fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
+                                          fs::perms::others_exec);
+    InChild([&] {
+        // Root writes everywhere, so it gives that right up first.
+        __user_cap_header_struct who{_LINUX_CAPABILITY_VERSION_3, 0};
+        __user_cap_data_struct none[2]{};
+        ASSERT_EQ(syscall(SYS_capset, &who, none), 0);
+        const Answer answer = Report(project.Base(), {"axial", "title", "envelopes"});
+        EXPECT_EQ(answer.status, kExitIncomplete);
+        EXPECT_EQ(answer.out, "");
+        EXPECT_THAT(answer.said, Contains(HasSubstr(project.Base() + kAxialText)));
+        EXPECT_THAT(answer.said, Contains(HasSubstr(project.Base() + "_Title Page.txt")));
+        EXPECT_THAT(answer.said, Contains(HasSubstr(project.Base() + "_Envelopes.txt")));
+    });
+    EXPECT_EQ(ReadBytesOf(earlier), "earlier");
+    fs::permissions(project.Folder(), fs::perms::owner_all);
+}
+
+// A device that is always full stands in the place of each output file, one after the other.
+TEST(OutputFault, AFullDiskIsNamedForEveryTableInEveryFormat) {
+    const BrokenProject project("pier");
+    for (const int format : {kFormatText, kFormatPdf, kFormatSpreadsheet}) {
+        for (const std::string& table : kAllTables) {
+            const Answer whole = Report(project.Base(), {table}, {format});
+            if (whole.status != kExitDone) continue;  // there is no such form of the table
+            const std::string path = whole.out.substr(0, whole.out.find('\n'));
+            ASSERT_TRUE(fs::exists(path)) << path;
+            fs::remove(path);
+            fs::create_symlink("/dev/full", path);
+            const Answer answer = Report(project.Base(), {table}, {format});
+            EXPECT_EQ(answer.status, kExitIncomplete) << path;
+            EXPECT_EQ(answer.out, "") << path;
+            EXPECT_THAT(answer.said, Contains(HasSubstr(path)));
+            fs::remove(path);
+        }
+    }
+}
+
+// The disk fills at byte 0, 1, 2, 4 ... of a file until a run passes clean.
+TEST(OutputFault, ADiskThatFillsAtAnyPlaceIsNamed) {
+    const BrokenProject project("pier");
+    for (const int format : {kFormatText, kFormatPdf, kFormatSpreadsheet}) {
+        bool clean = false;
+        for (rlim_t room = 0; !clean; room = room == 0 ? 1 : room * 2) {
+            ASSERT_LT(room, rlim_t{1} << 30);
+            InChild([&] {
+                LimitFileSize(room);
+                const Answer answer = Report(project.Base(), {"full"}, {format});
+                if (answer.status == kExitDone) {
+                    // Nothing went wrong: all the files are there in full. Told by the status alone.
+                    LimitFileSize(RLIM_INFINITY);
+                    WriteBytesOf(project.Base() + ".clean", "");
+                    return;
+                }
+                EXPECT_EQ(answer.status, kExitIncomplete);
+                EXPECT_THAT(answer.said, Contains(HasSubstr(project.Base() + "_Full_Report")));
+            });
+            clean = fs::remove(project.Base() + ".clean");
+        }
+    }
+}
+
+TEST(OutputFault, AFolderInThePlaceOfAFileIsNamed) {
+    const BrokenProject project("pier");
+    fs::create_directory(project.Base() + kAxialText);
+    const Answer answer = Report(project.Base(), {"axial", "pile-dc"});
+    EXPECT_EQ(answer.status, kExitIncomplete);
+    EXPECT_THAT(answer.said, Contains(HasSubstr(project.Base() + kAxialText)));
+    EXPECT_THAT(answer.out, HasSubstr("_Max_DC_For_Pile_Sections.txt"));
+}
+
+// Another program that reads the earlier file, or has it locked, does not keep the new one from being
+// written.
+TEST(OutputFault, AFileHeldOpenIsReplaced) {
+    const BrokenProject project("pier");
+    const std::string path = project.Base() + kAxialText;
+    WriteBytesOf(path, "earlier");
+    const int held = open(path.c_str(), O_RDWR);
+    ASSERT_GE(held, 0);
+    ASSERT_EQ(flock(held, LOCK_EX), 0);
+    EXPECT_EQ(Report(project.Base(), {"axial"}).status, kExitDone);
+    close(held);
+    EXPECT_THAT(ReadBytesOf(path), HasSubstr("Maximum Axial Forces at All Pile Heads"));
+}
+
+TEST(OutputFault, AScriptsFilesAreNamedToo) {
+    const BrokenProject project("pier");
+    for (const char* file : {kAxialText, "_Envelopes.txt", "_LoadCombSelection.xml"}) {
+        fs::create_symlink("/dev/full", project.Base() + file);
+    }
+    DriveOptions options;
+    options.project = project.Base() + ".in";
+    options.format = kFormatText;
+    std::ostringstream out, err;
+    EXPECT_EQ(DriveScript(options, "click 1004\nclick 1009\n", out, err), kExitIncomplete);
+    EXPECT_THAT(err.str(), HasSubstr(project.Base() + kAxialText + " could not be written whole"));
+    EXPECT_THAT(err.str(), HasSubstr(project.Base() + "_Envelopes.txt could not be written whole"));
+}
+
+TEST(OutputFault, TheStudysWorkbookAndPictureAreNamed) {
+    const BrokenProject project("pier");
+    EmbedmentOptions options;
+    options.project = project.Base() + ".in";
+    options.loadCase = 1;
+    options.workbook = true;
+    options.picture = project.Base() + ".svg";
+    std::ostringstream out, err;
+    ASSERT_EQ(RunEmbedment(options, out, err), kExitDone) << err.str();
+    std::vector<std::string> written;
+    std::istringstream lines(out.str());
+    for (std::string line; std::getline(lines, line);) {
+        if (line.starts_with(project.Base())) written.push_back(line);
+    }
+    ASSERT_EQ(written.size(), 2U);
+    for (const std::string& path : written) {
+        fs::remove(path);
+        fs::create_symlink("/dev/full", path);
+    }
+    EXPECT_EQ(RunEmbedment(options, out, err), kExitIncomplete);
+    for (const std::string& path : written) EXPECT_THAT(err.str(), HasSubstr(path));
+}
+
+// The names of folders that engineers have. \xFC and \xE9 are letters of the Western code page.
+TEST(OutputFault, PathsOfAnyWordsGiveTheSameFiles) {
+    const BrokenProject plain("pier");
+    const auto formats = std::vector<int>{kFormatText, kFormatPdf, kFormatSpreadsheet};
+    ASSERT_EQ(Report(plain.Base(), {"full", "cap-shear"}, formats).status, kExitDone);
+    const std::string long250 = std::string(250 - 3, 'a') + "(1)";
+    for (const std::string& name : {std::string("two words [1] & more (2)"),
+                                    std::string("Br\xFC"
+                                                "cke caf\xE9"),
+                                    std::string("100% 'new'; #7"), long250}) {
+        const fs::path folder = plain.Folder() / name;
+        fs::create_directory(folder);
+        for (const ProjectBytes& file : plain.Files()) {
+            if (file.name.find('/') == std::string::npos) WriteBytesOf(folder / file.name, file.bytes);
+        }
+        const Answer answer = Report((folder / "p").string(), {"full", "cap-shear"}, formats);
+        EXPECT_EQ(answer.status, kExitDone) << name;
+        EXPECT_TRUE(answer.said.empty()) << answer.said.front();
+        for (const char* file :
+             {"p_Full_Report.txt", "p_Max_PierCap_Shear_Design.xml", "p_Full_Report.pdf"}) {
+            EXPECT_TRUE(fs::exists(folder / file)) << name << "/" << file;
+        }
+        EXPECT_EQ(ReadBytesOf(folder / "p_Full_Report.txt"), ReadBytesOf(plain.Base() + "_Full_Report.txt"));
+        EXPECT_EQ(ReadBytesOf(folder / "p_Max_PierCap_Shear_Design.xml"),
+                  ReadBytesOf(plain.Base() + "_Max_PierCap_Shear_Design.xml"));
+    }
+}
+
+}  // namespace
