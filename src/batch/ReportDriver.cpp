@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr int kReportDialog = 1000;
 constexpr int kLoadCaseDialog = 1005;
 constexpr int kCustomCases = 1038, kChooseCases = 1039, kNoCases = 1047, kIncludeColumn = 1;
 constexpr int kFormatButtons[] = {1021, 1019, 1020};  // by ReportFormat

@@ -27,6 +27,7 @@ std::vector<int> ReadNodes(CSeqFile& file, int entries) {
     file.ReadRecord(records.data(), static_cast<unsigned>(records.size() * sizeof(records[0])),
                     "bearing nodes");
     std::vector<int> nodes;
+    nodes.reserve(records.size());
     for (const std::array<int, 3>& record : records) nodes.push_back(record[1]);
     return nodes;
 }

@@ -11,6 +11,7 @@
 
 namespace {
 
+constexpr int kNodeBytes = 2 * 24;               // a node stands in the file twice
 constexpr int kUnitsUsByOtherName = 3;           // the host writes 3 for US units in older projects
 constexpr int kMaxPropertyNumbers = 1000;        // column or extra member sections; far above any model's
 constexpr int kMaxElementNumber = 2000000;       // the mask has one byte for each element number
@@ -149,7 +150,7 @@ int SplitNodes(CPier& pier) {
 }
 
 void ReadNodes(CSeqFile& file, CPier& pier, int skipped) {
-    file.CheckCount(pier.m_nNodes, 2 * 24, "nodes");
+    file.CheckCount(pier.m_nNodes, kNodeBytes, "nodes");
     pier.m_dNodes.clear();
     pier.m_dNodes.reserve(static_cast<std::size_t>(pier.m_nNodes - std::clamp(skipped, 0, pier.m_nNodes)));
     std::array<double, 3> node{};

@@ -77,6 +77,6 @@ unsigned CDirFile::Read(void* buffer, long long recordNumber) {
     Seek((recordNumber - 1) * static_cast<std::int64_t>(m_nRecordLength));
     std::vector<unsigned char> record(m_nRecordLength);
     const unsigned got = ReadBytes(record.data(), m_nRecordLength);
-    if (got == m_nRecordLength) std::memcpy(buffer, record.data(), got);
+    if (got > 0 && got == m_nRecordLength) std::memcpy(buffer, record.data(), got);
     return got;
 }

@@ -12,7 +12,7 @@ std::string FirstCharacters(const std::string& text, int count) {
 
 // The project's file name, fitted to `room` characters.
 std::string FittedFileName(int room) {
-    const std::string full = g_ProjectBasePath + g_ExtensionInput;
+    std::string full = g_ProjectBasePath + g_ExtensionInput;
     if (static_cast<int>(full.size()) <= room) return full;
     const int nameLength = static_cast<int>(g_ProjectFileName.size());
     // The dots and the ending take seven characters; the ending is the report's, whatever the project's is.

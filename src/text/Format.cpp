@@ -55,7 +55,7 @@ bool AppendHundredths(std::string& out, double value, int width) {
     const double rest = scaled - static_cast<double>(hundredths);
     if (std::fabs(rest - 0.5) < kMargin) return false;
     if (rest > 0.5) ++hundredths;
-    std::array<char, 16> text;
+    std::array<char, 16> text{};
     char* const end = text.data() + text.size();
     char* at = PutPair(end, hundredths % 100);
     *--at = '.';
@@ -87,7 +87,7 @@ bool AppendTwelveDecimals(std::string& out, double value, int width) {
         lower = 0;
         ++upper;
     }
-    std::array<char, 32> text;
+    std::array<char, 32> text{};
     char* const end = text.data() + text.size();
     char* at = PutSixDigits(PutSixDigits(end, lower), upper);
     *--at = '.';
@@ -100,7 +100,7 @@ bool AppendTwelveDecimals(std::string& out, double value, int width) {
 }  // namespace
 
 void AppendInt(std::string& out, long long value, int width) {
-    std::array<char, 24> digits;
+    std::array<char, 24> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
     AppendPadded(out, {digits.data(), static_cast<std::size_t>(end - digits.data())}, width);
 }
@@ -116,7 +116,7 @@ void AppendIntBlankZero(std::string& out, long long value, int width) {
 void AppendFixed(std::string& out, double value, int decimals, int width) {
     if (decimals == 2 && AppendHundredths(out, value, width)) return;
     if (decimals == 12 && AppendTwelveDecimals(out, value, width)) return;
-    std::array<char, kLongestFixed> digits;
+    std::array<char, kLongestFixed> digits;  // NOLINT(cppcoreguidelines-pro-type-member-init): filled below
     const auto end =
         std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, decimals)
             .ptr;
@@ -124,7 +124,7 @@ void AppendFixed(std::string& out, double value, int decimals, int width) {
 }
 
 void AppendGeneral(std::string& out, double value) {
-    std::array<char, 64> digits;
+    std::array<char, 64> digits{};
     const auto end =
         std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::general, 6).ptr;
     out.append(digits.data(), static_cast<std::size_t>(end - digits.data()));

@@ -47,7 +47,7 @@ bool Extract(std::string_view& text, int& value) {
 bool Extract(std::string_view& text, double& value) {
     const std::string_view digits = WithoutPlus(text);
     // "inf" and "nan" are words, not numbers, to a stream.
-    const std::size_t first = digits.find_first_not_of("-");
+    const std::size_t first = digits.find_first_not_of('-');
     if (first == std::string_view::npos || first > 1 ||
         (std::isdigit(static_cast<unsigned char>(digits[first])) == 0 && digits[first] != '.')) {
         return false;
