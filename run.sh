@@ -4,6 +4,9 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 
+# Where there is a compiler cache, clones in several folders share their work.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+
 jobs=$(nproc)
 tools/install build
 cmake --preset native >build-native.log 2>&1 || { cat build-native.log >&2; exit 1; }

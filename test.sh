@@ -4,6 +4,9 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 
+# Where there is a compiler cache, clones in several folders share their work.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
+
 jobs=$(nproc)
 started=$SECONDS
 skipped=()
@@ -47,6 +50,7 @@ step "native tests" run_tests native
 step "speed ratios" bench/check-ratios
 step "sanitizer build" build sanitize
 step "tests under the sanitizers" run_tests sanitize
+step "fuzz targets on their corpus" tools/fuzz.sh all 2
 step "lints" tools/lint
 if [[ -x tools/test-windows ]]; then
     status=0
