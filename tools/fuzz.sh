@@ -7,14 +7,14 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-build=build/fuzz
+build=${LUMERIN_FUZZ_BUILD:-build/fuzz}
 corpus=build/fuzz-corpus
 kept=tests/fuzz-corpus
 
 prepare() {
     tools/install fuzz
-    cmake --preset fuzz >/dev/null
-    cmake --build --preset fuzz -j "$(nproc)" -- --quiet
+    cmake --preset fuzz -B "$build" >/dev/null
+    cmake --build "$build" --target fuzz -j "$(nproc)" -- --quiet
     "$build/make-seeds" "$corpus"
 }
 
@@ -37,19 +37,31 @@ run() {
     mkdir -p "$corpus/$target" "$faults" "$kept/$target"
     echo "-- $target, $seconds s"
     # Small inputs first; the largest is a whole project.
-    "$build/fuzz-$target" -timeout=20 -rss_limit_mb=2048 -max_len=50000 -max_total_time="$seconds" -verbosity=0 \
-        -print_final_stats=1 -artifact_prefix="$faults/" "$corpus/$target" "$kept/$target" 2>&1 |
-        grep -E '^stat::(number_of_executed_units|average_exec)|ERROR|SUMMARY|a step ended' || true
-    [[ ${PIPESTATUS[0]} -eq 0 ]]
+    local log=$faults/log
+    if ! "$build/fuzz-$target" -timeout=20 -rss_limit_mb=2048 -max_len=50000 -max_total_time="$seconds" \
+        -print_final_stats=1 -artifact_prefix="$faults/" "$corpus/$target" "$kept/$target" >"$log" 2>&1; then
+        grep -vE '^#[0-9]+[[:space:]]+(NEW|REDUCE|pulse)|NEW_FUNC' "$log" | tail -60 >&2
+        return 1
+    fi
+    grep -E '^stat::(number_of_executed_units|average_exec)' "$log"
+}
+
+# The smallest thirty, and 12 KB at most; inputs with a name of their own are faults that were found, and stay.
+trim() {
+    local sum=0 count=0 size name
+    while read -r size name; do
+        sum=$((sum + size)) count=$((count + 1))
+        if (( sum > 12000 || count > 30 )); then rm -- "$1/$name"; fi
+    done < <(find "$1" -type f -printf '%s %f\n' | grep -E ' [0-9a-f]{40}$' | sort -n)
 }
 
 keep() {
     local target
     for target in $(targets); do
         mkdir -p "$kept/$target"
-        "$build/fuzz-$target" -merge=1 -max_len=4000 -verbosity=0 "$kept/$target" "$corpus/$target" 2>/dev/null
+        "$build/fuzz-$target" -set_cover_merge=1 -max_len=4000 "$kept/$target" "$corpus/$target" >/dev/null 2>&1
+        trim "$kept/$target"
     done
-    du -sb "$kept"
 }
 
 if (( $# < 1 )); then

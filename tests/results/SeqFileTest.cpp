@@ -127,6 +127,14 @@ TEST(SeqFile, OpenAnswersFalseAndTheNextReadThrows) {
     EXPECT_THROW(missing.Read(&value, 4), CFileException);
 }
 
+TEST(DirFile, ARecordOfNoLengthIsNoRead) {
+    const ResultProject project;
+    project.WriteFile(".x", "aaaa");
+    CDirFile file;
+    ASSERT_TRUE(file.Open(project.Path(".x"), 0));
+    EXPECT_EQ(file.Read(nullptr, 3), 0U);
+}
+
 TEST(DirFile, ReadsNumberedRecordsAndKeepsTheLastPastTheEnd) {
     const ResultProject project;
     project.WriteFile(".x", "aaaabbbbcc");
