@@ -94,6 +94,27 @@ void JsonLines::Row(int row, const std::vector<std::string>& cells) {
     m_out << line.dump() << '\n';
 }
 
+void JsonLines::Focus(const FocusState& state) {
+    Json line;
+    line["focus"] = state.id;
+    if (state.kind == ControlKind::edit) {
+        line["text"] = ToUtf8(state.text);
+        line["selection"] = {state.start, state.end};
+    }
+    if (state.kind == ControlKind::grid) {
+        const GridView& grid = state.grid;
+        line["cell"] = {grid.row, grid.column};
+        line["selected"] = {grid.top, grid.left, grid.bottom, grid.right};
+        line["cells"] = grid.selected;
+        if (grid.editing) {
+            line["editor"] = {{"text", ToUtf8(grid.text)},
+                              {"selection", {grid.start, grid.end}},
+                              {"wider", grid.outgrewCell}};
+        }
+    }
+    m_out << line.dump() << '\n';
+}
+
 void JsonLines::Plot(const std::vector<GraphCall>& calls) {
     m_out << "{\"plot\":[";
     const char* separator = "";

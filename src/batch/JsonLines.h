@@ -7,6 +7,7 @@
 
 #include "framework/Backend.h"
 #include "framework/ControlList.h"
+#include "framework/GridView.h"
 #include "framework/headless/GraphPeer.h"
 #include "text/Utf8.h"
 
@@ -22,6 +23,15 @@ struct ControlState {
     int selection = -1;                                    // combo boxes alone
 };
 
+// Where the keyboard is: the control that has the focus, and what the keys act on in it.
+struct FocusState {
+    int id = 0;
+    ControlKind kind = ControlKind::button;
+    std::string text;        // of an edit control
+    int start = 0, end = 0;  // its selection, in characters
+    GridView grid;           // of a grid
+};
+
 class JsonLines {
   public:
     explicit JsonLines(std::ostream& out) : m_out(out) {}
@@ -34,6 +44,7 @@ class JsonLines {
     void Open(const std::string& file, const std::string& parameters);
     void Module(std::string_view module, const services::PlotModuleCall& call);
     void Row(int row, const std::vector<std::string>& cells);
+    void Focus(const FocusState& state);
     void Plot(const std::vector<GraphCall>& calls);
     void Result(unsigned result);
     // The one line that is no JSON: an action that a user could not have done.

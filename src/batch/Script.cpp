@@ -47,7 +47,7 @@ class LineReader {
         return value;
     }
     std::string Rest() {
-        const std::string rest(m_rest);
+        std::string rest(m_rest);
         m_rest = {};
         return rest;
     }
@@ -63,18 +63,52 @@ class LineReader {
 
 constexpr const char* kControlWord = "a control's identifier";
 
+struct KeyName {
+    std::string_view name;
+    unsigned code;
+};
+
+constexpr KeyName kKeys[] = {
+    {"Esc", kKeyEscape},    {"Return", kKeyReturn},     {"Tab", kKeyTab},   {"Backspace", kKeyBackspace},
+    {"Delete", kKeyDelete}, {"Insert", kKeyInsert},     {"Up", kKeyUp},     {"Down", kKeyDown},
+    {"Left", kKeyLeft},     {"Right", kKeyRight},       {"Home", kKeyHome}, {"End", kKeyEnd},
+    {"PageUp", kKeyPageUp}, {"PageDown", kKeyPageDown},
+};
+// Letters are keys with Ctrl alone; as texts they are typed.
+constexpr std::string_view kCommandLetters = "ACVX";
+
+bool TakeOff(std::string_view& name, std::string_view start) {
+    if (name.substr(0, start.size()) != start) return false;
+    name.remove_prefix(start.size());
+    return true;
+}
+
+// False: no such key.
+bool FindKey(std::string_view name, ScriptKey& key) {
+    key.keys.control = TakeOff(name, "Ctrl+");
+    key.keys.shift = TakeOff(name, "Shift+");
+    if (name.size() == 1 && key.keys.control &&
+        kCommandLetters.find(name.front()) != std::string_view::npos) {
+        key.code = static_cast<unsigned char>(name.front());
+        return true;
+    }
+    for (const KeyName& known : kKeys) {
+        if (name != known.name) continue;
+        key.code = known.code;
+        return true;
+    }
+    return false;
+}
+
 void ReadKey(LineReader& line, ScriptAction& action) {
-    const std::string key = line.Word("a key: Esc, Return or F1");
-    if (key == "Esc") {
-        action.verb = ScriptVerb::keyEscape;
-    } else if (key == "Return") {
-        action.verb = ScriptVerb::keyReturn;
-    } else if (key == "F1") {
+    action.text = line.Word("a key such as Esc, Down, Ctrl+C or F1");
+    if (action.text == "F1") {
         action.verb = ScriptVerb::keyHelp;
         action.id = line.Integer(kControlWord);
-    } else {
-        line.Fail("unknown key " + key);
+        return;
     }
+    action.verb = ScriptVerb::key;
+    if (!FindKey(action.text, action.key)) line.Fail("unknown key " + action.text);
 }
 
 void ReadSpin(LineReader& line, ScriptAction& action) {
@@ -141,6 +175,13 @@ constexpr VerbReader kVerbs[] = {
          action.text = line.Rest();
      }},
     {"key", ReadKey},
+    {"type",
+     [](LineReader& line, ScriptAction& action) {
+         action.verb = ScriptVerb::type;
+         if (line.AtEnd()) line.Fail("expected the text to type");
+         action.text = line.Rest();
+     }},
+    {"where", [](LineReader&, ScriptAction& action) { action.verb = ScriptVerb::where; }},
     {"again",
      [](LineReader& line, ScriptAction& action) {
          action.verb = ScriptVerb::again;
@@ -171,13 +212,26 @@ std::string RefusedName(const ScriptAction& action) {
             return "graph-click";
         case ScriptVerb::shot:
             return "shot";
-        case ScriptVerb::keyEscape:
-            return "key Esc";
-        case ScriptVerb::keyReturn:
-            return "key Return";
+        case ScriptVerb::key:
+            return "key " + action.text;
+        case ScriptVerb::type:
+            return "type";
         default:
             return std::to_string(action.id);
     }
+}
+
+bool TakesKey(ControlKind focused, const ScriptKey& key) {
+    const bool isDialogs = key.code == kKeyEscape || key.code == kKeyReturn || key.code == kKeyTab;
+    if (isDialogs && !key.keys.control) return true;
+    if (focused == ControlKind::grid || focused == ControlKind::edit) return true;
+    const bool moves =
+        key.code == kKeyUp || key.code == kKeyDown || key.code == kKeyHome || key.code == kKeyEnd;
+    return focused == ControlKind::combo && moves && !key.keys.control && !key.keys.shift;
+}
+
+bool TakesText(ControlKind focused) {
+    return focused == ControlKind::grid || focused == ControlKind::edit;
 }
 
 std::vector<ScriptAction> ParseScript(std::string_view script) {

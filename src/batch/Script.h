@@ -5,6 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "framework/ControlList.h"
+#include "framework/Keys.h"
+
 // The script that drives the dialogs, the same for every face of the product: one action a line, "#" at a
 // line's start or behind a blank begins a comment. It is read whole before the first action runs.
 
@@ -20,11 +23,17 @@ enum class ScriptVerb {
     answerYes,
     answerNo,
     dump,
-    shot,  // text: the picture's file
-    keyEscape,
-    keyReturn,
+    shot,     // text: the picture's file
+    key,      // key; text: its name as written
     keyHelp,  // id
-    again,    // text: the project's file beside the last one, empty for the same project
+    type,     // text
+    where,
+    again,  // text: the project's file beside the last one, empty for the same project
+};
+
+struct ScriptKey {
+    unsigned code = 0;  // of KeyCode, or a letter
+    KeyState keys;
 };
 
 struct ScriptAction {
@@ -34,7 +43,13 @@ struct ScriptAction {
     int number = 0;
     double x = 0.0;
     std::string text;
+    ScriptKey key;
 };
+
+// Whether a control of that kind has a use for the key, or takes typed texts, when it has the focus. Esc,
+// Return and Tab are the dialog's where the control leaves them.
+bool TakesKey(ControlKind focused, const ScriptKey& key);
+bool TakesText(ControlKind focused);
 
 // How the line "refused" names an action that a user could not have done.
 std::string RefusedName(const ScriptAction& action);

@@ -1,5 +1,6 @@
 #include "batch/ScriptDriver.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <utility>
 
@@ -96,11 +97,14 @@ void ScriptDriver::Play(const ScriptAction& action, headless::HeadlessDialog& di
         case ScriptVerb::shot:  // there is no screen
             done = false;
             break;
-        case ScriptVerb::keyEscape:
-            done = dialog.PressEscape();
+        case ScriptVerb::key:
+            done = PressKey(action, dialog);
             break;
-        case ScriptVerb::keyReturn:
-            done = dialog.PressReturn();
+        case ScriptVerb::type:
+            done = Type(action.text, dialog);
+            break;
+        case ScriptVerb::where:
+            TellFocus(dialog);
             break;
         case ScriptVerb::keyHelp:
             done = dialog.PressHelp(action.id);
@@ -109,6 +113,36 @@ void ScriptDriver::Play(const ScriptAction& action, headless::HeadlessDialog& di
             break;
     }
     if (!done) m_lines.Refused(RefusedName(action));
+}
+
+bool ScriptDriver::PressKey(const ScriptAction& action, headless::HeadlessDialog& dialog) {
+    const NativeWindow* focus = dialog.Focused();
+    const ControlKind kind = focus == nullptr ? ControlKind::group : focus->spec->kind;
+    return TakesKey(kind, action.key) && dialog.PressKey(action.key.code, action.key.keys);
+}
+
+bool ScriptDriver::Type(const std::string& text, headless::HeadlessDialog& dialog) {
+    const NativeWindow* focus = dialog.Focused();
+    if (focus == nullptr || !TakesText(focus->spec->kind)) return false;
+    // The characters behind one that brings a message go to the message box, which has no use for them.
+    const int messages = m_nMessages;
+    for (const char c : text) {
+        if (messages == m_nMessages) dialog.TypeChar(static_cast<unsigned char>(c));
+    }
+    return true;
+}
+
+void ScriptDriver::TellFocus(const headless::HeadlessDialog& dialog) {
+    FocusState state;
+    if (const NativeWindow* focus = dialog.Focused()) {
+        state.id = focus->spec->id;
+        state.kind = focus->spec->kind;
+        state.text = focus->text;
+        state.start = std::min(focus->selectionStart, focus->selectionEnd);
+        state.end = std::max(focus->selectionStart, focus->selectionEnd);
+        if (focus->grid != nullptr) state.grid = focus->grid->View();
+    }
+    m_lines.Focus(state);
 }
 
 void ScriptDriver::Dump(headless::HeadlessDialog& dialog) {
@@ -130,6 +164,7 @@ void ScriptDriver::OnDialogOpened(headless::HeadlessDialog& dialog) {
 }
 
 MessageAnswer ScriptDriver::OnMessage(const headless::Message& message) {
+    ++m_nMessages;
     m_lines.Message(message.text, message.title, message.icon);
     return Sink::OnMessage(message);
 }

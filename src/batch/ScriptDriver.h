@@ -36,12 +36,16 @@ class ScriptDriver : public headless::Sink {
 
   private:
     void Play(const ScriptAction& action, headless::HeadlessDialog& dialog);
+    bool PressKey(const ScriptAction& action, headless::HeadlessDialog& dialog);
+    bool Type(const std::string& text, headless::HeadlessDialog& dialog);
+    void TellFocus(const headless::HeadlessDialog& dialog);
     void Dump(headless::HeadlessDialog& dialog);
 
     std::vector<ScriptAction> m_actions;
     std::size_t m_nNext = 0;
     JsonLines m_lines;
     std::vector<std::string> m_FailedOutputs;
+    int m_nMessages = 0;
     bool m_bHasPlotModule = true;
 };
 

@@ -4,29 +4,6 @@
 
 #include "grid/GridTypes.h"
 
-void EditText::Type(unsigned character) {
-    if (character == kKeyBackspace) {
-        if (!HasSelection() && start > 0) --start;
-        text.erase(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start));
-        end = start;
-        return;
-    }
-    if (character < kKeyBlank || character > 255) return;
-    text.replace(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start), 1,
-                 static_cast<char>(character));
-    end = ++start;
-}
-
-void EditText::MoveCaret(int step) {
-    start = end = std::clamp(end + step, 0, Length());
-}
-
-void EditText::DeleteForward() {
-    if (!HasSelection() && end < Length()) ++end;
-    text.erase(static_cast<std::size_t>(start), static_cast<std::size_t>(end - start));
-    end = start;
-}
-
 namespace {
 
 bool IsDigit(unsigned character) {

@@ -19,12 +19,6 @@ struct EditText {
     }
     bool HasSelection() const { return start != end; }
     int Length() const { return static_cast<int>(text.size()); }
-
-    // What an edit window does with a typed character: Backspace deletes, a printing character takes the
-    // place of the selection, others change nothing.
-    void Type(unsigned character);
-    void MoveCaret(int step);
-    void DeleteForward();
 };
 
 // What the keys of a number editor may type. The numbers are those of the cell classes.

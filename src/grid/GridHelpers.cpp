@@ -1,5 +1,7 @@
 #include "grid/GridHelpers.h"
 
+#include <algorithm>
+
 #include "session/OutputFiles.h"
 
 namespace {
@@ -40,4 +42,28 @@ void FitColumns(CGridCtrl& grid, std::span<const int> weights, std::span<int> ou
     SplitWidth(weights, out, grid.Host().ClientSize().width);
     for (std::size_t i = 0; i < out.size(); ++i) grid.SetColumnWidth(static_cast<int>(i), out[i]);
     grid.EnableScrollBarCtrl(true);
+}
+
+GridView ViewOf(const CGridCtrl& grid) {
+    GridView view;
+    view.row = grid.FocusCell().row;
+    view.column = grid.FocusCell().column;
+    for (const CCellID& cell : grid.SelectedCells()) {
+        const bool first = view.selected++ == 0;
+        view.top = first ? cell.row : std::min(view.top, cell.row);
+        view.left = first ? cell.column : std::min(view.left, cell.column);
+        view.bottom = std::max(view.bottom, cell.row);
+        view.right = std::max(view.right, cell.column);
+    }
+    const CInPlaceEdit* editor = grid.OpenEditor();
+    const EditorWindow* window = editor == nullptr ? nullptr : editor->Window();
+    if (window == nullptr) return view;
+    const EditText edit = window->Read();
+    view.editing = true;
+    view.text = edit.text;
+    view.start = edit.start;
+    view.end = edit.end;
+    GridRect cell;
+    view.outgrewCell = grid.CellRect(view.row, view.column, cell) && window->Place().right > cell.right;
+    return view;
 }

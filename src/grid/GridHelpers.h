@@ -2,9 +2,10 @@
 
 #include <span>
 
+#include "framework/GridView.h"
 #include "grid/GridCtrl.h"
 
-// What both dialogs do to their grids.
+// What both dialogs do to their grids, and what their drivers read.
 
 // The first `rows` rows and the first `columns` columns get the face colour and become read-only.
 void ShadeFixedCells(CGridCtrl& grid, int rows, int columns);
@@ -17,3 +18,6 @@ void SetGridAlignment(CGridCtrl& grid, int fixedRows, int fixedColumns, unsigned
 // Column widths by weight that fill the client area beside the vertical scroll bar. One entry a column in
 // both; `out` receives the widths.
 void FitColumns(CGridCtrl& grid, std::span<const int> weights, std::span<int> out);
+
+// Focus cell, selection and open editor.
+GridView ViewOf(const CGridCtrl& grid);

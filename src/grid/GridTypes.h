@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <string>
 
+#include "framework/Keys.h"
+
 // The small types that the grid, its cells and its drawing share.
 
 // A colour in the platform's order: blue, green, red from the third byte down.
@@ -35,30 +37,6 @@ struct FontRecord {
     int height = -12;  // negative: of the characters, without the leading
     bool underlined = false;
     bool operator==(const FontRecord&) const = default;
-};
-
-struct KeyState {
-    bool shift = false, control = false;
-};
-
-// Key codes of the platform. The codes below 128 that are characters too carry the same number.
-enum GridKey : unsigned {
-    kKeyMouse = 1,  // stands for a start by the mouse
-    kKeyBackspace = 8,
-    kKeyTab = 9,
-    kKeyReturn = 13,
-    kKeyEscape = 27,
-    kKeyBlank = 32,
-    kKeyPageUp = 33,
-    kKeyPageDown = 34,
-    kKeyEnd = 35,
-    kKeyHome = 36,
-    kKeyLeft = 37,
-    kKeyUp = 38,
-    kKeyRight = 39,
-    kKeyDown = 40,
-    kKeyInsert = 45,
-    kKeyDelete = 46,
 };
 
 // System colours by the platform's index.

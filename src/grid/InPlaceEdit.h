@@ -55,6 +55,7 @@ class CInPlaceEdit : public CEdit {
     // The text may have changed: the window grows with it.
     void OnTyped();
 
+    const EditorWindow* Window() const { return m_pWindow; }  // null before the start
     bool HasEnded() const { return m_bEnded; }
     const std::string& InitialText() const { return m_sInitial; }
 

@@ -108,6 +108,20 @@ bool TypeCell(HWND dialog, int row, int column, const std::string& text) {
     return true;
 }
 
+bool PressKey(HWND dialog, const ScriptKey& key) {
+    const HWND control = FocusedControl(dialog);
+    if (!TakesKey(control == nullptr ? ControlKind::group : KindOf(control), key)) return false;
+    keyboard::Press(static_cast<WORD>(key.code), key.keys.shift, key.keys.control);
+    return true;
+}
+
+bool Type(HWND dialog, const std::string& text) {
+    const HWND control = FocusedControl(dialog);
+    if (control == nullptr || !TakesText(KindOf(control))) return false;
+    keyboard::Type(text);
+    return true;
+}
+
 bool ClickGraph(HWND dialog, double x) {
     const HWND graph = FindUsableKind(dialog, ControlKind::graph);
     return graph != nullptr && graphreader::Click(graph, x);

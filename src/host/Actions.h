@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "batch/Script.h"
 #include "host/HostWindows.h"
 
 // What a user does to a control. Each returns false when it is refused: no such control, or a disabled or
@@ -15,6 +16,9 @@ bool SelectEntry(HWND dialog, int id, int entry);
 bool Spin(HWND dialog, int id, bool up);
 // Puts the focus on the cell of the grid; the text is typed on the keyboard then.
 bool TypeCell(HWND dialog, int row, int column, const std::string& text);
+// The key, and the text, go to the control that has the focus; refused when it has no use for them.
+bool PressKey(HWND dialog, const ScriptKey& key);
+bool Type(HWND dialog, const std::string& text);
 // A click on the plot at that place of its x axis.
 bool ClickGraph(HWND dialog, double x);
 // The F1 key over a control, whether it can have the focus or not.

@@ -33,6 +33,25 @@ std::vector<std::vector<std::string>> ReadRows(HWND grid) {
     return rows;
 }
 
+GridView ReadView(HWND grid) {
+    GridViewRecord record{};
+    SendMessageA(grid, kGridView, 0, reinterpret_cast<LPARAM>(&record));
+    GridView view;
+    view.row = record.row;
+    view.column = record.column;
+    view.top = record.top;
+    view.left = record.left;
+    view.bottom = record.bottom;
+    view.right = record.right;
+    view.selected = record.selected;
+    view.editing = record.editing;
+    view.text = record.text;
+    view.start = record.start;
+    view.end = record.end;
+    view.outgrewCell = record.outgrewCell;
+    return view;
+}
+
 bool GoToCell(HWND grid, int row, int column) {
     return SendMessageA(grid, kGridGoTo, static_cast<WPARAM>(row), static_cast<LPARAM>(column)) != FALSE;
 }

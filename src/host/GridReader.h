@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "framework/GridView.h"
 #include "host/HostWindows.h"
 
 // The grid's cells, asked of its window.
@@ -10,6 +11,8 @@ namespace gridreader {
 
 // The texts of all cells, row by row.
 std::vector<std::vector<std::string>> ReadRows(HWND grid);
+
+GridView ReadView(HWND grid);
 
 // Puts the focus on the cell. False: there is no such cell.
 bool GoToCell(HWND grid, int row, int column);

@@ -2,12 +2,18 @@
 
 namespace {
 
+// The keys between letters and number pad. Without their mark they would be those of the pad, which lose
+// Shift while the pad is locked to numbers.
+bool IsExtended(WORD key) {
+    return (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_INSERT || key == VK_DELETE;
+}
+
 void Send(WORD key, bool up) {
     INPUT input{};
     input.type = INPUT_KEYBOARD;
     input.ki.wVk = key;
     input.ki.wScan = static_cast<WORD>(MapVirtualKeyA(key, MAPVK_VK_TO_VSC));
-    input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
+    input.ki.dwFlags = (up ? KEYEVENTF_KEYUP : 0UL) | (IsExtended(key) ? KEYEVENTF_EXTENDEDKEY : 0UL);
     SendInput(1, &input, sizeof input);
 }
 
@@ -15,19 +21,20 @@ void Send(WORD key, bool up) {
 
 namespace keyboard {
 
-void Press(WORD key) {
+void Press(WORD key, bool shift, bool control) {
+    if (control) Send(VK_CONTROL, false);
+    if (shift) Send(VK_SHIFT, false);
     Send(key, false);
     Send(key, true);
+    if (shift) Send(VK_SHIFT, true);
+    if (control) Send(VK_CONTROL, true);
 }
 
 bool Type(std::string_view text) {
     for (const char c : text) {
         const SHORT code = VkKeyScanA(c);
         if (code == -1) return false;
-        const bool shift = (HIBYTE(code) & 1) != 0;
-        if (shift) Send(VK_SHIFT, false);
-        Press(LOBYTE(code));
-        if (shift) Send(VK_SHIFT, true);
+        Press(LOBYTE(code), (HIBYTE(code) & 1) != 0);
     }
     return true;
 }

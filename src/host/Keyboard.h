@@ -8,7 +8,7 @@
 // while after the call.
 namespace keyboard {
 
-void Press(WORD key);
+void Press(WORD key, bool shift = false, bool control = false);
 // Types characters that the keyboard's layout has; false for one that it has not, which ends the typing.
 bool Type(std::string_view text);
 

@@ -7,7 +7,6 @@
 #include "host/Actions.h"
 #include "host/GraphReader.h"
 #include "host/GridReader.h"
-#include "host/Keyboard.h"
 #include "host/Picture.h"
 #include "host/WindowReader.h"
 
@@ -19,8 +18,8 @@ constexpr int kKeySettle = 12;
 constexpr int kAnswerPatience = 50;
 
 bool UsesKeyboard(ScriptVerb verb) {
-    return verb == ScriptVerb::cell || verb == ScriptVerb::keyEscape || verb == ScriptVerb::keyReturn ||
-           verb == ScriptVerb::keyHelp;
+    return verb == ScriptVerb::cell || verb == ScriptVerb::key || verb == ScriptVerb::keyHelp ||
+           verb == ScriptVerb::type;
 }
 
 }  // namespace
@@ -107,11 +106,12 @@ bool WindowDriver::Perform(const ScriptAction& action, HWND dialog) {
             return true;
         case ScriptVerb::shot:
             return SavePicture(dialog, action.text);
-        case ScriptVerb::keyEscape:
-            keyboard::Press(VK_ESCAPE);
-            return true;
-        case ScriptVerb::keyReturn:
-            keyboard::Press(VK_RETURN);
+        case ScriptVerb::key:
+            return actions::PressKey(dialog, action.key);
+        case ScriptVerb::type:
+            return actions::Type(dialog, action.text);
+        case ScriptVerb::where:
+            m_lines.Focus(ReadFocus(dialog));
             return true;
         case ScriptVerb::keyHelp:
             return actions::PressHelp(dialog, action.id);

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "host/GridReader.h"
+
 namespace {
 
 constexpr int kOk = 1, kCancel = 2, kYes = 6, kNo = 7;  // identifiers of the buttons of message boxes
@@ -151,5 +153,28 @@ ControlState ReadControl(HWND control) {
     if (state.kind == ControlKind::combo) {
         state.selection = static_cast<int>(SendMessageA(control, CB_GETCURSEL, 0, 0));
     }
+    return state;
+}
+
+HWND FocusedControl(HWND dialog) {
+    HWND control = GetFocus();
+    while (control != nullptr && GetParent(control) != dialog) control = GetParent(control);
+    return control;
+}
+
+FocusState ReadFocus(HWND dialog) {
+    FocusState state;
+    const HWND control = FocusedControl(dialog);
+    if (control == nullptr) return state;
+    state.id = GetDlgCtrlID(control);
+    state.kind = KindOf(control);
+    state.text = TextOf(control);
+    if (state.kind == ControlKind::edit) {
+        DWORD start = 0, end = 0;
+        SendMessageA(control, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+        state.start = static_cast<int>(start);
+        state.end = static_cast<int>(end);
+    }
+    if (state.kind == ControlKind::grid) state.grid = gridreader::ReadView(control);
     return state;
 }

@@ -28,3 +28,7 @@ std::vector<HWND> ControlsOf(HWND dialog);
 // The kind by class and style of the window.
 ControlKind KindOf(HWND control);
 ControlState ReadControl(HWND control);
+
+// The control of the dialog that has the focus, itself or by a child; null when none has.
+HWND FocusedControl(HWND dialog);
+FocusState ReadFocus(HWND dialog);

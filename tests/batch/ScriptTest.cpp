@@ -17,12 +17,13 @@ TEST(Script, ReadsEveryAction) {
     const std::vector<ScriptAction> actions = ParseScript(
         "click 1004\ntext 1025 12 b\nfocus 1025\nselect 1027 3\nspin 1026 up\nspin 1026 down\n"
         "cell 2 1 0\ngraph-click -1.5\nanswer yes\nanswer no\ndump\nshot a b.png\nkey Esc\nkey Return\nkey "
-        "F1 1001\n");
-    const ScriptVerb verbs[] = {ScriptVerb::click,     ScriptVerb::text,       ScriptVerb::focus,
-                                ScriptVerb::select,    ScriptVerb::spinUp,     ScriptVerb::spinDown,
-                                ScriptVerb::cell,      ScriptVerb::graphClick, ScriptVerb::answerYes,
-                                ScriptVerb::answerNo,  ScriptVerb::dump,       ScriptVerb::shot,
-                                ScriptVerb::keyEscape, ScriptVerb::keyReturn,  ScriptVerb::keyHelp};
+        "F1 1001\ntype a b\nwhere\nkey Ctrl+Shift+End\nkey Ctrl+V\n");
+    const ScriptVerb verbs[] = {
+        ScriptVerb::click,     ScriptVerb::text,     ScriptVerb::focus,   ScriptVerb::select,
+        ScriptVerb::spinUp,    ScriptVerb::spinDown, ScriptVerb::cell,    ScriptVerb::graphClick,
+        ScriptVerb::answerYes, ScriptVerb::answerNo, ScriptVerb::dump,    ScriptVerb::shot,
+        ScriptVerb::key,       ScriptVerb::key,      ScriptVerb::keyHelp, ScriptVerb::type,
+        ScriptVerb::where,     ScriptVerb::key,      ScriptVerb::key};
     ASSERT_EQ(actions.size(), std::size(verbs));
     for (std::size_t i = 0; i < actions.size(); ++i) {
         EXPECT_EQ(actions[i].verb, verbs[i]) << i;
@@ -36,7 +37,31 @@ TEST(Script, ReadsEveryAction) {
     EXPECT_EQ(actions[6].text, "0");
     EXPECT_EQ(actions[7].x, -1.5);
     EXPECT_EQ(actions[11].text, "a b.png");
+    EXPECT_EQ(actions[12].key.code, 27U);
+    EXPECT_EQ(actions[13].text, "Return");
     EXPECT_EQ(actions[14].id, 1001);
+    EXPECT_EQ(actions[15].text, "a b");
+    EXPECT_EQ(actions[17].key.code, 35U);
+    EXPECT_TRUE(actions[17].key.keys.control && actions[17].key.keys.shift);
+    EXPECT_EQ(actions[18].key.code, 86U);  // the letter V
+    EXPECT_TRUE(actions[18].key.keys.control && !actions[18].key.keys.shift);
+}
+
+TEST(Script, EachControlHasItsKeys) {
+    const auto key = [](const char* name) { return ParseScript(std::string("key ") + name).front().key; };
+    for (const char* name : {"Esc", "Return", "Tab", "Shift+Tab"}) {
+        EXPECT_TRUE(TakesKey(ControlKind::button, key(name))) << name;
+    }
+    for (const char* name : {"Up", "Ctrl+C", "Home", "Delete"}) {
+        EXPECT_FALSE(TakesKey(ControlKind::button, key(name))) << name;
+        EXPECT_TRUE(TakesKey(ControlKind::grid, key(name))) << name;
+        EXPECT_TRUE(TakesKey(ControlKind::edit, key(name))) << name;
+    }
+    EXPECT_TRUE(TakesKey(ControlKind::combo, key("Down")));
+    EXPECT_FALSE(TakesKey(ControlKind::combo, key("Left")));
+    EXPECT_FALSE(TakesKey(ControlKind::combo, key("Shift+Down")));
+    EXPECT_TRUE(TakesText(ControlKind::edit) && TakesText(ControlKind::grid));
+    EXPECT_FALSE(TakesText(ControlKind::combo) || TakesText(ControlKind::button));
 }
 
 TEST(Script, PassesOverCommentsEmptyLinesAndCarriageReturns) {
@@ -63,6 +88,10 @@ TEST(Script, NamesTheLineOfAFault) {
     EXPECT_EQ(FaultOf("spin 5 left"), "script line 1: expected up or down, not left");
     EXPECT_EQ(FaultOf("answer maybe"), "script line 1: expected yes or no, not maybe");
     EXPECT_EQ(FaultOf("key Enter"), "script line 1: unknown key Enter");
+    EXPECT_EQ(FaultOf("key A"), "script line 1: unknown key A");
+    EXPECT_EQ(FaultOf("key Ctrl+Z"), "script line 1: unknown key Ctrl+Z");
+    EXPECT_EQ(FaultOf("key Shift+A"), "script line 1: unknown key Shift+A");
+    EXPECT_EQ(FaultOf("type"), "script line 1: expected the text to type");
     EXPECT_EQ(FaultOf("key F1"), "script line 1: expected a control's identifier");
     EXPECT_EQ(FaultOf("graph-click here"), "script line 1: here is not a place on the x axis");
     EXPECT_EQ(FaultOf("graph-click nan"), "script line 1: nan is not a place on the x axis");

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "framework/headless/EditKeys.h"
+
 namespace {
 
 // The text after typing `keys` into `text` with that selection, by the rules of a number mode.
@@ -9,7 +11,8 @@ std::string Typed(int mode, const std::string& text, int start, int end, const s
     EditText edit{text, start, end};
     for (const char key : keys) {
         const auto c = static_cast<unsigned char>(key);
-        if (FilterNumber(edit, mode, c) == FilterResult::passed) edit.Type(c);
+        if (FilterNumber(edit, mode, c) == FilterResult::passed)
+            headless::TypeEditCharacter({edit.text, edit.start, edit.end}, c);
     }
     return edit.text;
 }
@@ -98,35 +101,6 @@ TEST(NumberFilter, ControlCharactersAreRefused) {
     EXPECT_EQ(FilterNumber(edit, kReal, 22), FilterResult::refused);
     EXPECT_EQ(FilterNumber(edit, kReal, 3), FilterResult::refused);
     EXPECT_EQ(FilterNumber(edit, kReal, 0xbd), FilterResult::refused);
-}
-
-TEST(EditText, TypingReplacesTheSelection) {
-    EditText edit{"abcd", 1, 3};
-    edit.Type('x');
-    EXPECT_EQ(edit.text, "axd");
-    EXPECT_EQ(edit.start, 2);
-    EXPECT_FALSE(edit.HasSelection());
-}
-
-TEST(EditText, BackspaceAtTheStartChangesNothing) {
-    EditText edit{"ab", 0, 0};
-    edit.Type('\b');
-    EXPECT_EQ(edit.text, "ab");
-    edit.SelectAll();
-    edit.Type('\b');
-    EXPECT_EQ(edit.text, "");
-}
-
-TEST(EditText, TheDeleteKeyTakesTheNextCharacterOrTheSelection) {
-    EditText edit{"abc", 1, 1};
-    edit.DeleteForward();
-    EXPECT_EQ(edit.text, "ac");
-    edit.MoveCaret(5);
-    edit.DeleteForward();
-    EXPECT_EQ(edit.text, "ac");
-    edit.SelectAll();
-    edit.DeleteForward();
-    EXPECT_EQ(edit.text, "");
 }
 
 }  // namespace

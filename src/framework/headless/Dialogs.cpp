@@ -133,7 +133,10 @@ bool HeadlessDialog::TypeText(int id, const std::string& text) {
 bool HeadlessDialog::Focus(int id) {
     NativeWindow* control = FindUsable(id);
     if (control == nullptr || !TakesFocus(*control)) return false;
-    Run([control] { backend::SetFocus(control); });
+    Run([control] {
+        backend::SetFocus(control);
+        if (control->spec->kind == ControlKind::edit) backend::SelectEditText(control, 0, -1);
+    });
     return true;
 }
 
@@ -153,15 +156,20 @@ bool HeadlessDialog::Spin(int id, bool up) {
     NativeWindow* control = FindUsable(id);
     if (control == nullptr || control->spec->kind != ControlKind::spin) return false;
     // The platform's spin button does nothing while the edit control that shows its position is disabled.
-    const NativeWindow* before = nullptr;
+    NativeWindow* before = nullptr;
     for (const auto& other : m_window.controls) {
         if (other.get() == control) break;
         before = other.get();
     }
-    if (before != nullptr && before->spec->kind == ControlKind::edit && !before->enabled) return true;
+    const bool hasEdit = before != nullptr && before->spec->kind == ControlKind::edit;
+    if (hasEdit && !before->enabled) return true;
     const bool ascending = control->spinLow <= control->spinHigh;
     const int step = up == ascending ? 1 : -1;
-    Run([control, step] { backend::SpinSetPosition(control, control->spinPosition + step); });
+    Run([control, step, before, hasEdit] {
+        if (hasEdit) backend::SetFocus(before);
+        backend::SpinSetPosition(control, control->spinPosition + step);
+        if (hasEdit) backend::SelectEditText(before, 0, -1);
+    });
     return true;
 }
 

@@ -5,6 +5,8 @@
 
 #include "framework/Backend.h"
 #include "framework/ControlList.h"
+#include "framework/GridView.h"
+#include "framework/Keys.h"
 
 // What a grid shows to the headless backend, which knows no cells: the grid attaches its peer to the record
 // of its control when the dialog binds it, and the driver types and reads through the peer. The peer belongs
@@ -16,8 +18,14 @@ class GridPeer {
     // Puts the focus on the cell and types the text and a Return, by the keys that a person would press.
     // False: there is no such cell.
     virtual bool TypeCell(int row, int column, const std::string& text) = 0;
+    // A character or a key of the keyboard while the grid or its editor has the focus. A key that the grid
+    // leaves to the dialog gives false.
+    virtual void TypeChar(unsigned character, KeyState keys) = 0;
+    virtual bool PressKey(unsigned key, KeyState keys) = 0;
+    virtual void GainFocus() = 0;
     // The focus leaves the grid for another control; an open editor ends.
     virtual void LoseFocus() = 0;
+    virtual GridView View() const = 0;
 
     virtual int RowCount() const = 0;
     virtual std::vector<std::string> RowTexts(int row) const = 0;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "framework/Dialog.h"
+#include "framework/Keys.h"
 #include "framework/headless/GraphPeer.h"
 #include "framework/headless/GridPeer.h"
 
@@ -64,12 +65,18 @@ class HeadlessDialog {
     bool PressEscape();
     bool PressReturn();
     bool PressHelp(int id);
+    // The keyboard: a key or a typed character goes to the control that has the focus (Keyboard.cpp).
+    const NativeWindow* Focused() const { return m_window.focus; }
+    bool PressKey(unsigned key, KeyState keys);
+    bool TypeChar(unsigned character);
     // An action of a control with behaviour of its own, with the dispatch's care for failures.
     void Run(const std::function<void()>& step);
     // Ends the dialog as a user would who wants to leave: by its button "Close", else by Cancel.
     void Close();
 
   private:
+    bool PressKeyInEdit(NativeWindow& edit, unsigned key, KeyState keys);
+    bool PressKeyInCombo(NativeWindow& combo, unsigned key);
     NativeWindow* FindUsable(int id) const;
     NativeWindow& m_window;
 };
@@ -99,6 +106,9 @@ class Sink {
     virtual void OnOutputFailed(const std::string& /*path*/) {}
 };
 
+// Moves the focus of the window's dialog to the next or previous control that Tab stops at.
+void MoveFocusByTab(WindowHandle window, bool backwards);
+
 // Presses the buttons of a dialog that was just opened; may return with the dialog open, which closes it.
 // A dialog that is opened by a press calls the driver again, inside the press.
 using ModalDriver = std::function<void(HeadlessDialog&)>;
@@ -113,6 +123,7 @@ struct Settings {
     std::optional<LocalTime> clock;             // unset: LUMERIN_CLOCK, else the machine's clock
     std::map<std::string, int> viewerNumbers;   // the text viewer's settings; absent by default
     std::map<std::string, std::string> viewerTexts;
+    std::string clipboard;
     std::string programPath, modulePath;  // empty: the host's and the module's names beside the program
     ModalDriver driver;
     Sink* sink = nullptr;

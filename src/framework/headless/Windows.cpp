@@ -38,7 +38,9 @@ namespace backend {
 void SetText(WindowHandle window, const std::string& text) {
     if (window == nullptr) return;
     window->text = text;
-    if (IsKind(window, ControlKind::edit)) Notify(window, Notice::textChanged);
+    if (!IsKind(window, ControlKind::edit)) return;
+    window->selectionStart = window->selectionEnd = 0;
+    Notify(window, Notice::textChanged);
 }
 
 std::string Text(WindowHandle window) {
@@ -76,6 +78,7 @@ void SetFocus(WindowHandle window) {
     dialog->focus = window;
     if (IsKind(before, ControlKind::edit)) Notify(before, Notice::focusLost);
     if (before != nullptr && before->grid != nullptr) before->grid->LoseFocus();
+    if (window->grid != nullptr) window->grid->GainFocus();
 }
 
 void SelectEditText(WindowHandle window, int start, int end) {

@@ -2,7 +2,10 @@
 
 #include <utility>
 
+#include "framework/headless/EditKeys.h"
+#include "framework/headless/Headless.h"
 #include "grid/GridCtrl.h"
+#include "grid/GridHelpers.h"
 #include "grid/Label.h"
 
 namespace {
@@ -15,11 +18,6 @@ constexpr int kBaseX = 7, kBaseY = 15;
 
 int Scaled(int units, int base, int divisor) {
     return (units * base + divisor / 2) / divisor;
-}
-
-std::string& SharedClipboard() {
-    static std::string text;
-    return text;
 }
 
 }  // namespace
@@ -66,35 +64,23 @@ std::unique_ptr<GridHost> MakeHost(CGridCtrl& grid) {
 
 }  // namespace gridplatform
 
+EditText HeadlessEditor::Read() const {
+    EditText edit = m_text;
+    headless::OrderSelection(edit.start, edit.end);
+    return edit;
+}
+
 void HeadlessEditor::PostChar(unsigned character) {
-    if (m_bClosed) return;
-    if (!m_editor.OnChar(character)) {
-        m_text.Type(character);
-        m_editor.OnTyped();
-    }
+    if (m_bClosed || m_editor.OnChar(character)) return;
+    headless::TypeEditCharacter({m_text.text, m_text.start, m_text.end}, character);
+    m_editor.OnTyped();
 }
 
 void HeadlessEditor::KeyDown(unsigned key, KeyState keys) {
     if (m_bClosed || m_editor.OnKeyDown(key, keys)) return;
-    switch (key) {
-        case kKeyLeft:
-            m_text.MoveCaret(-1);
-            break;
-        case kKeyRight:
-            m_text.MoveCaret(1);
-            break;
-        case kKeyHome:
-            m_text.start = m_text.end = 0;
-            break;
-        case kKeyEnd:
-            m_text.MoveToEnd();
-            break;
-        case kKeyDelete:
-            m_text.DeleteForward();
-            break;
-        default:
-            break;
-    }
+    headless::PressEditKey({m_text.text, m_text.start, m_text.end}, key, keys);
+    m_editor.OnTyped();
+    if (const unsigned character = headless::CharacterOfKey(key, keys)) PostChar(character);
 }
 
 GridSize HeadlessGrid::ClientSize() const {
@@ -111,11 +97,12 @@ void HeadlessGrid::ForceScrollBar(bool vertical, bool forced) {
 }
 
 void HeadlessGrid::SetClipboard(const std::string& text) {
-    SharedClipboard() = text;
+    // As a text on the platform's clipboard, it ends at its first zero.
+    headless::State().clipboard = text.substr(0, text.find('\0'));
 }
 
 std::string HeadlessGrid::Clipboard() const {
-    return SharedClipboard();
+    return headless::State().clipboard;
 }
 
 bool HeadlessGrid::OpenEditor(std::unique_ptr<CInPlaceEdit> editor, const GridRect& rect) {
@@ -127,6 +114,7 @@ bool HeadlessGrid::OpenEditor(std::unique_ptr<CInPlaceEdit> editor, const GridRe
 
 void HeadlessGrid::LeaveByTab(bool backwards) {
     ++(backwards ? m_nLeftBackwards : m_nLeftForwards);
+    headless::MoveFocusByTab(m_grid.m_hWnd, backwards);
 }
 
 void HeadlessGrid::ShowTip(const GridRect&, const std::string& text, const FontRecord&) {
@@ -145,14 +133,18 @@ void HeadlessGrid::TypeChar(unsigned character, KeyState keys) {
     }
 }
 
-void HeadlessGrid::PressKey(unsigned key, KeyState keys) {
+bool HeadlessGrid::PressKey(unsigned key, KeyState keys) {
     if (HeadlessEditor* editor = Editor()) {
         editor->KeyDown(key, keys);
-        return;
+        return true;
     }
+    const bool isDialogs = key == kKeyEscape || (key == kKeyReturn && !m_grid.IsEditable()) ||
+                           (key == kKeyTab && !m_grid.TabMoves());
+    if (isDialogs) return false;
     // A key that the grid has no use for becomes a character.
     const bool hasCharacter = key == kKeyReturn || key == kKeyBackspace || key == kKeyTab;
     if (!m_grid.OnKeyDown(key, keys) && hasCharacter) m_grid.OnChar(key, keys);
+    return true;
 }
 
 bool HeadlessGrid::TypeCell(int row, int column, const std::string& text) {
@@ -165,8 +157,17 @@ bool HeadlessGrid::TypeCell(int row, int column, const std::string& text) {
     return true;
 }
 
+void HeadlessGrid::GainFocus() {
+    m_grid.OnGotFocus();
+}
+
 void HeadlessGrid::LoseFocus() {
     m_grid.EndOpenEdit();
+    m_grid.HideTip();
+}
+
+GridView HeadlessGrid::View() const {
+    return ViewOf(m_grid);
 }
 
 int HeadlessGrid::RowCount() const {

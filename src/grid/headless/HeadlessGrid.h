@@ -13,7 +13,7 @@ class HeadlessEditor : public EditorWindow {
   public:
     HeadlessEditor(CInPlaceEdit& editor, const GridRect& rect) : m_editor(editor), m_rect(rect) {}
 
-    EditText Read() const override { return m_text; }
+    EditText Read() const override;
     void Write(const EditText& edit) override { m_text = edit; }
     GridRect Place() const override { return m_rect; }
     void Move(const GridRect& rect) override { m_rect = rect; }
@@ -27,7 +27,7 @@ class HeadlessEditor : public EditorWindow {
 
   private:
     CInPlaceEdit& m_editor;
-    EditText m_text;
+    EditText m_text;  // the start is the end that stays, the end is the caret
     GridRect m_rect;
     bool m_bClosed = false;
 };
@@ -48,13 +48,14 @@ class HeadlessGrid : public GridHost, public GridPeer {
     void HideTip() override { m_sTip.clear(); }
 
     bool TypeCell(int row, int column, const std::string& text) override;
+    void GainFocus() override;
     void LoseFocus() override;
+    GridView View() const override;
     int RowCount() const override;
     std::vector<std::string> RowTexts(int row) const override;
 
-    // A character or key of the keyboard while the grid or its editor has the focus.
-    void TypeChar(unsigned character, KeyState keys = {});
-    void PressKey(unsigned key, KeyState keys = {});
+    void TypeChar(unsigned character, KeyState keys = {}) override;
+    bool PressKey(unsigned key, KeyState keys = {}) override;
 
     HeadlessEditor* Editor() const;  // null: none is open
     const std::string& Tip() const { return m_sTip; }

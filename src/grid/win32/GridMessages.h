@@ -16,6 +16,17 @@ inline constexpr UINT kGridGoTo = WM_USER + 4;
 // paint, packed as x and y of its middle; -1 when it is not visible.
 inline constexpr UINT kGridCellPoint = WM_USER + 5;
 
+// lParam: a GridViewRecord to fill.
+inline constexpr UINT kGridView = WM_USER + 6;
+
+// A GridView in a form that passes between two modules.
+struct GridViewRecord {
+    int row, column, top, left, bottom, right, selected;
+    int start, end;
+    bool editing, outgrewCell;
+    char text[256];  // what does not fit is cut off
+};
+
 struct GridCellText {
     int row = 0, column = 0;
     char* text = nullptr;  // receives at most `capacity` bytes, with the terminating zero

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "grid/GridHelpers.h"
 #include "grid/win32/GdiCanvas.h"
 #include "grid/win32/GridMessages.h"
 
@@ -14,6 +15,13 @@ namespace {
 constexpr UINT_PTR kSubclass = 1;
 constexpr UINT_PTR kDragTimer = 1;
 constexpr UINT kDragTimerMilliseconds = 100;
+
+void FillRecord(const CGridCtrl& grid, GridViewRecord& record) {
+    const GridView view = ViewOf(grid);
+    record = {view.row,      view.column, view.top, view.left,    view.bottom,      view.right,
+              view.selected, view.start,  view.end, view.editing, view.outgrewCell, {}};
+    view.text.copy(record.text, sizeof record.text - 1);
+}
 
 GridPoint PointOf(LPARAM lParam) {
     return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
@@ -287,6 +295,9 @@ bool GridWindow::OnQuery(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& re
             if (m_grid.CellRect(row, column, rect)) {
                 result = MAKELRESULT((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
             }
+            return true;
+        case kGridView:
+            FillRecord(m_grid, *reinterpret_cast<GridViewRecord*>(lParam));
             return true;
         case kGridCellText: {
             auto& query = *reinterpret_cast<GridCellText*>(lParam);

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+// Where a grid stands: its focus cell, the cells around its selection and its open editor.
+struct GridView {
+    int row = -1, column = -1;  // the focus cell; -1: none
+    int top = -1, left = -1, bottom = -1, right = -1;
+    int selected = 0;  // how many cells
+    bool editing = false;
+    std::string text;          // the editor's
+    int start = 0, end = 0;    // the editor's selection, in characters
+    bool outgrewCell = false;  // the editor is wider than the cell
+};

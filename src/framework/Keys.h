@@ -1,0 +1,27 @@
+#pragma once
+
+// Keys of the keyboard, by the platform's codes. The codes below 128 that are characters too carry the same
+// number, and a letter's key has the code of its capital.
+enum KeyCode : unsigned {
+    kKeyMouse = 1,  // stands for a start by the mouse
+    kKeyBackspace = 8,
+    kKeyTab = 9,
+    kKeyReturn = 13,
+    kKeyEscape = 27,
+    kKeyBlank = 32,
+    kKeyPageUp = 33,
+    kKeyPageDown = 34,
+    kKeyEnd = 35,
+    kKeyHome = 36,
+    kKeyLeft = 37,
+    kKeyUp = 38,
+    kKeyRight = 39,
+    kKeyDown = 40,
+    kKeyInsert = 45,
+    kKeyDelete = 46,
+};
+
+// The keys that are held down with another one.
+struct KeyState {
+    bool shift = false, control = false;
+};
