@@ -28,9 +28,9 @@ build() {
 
 # The tests write thousands of small files: in memory, where there is room for that.
 if [[ -d /dev/shm && -w /dev/shm ]]; then
-    scratch=$(mktemp -d /dev/shm/lumerin.XXXXXX)
+    scratch=$(mktemp -d /dev/shm/lumerinXXXXXX)
 else
-    scratch=$(mktemp -d)
+    scratch=$(mktemp -d "${TMPDIR:-/tmp}/lumerinXXXXXX")
 fi
 trap 'rm -rf "$scratch"' EXIT
 
