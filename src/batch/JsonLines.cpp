@@ -106,6 +106,7 @@ void JsonLines::Focus(const FocusState& state) {
         line["cell"] = {grid.row, grid.column};
         line["selected"] = {grid.top, grid.left, grid.bottom, grid.right};
         line["cells"] = grid.selected;
+        if (grid.tipRow >= 0) line["tip"] = {grid.tipRow, grid.tipColumn};
         if (grid.editing) {
             line["editor"] = {{"text", ToUtf8(grid.text)},
                               {"selection", {grid.start, grid.end}},

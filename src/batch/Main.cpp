@@ -56,7 +56,8 @@ void AddDrive(CLI::App& program, DriveOptions& options, std::string& format) {
     AddCommonOptions(command, options.common);
     command.footer(
         "Actions: click ID, text ID TEXT, focus ID, select ID N, spin ID up|down, cell ROW COL TEXT,\n"
-        "graph-click X, answer yes|no, key NAME, key F1 ID, type TEXT, where, dump, again [FILE.in];\n"
+        "hover ROW COL, graph-click X, answer yes|no, key NAME, key F1 ID, type TEXT, where, dump, again "
+        "[FILE.in];\n"
         "# begins a comment. Keys: Esc, Return, Tab, Backspace, Delete, Insert, Up, Down, Left, Right, "
         "Home,\n"
         "End, PageUp, PageDown, with Ctrl+ and Shift+ before them, Ctrl+A, Ctrl+C, Ctrl+V, Ctrl+X. Keys and\n"

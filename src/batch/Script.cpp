@@ -181,6 +181,12 @@ constexpr VerbReader kVerbs[] = {
          if (line.AtEnd()) line.Fail("expected the text to type");
          action.text = line.Rest();
      }},
+    {"hover",
+     [](LineReader& line, ScriptAction& action) {
+         action.verb = ScriptVerb::hover;
+         action.id = line.Integer("a row's number");
+         action.number = line.Integer("a column's number");
+     }},
     {"where", [](LineReader&, ScriptAction& action) { action.verb = ScriptVerb::where; }},
     {"again",
      [](LineReader& line, ScriptAction& action) {
@@ -212,6 +218,8 @@ std::string RefusedName(const ScriptAction& action) {
             return "graph-click";
         case ScriptVerb::shot:
             return "shot";
+        case ScriptVerb::hover:
+            return "hover " + std::to_string(action.id) + " " + std::to_string(action.number);
         case ScriptVerb::key:
             return "key " + action.text;
         case ScriptVerb::type:

@@ -28,6 +28,7 @@ enum class ScriptVerb {
     keyHelp,  // id
     type,     // text
     where,
+    hover,  // row in id, column in number
     again,  // text: the project's file beside the last one, empty for the same project
 };
 

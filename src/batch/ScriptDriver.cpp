@@ -103,6 +103,9 @@ void ScriptDriver::Play(const ScriptAction& action, headless::HeadlessDialog& di
         case ScriptVerb::type:
             done = Type(action.text, dialog);
             break;
+        case ScriptVerb::hover:
+            done = dialog.HoverCell(action.id, action.number);
+            break;
         case ScriptVerb::where:
             TellFocus(dialog);
             break;

@@ -119,6 +119,7 @@ class CGridCtrl : public CWnd {
     void OnNotify(const EditNotice& notice);
     // A mouse button over the title tip; true: the cell below was double-clicked.
     bool OnTipButton(unsigned time) { return m_TitleTip.OnButton(*m_pHost, time); }
+    CCellID TipCell() const { return m_TitleTip.Cell(); }
     void HideTip() { m_TitleTip.Hide(*m_pHost); }
 
     // ---- layout and drawing (GridLayout.cpp, GridDraw.cpp)

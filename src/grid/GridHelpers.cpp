@@ -55,6 +55,8 @@ GridView ViewOf(const CGridCtrl& grid) {
         view.bottom = std::max(view.bottom, cell.row);
         view.right = std::max(view.right, cell.column);
     }
+    view.tipRow = grid.TipCell().row;
+    view.tipColumn = grid.TipCell().column;
     const CInPlaceEdit* editor = grid.OpenEditor();
     const EditorWindow* window = editor == nullptr ? nullptr : editor->Window();
     if (window == nullptr) return view;

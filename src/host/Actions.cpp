@@ -122,6 +122,11 @@ bool Type(HWND dialog, const std::string& text) {
     return true;
 }
 
+bool Hover(HWND dialog, int row, int column) {
+    const HWND grid = FindUsableKind(dialog, ControlKind::grid);
+    return grid != nullptr && gridreader::Hover(grid, row, column);
+}
+
 bool ClickGraph(HWND dialog, double x) {
     const HWND graph = FindUsableKind(dialog, ControlKind::graph);
     return graph != nullptr && graphreader::Click(graph, x);

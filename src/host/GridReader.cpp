@@ -44,12 +44,22 @@ GridView ReadView(HWND grid) {
     view.bottom = record.bottom;
     view.right = record.right;
     view.selected = record.selected;
+    view.tipRow = record.tipRow;
+    view.tipColumn = record.tipColumn;
     view.editing = record.editing;
     view.text = record.text;
     view.start = record.start;
     view.end = record.end;
     view.outgrewCell = record.outgrewCell;
     return view;
+}
+
+bool Hover(HWND grid, int row, int column) {
+    const LRESULT point =
+        SendMessageA(grid, kGridCellPoint, static_cast<WPARAM>(row), static_cast<LPARAM>(column));
+    if (point == -1) return false;
+    SendMessageA(grid, WM_MOUSEMOVE, 0, point);
+    return true;
 }
 
 bool GoToCell(HWND grid, int row, int column) {

@@ -14,6 +14,9 @@ std::vector<std::vector<std::string>> ReadRows(HWND grid);
 
 GridView ReadView(HWND grid);
 
+// Moves the mouse over the cell. False: there is no such cell, or it is not visible.
+bool Hover(HWND grid, int row, int column);
+
 // Puts the focus on the cell. False: there is no such cell.
 bool GoToCell(HWND grid, int row, int column);
 

@@ -101,6 +101,8 @@ std::string ReadScript(const std::string& path) {
 
 HostExit Drive(const HostOptions& options, ModuleExport launch) {
     Driver() = std::make_unique<WindowDriver>(ParseScript(ReadScript(options.script)), std::cout);
+    // The mouse of the machine stays out of the dialogs.
+    SetCursorPos(0, 0);
     const UINT_PTR timer = SetTimer(nullptr, 0, kTickMilliseconds, OnTimer);
     std::string project = FullPath(options.project);
     for (bool more = true; more;) {

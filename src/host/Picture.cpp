@@ -1,5 +1,6 @@
 #include "host/Picture.h"
 
+#include <algorithm>
 #include <fstream>
 
 #include "host/PngFile.h"
@@ -8,6 +9,7 @@ namespace {
 
 constexpr int kBitsPerPixel = 24;
 constexpr std::size_t kBytesPerPixel = 3;
+constexpr int kChannels = 3;
 
 // Rows of a bitmap fill up to whole words.
 std::size_t RowBytes(int width) {
@@ -34,6 +36,51 @@ std::vector<std::uint8_t> ReadPixels(HWND window, int width, int height) {
     DeleteDC(memory);
     ReleaseDC(window, source);
     return bytes;
+}
+
+Picture ReadPicture(HWND window) {
+    UpdateWindow(window);
+    RECT frame{};
+    GetWindowRect(window, &frame);
+    Picture picture;
+    picture.width = frame.right - frame.left;
+    picture.height = frame.bottom - frame.top;
+    const std::vector<std::uint8_t> bytes = ReadPixels(window, picture.width, picture.height);
+    picture.pixels.reserve(bytes.size());
+    for (std::size_t y = 0; y < static_cast<std::size_t>(picture.height); ++y) {
+        const std::uint8_t* row = bytes.data() + y * RowBytes(picture.width);
+        for (std::size_t x = 0; x < static_cast<std::size_t>(picture.width); ++x) {
+            for (std::size_t colour = kBytesPerPixel; colour > 0; --colour) {
+                picture.pixels.push_back(row[x * kBytesPerPixel + colour - 1]);
+            }
+        }
+    }
+    return picture;
+}
+
+struct OverlayTarget {
+    HWND window;
+    Picture* picture;
+};
+
+// Lays the picture of a window over that of its owner.
+BOOL CALLBACK OverlayOwned(HWND window, LPARAM data) {
+    const auto& target = *reinterpret_cast<const OverlayTarget*>(data);
+    if (GetWindow(window, GW_OWNER) != target.window || !IsWindowVisible(window)) return TRUE;
+    RECT frame{}, owner{};
+    GetWindowRect(window, &frame);
+    GetWindowRect(target.window, &owner);
+    const Picture top = ReadPicture(window);
+    Picture& below = *target.picture;
+    for (int y = 0; y < top.height; ++y) {
+        for (int x = 0; x < top.width; ++x) {
+            const int toX = x + frame.left - owner.left, toY = y + frame.top - owner.top;
+            if (toX < 0 || toY < 0 || toX >= below.width || toY >= below.height) continue;
+            std::copy_n(top.pixels.begin() + (y * top.width + x) * kChannels, kChannels,
+                        below.pixels.begin() + (toY * below.width + toX) * kChannels);
+        }
+    }
+    return TRUE;
 }
 
 std::string BitmapBytes(const Picture& picture) {
@@ -67,22 +114,10 @@ std::string BitmapBytes(const Picture& picture) {
 Picture TakePicture(HWND window) {
     // The title bar of the window that has the focus, drawn as such even where no window manager said so.
     SendMessageA(window, WM_NCACTIVATE, GetActiveWindow() == window ? TRUE : FALSE, 0);
-    UpdateWindow(window);
-    RECT frame{};
-    GetWindowRect(window, &frame);
-    Picture picture;
-    picture.width = frame.right - frame.left;
-    picture.height = frame.bottom - frame.top;
-    const std::vector<std::uint8_t> bytes = ReadPixels(window, picture.width, picture.height);
-    picture.pixels.reserve(bytes.size());
-    for (std::size_t y = 0; y < static_cast<std::size_t>(picture.height); ++y) {
-        const std::uint8_t* row = bytes.data() + y * RowBytes(picture.width);
-        for (std::size_t x = 0; x < static_cast<std::size_t>(picture.width); ++x) {
-            for (std::size_t colour = kBytesPerPixel; colour > 0; --colour) {
-                picture.pixels.push_back(row[x * kBytesPerPixel + colour - 1]);
-            }
-        }
-    }
+    Picture picture = ReadPicture(window);
+    // A tip is a window of its own above the dialog.
+    OverlayTarget target{window, &picture};
+    EnumThreadWindows(GetCurrentThreadId(), OverlayOwned, reinterpret_cast<LPARAM>(&target));
     return picture;
 }
 

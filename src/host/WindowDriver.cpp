@@ -110,6 +110,8 @@ bool WindowDriver::Perform(const ScriptAction& action, HWND dialog) {
             return actions::PressKey(dialog, action.key);
         case ScriptVerb::type:
             return actions::Type(dialog, action.text);
+        case ScriptVerb::hover:
+            return actions::Hover(dialog, action.id, action.number);
         case ScriptVerb::where:
             m_lines.Focus(ReadFocus(dialog));
             return true;

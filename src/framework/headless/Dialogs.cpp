@@ -185,6 +185,13 @@ bool HeadlessDialog::TypeCell(int row, int column, const std::string& text) {
     return typed;
 }
 
+bool HeadlessDialog::HoverCell(int row, int column) {
+    const NativeWindow* control = IsOpen() ? FindKind(ControlKind::grid) : nullptr;
+    const bool usable =
+        control != nullptr && control->grid != nullptr && control->enabled && control->visible;
+    return usable && control->grid->Hover(row, column);
+}
+
 bool HeadlessDialog::ClickGraph(double x) {
     NativeWindow* control = IsOpen() ? FindKind(ControlKind::graph) : nullptr;
     if (control == nullptr || control->graph == nullptr || !control->enabled || !control->visible)

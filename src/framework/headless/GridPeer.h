@@ -22,6 +22,8 @@ class GridPeer {
     // leaves to the dialog gives false.
     virtual void TypeChar(unsigned character, KeyState keys) = 0;
     virtual bool PressKey(unsigned key, KeyState keys) = 0;
+    // The mouse moves over the cell. False: there is no such cell, or it is not visible.
+    virtual bool Hover(int row, int column) = 0;
     virtual void GainFocus() = 0;
     // The focus leaves the grid for another control; an open editor ends.
     virtual void LoseFocus() = 0;

@@ -60,6 +60,8 @@ class HeadlessDialog {
     bool Spin(int id, bool up);
     // Puts the grid's focus on the cell, types the text and Return.
     bool TypeCell(int row, int column, const std::string& text);
+    // Moves the mouse over a cell of the grid.
+    bool HoverCell(int row, int column);
     // A click on the plot at that place of its x axis.
     bool ClickGraph(double x);
     bool PressEscape();

@@ -157,6 +157,13 @@ bool HeadlessGrid::TypeCell(int row, int column, const std::string& text) {
     return true;
 }
 
+bool HeadlessGrid::Hover(int row, int column) {
+    GridRect rect;
+    if (!m_grid.CellRect(row, column, rect)) return false;
+    m_grid.OnMouseMove({(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2}, false);
+    return true;
+}
+
 void HeadlessGrid::GainFocus() {
     m_grid.OnGotFocus();
 }

@@ -48,6 +48,7 @@ class HeadlessGrid : public GridHost, public GridPeer {
     void HideTip() override { m_sTip.clear(); }
 
     bool TypeCell(int row, int column, const std::string& text) override;
+    bool Hover(int row, int column) override;
     void GainFocus() override;
     void LoseFocus() override;
     GridView View() const override;

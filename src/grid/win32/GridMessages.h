@@ -22,6 +22,7 @@ inline constexpr UINT kGridView = WM_USER + 6;
 // A GridView in a form that passes between two modules.
 struct GridViewRecord {
     int row, column, top, left, bottom, right, selected;
+    int tipRow, tipColumn;
     int start, end;
     bool editing, outgrewCell;
     char text[256];  // what does not fit is cut off

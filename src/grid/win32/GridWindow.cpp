@@ -18,8 +18,9 @@ constexpr UINT kDragTimerMilliseconds = 100;
 
 void FillRecord(const CGridCtrl& grid, GridViewRecord& record) {
     const GridView view = ViewOf(grid);
-    record = {view.row,      view.column, view.top, view.left,    view.bottom,      view.right,
-              view.selected, view.start,  view.end, view.editing, view.outgrewCell, {}};
+    record = {view.row,         view.column, view.top,       view.left,  view.bottom, view.right,
+              view.selected,    view.tipRow, view.tipColumn, view.start, view.end,    view.editing,
+              view.outgrewCell, {}};
     view.text.copy(record.text, sizeof record.text - 1);
 }
 
@@ -200,6 +201,10 @@ bool GridWindow::OnMouse(UINT message, WPARAM wParam, LPARAM lParam) {
             m_grid.OnDoubleClick(point);
             return true;
         case WM_MOUSEMOVE:
+            // The platform repeats the last place when a window over it goes: a tip that a key took away
+            // would come back at once.
+            if (point.x == m_LastMove.x && point.y == m_LastMove.y) return true;
+            m_LastMove = point;
             m_grid.OnMouseMove(point, (wParam & MK_LBUTTON) != 0);
             return true;
         default:

@@ -58,4 +58,5 @@ class GridWindow : public GridHost {
     bool m_bForced[2] = {false, false};  // horizontal, vertical
     std::vector<std::unique_ptr<EditorWindow32>> m_editors;
     TipWindow m_tip;
+    GridPoint m_LastMove{-1, -1};
 };
