@@ -27,6 +27,14 @@ void* operator new(std::size_t bytes) {
 void* operator new[](std::size_t bytes) {
     return Allocate(bytes);
 }
+// The form without exceptions, which the library's sorts use, fails by the same count.
+void* operator new(std::size_t bytes, const std::nothrow_t&) noexcept {
+    try {
+        return Allocate(bytes);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
 void operator delete(void* memory) noexcept {
     std::free(memory);
 }
