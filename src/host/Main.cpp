@@ -26,6 +26,7 @@ struct HostOptions {
     std::string project, script, version, clock;
     std::string format = "text";
     int fontSize = 0;
+    bool waits = false;
 };
 
 using ModuleExport = unsigned(WINAPI*)(int, const char*, const char*, const char*, const char*, const char*);
@@ -101,6 +102,7 @@ std::string ReadScript(const std::string& path) {
 
 HostExit Drive(const HostOptions& options, ModuleExport launch) {
     Driver() = std::make_unique<WindowDriver>(ParseScript(ReadScript(options.script)), std::cout);
+    if (options.waits) Driver()->TellWaits();
     // The mouse of the machine stays out of the dialogs.
     SetCursorPos(0, 0);
     const UINT_PTR timer = SetTimer(nullptr, 0, kTickMilliseconds, OnTimer);
@@ -147,6 +149,7 @@ int main(int argc, char** argv) {
     program.add_option("SCRIPT", options.script, "File of actions for the dialogs, one a line");
     program.add_option("--format", options.format, "Format to start on: text, pdf, excel, or a number");
     program.add_option("--version-text", options.version, "The host's version");
+    program.add_flag("--waits", options.waits, "Tell the longest wait behind each action");
     program.add_option("--font-size", options.fontSize, "Font size of the text viewer in points");
     program.add_option("--clock", options.clock, "Date and time to print, YYYY-MM-DDTHH:MM:SS");
     try {

@@ -1,6 +1,7 @@
 #include "host/WindowDriver.h"
 
 #include <algorithm>
+#include <iostream>
 #include <utility>
 
 #include "framework/Dialog.h"
@@ -27,7 +28,23 @@ bool UsesKeyboard(ScriptVerb verb) {
 WindowDriver::WindowDriver(std::vector<ScriptAction> actions, std::ostream& out)
     : m_actions(std::move(actions)), m_lines(out), m_records(m_lines) {}
 
+// A tick comes when the loop has nothing else to do, so a late one tells how long messages and painting took.
+void WindowDriver::NoteTime() {
+    const auto now = std::chrono::steady_clock::now();
+    if (m_LastTick.time_since_epoch().count() != 0) m_LongestWait = std::max(m_LongestWait, now - m_LastTick);
+    m_LastTick = now;
+}
+
+void WindowDriver::TellWait(int line) {
+    if (m_bTellWaits) {
+        const auto wait = std::chrono::duration_cast<std::chrono::milliseconds>(m_LongestWait);
+        std::cerr << "before line " << line << ": " << wait.count() << " ms" << std::endl;
+    }
+    m_LongestWait = {};
+}
+
 void WindowDriver::Tick() {
+    NoteTime();
     if (m_nSettle > 0) {
         --m_nSettle;
         return;
@@ -71,6 +88,7 @@ void WindowDriver::PlayNext(HWND dialog) {
     }
     // The action is over before it is played: it may open a window, whose loop ticks on.
     const ScriptAction& action = m_actions[m_nNext++];
+    TellWait(action.line);
     if (!Perform(action, dialog)) {
         m_lines.Refused(RefusedName(action));
     } else if (UsesKeyboard(action.verb)) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <ostream>
 #include <vector>
 
@@ -16,6 +17,8 @@ class WindowDriver {
     WindowDriver(std::vector<ScriptAction> actions, std::ostream& out);
 
     void Tick();
+    // Tells on standard error the longest time that the dialogs kept the user waiting behind each action.
+    void TellWaits() { m_bTellWaits = true; }
 
     // Prints what the call left behind and its result.
     void EndCall(unsigned result);
@@ -25,6 +28,8 @@ class WindowDriver {
     const ScriptAction* FirstLeftOver() const;
 
   private:
+    void NoteTime();
+    void TellWait(int line);
     void AnswerBox(HWND box);
     void NoteDialog(HWND dialog);
     void PlayNext(HWND dialog);
@@ -42,4 +47,7 @@ class WindowDriver {
     int m_nSettle = 0;           // ticks to let pass: keys of the keyboard are on their way
     int m_nAnsweredTicks = 0;    // how long the answered box has stayed
     bool m_bAnswerYes = true;
+    bool m_bTellWaits = false;
+    std::chrono::steady_clock::time_point m_LastTick{};
+    std::chrono::steady_clock::duration m_LongestWait{};
 };
