@@ -73,6 +73,14 @@ TEST_F(DriveTest, ADisabledOrHiddenControlRefuses) {
                                               "refused cell 1 1", "refused 1004"));
 }
 
+TEST_F(DriveTest, CharactersBehindOneThatBringsAMessageAreLost) {
+    Drive(folder.Write("pier") + ".in", "click 1022\nfocus 1025\ntype 992\nwhere\n");
+    // 9 is a case, 99 is none; the 2 goes to the message box.
+    ASSERT_GE(lines.size(), 4U);
+    EXPECT_THAT(lines[2], HasSubstr("Invalid load case."));
+    EXPECT_EQ(lines[3], "{\"focus\":1025,\"text\":\"9\",\"selection\":[0,0]}");
+}
+
 TEST_F(DriveTest, EscGivesZeroAndCloseOne) {
     const std::string project = folder.Write("pier") + ".in";
     Drive(project, "key Esc\n");
