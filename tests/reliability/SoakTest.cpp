@@ -28,6 +28,15 @@ std::size_t OpenFiles() {
     return static_cast<std::size_t>(std::distance(begin(files), end(files)));
 }
 
+// Files that were written and handed to a viewer, by the lines of the round.
+std::size_t OpenedFiles(const std::string& lines) {
+    std::size_t count = 0;
+    for (std::size_t at = lines.find("{\"open\""); at != std::string::npos;
+         at = lines.find("{\"open\"", at + 1))
+        ++count;
+    return count;
+}
+
 std::size_t MemoryInUse() {
     const struct mallinfo2 info = mallinfo2();
     return info.uordblks + info.hblkhd;
@@ -43,14 +52,16 @@ TEST(Soak, MemoryAndOpenFilesDoNotGrow) {
     options.common.version = "5.2.1";
     // What the first rounds take once stays: buffers of streams, the session's texts.
     constexpr int kWarm = 5;
-    std::size_t memory = 0, files = 0, refused = 0;
+    std::size_t memory = 0, files = 0;
     for (int round = 0; round < rounds; ++round) {
         {
             std::ostringstream out, err;
             options.format = round % 3;
             ASSERT_EQ(DriveScript(options, kEveryButton, out, err), kExitDone) << err.str();
             const std::string lines = out.str();
-            refused = lines.find("refused") == std::string::npos ? refused : refused + 1;
+            // Eleven files in the spreadsheet format, three PDF documents, four texts: a round that is not
+            // played whole would prove nothing.
+            ASSERT_GE(OpenedFiles(lines), 18U);
             ASSERT_EQ(lines.find("operation failed"), std::string::npos);
         }
         if (round == kWarm) {
@@ -58,7 +69,6 @@ TEST(Soak, MemoryAndOpenFilesDoNotGrow) {
             files = OpenFiles();
         }
     }
-    RecordProperty("refused", static_cast<int>(refused));
     EXPECT_EQ(OpenFiles(), files);
     // Under the sanitizers their own leak check judges; elsewhere 64 KB in all are allowed for caches.
     if (!kSanitized) {
