@@ -34,12 +34,15 @@ trap sweep EXIT
 
 run() {
     local target=$1 seconds=$2 faults=build/fuzz-faults/$1
+    # No seconds: what is known is replayed, nothing new is looked for.
+    local limit=(-max_total_time="$seconds" -seed="${LUMERIN_FUZZ_SEED:-0}")
+    (( seconds > 0 )) || limit=(-runs=0)
     mkdir -p "$corpus/$target" "$faults" "$kept/$target"
     echo "-- $target, $seconds s"
     # Small inputs first; the largest is a whole project.
     local log=$faults/log
-    if ! "$build/fuzz-$target" -timeout=20 -rss_limit_mb=2048 -max_len=50000 -max_total_time="$seconds" \
-        -print_final_stats=1 -seed="${LUMERIN_FUZZ_SEED:-0}" -artifact_prefix="$faults/" "$corpus/$target" "$kept/$target" >"$log" 2>&1; then
+    if ! "$build/fuzz-$target" -timeout=20 -rss_limit_mb=2048 -max_len=50000 "${limit[@]}" \
+        -print_final_stats=1 -artifact_prefix="$faults/" "$corpus/$target" "$kept/$target" >"$log" 2>&1; then
         grep -vE '^#[0-9]+[[:space:]]+(NEW|REDUCE|pulse)|NEW_FUNC' "$log" | tail -60 >&2
         return 1
     fi
