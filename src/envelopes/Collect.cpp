@@ -24,9 +24,7 @@ void CheckAllPiers(TableId table, bool (CPier::*check)() const) {
 // type 8 and not at type 7.
 bool LacksColumnData() {
     if (g_DataSet.IsPierless()) return false;
-    const int type = g_DataSet.FirstPier().m_nStructureType;
-    return type == kTypePileGroup || type == kTypeSinglePile || type == kTypeOtherGroup ||
-           type == kTypeNoPileTables;
+    return HasNoFrame(g_DataSet.FirstPier().m_nStructureType);
 }
 
 void CollectColumns(TableId table, void (CPier::*search)(), bool (CPier::*check)() const) {

@@ -118,9 +118,7 @@ void Planner::PlanColumns() {
 std::vector<CForceRead> PlanForceReads(const CPier& pier, const CPierReadState& state, int firstType) {
     Planner planner(pier, state);
     planner.PlanPiles();
-    const bool noFrame = firstType == kTypePileGroup || firstType == kTypeSinglePile ||
-                         firstType == kTypeOtherGroup || firstType == kTypeNoPileTables;
-    if (!noFrame) {
+    if (!HasNoFrame(firstType)) {
         planner.PlanCap();
         planner.PlanColumns();
     }

@@ -182,8 +182,7 @@ void BuildElementMask(const CSeqFile& file, CPier& pier, CPierReadState& state, 
         gaps += static_cast<long long>(state.elementTable[i + 1].number) - state.elementTable[i].number - 1;
     }
     g_DataSet.m_nElementGaps = static_cast<int>(std::clamp(gaps, -1LL << 30, 1LL << 30));
-    if (firstType == kTypePileGroup || firstType == kTypeSinglePile || firstType == kTypeOtherGroup ||
-        firstType == kTypeNoPileTables) {
+    if (HasNoFrame(firstType)) {
         return;
     }
     const long long size = g_DataSet.m_nElements + gaps;

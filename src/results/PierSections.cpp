@@ -103,8 +103,7 @@ class BlockReader {
 
 void CReadData::ReadPierSections(ifstreamex& file) {
     const int firstType = g_DataSet.FirstPier().m_nStructureType;
-    if (firstType == kTypePileGroup || firstType == kTypeSinglePile || firstType == kTypeOtherGroup ||
-        firstType == kTypeNoPileTables) {
+    if (HasNoFrame(firstType)) {
         return;
     }
     if (!FindSection(file, "PIERXSEC")) return;

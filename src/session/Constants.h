@@ -40,6 +40,12 @@ enum StructureType {
     kTypeNoPileTables = 8,
 };
 
+// Pile groups, single piles and the like: no columns and no cap, so nothing of a frame is read or searched.
+constexpr bool HasNoFrame(int structureType) {
+    return structureType == kTypePileGroup || structureType == kTypeSinglePile ||
+           structureType == kTypeOtherGroup || structureType == kTypeNoPileTables;
+}
+
 // Design families of the load combinations.
 enum CodeFamily { kFamilyNone = -1, kFamilyLrfd = 0, kFamilyLfd = 1, kFamilyArema = 2 };
 
