@@ -23,7 +23,7 @@ std::vector<Entry> ReadEntries(CSeqFile& file, int count) {
 
 // The node numbers of a row's records, one less than its entries.
 std::vector<int> ReadNodes(CSeqFile& file, int entries) {
-    std::vector<std::array<int, 3>> records(static_cast<std::size_t>(std::max(entries - 1, 0)));
+    std::vector<std::array<int, 3>> records(static_cast<std::size_t>(std::max(entries, 1) - 1));
     file.ReadRecord(records.data(), static_cast<unsigned>(records.size() * sizeof(records[0])),
                     "bearing nodes");
     std::vector<int> nodes;

@@ -209,7 +209,7 @@ void ReadPileSections(CSeqFile& file, const PileModelCounts& counts, CPierReadSt
     std::array<int, 2> pair{};
     for (int i = 0; i < data.m_nPilTableSize; ++i) file.ReadRecord(pair.data(), 8, "table entry");
     for (const int rows : {counts.rowsA, counts.rowsB}) {
-        std::vector<int> spacing(static_cast<std::size_t>(std::max(rows - 1, 0)));
+        std::vector<int> spacing(static_cast<std::size_t>(std::max(rows, 1) - 1));
         file.ReadRecord(spacing.data(), static_cast<unsigned>(spacing.size() * 4), "pile row spacing");
     }
     state.pileSections.assign(static_cast<std::size_t>(data.m_nPiles), {});

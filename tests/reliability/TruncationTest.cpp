@@ -108,7 +108,7 @@ TEST_P(Truncation, AMissingFileLoadsOrIsNamed) {
 
 TEST_P(Truncation, ACountOfAnySizeLoadsOrIsNamed) {
     const BrokenProject project(GetParam());
-    constexpr std::int32_t kCounts[] = {-1, 0, 1, 2, 1000, 1 << 20, 0x7FFFFFFF};
+    constexpr std::int32_t kCounts[] = {INT32_MIN, -1, 0, 1, 2, 1000, 1 << 20, INT32_MAX};
     InLittleMemory(project.TotalBytes(), [&] {
         std::size_t turn = 0;
         for (const ProjectBytes& file : project.Files()) {
