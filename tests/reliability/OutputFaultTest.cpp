@@ -13,6 +13,7 @@
 #include "batch/DriveCommand.h"
 #include "batch/EmbedmentCommand.h"
 #include "reliability/BrokenProject.h"
+#include "reliability/FaultyCalls.h"
 
 // Files that can't be written: the program names each and ends with a status other than zero.
 
@@ -114,6 +115,33 @@ TEST(OutputFault, ADiskThatFillsAtAnyPlaceIsNamed) {
             });
             clean = fs::remove(project.Base() + ".clean");
         }
+    }
+}
+
+// One write after the other stores half of its bytes only, and those behind it succeed again: whatever file
+// that is, it is named.
+TEST(OutputFault, AnySingleWriteMayFail) {
+    const BrokenProject project("pier", 300);
+    for (const int format : {kFormatText, kFormatPdf, kFormatSpreadsheet}) {
+        std::vector<std::string> tables;
+        for (const std::string& table : kAllTables) {
+            if (Report(project.Base(), {table}, {format}).status == kExitDone) tables.push_back(table);
+        }
+        long writes = 0;
+        for (;; ++writes) {
+            faulty::g_writesLeft = writes;
+            const Answer answer = Report(project.Base(), tables, {format});
+            const bool failed = faulty::g_writesLeft < 0;
+            faulty::g_writesLeft = -1;
+            if (!failed) break;
+            ASSERT_EQ(answer.status, kExitIncomplete) << "write " << writes;
+            ASSERT_EQ(answer.said.size(), 1U) << testing::PrintToString(answer.said);
+            ASSERT_THAT(answer.said[0], HasSubstr(project.Base() + "_"));
+            // The other tables are there.
+            ASSERT_EQ(std::count(answer.out.begin(), answer.out.end(), '\n'), std::ssize(tables) - 1);
+        }
+        EXPECT_GE(writes, std::ssize(tables));
+        RecordProperty("writes" + std::to_string(format), static_cast<int>(writes));
     }
 }
 
