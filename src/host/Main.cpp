@@ -8,9 +8,11 @@
 #include <iostream>
 #include <iterator>
 #include <memory>
+#include <sstream>
 #include <stdexcept>
 
 #include "host/HostWindows.h"
+#include "host/Resources.h"
 #include "host/WindowDriver.h"
 
 // Stands in for the host program: it loads the module that lies beside it, calls the export, and can play a
@@ -26,7 +28,9 @@ struct HostOptions {
     std::string project, script, version, clock;
     std::string format = "text";
     int fontSize = 0;
+    int rounds = 0;
     bool waits = false;
+    bool leaks = false;
 };
 
 using ModuleExport = unsigned(WINAPI*)(int, const char*, const char*, const char*, const char*, const char*);
@@ -100,8 +104,9 @@ std::string ReadScript(const std::string& path) {
     return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
-HostExit Drive(const HostOptions& options, ModuleExport launch) {
-    Driver() = std::make_unique<WindowDriver>(ParseScript(ReadScript(options.script)), std::cout);
+// The line of the script that found no open dialog any more; 0 when all were played.
+int PlayScript(const HostOptions& options, ModuleExport launch, std::ostream& out) {
+    Driver() = std::make_unique<WindowDriver>(ParseScript(ReadScript(options.script)), out);
     if (options.waits) Driver()->TellWaits();
     // The mouse of the machine stays out of the dialogs.
     SetCursorPos(0, 0);
@@ -116,11 +121,55 @@ HostExit Drive(const HostOptions& options, ModuleExport launch) {
         if (more && !again->text.empty()) project = FolderOf(project) + again->text;
     }
     KillTimer(nullptr, timer);
-    if (const ScriptAction* left = Driver()->FirstLeftOver()) {
-        std::cerr << "Tarnsway: script line " << left->line << ": the last dialog is closed" << std::endl;
-    }
+    const ScriptAction* left = Driver()->FirstLeftOver();
+    const int line = left == nullptr ? 0 : left->line;
     Driver().reset();
+    return line;
+}
+
+HostExit Drive(const HostOptions& options, ModuleExport launch) {
+    const int left = PlayScript(options, launch, std::cout);
+    if (left != 0)
+        std::cerr << "Tarnsway: script line " << left << ": the last dialog is closed" << std::endl;
     std::cout.flush();
+    return kDone;
+}
+
+// The first line in which two rounds differ, as each has it.
+std::string Difference(const std::string& first, const std::string& round) {
+    std::istringstream firstLines(first), roundLines(round);
+    std::string wanted, got;
+    do {
+        wanted = got = "nothing";
+        std::getline(firstLines, wanted);
+        std::getline(roundLines, got);
+    } while (wanted == got && (firstLines || roundLines));
+    return got + " in the place of " + wanted;
+}
+
+// Many plays in one process, each of which tells what the process holds behind it. What the dialogs said is
+// the same in every round, or something was not played.
+HostExit DriveRounds(const HostOptions& options, ModuleExport launch) {
+    std::string first;
+    for (int round = 1; round <= options.rounds; ++round) {
+        {
+            std::ostringstream lines;
+            const int left = PlayScript(options, launch, lines);
+            if (left != 0) {
+                std::cerr << "Tarnsway: round " << round << ", script line " << left
+                          << ": the last dialog is closed" << std::endl;
+                return kBroken;
+            }
+            if (round == 1) first = lines.str();
+            if (lines.str() != first) {
+                std::cerr << "Tarnsway: round " << round << ": " << Difference(first, lines.str())
+                          << std::endl;
+                return kBroken;
+            }
+        }
+        if (options.leaks) LeakOneOfEach();
+        PrintRound(std::cout, round, CountResources());
+    }
     return kDone;
 }
 
@@ -128,6 +177,7 @@ HostExit Run(const HostOptions& options) {
     if (!options.clock.empty()) _putenv_s("LUMERIN_CLOCK", options.clock.c_str());
     const ViewerFont font(options.fontSize);
     const ModuleExport launch = LoadModule();
+    if (!options.script.empty() && options.rounds > 0) return DriveRounds(options, launch);
     if (!options.script.empty()) return Drive(options, launch);
     const std::string project = FullPath(options.project);
     const unsigned result =
@@ -146,10 +196,17 @@ int main(int argc, char** argv) {
     CLI::App program("Stand-in for the host program of Lumerin.dll");
     program.add_option("PROJECT", options.project, "Input file of a project (.in), or \"\" for none")
         ->required();
-    program.add_option("SCRIPT", options.script, "File of actions for the dialogs, one a line");
+    CLI::Option* script =
+        program.add_option("SCRIPT", options.script, "File of actions for the dialogs, one a line");
     program.add_option("--format", options.format, "Format to start on: text, pdf, excel, or a number");
     program.add_option("--version-text", options.version, "The host's version");
     program.add_flag("--waits", options.waits, "Tell the longest wait behind each action");
+    program
+        .add_option("--rounds", options.rounds,
+                    "Play the script so many times and tell what this process holds behind each")
+        ->check(CLI::PositiveNumber)
+        ->needs(script);
+    program.add_flag("--leak", options.leaks, "Leak one of each with every round, to try the counts");
     program.add_option("--font-size", options.fontSize, "Font size of the text viewer in points");
     program.add_option("--clock", options.clock, "Date and time to print, YYYY-MM-DDTHH:MM:SS");
     try {

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <cstddef>
+#include <ostream>
+
+// What this process holds of the machine, the loaded modules' share included. What is never given back shows
+// as counts that grow from round to round.
+struct Resources {
+    unsigned gdi = 0;        // pens, brushes, fonts, bitmaps, device contexts
+    unsigned user = 0;       // windows, menus, icons, accelerator tables
+    unsigned handles = 0;    // of the kernel: files, registry keys, events, processes
+    unsigned files = 0;      // those of them that are files or folders on a disk
+    std::size_t heap = 0;    // bytes that are allocated and not freed, in all heaps
+    std::size_t memory = 0;  // bytes that are this process's own
+};
+
+Resources CountResources();
+
+// A line of JSON for a round that was played.
+void PrintRound(std::ostream& out, int round, const Resources& resources);
+
+// Takes one of each and never gives it back: what the counts must show.
+void LeakOneOfEach();
