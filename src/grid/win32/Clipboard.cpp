@@ -1,11 +1,11 @@
 // The clipboard as OLE has it: a data object that offers one text.
 #include "framework/win32/Windows32.h"
-// OLE and the shell want windows.h before them.
+// OLE wants windows.h before it.
 #include <ole2.h>
-#include <shlobj.h>
 
 #include <cstring>
 #include <memory>
+#include <new>
 #include <string>
 
 #include "grid/win32/GridWindow.h"
@@ -34,6 +34,65 @@ HGLOBAL GlobalText(const std::string& text) {
 // The platform's interfaces have no virtual destructor: objects go by Release alone.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+
+// The list of the one format. The shell has such a list to give away, but Wine's never goes: it starts with a
+// reference too many.
+class FormatList final : public IEnumFORMATETC {
+  public:
+    explicit FormatList(bool passed) : m_bPassed(passed) {}
+
+    // Nothing may unwind the platform's frames.
+    static HRESULT Give(bool passed, IEnumFORMATETC** list) {
+        if (list == nullptr) return E_POINTER;
+        *list = nullptr;
+        try {
+            *list = std::make_unique<FormatList>(passed).release();
+        } catch (const std::bad_alloc&) {
+            return E_OUTOFMEMORY;
+        }
+        return S_OK;
+    }
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+        if (object == nullptr) return E_POINTER;
+        *object = nullptr;
+        if (IsEqualIID(id, IID_IUnknown) == FALSE && IsEqualIID(id, IID_IEnumFORMATETC) == FALSE) {
+            return E_NOINTERFACE;
+        }
+        *object = static_cast<IEnumFORMATETC*>(this);
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG left = --m_references;
+        if (left == 0) std::unique_ptr<FormatList>(this).reset();
+        return left;
+    }
+
+    HRESULT STDMETHODCALLTYPE Next(ULONG wanted, FORMATETC* formats, ULONG* given) override {
+        if (formats == nullptr || (given == nullptr && wanted != 1)) return E_POINTER;
+        const ULONG count = m_bPassed || wanted == 0 ? 0 : 1;
+        if (count == 1) *formats = PlainText();
+        m_bPassed = m_bPassed || count == 1;
+        if (given != nullptr) *given = count;
+        return count == wanted ? S_OK : S_FALSE;
+    }
+    HRESULT STDMETHODCALLTYPE Skip(ULONG count) override {
+        const bool within = count == 0 || (count == 1 && !m_bPassed);
+        m_bPassed = m_bPassed || count > 0;
+        return within ? S_OK : S_FALSE;
+    }
+    HRESULT STDMETHODCALLTYPE Reset() override {
+        m_bPassed = false;
+        return S_OK;
+    }
+    HRESULT STDMETHODCALLTYPE Clone(IEnumFORMATETC** list) override { return Give(m_bPassed, list); }
+
+  private:
+    bool m_bPassed;
+    ULONG m_references = 1;
+};
 
 // Counts its own references, as OLE demands, and goes with the last one.
 class TextObject final : public IDataObject {
@@ -70,8 +129,7 @@ class TextObject final : public IDataObject {
     }
     HRESULT STDMETHODCALLTYPE EnumFormatEtc(DWORD direction, IEnumFORMATETC** formats) override {
         if (direction != DATADIR_GET) return E_NOTIMPL;
-        FORMATETC format = PlainText();
-        return SHCreateStdEnumFmtEtc(1, &format, formats);
+        return FormatList::Give(false, formats);
     }
     HRESULT STDMETHODCALLTYPE GetDataHere(FORMATETC*, STGMEDIUM*) override { return DV_E_FORMATETC; }
     HRESULT STDMETHODCALLTYPE GetCanonicalFormatEtc(FORMATETC*, FORMATETC* out) override {
