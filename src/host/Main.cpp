@@ -160,7 +160,7 @@ HostExit DriveRounds(const HostOptions& options, ModuleExport launch) {
                           << ": the last dialog is closed" << std::endl;
                 return kBroken;
             }
-            if (round == 1) first = lines.str();
+            if (round == 1) std::cout << (first = lines.str());
             if (lines.str() != first) {
                 std::cerr << "Tarnsway: round " << round << ": " << Difference(first, lines.str())
                           << std::endl;
