@@ -175,6 +175,26 @@ TEST_F(DialogTest, F1NamesTheControl) {
     EXPECT_EQ(dialog.helped, 16);
 }
 
+TEST_F(DialogTest, F1GoesOnToTheDialogBelowWhereThisOneHasNoAnswer) {
+    TestDialog outer, inner;
+    inner.answersHelp = false;
+    outer.onCommand = [&](int id, Notice) {
+        if (id == 15) inner.DoModal();
+    };
+    Run(outer, [&](HeadlessDialog& front) {
+        if (&front.Dialog() == &inner) {
+            EXPECT_TRUE(front.PressHelp(16));
+        } else {
+            front.Click(15);
+            EXPECT_EQ(outer.helped, 16);
+            // Behind the inner dialog the outer one is alone again.
+            front.PressHelp(15);
+        }
+    });
+    EXPECT_EQ(inner.helped, 16);
+    EXPECT_EQ(outer.helped, 15);
+}
+
 TEST_F(DialogTest, ADialogOpenedByAPressIsDrivenInsideThePress) {
     TestDialog outer, inner;
     std::vector<std::string> order;

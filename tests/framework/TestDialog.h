@@ -38,7 +38,7 @@ class TestDialog : public CDialog {
     }
     bool OnHelpInfo(int id) override {
         helped = id;
-        return true;
+        return answersHelp;
     }
     void DoDataExchange(CDataExchange& exchange) override {
         DDX_Radio(exchange, 11, radio);
@@ -52,6 +52,7 @@ class TestDialog : public CDialog {
     std::function<void(int, Notice)> onCommand;
     std::vector<std::pair<int, Notice>> notices;
     int helped = 0;
+    bool answersHelp = true;
     int radio = 0, check = 1, number = 7;
     CSpinButtonCtrl spin;
     CComboBox combo;

@@ -51,23 +51,44 @@ void Unbind(NativeWindow& window) {
     window.dialog->m_hWnd = nullptr;
 }
 
+// The dialog that the next one belongs to.
+NativeWindow*& Front() {
+    static NativeWindow* front = nullptr;
+    return front;
+}
+
+class InFront {
+  public:
+    explicit InFront(NativeWindow& window) : m_window(window) {
+        window.owner = Front();
+        Front() = &window;
+    }
+    InFront(const InFront&) = delete;
+    InFront& operator=(const InFront&) = delete;
+    ~InFront() { Front() = m_window.owner; }
+
+  private:
+    NativeWindow& m_window;
+};
+
 }  // namespace
 
 namespace backend {
 
 int RunDialog(CDialog& dialog) {
     NativeWindow window;
+    const InFront front(window);
     window.dialog = &dialog;
     MakeControls(window, dialog.Spec());
     dialog.m_hWnd = &window;
     RunGuarded(dialog, [&dialog] { dialog.OnInitDialog(); });
     FocusFirst(window);
-    headless::HeadlessDialog front(window);
+    headless::HeadlessDialog opened(window);
     if (!window.ended) {
-        if (headless::Sink* sink = headless::State().sink) sink->OnDialogOpened(front);
-        if (const headless::ModalDriver driver = headless::State().driver) driver(front);
+        if (headless::Sink* sink = headless::State().sink) sink->OnDialogOpened(opened);
+        if (const headless::ModalDriver driver = headless::State().driver) driver(opened);
     }
-    front.Close();
+    opened.Close();
     Unbind(window);
     return window.result;
 }
@@ -226,7 +247,12 @@ bool HeadlessDialog::PressReturn() {
 
 bool HeadlessDialog::PressHelp(int id) {
     if (!IsOpen() || Find(id) == nullptr) return false;
-    Run([this, id] { Dialog().OnHelpInfo(id); });
+    // As Windows does it, a dialog that has no answer leaves the key to the one that opened it.
+    bool handled = false;
+    for (NativeWindow* window = &m_window; window != nullptr && !handled; window = window->owner) {
+        CDialog& dialog = *window->dialog;
+        RunGuarded(dialog, [&] { handled = dialog.OnHelpInfo(id); });
+    }
     return true;
 }
 

@@ -30,6 +30,7 @@ struct NativeWindow {
     int selectionStart = 0, selectionEnd = 0;  // of an edit control
     // Of a dialog alone.
     CDialog* dialog = nullptr;
+    NativeWindow* owner = nullptr;                        // the dialog that opened this one
     std::vector<std::unique_ptr<NativeWindow>> controls;  // in resource order
     NativeWindow* focus = nullptr;
     bool ended = false;
