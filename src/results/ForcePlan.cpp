@@ -48,7 +48,7 @@ class Planner {
         const int last = static_cast<int>(m_missingBelow.size()) - 1;
         return number - m_missingBelow[static_cast<std::size_t>(std::clamp(number, 0, last))];
     }
-    static int LastColumnSection() { return std::max(g_DataSet.m_nColumnSections - 1, 0) + 2; }
+    static int LastColumnSection() { return std::max(g_DataSet.m_nColumnSections, 1) + 1; }
     // The element number at which column m begins; -1 when no row does.
     int FirstNumberOfColumn(int m) const;
 
@@ -59,10 +59,9 @@ class Planner {
 };
 
 void Planner::PlanCap() {
-    const long long span = static_cast<long long>(m_pier.m_nSpanNodes + 1) * (m_pier.m_nColumns - 1);
+    const long long span = (m_pier.m_nSpanNodes + 1LL) * (m_pier.m_nColumns - 1LL);
     const long long cantilever = m_pier.m_nCantileverNodes + 1LL;
-    const long long firstRecord =
-        static_cast<long long>(g_DataSet.m_nPileNodes - 1) * g_DataSet.m_nPilesFromNodes;
+    const long long firstRecord = (g_DataSet.m_nPileNodes - 1LL) * g_DataSet.m_nPilesFromNodes;
     const int rows = static_cast<int>(m_table.size()) - m_pier.m_nExtraMembers;
     const CFrame& frame = m_pier.m_Frame;
     long long position = 0;  // along the cap
