@@ -41,7 +41,7 @@ run() {
     echo "-- $target, $seconds s"
     # Small inputs first; the largest is a whole project.
     local log=$faults/log
-    if ! "$build/fuzz-$target" -timeout=20 -rss_limit_mb=2048 -max_len=50000 "${limit[@]}" \
+    if ! "$build/fuzz-$target" -timeout=60 -rss_limit_mb=2048 -max_len=50000 "${limit[@]}" \
         -print_final_stats=1 -artifact_prefix="$faults/" "$corpus/$target" "$kept/$target" >"$log" 2>&1; then
         grep -vE '^#[0-9]+[[:space:]]+(NEW|REDUCE|pulse)|NEW_FUNC' "$log" | tail -60 >&2
         return 1
