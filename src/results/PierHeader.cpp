@@ -150,7 +150,6 @@ int SplitNodes(CPier& pier) {
 }
 
 void ReadNodes(CSeqFile& file, CPier& pier, int skipped) {
-    file.CheckCount(pier.m_nNodes, kNodeBytes, "nodes");
     pier.m_dNodes.clear();
     pier.m_dNodes.reserve(static_cast<std::size_t>(pier.m_nNodes - std::clamp(skipped, 0, pier.m_nNodes)));
     std::array<double, 3> node{};
@@ -267,6 +266,7 @@ bool CCollectData::ReadPierHeader(int k, CPierReadState& state) {
     PileModelCounts counts;
     if (!TakePileModelCounts(modelFile, counts) || !ReadConvergence()) return false;
     data.m_nStructureType = StructureTypeOf(pileFile, fileType, counts);
+    pileFile.CheckCount(pier.m_nNodes, kNodeBytes, "nodes");
     ReadNodes(pileFile, pier, SplitNodes(pier));
     ReadElementTable(pileFile, state.elementTable);
     BuildElementMask(pileFile, pier, state,
