@@ -35,9 +35,36 @@ HGLOBAL GlobalText(const std::string& text) {
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
+// An object that counts its own references, as OLE demands, and goes with the last one.
+template <class Interface, const IID& interfaceId>
+class Counted : public Interface {
+  public:
+    virtual ~Counted() = default;
+
+    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
+        if (object == nullptr) return E_POINTER;
+        *object = nullptr;
+        if (IsEqualIID(id, IID_IUnknown) == FALSE && IsEqualIID(id, interfaceId) == FALSE) {
+            return E_NOINTERFACE;
+        }
+        *object = static_cast<Interface*>(this);
+        AddRef();
+        return S_OK;
+    }
+    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
+    ULONG STDMETHODCALLTYPE Release() override {
+        const ULONG left = --m_references;
+        if (left == 0) std::unique_ptr<Counted>(this).reset();
+        return left;
+    }
+
+  private:
+    ULONG m_references = 1;
+};
+
 // The list of the one format. The shell has such a list to give away, but Wine's never goes: it starts with a
 // reference too many.
-class FormatList final : public IEnumFORMATETC {
+class FormatList final : public Counted<IEnumFORMATETC, IID_IEnumFORMATETC> {
   public:
     explicit FormatList(bool passed) : m_bPassed(passed) {}
 
@@ -51,23 +78,6 @@ class FormatList final : public IEnumFORMATETC {
             return E_OUTOFMEMORY;
         }
         return S_OK;
-    }
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-        if (object == nullptr) return E_POINTER;
-        *object = nullptr;
-        if (IsEqualIID(id, IID_IUnknown) == FALSE && IsEqualIID(id, IID_IEnumFORMATETC) == FALSE) {
-            return E_NOINTERFACE;
-        }
-        *object = static_cast<IEnumFORMATETC*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --m_references;
-        if (left == 0) std::unique_ptr<FormatList>(this).reset();
-        return left;
     }
 
     HRESULT STDMETHODCALLTYPE Next(ULONG wanted, FORMATETC* formats, ULONG* given) override {
@@ -91,30 +101,11 @@ class FormatList final : public IEnumFORMATETC {
 
   private:
     bool m_bPassed;
-    ULONG m_references = 1;
 };
 
-// Counts its own references, as OLE demands, and goes with the last one.
-class TextObject final : public IDataObject {
+class TextObject final : public Counted<IDataObject, IID_IDataObject> {
   public:
     explicit TextObject(std::string text) : m_text(std::move(text)) {}
-
-    HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-        if (object == nullptr) return E_POINTER;
-        *object = nullptr;
-        if (IsEqualIID(id, IID_IUnknown) == FALSE && IsEqualIID(id, IID_IDataObject) == FALSE) {
-            return E_NOINTERFACE;
-        }
-        *object = static_cast<IDataObject*>(this);
-        AddRef();
-        return S_OK;
-    }
-    ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
-    ULONG STDMETHODCALLTYPE Release() override {
-        const ULONG left = --m_references;
-        if (left == 0) std::unique_ptr<TextObject>(this).reset();
-        return left;
-    }
 
     HRESULT STDMETHODCALLTYPE GetData(FORMATETC* format, STGMEDIUM* medium) override {
         if (format == nullptr || medium == nullptr) return E_POINTER;
@@ -145,7 +136,6 @@ class TextObject final : public IDataObject {
 
   private:
     std::string m_text;
-    ULONG m_references = 1;
 };
 
 #pragma GCC diagnostic pop
