@@ -155,6 +155,41 @@ TEST(Plot, ALineToAPointOutsideEndsAtTheFrame) {
     EXPECT_TRUE(Drawn(outside).discs.empty());
 }
 
+// The frame of this drawing goes from 29 down to 218: 2.9 heights of the text below the top, 4.2 above the
+// bottom.
+TEST(Plot, ALineCrossesTheFrameWhereItsValuesDo) {
+    constexpr double kTop = 29.0, kMiddle = 123.5, kBottom = 218.0;
+    struct Crossing {
+        double outsideX, outsideY, insideX, insideY;  // values of the two points
+        double x, pixelY;                             // where the line between them meets the frame
+    };
+    const Crossing crossings[] = {
+        {10.0, 6.0, 20.0, 2.0, 15.0, kTop},      // 6 to 2 passes 4 half-way
+        {20.0, 6.0, 10.0, 2.0, 15.0, kTop},      //
+        {10.0, -2.0, 20.0, 2.0, 15.0, kBottom},  // -2 to 2 passes 0 half-way
+        {5.0, 1.0, 15.0, 3.0, 10.0, kMiddle},    // 5 to 15 passes 10 half-way, at a value of 2
+        {25.0, 1.0, 15.0, 3.0, 20.0, kMiddle},
+    };
+    for (const Crossing& c : crossings) {
+        for (const bool enters : {true, false}) {
+            CPlot plot = MakePlot(10.0, 20.0, 0.0, 4.0);
+            if (enters) AddPoint(plot, c.outsideX, c.outsideY);
+            AddPoint(plot, c.insideX, c.insideY);
+            if (!enters) AddPoint(plot, c.outsideX, c.outsideY);
+            const RecordingCanvas canvas = Drawn(plot);
+            ASSERT_EQ(canvas.discs.size(), 1u);
+            ASSERT_EQ(canvas.lines.size(), 1u);
+            ASSERT_EQ(canvas.lines[0].size(), 2u);
+            const PlotPoint& at = canvas.lines[0][enters ? 0 : 1];
+            const PlotPoint& inside = canvas.lines[0][enters ? 1 : 0];
+            EXPECT_NEAR(at.x, plot.PixelOf(c.x, canvas, kWidth, kHeight), 1e-9) << enters;
+            EXPECT_NEAR(at.y, c.pixelY, 1e-9) << enters;
+            EXPECT_EQ(inside.x, canvas.discs[0].x);
+            EXPECT_EQ(inside.y, canvas.discs[0].y);
+        }
+    }
+}
+
 TEST(Plot, APlaceAndItsXBelongTogether) {
     const CPlot plot = MakePlot(10.0, 20.0, 0.0, 4.0);
     const RecordingCanvas canvas;

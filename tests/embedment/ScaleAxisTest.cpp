@@ -29,6 +29,8 @@ TEST(ScaleAxis, EqualValuesAtZeroGoFromMinusOneToOne) {
 TEST(ScaleAxis, EqualValuesGetHalfAUnitOnEachSide) {
     // 2.5 to 3.5: 2 to 4, so 5 parts of 0.5 from 2.
     ExpectAxis(3.0, 3.0, 2.0, 4.5, 5, 4);
+    // 2 to 3: a length of exactly 1 is a power of ten, which no division is made for; 5 plain parts.
+    ExpectAxis(2.5, 2.5, 2.0, 3.0, 5, 4);
 }
 
 TEST(ScaleAxis, LongRangesStepByTheMantissaOfTheirLength) {

@@ -38,6 +38,18 @@ TEST_F(FileTest, IsFoundWhateverTheCaseOfItsName) {
     EXPECT_EQ(FindFileAnyCase(""), "");
 }
 
+TEST_F(FileTest, EveryLetterHasTwoCasesAndNoOtherCharacterHas) {
+    const std::string upper = Write("ABCDEFGHIJKLMNOPQRSTUVWXYZ.U", "x");
+    const std::string lower = Write("abcdefghijklmnopqrstuvwxyz.l", "x");
+    EXPECT_EQ(FindFileAnyCase(Path("abcdefghijklmnopqrstuvwxyz.u")), upper);
+    EXPECT_EQ(FindFileAnyCase(Path("ABCDEFGHIJKLMNOPQRSTUVWXYZ.L")), lower);
+    // The neighbours of the letters, 32 apart like the two cases of a letter.
+    Write("a@b", "x");
+    Write("a[b", "x");
+    EXPECT_EQ(FindFileAnyCase(Path("a`b")), "");
+    EXPECT_EQ(FindFileAnyCase(Path("a{b")), "");
+}
+
 TEST_F(FileTest, AnExactNameGoesBeforeOthersAndByteOrderDecidesAmongThem) {
     const std::string upper = Write("a.PLF", "upper");
     const std::string lower = Write("a.plf", "lower");

@@ -78,6 +78,22 @@ TEST_F(GridSelection, AClickSelectsAndADragExtends) {
     EXPECT_EQ(Focus(), (CCellID{1, 1}));
 }
 
+TEST_F(GridSelection, ADragOverAHeadingLeavesTheSelection) {
+    Build(5, 4);
+    m_grid.SetFixedRowCount(1);
+    m_grid.SetFixedColumnCount(1);
+    const auto four = ElementsAre(CCellID{2, 1}, CCellID{2, 2}, CCellID{3, 1}, CCellID{3, 2});
+    m_grid.OnLeftDown({75, 45}, {});
+    m_grid.OnMouseMove({125, 65}, true);
+    EXPECT_THAT(Cells(), four);
+    m_grid.OnMouseMove({125, 5}, true);  // the heading of column 2
+    EXPECT_THAT(Cells(), four);
+    m_grid.OnMouseMove({10, 65}, true);  // the heading of row 3
+    EXPECT_THAT(Cells(), four);
+    m_grid.OnMouseMove({75, 25}, true);  // the first row and column below the headings
+    EXPECT_THAT(Cells(), ElementsAre(CCellID{1, 1}, CCellID{2, 1}));
+}
+
 TEST_F(GridSelection, ControlAndAClickAdd) {
     Build(5, 4);
     m_grid.OnLeftDown({10, 10}, {});

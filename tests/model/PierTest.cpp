@@ -165,6 +165,14 @@ TEST(Sections, DataAndMaskBelongToTheFramesElements) {
     EXPECT_FALSE(pier.IsMasked(23));
     pier.SetMasked(10, false);
     EXPECT_FALSE(pier.IsMasked(10));
+    // The frame's first and last element, and their neighbours that are none of the frame's.
+    pier.SetMasked(6, true);
+    pier.SetMasked(22, true);
+    EXPECT_TRUE(pier.IsMasked(6));
+    EXPECT_FALSE(pier.IsMasked(5));
+    EXPECT_FALSE(pier.IsMasked(7));
+    EXPECT_TRUE(pier.IsMasked(22));
+    EXPECT_FALSE(pier.IsMasked(23));
 }
 
 TEST(RecordElements, AreFoundByFamily) {

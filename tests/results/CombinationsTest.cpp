@@ -77,6 +77,16 @@ TEST(Combinations, TheSecondOfTheSkippedLinesMayHoldTheFirstRow) {
     EXPECT_EQ(First().m_LoadCases[0].m_sLimitState, "EXTREME-I");
 }
 
+TEST(Combinations, TheFirstOfTheSkippedLinesIsNoRowWhateverItHolds) {
+    ResultProject project;
+    WithFamily(project, 0, 2, "");
+    project.WriteFile(".LIM", "x\nA= 1 F= 1\n112 9 1\nx\n106 4 1\n:\n");
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(First().m_LoadCases[0].m_sLimitState, "EXTREME-I");
+    EXPECT_EQ(First().m_LoadCases[0].m_nNumber, 4);
+    EXPECT_EQ(First().m_LoadCases[1].m_sLimitState, "none");
+}
+
 TEST(Combinations, MoreRowsThanCasesEndTheList) {
     ResultProject project;
     WithFamily(project, 0, 2, "101 1 1\n106 2 3\n112 9 1\n");

@@ -58,6 +58,22 @@ TEST(PierSections, OneLineMayServeAWholeMember) {
     EXPECT_EQ(Width(Frame().m_Cantilevers[1].m_nFirstElement + 1), 3.0);
 }
 
+TEST(PierSections, AFirstBlockWithoutFlagsHasOneLineForEachMember) {
+    ResultProject project;
+    ASSERT_TRUE(
+        LoadPier(project, "PIERXSEC\nP= 1 L= 0\nskipped\nN= 3\nno flags\nW= 1\nW= 2\nW= 3\nW= 4\nW= 5\n:\n"));
+    const CPier& pier = g_DataSet.FirstPier();
+    EXPECT_EQ(Width(pier.ColumnElement(0, 0)), 1.0);
+    EXPECT_EQ(Width(pier.ColumnElement(0, 1)), 1.0);
+    EXPECT_EQ(Width(Frame().m_Beam.m_nFirstElement), 2.0);
+    EXPECT_EQ(Width(Frame().m_Beam.m_nFirstElement + 1), 2.0);
+    // The same line serves both cantilevers.
+    for (const CCantilever& cantilever : Frame().m_Cantilevers) {
+        EXPECT_EQ(Width(cantilever.m_nFirstElement), 3.0);
+        EXPECT_EQ(Width(cantilever.m_nFirstElement + 1), 3.0);
+    }
+}
+
 TEST(PierSections, ATaperedColumnGoesOnHalfAStep) {
     ResultProject project;
     ASSERT_TRUE(LoadPier(project,

@@ -216,6 +216,22 @@ TEST_F(EnvelopeFile, TwoRowsOfBearings) {
     EXPECT_THAT(labels, ElementsAre("L= Brg 1 LR    C=", "L= Brg 2       C=", "L= Brg 2 RR    C="));
 }
 
+TEST_F(EnvelopeFile, BothRowsOfABearingShowItsPlace) {
+    CapShape shape = TwoColumns();
+    shape.bearingNodes = {{7, 8}, {8, 12}};  // 5 and 20, 20 and 35; the faces around 20 are at 12 and 28
+    CapModel model(shape);
+    Add(model);
+    std::vector<std::string> places;
+    for (const std::string& line : Block("SHEAR_MAX_PIER0")) {
+        if (line.find("Brg") != std::string::npos) places.push_back(line.substr(0, 34));
+    }
+    // 5 / 12 = 0.417, 20 / 12 = 1.667, 35 / 12 = 2.917.
+    EXPECT_THAT(places,
+                ElementsAre("L= Brg 1 LR    C=             0.42", "L= Brg 1 LR    C=             0.42",
+                            "L= Brg 2 L     C=             1.67", "L= Brg 2 R     C=             1.67",
+                            "L= Brg 2 RR    C=             2.92", "L= Brg 2 RR    C=             2.92"));
+}
+
 TEST_F(EnvelopeFile, BearingOffTheCapIsMissingBeforeItsFlagsAreAsked) {
     CapShape shape = TwoColumns();
     shape.bearingNodes = {{99}};
