@@ -65,6 +65,17 @@ TEST_F(DriveTest, DumpsTheNamedControlsInResourceOrder) {
     EXPECT_EQ(Control(1004).contains("checked"), false);
 }
 
+// Without a footer its parts are hidden; what they hold stays.
+TEST_F(DriveTest, DumpsWhatEachControlShows) {
+    Drive(folder.Write("pier") + ".in", "click 1015\ndump\n");
+    EXPECT_EQ(Control(1017).dump(),
+              R"({"checked":true,"enabled":true,"id":1017,"kind":"check","text":"Date","visible":false})");
+    EXPECT_EQ(Control(1015)["checked"], false);
+    EXPECT_EQ(Control(1015)["visible"], true);
+    EXPECT_EQ(Control(1039)["enabled"], false);
+    EXPECT_EQ(Control(1039)["visible"], true);
+}
+
 TEST_F(DriveTest, ADisabledOrHiddenControlRefuses) {
     Drive(folder.Write("pier") + ".in",
           "click 1039\nclick 2\nclick 77\nshot a.png\ncell 1 1 0\ntext 1004 a\n");

@@ -2,11 +2,25 @@
 
 #include <gmock/gmock.h>
 
+#include <array>
+
 #include "StudyProject.h"
 
 namespace {
 
-class CaptureExTest : public StudyTest {};
+// A screen of one grey, each time a little lighter; 0: there is none.
+std::uint8_t screenGrey = 0;
+std::vector<std::array<int, 4>> screenReads;
+
+class CaptureExTest : public StudyTest {
+  protected:
+    CaptureExTest() { SetScreen(0); }
+    ~CaptureExTest() override { SetScreen(0); }
+    static void SetScreen(std::uint8_t grey) {
+        screenGrey = grey;
+        screenReads.clear();
+    }
+};
 
 std::uint32_t Number(const std::string& bytes, std::size_t at, std::size_t count) {
     std::uint32_t value = 0;
@@ -17,6 +31,43 @@ std::uint32_t Number(const std::string& bytes, std::size_t at, std::size_t count
 }
 
 }  // namespace
+
+// Takes the place of the platform's own.
+bool graphplatform::ReadScreen(const ScreenRect& rect, std::vector<std::uint8_t>& data) {
+    if (screenGrey == 0) return false;
+    screenReads.push_back({rect.left, rect.top, rect.right, rect.bottom});
+    const int bytes = (rect.right - rect.left) * (rect.bottom - rect.top) * 3;
+    data.assign(static_cast<std::size_t>(bytes), screenGrey++);
+    return true;
+}
+
+TEST_F(CaptureExTest, TakesTheScaledPartOfTheScreenInAWidthOfFours) {
+    SetScreen(100);
+    CaptureEx capture;
+    EXPECT_TRUE(capture.Capture(1.5, (folder / "a.bmp").string(), false, 10, 20, 35, 40));
+    // 15, 30, 52.5 and 60; 37 wide, which 36 is the next multiple of four below.
+    EXPECT_THAT(screenReads, testing::ElementsAre(std::array{15, 30, 51, 60}));
+    EXPECT_EQ(capture.Width(), 36);
+    EXPECT_EQ(capture.Height(), 30);
+    EXPECT_FALSE(std::filesystem::exists(folder / "a.bmp"));
+    EXPECT_TRUE(capture.Capture(1.0, (folder / "a.bmp").string(), true, 0, 0, 4, 1));
+    EXPECT_EQ(Read("a.bmp").substr(54), std::string(12, 101));
+    EXPECT_FALSE(capture.Capture(1.0, (folder / "none" / "a.bmp").string(), true, 0, 0, 4, 1));
+}
+
+TEST_F(CaptureExTest, WhereNothingCanBeTakenTheEarlierPictureStays) {
+    SetScreen(100);
+    CaptureEx capture;
+    ASSERT_TRUE(capture.Capture(1.0, "", false, 0, 0, 8, 2));
+    EXPECT_FALSE(capture.Capture(1.0, "", false, 0, 0, 3, 2));
+    EXPECT_FALSE(capture.Capture(1.0, "", false, 0, 0, 4, 0));
+    EXPECT_FALSE(capture.Capture(1e300, "", false, 0, 0, 8, 2));
+    EXPECT_EQ(screenReads.size(), 1u);
+    screenGrey = 0;
+    EXPECT_FALSE(capture.Capture(1.0, "", false, 0, 0, 8, 2));
+    EXPECT_EQ(capture.Width(), 8);
+    EXPECT_EQ(capture.Height(), 2);
+}
 
 TEST_F(CaptureExTest, TheFileHasItsTwoHeadersAndThePixelsTopFirst) {
     std::vector<std::uint8_t> pixels(4 * 2 * 3);

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -21,6 +22,8 @@ class RecordingCanvas : public PlotCanvas {
         PlotPoint at;
         double height;
         bool turned;
+        TextAnchor anchor;
+        bool bold;
     };
     void FillRect(const PlotRect& rect, std::uint32_t) override { fills.push_back(rect); }
     void RuleLine(PlotPoint from, PlotPoint to, double, std::uint32_t) override {
@@ -30,9 +33,9 @@ class RecordingCanvas : public PlotCanvas {
         lines.emplace_back(points.begin(), points.end());
     }
     void Disc(PlotPoint centre, double, std::uint32_t, std::uint32_t) override { discs.push_back(centre); }
-    void Text(std::string_view text, PlotPoint at, const PlotFont& font, TextAnchor, bool turned,
+    void Text(std::string_view text, PlotPoint at, const PlotFont& font, TextAnchor anchor, bool turned,
               std::uint32_t) override {
-        texts.push_back({std::string(text), at, font.height, turned});
+        texts.push_back({std::string(text), at, font.height, turned, anchor, font.bold});
     }
     double TextWidth(std::string_view text, const PlotFont& font) const override {
         return static_cast<double>(text.size()) * font.height / 2.0;
@@ -100,6 +103,86 @@ TEST(Plot, LabelsBothAxesFromEndToEndInTheirFormats) {
     EXPECT_THAT(canvas.Texts(), ElementsAre("10.00", "15.00", "20.00", "-1.0", "-0.5", "0.0", "0.5", "1.0",
                                             "Caption", "Length", "Force"));
     EXPECT_TRUE(canvas.texts.back().turned);
+}
+
+// A text of 10 in a drawing of 520 by 260. The labels of y are 15 wide, those of x 25. Left of the frame: 2.6
+// texts for the title, 15, 0.4 texts and a tick of 0.4: 49. Above it 2.9 texts, below it 4.2; to its right
+// half a label and 0.6 texts, 18.5.
+TEST(Plot, EveryPartHasItsPlace) {
+    constexpr double kLeft = 49.0, kTop = 29.0, kRight = 502.0, kBottom = 218.0, kTick = 4.0;
+    constexpr double kMiddle = (kLeft + kRight) / 2.0;
+    const RecordingCanvas canvas = Drawn(MakePlot(10.0, 20.0, 0.0, 4.0));
+    struct Place {
+        const char* text;
+        double x, y, height;
+        TextAnchor anchor;
+        bool turned, bold;
+    };
+    const Place places[] = {
+        {"10.00", kLeft, 233.5, 10.0, TextAnchor::middle, false, false},  // 1.15 texts below the tick
+        {"15.00", kMiddle, 233.5, 10.0, TextAnchor::middle, false, false},
+        {"20.00", kRight, 233.5, 10.0, TextAnchor::middle, false, false},
+        {"0.0", 41.0, kBottom + 3.5, 10.0, TextAnchor::end, false, false},  // 0.4 texts left of the tick
+        {"1.0", 41.0, 174.25, 10.0, TextAnchor::end, false, false},         // a quarter of 189 higher
+        {"2.0", 41.0, 127.0, 10.0, TextAnchor::end, false, false},
+        {"3.0", 41.0, 79.75, 10.0, TextAnchor::end, false, false},
+        {"4.0", 41.0, kTop + 3.5, 10.0, TextAnchor::end, false, false},
+        {"Caption", kMiddle, kTop - 10.0, 12.0, TextAnchor::middle, false, true},
+        {"Length", kMiddle, 250.5, 10.0, TextAnchor::middle, false, false},
+        {"Force", 16.0, 123.5, 10.0, TextAnchor::middle, true, false},
+    };
+    ASSERT_EQ(canvas.texts.size(), std::size(places));
+    for (std::size_t i = 0; i < std::size(places); ++i) {
+        const RecordingCanvas::TextCall& text = canvas.texts[i];
+        EXPECT_EQ(text.text, places[i].text);
+        EXPECT_NEAR(text.at.x, places[i].x, 1e-9) << text.text;
+        EXPECT_NEAR(text.at.y, places[i].y, 1e-9) << text.text;
+        EXPECT_NEAR(text.height, places[i].height, 1e-9) << text.text;
+        EXPECT_EQ(text.anchor, places[i].anchor) << text.text;
+        EXPECT_EQ(text.turned, places[i].turned) << text.text;
+        EXPECT_EQ(text.bold, places[i].bold) << text.text;
+    }
+    // Grid lines at the inner labels, the frame, a tick at each label.
+    const double rules[][4] = {
+        {kMiddle, kTop, kMiddle, kBottom},
+        {kLeft, 170.75, kRight, 170.75},
+        {kLeft, 123.5, kRight, 123.5},
+        {kLeft, 76.25, kRight, 76.25},
+        {kLeft, kTop, kRight, kTop},
+        {kRight, kTop, kRight, kBottom},
+        {kLeft, kBottom, kRight, kBottom},
+        {kLeft, kTop, kLeft, kBottom},
+        {kLeft, kBottom, kLeft, kBottom + kTick},
+        {kMiddle, kBottom, kMiddle, kBottom + kTick},
+        {kRight, kBottom, kRight, kBottom + kTick},
+        {kLeft - kTick, kBottom, kLeft, kBottom},
+        {kLeft - kTick, 170.75, kLeft, 170.75},
+        {kLeft - kTick, 123.5, kLeft, 123.5},
+        {kLeft - kTick, 76.25, kLeft, 76.25},
+        {kLeft - kTick, kTop, kLeft, kTop},
+    };
+    ASSERT_EQ(canvas.rules.size(), std::size(rules));
+    for (std::size_t i = 0; i < std::size(rules); ++i) {
+        EXPECT_NEAR(canvas.rules[i].first.x, rules[i][0], 1e-9) << i;
+        EXPECT_NEAR(canvas.rules[i].first.y, rules[i][1], 1e-9) << i;
+        EXPECT_NEAR(canvas.rules[i].second.x, rules[i][2], 1e-9) << i;
+        EXPECT_NEAR(canvas.rules[i].second.y, rules[i][3], 1e-9) << i;
+    }
+}
+
+TEST(Plot, AZeroBetweenTheEndsHasALine) {
+    const auto zeroLines = [](double min, double max, double y) {
+        const RecordingCanvas canvas = Drawn(MakePlot(10.0, 20.0, min, max));
+        return std::count_if(canvas.rules.begin(), canvas.rules.end(), [y](const auto& rule) {
+            return std::fabs(rule.first.y - y) < 1e-9 && std::fabs(rule.second.y - y) < 1e-9;
+        });
+    };
+    // -1 to 3: zero lies a quarter up, on a grid line and on the tick of its label: one line more than those.
+    EXPECT_EQ(zeroLines(-1.0, 3.0, 170.75), 3);
+    EXPECT_EQ(zeroLines(1.0, 5.0, 170.75), 2);
+    // At an end it is the frame's own line, with the tick.
+    EXPECT_EQ(zeroLines(0.0, 4.0, 218.0), 2);
+    EXPECT_EQ(zeroLines(-4.0, 0.0, 29.0), 2);
 }
 
 TEST(Plot, EverythingLiesInsideTheDrawing) {

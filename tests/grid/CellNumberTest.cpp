@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <string>
 
 namespace {
 
@@ -48,6 +49,21 @@ TEST(CellNumber, RealsBeyondTheRangeAreLargeOrSmall) {
     EXPECT_DOUBLE_EQ(ReadCellDouble("1e-999"), 0.0);
     EXPECT_DOUBLE_EQ(ReadCellDouble("1e99999999999999999999"), std::numeric_limits<double>::infinity());
     EXPECT_DOUBLE_EQ(ReadCellDouble("1e-99999999999999999999"), 0.0);
+}
+
+TEST(CellNumber, ThePlaceOfThePointDecidesWithTheExponentWhatIsBeyondTheRange) {
+    const double infinity = std::numeric_limits<double>::infinity();
+    const std::string zeros(400, '0');
+    EXPECT_EQ(ReadCellDouble("0.5e-999"), 0.0);
+    EXPECT_EQ(ReadCellDouble("12.5e-999"), 0.0);
+    EXPECT_EQ(ReadCellDouble("0.5e+999"), infinity);
+    EXPECT_EQ(ReadCellDouble("1" + zeros), infinity);
+    EXPECT_EQ(ReadCellDouble("1" + zeros + ".5"), infinity);
+    EXPECT_EQ(ReadCellDouble("1" + zeros + ".5.5"), infinity);
+    EXPECT_EQ(ReadCellDouble("0." + zeros + "1"), 0.0);
+    EXPECT_EQ(ReadCellDouble("000." + zeros + "1e9"), 0.0);       // 1e-392
+    EXPECT_EQ(ReadCellDouble("0." + zeros + "1e900"), infinity);  // 1e499
+    EXPECT_EQ(ReadCellDouble("1" + zeros + "e-900"), 0.0);        // 1e-500
 }
 
 }  // namespace

@@ -88,6 +88,19 @@ TEST_F(GridFocus, WithoutTheTabFlagTheGridHasNoUseForTab) {
     EXPECT_EQ(Focus(), (CCellID{0, 0}));
 }
 
+// What the grid does not take goes on to the dialog's default and cancel buttons and to its next control.
+TEST_F(GridFocus, TheDialogKeepsItsOwnKeys) {
+    Build(2, 2);
+    EXPECT_FALSE(m_host->PressKey(kKeyEscape, {}));
+    EXPECT_TRUE(m_host->PressKey(kKeyReturn, {}));
+    EXPECT_TRUE(m_host->PressKey(kKeyTab, {}));
+    m_grid.SetEditable(false);
+    m_grid.SetTabMoves(false);
+    EXPECT_FALSE(m_host->PressKey(kKeyReturn, {}));
+    EXPECT_FALSE(m_host->PressKey(kKeyTab, {}));
+    EXPECT_TRUE(m_host->PressKey(kKeyDown, {}));
+}
+
 // A window whose own text can be chosen.
 class NamedGrid : public HeadlessGrid {
   public:
