@@ -101,6 +101,15 @@ TEST(ScaleAxis, ACarryGoesDownWithOneDecimalAndUpWithMore) {
     ExpectAxis(-0.49, -0.445, -0.4945, -0.4405, 5, 4);
 }
 
+TEST(ScaleAxis, AShortAxisCanLeaveDataOutside) {
+    // 1.008 to 1.503: widened 0.9585 to 1.5525, length 0.594, step 0.1. The digit 9 of 0.9 goes down to 5;
+    // ten steps from 0.5, and no more, end at 1.5, below the data.
+    ExpectAxis(1.008, 1.503, 0.5, 1.5, 10, 1);
+    // -1.005 to -0.856: widened -1.0199 to -0.8411, length 0.1788, step 0.5. -1.0199 is cut to -1.0, above
+    // the data, and its digit 0 stays. One step passes -0.8411, and the axis says two.
+    ExpectAxis(-1.005, -0.856, -1.0, -0.5, 2, 1);
+}
+
 TEST(ScaleAxis, AMinimumBetweenZeroAndTheStepHasNoSign) {
     // -0.01 to 0.5: widened -0.061 to 0.551, length 0.612, step 0.2; truncated to one decimal it is 0.
     const AxisScale axis = ScaleAxis(-0.01, 0.5);

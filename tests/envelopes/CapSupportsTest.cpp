@@ -46,6 +46,26 @@ TEST(CapSupports, BentLosesItsRightFaceToTheNodeBeforeTheTip) {
     EXPECT_TRUE(model.pier.IsMomentSection(0, 0));
 }
 
+TEST(CapSupports, BentWithCantileversOfOneElementNeverHasItsRightFace) {
+    CapShape shape = TwoPileBent();
+    shape.cantileverNodes = 0;
+    shape.x = {0, 10, 20, 30, 40};
+    {
+        const CapModel model(shape);
+        // Heads 0 1, left 2, span 3, right 4: index 1 + 2 + 0 = 3 is the span's node, left of the last pile.
+        EXPECT_DOUBLE_EQ(model.pier.GetCantileverEndX(1), 20);
+        EXPECT_FALSE(model.pier.IsMomentSection(1, 2));
+        EXPECT_FALSE(model.pier.IsShearSection(1, 3));
+        EXPECT_TRUE(model.pier.IsShearSection(0, 0));
+    }
+    shape.spanNodes = 0;
+    shape.x = {0, 10, 30, 40};
+    const CapModel model(shape);
+    // Heads 0 1, left 2, right 3: index 0 + 2 + 0 = 2 is the left cantilever's node.
+    EXPECT_DOUBLE_EQ(model.pier.GetCantileverEndX(1), 0);
+    EXPECT_FALSE(model.pier.IsMomentSection(1, 2));
+}
+
 TEST(CapSupports, SingleColumnTakesTheLeftCantileversLastNodeForItsRightTip) {
     CapShape shape;
     shape.supports = 1;

@@ -108,6 +108,29 @@ TEST(MemberForces, AnElementAtAGapStaysAtZero) {
     EXPECT_EQ(pier.Element(frame.m_Cantilevers[1].m_nFirstElement).m_nSection, 4);
 }
 
+TEST(MemberForces, AGapInTheLeftCantileverMovesTheForcesOfTheSpans) {
+    ResultProject project;
+    project.substructures[0] = MakePier();
+    ResultSubstructure& sub = project.substructures[0];
+    // Number 11, the cantilever's first element, has no row.
+    sub.rows.erase(sub.rows.begin() + 10);
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    const CPier& pier = g_DataSet.FirstPier();
+    const CFrame& frame = pier.m_Frame;
+    const int left = frame.m_Cantilevers[0].m_nFirstElement, span = frame.m_Beam.m_nFirstElement;
+    // The mask is at the gap. Number 12 goes to the cantilever's first element, and number 13 finds the
+    // span's index moved by one; number 14 finds no element any more.
+    EXPECT_TRUE(pier.IsMasked(left));
+    EXPECT_FALSE(pier.IsMasked(left + 1));
+    EXPECT_EQ(RecordOf(0, left), 4 + 11);
+    EXPECT_EQ(Force(0, left + 1, kEndI, kAxial), 0.0);
+    EXPECT_EQ(Force(0, span, kEndI, kAxial), 0.0);
+    EXPECT_EQ(RecordOf(0, span + 1), 4 + 12);
+    EXPECT_EQ(RecordOf(0, frame.m_Cantilevers[1].m_nFirstElement), 4 + 16);
+    EXPECT_EQ(RecordOf(0, frame.m_Cantilevers[1].m_nFirstElement + 1), 4 + 17);
+}
+
 TEST(MemberForces, RatiosThatAreNoNumbersReadAsZeroInPilesAlone) {
     ResultProject project;
     ResultSubstructure& sub = project.substructures[0];

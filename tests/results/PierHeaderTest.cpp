@@ -71,6 +71,18 @@ TEST(PierHeader, ADerivedTypeGoesByTheRowsOfPiles) {
     EXPECT_EQ(g_DataSet.m_nStructureType, 2);
 }
 
+TEST(PierHeader, TheLastSubstructuresUnitsHeadAllTables) {
+    ResultProject project;
+    project.substructures.resize(2);
+    project.substructures[0].units = 1;
+    project.substructures[1].units = 0;
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(g_DataSet.m_nUnits, 0);
+    EXPECT_EQ(g_DataSet.m_sForceUnit, "kips");
+    EXPECT_EQ(g_DataSet.FirstPier().m_nUnits, 1);
+}
+
 TEST(PierHeader, UnitsThreeStandForUsUnits) {
     ResultProject project;
     for (const auto& [word, units, force, moment] : {std::tuple{3, 0, "kips", "kip-ft"},
@@ -174,6 +186,20 @@ TEST(Bearings, RowsExactlyTheLimitApartAreOne) {
             EXPECT_EQ(g_DataSet.FirstPier().m_nBearingRows, rows) << distance;
         }
     }
+}
+
+TEST(Bearings, ARightRowOnTheOtherSideCountsAsTheSameRow) {
+    ResultProject project;
+    project.substructures[0] = MakePier();
+    ResultSubstructure& sub = project.substructures[0];
+    // Nine less than the left row's y is not more than the limit.
+    sub.leftBearings.assign(4, {0.0, 0.0, 0.0});
+    sub.rightBearings.assign(4, {0.0, -9.0, 0.0});
+    sub.leftBearingNodes = {6, 7, 5};
+    sub.rightBearingNodes = {6, 7, 5};
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(g_DataSet.FirstPier().m_nBearingRows, 1);
 }
 
 TEST(Bearings, EntriesOfARowMayShareARecord) {

@@ -74,6 +74,24 @@ TEST(PierSections, AFirstBlockWithoutFlagsHasOneLineForEachMember) {
     }
 }
 
+TEST(PierSections, AColumnWithoutInteriorNodesTakesNoWidth) {
+    ResultProject project;
+    project.substructures[0] = MakePier();
+    ResultSubstructure& sub = project.substructures[0];
+    sub.columnNodes = 0;
+    sub.rows.erase(sub.rows.begin() + 15);  // each column has one element less
+    sub.rows.erase(sub.rows.begin() + 9);
+    for (std::size_t i = 0; i < sub.rows.size(); ++i) sub.rows[i].number = static_cast<int>(i) + 1;
+    project.Write();
+    project.WriteFile(".MIS", "PIERXSEC\nP= 1 L= 0\nskipped\nN= 3\nC= 0 B= 0 R= 0\nW= 9\nW= 2\nW= 3\n:\n");
+    ASSERT_TRUE(project.Load());
+    const CPier& pier = g_DataSet.FirstPier();
+    // The column's line is passed over: both faces of a support lie on its centre.
+    EXPECT_EQ(Width(pier.ColumnElement(0, 0)), 0.0);
+    EXPECT_EQ(pier.GetSupportWidth(0), 0.0);
+    EXPECT_EQ(Width(Frame().m_Beam.m_nFirstElement), 2.0);
+}
+
 TEST(PierSections, ATaperedColumnGoesOnHalfAStep) {
     ResultProject project;
     ASSERT_TRUE(LoadPier(project,
