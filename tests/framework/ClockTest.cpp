@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <cstdlib>
+#include <ctime>
+#include <string>
 
 #include "framework/headless/Headless.h"
 
@@ -47,6 +50,26 @@ TEST(Clock, TheEnvironmentHoldsItStillAndASettingGoesFirst) {
     headless::ResetState();
     ASSERT_EQ(unsetenv("LUMERIN_CLOCK"), 0);
     EXPECT_GE(services::Now().year, 2024);
+}
+
+TEST(Clock, IsTheMachinesWithoutASetting) {
+    headless::ResetState();
+    unsetenv("LUMERIN_CLOCK");
+    const auto machine = [] {
+        const std::time_t seconds = std::time(nullptr);
+        char text[40] = "";
+        std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%S %w", std::localtime(&seconds));
+        return std::string(text);
+    };
+    const std::string before = machine();
+    const LocalTime now = services::Now();
+    const std::string after = machine();
+    char text[80] = "";
+    std::snprintf(text, sizeof text, "%04d-%02d-%02dT%02d:%02d:%02d %d", now.year, now.month, now.day,
+                  now.hour, now.minute, now.second, now.weekday);
+    // In order of time but for the weekday, which is the same but over midnight.
+    EXPECT_GE(std::string(text), before);
+    EXPECT_LE(std::string(text), after);
 }
 
 }  // namespace

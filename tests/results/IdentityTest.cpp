@@ -102,11 +102,23 @@ TEST(Identity, AColumnWithoutInteriorNodesHasOneElementAndACountOfNone) {
     sub.rows.erase(sub.rows.begin() + 14);
     sub.rows.erase(sub.rows.begin() + 8);
     for (std::size_t i = 0; i < sub.rows.size(); ++i) sub.rows[i].number = static_cast<int>(i) + 1;
+    // Of the rows after the foundation's eight the first and the sixth are columns; each cap row has a
+    // section of its own.
+    for (std::size_t i = 8; i < sub.rows.size(); ++i) {
+        if (i != 8 && i != 13) sub.rows[i].section = static_cast<int>(i) + 1;
+    }
     project.Write();
     ASSERT_TRUE(project.Load());
     const CPier& pier = g_DataSet.FirstPier();
+    const CFrame& frame = pier.m_Frame;
     EXPECT_EQ(pier.m_Frame.m_Columns[0].m_nElements, 0);
     ExpectElement(pier.ColumnElement(0, 0), 9, 3, 4, 3);
+    ExpectElement(pier.ColumnElement(1, 0), 14, 8, 9, 3);
+    for (int e = 0; e < 2; ++e) {
+        EXPECT_EQ(pier.Element(frame.m_Cantilevers[0].m_nFirstElement + e).m_nSection, 10 + e);
+        EXPECT_EQ(pier.Element(frame.m_Beam.m_nFirstElement + e).m_nSection, 12 + e);
+        EXPECT_EQ(pier.Element(frame.m_Cantilevers[1].m_nFirstElement + e).m_nSection, 15 + e);
+    }
     // The cap meets the columns at the top of their one element.
     EXPECT_EQ(pier.Element(pier.m_Frame.m_Beam.m_nFirstElement).m_nNodeI, 4);
 }
