@@ -1,7 +1,9 @@
 #include <algorithm>
 #include <array>
-#include <climits>
+#include <iterator>
+#include <map>
 #include <string>
+#include <utility>
 
 #include "framework/Backend.h"
 #include "results/CollectData.h"
@@ -34,13 +36,15 @@ constexpr ClassRange kClassRanges[] = {
     {kFamilyLrfd, 112, 113, 3}, {kFamilyArema, 301, 310, 0}, {kFamilyArema, 311, 318, 1},
 };
 
+constexpr int kNoClass = -1, kClassOfUnknownCodes = 1;
+
+// The limit class of a combination; kNoClass for a code that the family doesn't have.
 int LimitClassOf(int family, int code) {
     if (family != kFamilyLrfd && family != kFamilyArema) return 0;
     for (const ClassRange& range : kClassRanges) {
         if (range.family == family && range.first <= code && code <= range.last) return range.limitClass;
     }
-    AfxMessageBox("Invalid limit state");
-    return 1;
+    return kNoClass;
 }
 
 // The code family; false when the project says that it has no combinations, which ends the read.
@@ -72,44 +76,101 @@ void ReadTitles(std::vector<CLoadCase>& cases) {
     }
 }
 
-// The rows of the limit state list: code, first combination number and count of a run of cases.
+// What the rows of the limit state list say of a run of cases.
+struct CaseRun {
+    int end = 0;  // the case behind the last one
+    int code = 0;
+    unsigned numberOfFirst = 0;  // the combination number that case 0 would have
+};
+
+// Runs of cases that do not overlap; a new one takes its cases from those before it. Each adds two at most,
+// and those that it covers go, so many rows over the same cases cost no more than the rows.
+class CaseRuns {
+  public:
+    void Overlay(int begin, const CaseRun& run) {
+        Split(begin);
+        Split(run.end);
+        m_runs.erase(m_runs.lower_bound(begin), m_runs.lower_bound(run.end));
+        m_runs.emplace(begin, run);
+    }
+    const std::map<int, CaseRun>& ByFirstCase() const { return m_runs; }
+
+  private:
+    // A run that goes on over this case ends before it, and another begins with it.
+    void Split(int at) {
+        const auto next = m_runs.lower_bound(at);
+        if (next == m_runs.begin()) return;
+        CaseRun& before = std::prev(next)->second;
+        if (before.end <= at) return;
+        m_runs.emplace_hint(next, at, before);
+        before.end = at;
+    }
+
+    std::map<int, CaseRun> m_runs;
+};
+
+// The rows of the limit state list: code, first combination number and count of a run of cases. A row can go
+// back, and the next one takes the same cases again, so rows are only noted while they are read.
 class LimitStateList {
   public:
-    LimitStateList(ifstreamex& file, std::vector<CLoadCase>& named, CPier& pier)
-        : m_file(file), m_named(named), m_pier(pier) {}
+    LimitStateList(ifstreamex& file, int cases, int family)
+        : m_file(file), m_nCases(cases), m_nFamily(family) {}
 
     void Read(std::string line) {
         do {
             std::array<int, 3> row{};
-            if (ReadKeyedInts(line, "", row) == 3 && !Assign(row[0], row[1], row[2])) return;
+            if (ReadKeyedInts(line, "", row) == 3 && !Note(row[0], row[1], row[2])) return;
         } while (m_file.GetLineEx(line, kLimitLineLength) && line != kListEnd);
+    }
+
+    // Each case gets what the last row says of it.
+    void Assign(std::vector<CLoadCase>& named, std::vector<CLoadCase>& classed) const {
+        for (const auto& [begin, run] : m_rows.ByFirstCase()) {
+            const std::string name = CCollectData::LimitStateName(run.code);
+            const int limitClass = LimitClassOf(m_nFamily, run.code);
+            for (int j = begin; j < run.end; ++j) {
+                const auto at = static_cast<std::size_t>(j);
+                // Names and numbers go to the first substructure, from which all tables take them.
+                named[at].m_sLimitState = name;
+                named[at].m_nNumber = static_cast<int>(run.numberOfFirst + static_cast<unsigned>(j));
+                if (at < classed.size()) {
+                    classed[at].m_nLimitClass = limitClass == kNoClass ? kClassOfUnknownCodes : limitClass;
+                }
+            }
+        }
+    }
+
+    // Once for each case that any row gave a code that the family doesn't have.
+    void TellUnknownCodes(std::size_t cases) const {
+        for (const auto& [begin, run] : m_unknown.ByFirstCase()) {
+            for (int j = begin; j < run.end && static_cast<std::size_t>(j) < cases; ++j) {
+                AfxMessageBox("Invalid limit state");
+            }
+        }
     }
 
   private:
     // False: the list names more combinations than there are cases, which ends it.
-    bool Assign(int code, int first, int count) {
-        // A count below 0 moves back; cases before the first are passed over at once.
-        const int begin = static_cast<int>(std::clamp(-m_nDone, 0LL, static_cast<long long>(INT_MAX)));
-        for (int i = begin; i < count; ++i) {
-            const long long j = m_nDone + i;
-            if (j >= static_cast<long long>(m_named.size())) return false;
-            // Names and numbers go to the first substructure, from which all tables take them.
-            CLoadCase& named = m_named[static_cast<std::size_t>(j)];
-            named.m_sLimitState = CCollectData::LimitStateName(code);
-            named.m_nNumber = static_cast<int>(static_cast<unsigned>(first) + static_cast<unsigned>(i));
-            if (j < static_cast<long long>(m_pier.m_LoadCases.size())) {
-                m_pier.m_LoadCases[static_cast<std::size_t>(j)].m_nLimitClass =
-                    LimitClassOf(m_pier.m_nCodeFamily, code);
-            }
+    bool Note(int code, int first, int count) {
+        // A count below 0 moves back; cases before the first are passed over.
+        const long long begin = m_nDone, end = begin + count;
+        const CaseRun run{Inside(end), code, static_cast<unsigned>(first) - static_cast<unsigned>(begin)};
+        if (Inside(begin) < run.end) {
+            m_rows.Overlay(Inside(begin), run);
+            if (LimitClassOf(m_nFamily, code) == kNoClass) m_unknown.Overlay(Inside(begin), run);
         }
-        m_nDone += count;
-        return true;
+        m_nDone = end;
+        return count < 1 || end <= m_nCases;
+    }
+    int Inside(long long j) const {
+        return static_cast<int>(std::clamp(j, 0LL, static_cast<long long>(m_nCases)));
     }
 
     ifstreamex& m_file;
-    std::vector<CLoadCase>& m_named;
-    CPier& m_pier;
+    int m_nCases;
+    int m_nFamily;
     long long m_nDone = 0;  // cases that earlier rows took
+    CaseRuns m_rows, m_unknown;
 };
 
 void ReadLimitStates(std::vector<CLoadCase>& named, CPier& pier) {
@@ -121,7 +182,10 @@ void ReadLimitStates(std::vector<CLoadCase>& named, CPier& pier) {
     if (!ReadKeyedInt(line, "A", inUse) || inUse != 1) return;
     file.GetLineEx(line, kLimitLineLength);
     file.GetLineEx(line, kLimitLineLength);
-    LimitStateList(file, named, pier).Read(line);
+    LimitStateList list(file, static_cast<int>(named.size()), pier.m_nCodeFamily);
+    list.Read(std::move(line));
+    list.Assign(named, pier.m_LoadCases);
+    list.TellUnknownCodes(pier.m_LoadCases.size());
 }
 
 }  // namespace

@@ -1,3 +1,5 @@
+#include <chrono>
+
 #include "ResultProject.h"
 #include "results/CollectData.h"
 
@@ -121,6 +123,71 @@ TEST(Combinations, AnUnknownCodeIsToldForEachCombinationAndCountsAsService) {
     EXPECT_THAT(log.texts, testing::ElementsAre("Invalid limit state", "Invalid limit state"));
     EXPECT_EQ(First().m_LoadCases[0].m_nLimitClass, 1);
     EXPECT_EQ(First().m_LoadCases[2].m_sLimitState, "SLD-GROUP-VIII");
+}
+
+TEST(Combinations, AnUnknownCodeIsToldOnceForACombinationThatManyRowsTake) {
+    ResultProject project;
+    project.substructures[0].piles = 0;
+    project.substructures[0].pileSections.clear();
+    std::string rows;
+    for (int i = 0; i < 20; ++i) rows += "999 1 2000\n999 1 -2000\n";
+    WithFamily(project, 0, 2000, rows);
+    const MessageLog log;
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(log.texts.size(), 2000U);
+    EXPECT_THAT(log.texts, testing::Each("Invalid limit state"));
+    EXPECT_EQ(First().m_LoadCases[1999].m_sLimitState, "ERROR 1");
+    EXPECT_EQ(First().m_LoadCases[1999].m_nNumber, 2000);
+    EXPECT_EQ(First().m_LoadCases[1999].m_nLimitClass, 1);
+}
+
+TEST(Combinations, AnUnknownCodeIsToldForEachSubstructure) {
+    ResultProject project;
+    project.substructures.resize(3);
+    project.substructures[1].codeFamily = 1;  // every code has the one class there
+    project.substructures[2].codeFamily = 2;
+    WithFamily(project, 0, 4, "999 1 3\n999 1 -2\n999 1 2\n");
+    const MessageLog log;
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(log.texts.size(), 6U);
+}
+
+TEST(Combinations, TheLastOfTheRowsThatTakeACaseCounts) {
+    ResultProject project;
+    // Case:         0    1    2    3    4    5    6    7    8
+    // 101 10 8    101  101  101  101  101  101  101  101
+    // 999 20 5         999  999  999  999  999
+    // 106 30 1                   106
+    WithFamily(project, 0, 9, "101 10 8\n101 1 -7\n999 20 5\n101 1 -3\n106 30 1\n");
+    const MessageLog log;
+    ASSERT_TRUE(project.Load());
+    const char* names[] = {"STRENGTH-I", "ERROR 1",    "ERROR 1",    "EXTREME-I", "ERROR 1",
+                           "ERROR 1",    "STRENGTH-I", "STRENGTH-I", "none"};
+    const int numbers[] = {10, 20, 21, 30, 23, 24, 16, 17, 0};
+    const int classes[] = {0, 1, 1, 2, 1, 1, 0, 0, 0};
+    for (std::size_t c = 0; c < 9; ++c) {
+        EXPECT_EQ(First().m_LoadCases[c].m_sLimitState, names[c]) << c;
+        EXPECT_EQ(First().m_LoadCases[c].m_nNumber, numbers[c]) << c;
+        EXPECT_EQ(First().m_LoadCases[c].m_nLimitClass, classes[c]) << c;
+    }
+    // Case 3 is told as well: its unknown code came before the valid one.
+    EXPECT_EQ(log.texts.size(), 5U);
+}
+
+TEST(Combinations, ManyRowsOverTheSameCasesTakeNoLongerThanTheRowsAndTheCases) {
+    ResultProject project;
+    constexpr int kCases = 20000, kPairs = 20000;
+    project.substructures[0].piles = 0;
+    project.substructures[0].pileSections.clear();
+    std::string rows;
+    for (int i = 0; i < kPairs; ++i) rows += "101 1 20000\n101 1 -20000\n";
+    WithFamily(project, 0, kCases, rows + "112 5 20000\n");
+    const auto begin = std::chrono::steady_clock::now();
+    ASSERT_TRUE(project.Load());
+    // Row by row and case by case these are 400 million steps.
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(2));
+    EXPECT_EQ(First().m_LoadCases[0].m_sLimitState, "FATIGUE-I");
+    EXPECT_EQ(First().m_LoadCases[kCases - 1].m_nNumber, kCases + 4);
 }
 
 TEST(Combinations, TheNamesFollowTheCodes) {
