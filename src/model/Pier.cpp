@@ -30,7 +30,7 @@ void CPier::AllocateMembers(const CMemberCounts& counts, int loadCases) {
     m_nFirstFrameElement = next;
     m_Frame.m_Columns.assign(static_cast<std::size_t>(AtLeastZero(counts.columns)), CColumn{});
     for (CColumn& column : m_Frame.m_Columns) {
-        PlaceMember(column, AtLeastZero(counts.columnNodes) + 1, next);
+        PlaceMember(column, AtLeastZero(counts.columnNodes + 1), next);
         // A column without interior nodes has its one element allocated but a count of 0; only the walks
         // that go by the pier's own node count see it.
         if (counts.columnNodes <= 0) column.m_nElements = 0;
@@ -91,7 +91,7 @@ int CPier::FindElement(MemberFamily family, int member, int element) const {
             return m_Piles[m].m_nFirstElement + element;
         case kColumnFamily:
             // The allocated elements of a column, not its own count, which is 0 without interior nodes.
-            if (m >= m_Frame.m_Columns.size() || element > AtLeastZero(m_nColumnNodes)) return -1;
+            if (m >= m_Frame.m_Columns.size() || element >= ColumnElements()) return -1;
             return m_Frame.m_Columns[m].m_nFirstElement + element;
         case kXMemberFamily:
             if (m >= m_Frame.m_XMembers.size() || element >= m_Frame.m_XMembers[m].m_nElements) return -1;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdlib>
@@ -59,6 +60,8 @@ class CPier {
     int PileElement(int pile, int element) const {
         return m_Piles[static_cast<std::size_t>(pile)].m_nFirstElement + element;
     }
+    // Elements that each column has room for: one without interior nodes has one, with -1 of them none.
+    int ColumnElements() const { return std::max(m_nColumnNodes, -1) + 1; }
     int ColumnElement(int column, int element) const {
         return m_Frame.m_Columns[static_cast<std::size_t>(column)].m_nFirstElement + element;
     }

@@ -19,17 +19,7 @@ int FoundationElements(const CPier& pier) {
 
 // The elements of a column that are numbered: a bent's supports are piles and have none of their own.
 int ColumnElements(const CPier& pier) {
-    return pier.m_nStructureType == kTypePileBent ? 0 : std::max(pier.m_nColumnNodes, 0) + 1;
-}
-
-// The node at which a support meets the cap.
-int TopNode(const CPier& pier, int support) {
-    const std::size_t s = static_cast<std::size_t>(support);
-    if (pier.m_nStructureType == kTypePileBent) {
-        if (s >= pier.m_Piles.size() || pier.m_Piles[s].m_nElements < 1) return 0;
-        return pier.Element(pier.m_Piles[s].m_nFirstElement).m_nNodeJ;
-    }
-    return pier.Element(pier.ColumnElement(support, std::max(pier.m_nColumnNodes, 0))).m_nNodeJ;
+    return pier.m_nStructureType == kTypePileBent ? 0 : pier.ColumnElements();
 }
 
 // The running element and node numbers of a frame.
@@ -77,6 +67,15 @@ class FrameNumbering {
             element.m_nNodeI = m_nNode;
             element.m_nNodeJ = ++m_nNode;
         }
+        m_ColumnTops.push_back(m_nNode);
+    }
+
+    // The node at which a support meets the cap.
+    int TopNode(int support) const {
+        const std::size_t s = static_cast<std::size_t>(support);
+        if (m_pier.m_nStructureType != kTypePileBent) return m_ColumnTops.at(s);
+        if (s >= m_pier.m_Piles.size() || m_pier.m_Piles[s].m_nElements < 1) return 0;
+        return m_pier.Element(m_pier.m_Piles[s].m_nFirstElement).m_nNodeJ;
     }
 
     void NumberLeftCantilever() {
@@ -86,7 +85,7 @@ class FrameNumbering {
         for (int e = 0; e < cantilever.m_nElements; ++e) {
             CElement& element = Next(cantilever, e);
             element.m_nNodeI = m_nNode;
-            element.m_nNodeJ = e == cantilever.m_nElements - 1 ? TopNode(m_pier, 0) : m_nNode + 1;
+            element.m_nNodeJ = e == cantilever.m_nElements - 1 ? TopNode(0) : m_nNode + 1;
             ++m_nNode;
         }
     }
@@ -96,7 +95,7 @@ class FrameNumbering {
         for (int e = 0; e < cantilever.m_nElements; ++e) {
             CElement& element = Next(cantilever, e);
             if (e == 0) {
-                element.m_nNodeI = TopNode(m_pier, support);
+                element.m_nNodeI = TopNode(support);
                 element.m_nNodeJ = m_nNode;
             } else {
                 element.m_nNodeI = m_nNode;
@@ -113,7 +112,7 @@ class FrameNumbering {
         for (int e = 0; e < count && count * span + e < beam.m_nElements; ++e) {
             CElement& element = Next(beam, count * span + e);
             if (e == 0) {
-                element.m_nNodeI = TopNode(m_pier, span);
+                element.m_nNodeI = TopNode(span);
                 element.m_nNodeJ = m_nNode;
             } else {
                 element.m_nNodeI = m_nNode;
@@ -130,13 +129,14 @@ class FrameNumbering {
         for (int span = 0; span < m_pier.m_nColumns - 1; ++span) {
             const int last = count * (span + 1) - 1;
             if (last < 0 || last >= beam.m_nElements) return;
-            m_pier.Element(beam.m_nFirstElement + last).m_nNodeJ = TopNode(m_pier, span + 1);
+            m_pier.Element(beam.m_nFirstElement + last).m_nNodeJ = TopNode(span + 1);
         }
     }
 
     CPier& m_pier;
     int m_nElement = 1;
     int m_nNode = 0;
+    std::vector<int> m_ColumnTops;
 };
 
 // Walks the element table beside the mask and gives each element its row's section.
@@ -206,9 +206,7 @@ void AssignMemberSections(CPier& pier, const CPierReadState& state) {
     const bool hasCap = type == kTypePier || type == kTypePileBent;
     if (!hasCap && type != kTypeMast && type != kTypeWallA && type != kTypeWallB) return;
     SectionCursor cursor(pier, state, hasCap);
-    const auto column = [&](int i) {
-        cursor.Assign(pier.ColumnElement(i, 0), std::max(pier.m_nColumnNodes, 0) + 1);
-    };
+    const auto column = [&](int i) { cursor.Assign(pier.ColumnElement(i, 0), pier.ColumnElements()); };
     const auto cap = [&](int first, int count) { cursor.Assign(first, count); };
     if (hasCap) {
         WalkFrame(pier, column, cap);
@@ -227,7 +225,7 @@ void ApplyElementMask(CPier& pier, int firstType) {
         return;
     std::size_t cursor = static_cast<std::size_t>(FoundationElements(pier));
     WalkFrame(
-        pier, [&](int) { cursor += static_cast<std::size_t>(std::max(pier.m_nColumnNodes, 0) + 1); },
+        pier, [&](int) { cursor += static_cast<std::size_t>(pier.ColumnElements()); },
         [&](int first, int count) {
             for (int e = 0; e < count; ++e, ++cursor) {
                 pier.SetMasked(first + e,

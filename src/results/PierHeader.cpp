@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <climits>
 #include <cstring>
+#include <span>
 
 #include "framework/Backend.h"
 #include "results/CollectData.h"
@@ -22,36 +24,91 @@ struct PileModelCounts {
     int rowsA = 0, rowsB = 0;  // pile rows in each direction
 };
 
-void TakeModelHeader(const CSeqFile& file, const std::array<int, 13>& words) {
+// The words of the model header that are used.
+enum HeaderWord : std::size_t {
+    kColumnsWord = 0,
+    kCantileversWord = 1,
+    kCantileverNodesWord = 2,
+    kExtraMembersWord = 3,
+    kExtraSectionsWord = 4,
+    kColumnNodesWord = 5,
+    kSpanNodesWord = 6,
+    kUnitsWord = 8,
+    kColumnSectionsWord = 11,
+    kHeaderWords = 13
+};
+using ModelHeader = std::array<int, kHeaderWords>;
+
+struct WordLimit {
+    HeaderWord word;
+    int low, high;
+    int none;  // what counts as nothing of it
+    const char* what;
+};
+constexpr WordLimit kFrameLimits[] = {
+    {kColumnsWord, 0, kMaxInteriorNodes, 0, "columns"},
+    {kCantileverNodesWord, -1, kMaxInteriorNodes, -1, "cantilever nodes"},
+    {kColumnNodesWord, -1, kMaxInteriorNodes, -1, "column nodes"},
+    {kSpanNodesWord, -1, kMaxInteriorNodes, -1, "span nodes"},
+    {kColumnSectionsWord, INT_MIN, kMaxPropertyNumbers, 1, "column sections"},
+};
+constexpr WordLimit kExtraLimits[] = {
+    {kExtraMembersWord, INT_MIN, kMaxInteriorNodes, 0, "extra members"},
+    {kExtraSectionsWord, INT_MIN, kMaxPropertyNumbers, 0, "extra member sections"},
+};
+
+bool IsWithin(const ModelHeader& words, const WordLimit& limit) {
+    return words[limit.word] >= limit.low && words[limit.word] <= limit.high;
+}
+
+void RequireWithin(const CSeqFile& file, const ModelHeader& words, std::span<const WordLimit> limits) {
+    for (const WordLimit& limit : limits) {
+        if (IsWithin(words, limit)) continue;
+        file.Fail(CFileException::badCount,
+                  "says " + std::to_string(words[limit.word]) + " " + limit.what + ", which can't be");
+    }
+}
+
+// In a project whose frames are not read the words on them may hold anything: what can't be counts as none.
+// Of a substructure that has no frame of its own a table shows, at most, whether a first column has an
+// element.
+void ClearUnreadFrame(ModelHeader& words, bool hasFrame) {
+    for (const WordLimit& limit : kFrameLimits) {
+        if (!IsWithin(words, limit)) words[limit.word] = limit.none;
+    }
+    if (hasFrame) return;
+    words[kColumnsWord] = std::min(words[kColumnsWord], 1);
+    words[kColumnNodesWord] = std::min(words[kColumnNodesWord], 0);
+    words[kCantileversWord] = 0;
+}
+
+void TakeModelHeader(const ModelHeader& words) {
     CDataSet& data = g_DataSet;
-    data.m_nColumns = words[0];
-    data.m_nCantilevers = words[1];
-    data.m_nCantileverNodes = words[2];
-    data.m_nExtraMembers = words[3];
-    data.m_nXMemberSections = words[4];
-    data.m_nColumnNodes = words[5];
-    data.m_nSpanNodes = words[6];
-    data.m_nUnits = words[8] == kUnitsUsByOtherName ? 0 : words[8];
+    data.m_nColumns = words[kColumnsWord];
+    data.m_nCantilevers = words[kCantileversWord];
+    data.m_nCantileverNodes = words[kCantileverNodesWord];
+    data.m_nExtraMembers = std::max(words[kExtraMembersWord], 0);
+    data.m_nXMemberSections = std::max(words[kExtraSectionsWord], 0);
+    data.m_nColumnNodes = words[kColumnNodesWord];
+    data.m_nSpanNodes = words[kSpanNodesWord];
+    data.m_nUnits = words[kUnitsWord] == kUnitsUsByOtherName ? 0 : words[kUnitsWord];
     data.m_sForceUnit = data.m_nUnits == 0 ? "kips" : "kN";
     data.m_sMomentUnit = data.m_nUnits == 0 ? "kip-ft" : "kN-m";
-    data.m_nColumnSections = words[11];
+    data.m_nColumnSections = words[kColumnSectionsWord];
+}
 
-    struct Limit {
-        int value, low, high;
-        const char* what;
-    };
-    for (const Limit& limit : {Limit{words[0], 0, kMaxInteriorNodes, "columns"},
-                               Limit{words[2], -1, kMaxInteriorNodes, "cantilever nodes"},
-                               Limit{words[3], 0, kMaxInteriorNodes, "extra members"},
-                               Limit{words[4], 0, kMaxPropertyNumbers, "extra member sections"},
-                               Limit{words[5], -1, kMaxInteriorNodes, "column nodes"},
-                               Limit{words[6], -1, kMaxInteriorNodes, "span nodes"},
-                               Limit{words[11], -1, kMaxPropertyNumbers, "column sections"}}) {
-        if (limit.value < limit.low || limit.value > limit.high) {
-            file.Fail(CFileException::badCount,
-                      "says " + std::to_string(limit.value) + " " + limit.what + ", which can't be");
-        }
+// The substructure's type as its own file says it; a type that is derived is one without a frame.
+void ReadModelHeader(CSeqFile& file, int k, int fileType) {
+    ModelHeader words = file.ReadInts<kHeaderWords>("model header");
+    const bool hasFrame = fileType != kTypeDerived && !HasNoFrame(fileType);
+    const bool isFrameRead = k == 0 ? hasFrame : !HasNoFrame(g_DataSet.FirstPier().m_nStructureType);
+    if (isFrameRead) {
+        RequireWithin(file, words, kFrameLimits);
+    } else {
+        ClearUnreadFrame(words, hasFrame);
     }
+    RequireWithin(file, words, kExtraLimits);
+    TakeModelHeader(words);
 }
 
 // The pile model file up to its counts. False: nothing converged, the message was shown.
@@ -107,10 +164,9 @@ bool ReadConvergence() {
         file.Fail(CFileException::badCount, "says " + std::to_string(cases) + " load cases, which can't be");
     }
     data.m_nLoadCases = cases;
+    // Nothing uses these three, so they may be absent.
     std::array<char, 16> unused{};
-    file.ReadRecord(unused.data(), 16, "convergence data");
-    file.ReadRecord(unused.data(), 4, "convergence data");
-    file.ReadRecord(unused.data(), 4, "convergence data");
+    for (const unsigned bytes : {16U, 4U, 4U}) file.Read(unused.data(), bytes);
     if (file.Read(&data.m_nAnalysisMode, 4) == 0) data.m_nAnalysisMode = 0;
     if (file.Read(&data.m_dNcvReal, 8) == 0) data.m_dNcvReal = 0.0;
     if (file.Read(&data.m_nNcvInteger, 4) == 0) data.m_nNcvInteger = 0;
@@ -217,7 +273,8 @@ void ReadPileSections(CSeqFile& file, const PileModelCounts& counts, CPierReadSt
         file.ReadRecord(sections.data(), static_cast<unsigned>(sections.size() * 4), "pile sections");
     }
     state.pileFlags.assign(static_cast<std::size_t>(data.m_nPiles), 0);
-    file.ReadRecord(state.pileFlags.data(), static_cast<unsigned>(state.pileFlags.size() * 4), "pile flags");
+    // Nothing uses the flags, so they may be absent.
+    file.Read(state.pileFlags.data(), static_cast<unsigned>(state.pileFlags.size() * 4));
 }
 
 void CopyToPier(CPier& pier) {
@@ -259,7 +316,7 @@ bool CCollectData::ReadPierHeader(int k, CPierReadState& state) {
     const std::array<int, 3> kind = pileFile.ReadInts<3>("node count and structure type");
     pier.m_nNodes = kind[0];
     const int fileType = kind[2];
-    TakeModelHeader(pileFile, pileFile.ReadInts<13>("model header"));
+    ReadModelHeader(pileFile, k, fileType);
     pileFile.ReadInts<10>("model data");
 
     CSeqFile modelFile(SubstructureFile(".PIL", k + 1));
@@ -271,7 +328,10 @@ bool CCollectData::ReadPierHeader(int k, CPierReadState& state) {
     ReadElementTable(pileFile, state.elementTable);
     BuildElementMask(pileFile, pier, state,
                      k == 0 ? data.m_nStructureType : data.FirstPier().m_nStructureType);
-    if (fileType != kTypePileBent) data.m_nPlfExtraCount = pileFile.ReadInts<2>("closing counts")[1];
+    // Nothing uses the closing count, so its record may be absent.
+    std::array<int, 2> closing{};
+    if (fileType != kTypePileBent && pileFile.Read(closing.data(), sizeof(closing)) == 0) closing.fill(0);
+    data.m_nPlfExtraCount = closing[1];
     ReadPileSections(modelFile, counts, state);
     CopyToPier(pier);
     return true;

@@ -72,7 +72,7 @@ class BlockReader {
     void ReadColumns(CPier& pier) {
         const std::vector<CColumn>& columns = pier.m_Frame.m_Columns;
         if (columns.empty()) return;
-        const int elements = std::max(pier.m_nColumnNodes, 0) + 1;
+        const int elements = pier.ColumnElements();
         ReadRun(pier, columns[0], m_flags.columnLines != 0, false);
         Extend(pier, columns[0].m_nFirstElement, m_flags.columnLines - 1, elements);
         for (std::size_t c = 1; c < columns.size(); ++c) {

@@ -1,3 +1,6 @@
+#include <climits>
+#include <cstring>
+
 #include "ResultProject.h"
 #include "results/CollectData.h"
 
@@ -115,6 +118,203 @@ TEST(PierHeader, NoColumnSectionsStandAsOne) {
     ASSERT_TRUE(project.Load());
     EXPECT_EQ(g_DataSet.m_nColumnSections, 0);
     EXPECT_EQ(g_DataSet.FirstPier().m_nColumnSections, 1);
+}
+
+// The words of the model header that describe a frame: columns, cantilevers, their nodes, nodes of a column
+// and of a span, and column sections.
+constexpr std::size_t kFrameWords[] = {0, 1, 2, 5, 6, 11};
+
+namespace {
+
+// Replaces one of the thirteen words in the bytes of a pile file. Its record is the only one of 52 bytes.
+std::string WithHeaderWord(const ResultSubstructure& sub, std::size_t word, int value) {
+    std::string file = ResultProject::PileFile(sub);
+    const std::size_t frame = file.find(std::string(1, '\x34'), file.find(std::string(128, '\0') + "\x80\f"));
+    EXPECT_EQ(file[frame + 53], '\x34');
+    std::memcpy(file.data() + frame + 1 + 4 * word, &value, sizeof(value));
+    return file;
+}
+
+}  // namespace
+
+TEST(PierHeader, WhereNoFrameIsReadItsWordsMayHoldAnything) {
+    // A type of -1 becomes a pile group.
+    for (const int type : {-1, 1, 2, 6, 8}) {
+        ResultProject project;
+        project.substructures[0].type = type;
+        project.Write();
+        for (const std::size_t word : kFrameWords) {
+            for (const int value : {INT_MIN, -7, -1, 3, 1000000, INT_MAX}) {
+                project.WriteFile(".PLF", WithHeaderWord(project.substructures[0], word, value));
+                ASSERT_TRUE(project.Load()) << "type " << type << " word " << word << " of " << value;
+                EXPECT_EQ(g_DataSet.FirstPier().Forces(1, 3)[kAxial], 10413.0F);
+            }
+        }
+    }
+}
+
+TEST(PierHeader, AllWordsOfAnUnreadFrameTogetherTakeNoMemory) {
+    ResultProject project;
+    ResultSubstructure& sub = project.substructures[0];
+    for (const int value : {1000000, INT_MAX, INT_MIN}) {
+        sub.columns = sub.cantilevers = sub.cantileverNodes = sub.columnNodes = sub.spanNodes = value;
+        sub.columnSections = value;
+        project.Write();
+        ASSERT_TRUE(project.Load()) << value;
+        EXPECT_LE(g_DataSet.FirstPier().ElementCount(), 5);
+        EXPECT_EQ(g_DataSet.FirstPier().m_nColumnSections, 1);
+    }
+}
+
+TEST(PierHeader, APierBehindAGroupKeepsItsFrameAndALieLeavesItOut) {
+    ResultProject project;
+    project.substructures = {ResultSubstructure{}, MakePier()};
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(g_DataSet.m_Piers[1].m_Frame.m_Columns.size(), 2U);
+    EXPECT_EQ(g_DataSet.m_Piers[1].m_CapPointX.size(), 7U);
+    for (const std::size_t word : kFrameWords) {
+        for (const int value : {INT_MIN, -7, 1000000, INT_MAX}) {
+            project.WriteFile(".PLF2", WithHeaderWord(project.substructures[1], word, value));
+            EXPECT_TRUE(project.Load()) << "word " << word << " of " << value;
+        }
+    }
+    project.substructures[1].columns = project.substructures[1].columnNodes = 1000000;
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    EXPECT_TRUE(g_DataSet.m_Piers[1].m_Frame.m_Columns.empty());
+}
+
+TEST(PierHeader, WhereAFrameIsReadItsWordsAreJudged) {
+    ResultProject project;
+    project.substructures[0] = MakePier();
+    project.Write();
+    struct {
+        std::size_t word;
+        int value;
+    } const lies[] = {{0, -1}, {0, 1000001}, {2, -2}, {5, -2}, {6, -2}, {6, 1000001}, {11, 1001}};
+    for (const auto& lie : lies) {
+        project.WriteFile(".PLF", WithHeaderWord(project.substructures[0], lie.word, lie.value));
+        EXPECT_THROW(project.Load(), CFileException) << lie.word << " of " << lie.value;
+    }
+    // A group behind a pier, too: what is read goes by the first substructure.
+    project.substructures = {MakePier(), ResultSubstructure{}};
+    project.substructures[1].columns = -1;
+    project.Write();
+    EXPECT_THROW(project.Load(), CFileException);
+}
+
+TEST(PierHeader, MinusOneNodesAreNoElements) {
+    ResultProject project;
+    ResultSubstructure& sub = project.substructures[0] = MakePier();
+    sub.cantileverNodes = sub.columnNodes = sub.spanNodes = -1;
+    sub.nodes.resize(4);  // the foundation's two, and one for each column
+    // Rows: the foundation's eight alone.
+    sub.rows.resize(8);
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    const CPier& pier = g_DataSet.FirstPier();
+    EXPECT_EQ(pier.m_nPierNodes, 1);    // one a column, less one for a span of -1
+    EXPECT_EQ(pier.ElementCount(), 4);  // those of the piles
+    EXPECT_EQ(pier.m_Frame.m_Columns.size(), 2U);
+    EXPECT_EQ(pier.m_Frame.m_Beam.m_nElements, 0);
+    EXPECT_EQ(pier.m_Frame.m_Cantilevers[0].m_nElements, 0);
+}
+
+TEST(PierHeader, ColumnsOfMinusOneNodesTakeNoRowOfTheElementTable) {
+    ResultProject project;
+    ResultSubstructure& sub = project.substructures[0] = MakePier();
+    // Two columns that are one node each, cantilevers and span as they were: six cap elements.
+    sub.columnNodes = -1;
+    sub.nodes.resize(9);  // two of the foundation, one a column, two a cantilever, one of the span
+    sub.rows.resize(8);
+    for (int i = 0; i < 6; ++i) sub.rows.push_back({9 + i, 0, 0, 11 + i});
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    const CPier& pier = g_DataSet.FirstPier();
+    const CFrame& frame = pier.m_Frame;
+    const CElement& left = pier.Element(frame.m_Cantilevers[0].m_nFirstElement);
+    EXPECT_EQ(left.m_nElementNumber, 9);
+    EXPECT_EQ(left.m_nSection, 11);
+    EXPECT_EQ(left.m_nNodeI, 4);  // column 0 is node 3
+    EXPECT_EQ(pier.Element(frame.m_Cantilevers[0].m_nFirstElement + 1).m_nNodeJ, 3);
+    const CElement& span = pier.Element(frame.m_Beam.m_nFirstElement);
+    EXPECT_EQ(span.m_nElementNumber, 11);
+    EXPECT_EQ(span.m_nSection, 13);
+    EXPECT_EQ(span.m_nNodeI, 3);
+    EXPECT_EQ(span.m_nNodeJ, 6);
+    EXPECT_EQ(pier.Element(frame.m_Beam.m_nFirstElement + 1).m_nNodeJ, 7);  // column 1
+    const CElement& right = pier.Element(frame.m_Cantilevers[1].m_nFirstElement);
+    EXPECT_EQ(right.m_nElementNumber, 13);
+    EXPECT_EQ(right.m_nSection, 15);
+    EXPECT_EQ(right.m_nNodeI, 7);
+    EXPECT_EQ(right.m_nNodeJ, 8);
+    // Forces go by the element number: record 4 + 9 of each case, piles first.
+    EXPECT_EQ(pier.Forces(0, frame.m_Cantilevers[0].m_nFirstElement)[kAxial], 1313.0F);
+}
+
+TEST(PierHeader, ColumnSectionsBelowOneCountAsOne) {
+    ResultProject project;
+    project.substructures[0] = MakePier();
+    for (const int sections : {1, 0, -1, -7, INT_MIN}) {
+        project.substructures[0].columnSections = sections;
+        project.Write();
+        ASSERT_TRUE(project.Load()) << sections;
+        EXPECT_EQ(g_DataSet.FirstPier().m_nColumnSections, 1);
+        EXPECT_EQ(g_DataSet.FirstPier().m_ColumnForces.Sections(), 1);
+    }
+}
+
+TEST(PierHeader, NegativeExtraMembersAndTheirSectionsCountAsNone) {
+    ResultProject project;
+    for (const int count : {-1, -7, INT_MIN}) {
+        project.substructures[0].extraMembers = project.substructures[0].xMemberSections = count;
+        project.Write();
+        ASSERT_TRUE(project.Load()) << count;
+        const CPier& pier = g_DataSet.FirstPier();
+        EXPECT_EQ(pier.m_nExtraMembers, 0);
+        EXPECT_EQ(pier.m_nXMemberSections, 0);
+        EXPECT_EQ(pier.m_XMemberForces.Sections(), 0);
+        EXPECT_FALSE(g_DataSet.HasExtraMembers());
+    }
+}
+
+TEST(PierHeader, WhatNothingUsesAtTheEndOfAFileMayBeAbsent) {
+    ResultProject project;
+    project.substructures[0] = MakePier();
+    project.Write();
+    // The records behind the case count, one after the other.
+    project.mode = 1;
+    for (int records = 0; records < 4; ++records) {
+        SeqBytes file;
+        file.Ints({2});
+        if (records > 0) file.Zeros(16);
+        for (int i = 1; i < records; ++i) file.Zeros(4);
+        for (const std::string& bytes : {file.End(), file.WithoutEnd()}) {
+            project.WriteFile(".ncv", bytes);
+            ASSERT_TRUE(project.Load()) << records;
+            EXPECT_EQ(g_DataSet.m_nLoadCases, 2);
+            EXPECT_EQ(g_DataSet.m_nAnalysisMode, 0);
+        }
+    }
+    project.Write();
+    // The closing counts of the pile file are eight bytes in their frame, and the end mark.
+    const std::string pileFile = ResultProject::PileFile(project.substructures[0]);
+    for (const std::size_t cut : {1U, 2U, 10U, 11U}) {
+        project.WriteFile(".PLF", pileFile.substr(0, pileFile.size() - cut));
+        ASSERT_TRUE(project.Load()) << cut;
+        EXPECT_EQ(g_DataSet.m_nPlfExtraCount, 0);
+    }
+    project.Write();
+    // So are the flags of two piles in the pile model file.
+    const std::string modelFile = ResultProject::PileModel(project.substructures[0]);
+    for (const std::size_t cut : {1U, 2U, 10U, 11U}) {
+        project.WriteFile(".PIL", modelFile.substr(0, modelFile.size() - cut));
+        EXPECT_TRUE(project.Load()) << cut;
+    }
+    // What is used before them may not.
+    project.WriteFile(".PIL", modelFile.substr(0, modelFile.size() - 13));
+    EXPECT_THROW(project.Load(), CFileException);
 }
 
 TEST(PierHeader, GapsInTheElementNumbersAreMasked) {
