@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <climits>
 #include <new>
 
 #include "framework/File.h"
@@ -8,6 +9,7 @@
 #include "results/ProjectFiles.h"
 #include "results/ReadData.h"
 #include "results/SeqFile.h"
+#include "text/Format.h"
 
 // The load of a project, in the fixed order in which each read finds what it needs from those before it.
 
@@ -25,6 +27,10 @@ int ReadSubstructureCount() {
     return count;
 }
 
+long long SpanElements() {
+    return std::max((g_DataSet.m_nSpanNodes + 1LL) * (g_DataSet.m_nColumns - 1LL), 0LL);
+}
+
 CMemberCounts MemberCounts() {
     const CDataSet& data = g_DataSet;
     CMemberCounts counts;
@@ -32,6 +38,7 @@ CMemberCounts MemberCounts() {
     counts.pileNodes = data.m_nPileNodes;
     counts.columns = data.m_nColumns;
     counts.columnNodes = data.m_nColumnNodes;
+    counts.spanElements = static_cast<int>(std::min<long long>(SpanElements(), INT_MAX));
     counts.cantileverElements = data.m_nCantilevers > 0 ? data.m_nCantileverNodes + 1 : 0;
     counts.extraMembers = data.m_nExtraMembers;
     return counts;
@@ -53,37 +60,73 @@ long long TableBytes() {
            piles * static_cast<long long>(sizeof(int)) + cap * static_cast<long long>(sizeof(CCapEntry));
 }
 
+// What a model takes, by the counts that its files name.
+struct ModelNeed {
+    long long elements, cases;
+    long long fixedBytes, bytesPerCase;
+
+    bool FitsInto(long long limit) const {
+        return fixedBytes <= limit && bytesPerCase <= limit && cases <= (limit - fixedBytes) / bytesPerCase;
+    }
+    long long Bytes() const { return fixedBytes + bytesPerCase * cases; }  // of one that fits
+};
+
+ModelNeed NeedOf(const CMemberCounts& counts) {
+    const long long elements = static_cast<long long>(g_DataSet.m_nPileElements) +
+                               counts.columns * (counts.columnNodes + 1LL) + SpanElements() +
+                               2LL * counts.cantileverElements + counts.extraMembers;
+    ModelNeed need{};
+    need.elements = elements;
+    need.cases = g_DataSet.m_nLoadCases;
+    need.fixedBytes =
+        2 * static_cast<long long>(sizeof(CElement) + sizeof(CSectionData)) * elements + TableBytes();
+    need.bytesPerCase = elements * static_cast<long long>(kForcesPerElement * sizeof(float)) +
+                        2 * static_cast<long long>(sizeof(CLoadCase));
+    return need;
+}
+
+// The frame of a substructure whose project has no use for it.
+void LeaveOutFrame(CPier& pier) {
+    pier.m_nColumns = g_DataSet.m_nColumns = 0;
+    pier.m_nCantilevers = g_DataSet.m_nCantilevers = 0;
+}
+
+// Both numbers that were held against each other; counts that lie can ask for more than an integer holds.
+std::string TooShort(long long fileBytes, const ModelNeed& need) {
+    const double bytes = static_cast<double>(need.fixedBytes) +
+                         static_cast<double>(need.bytesPerCase) * static_cast<double>(need.cases);
+    return "holds " + std::to_string(fileBytes) + " bytes, too few for " + std::to_string(need.elements) +
+           " elements in " + std::to_string(need.cases) + " load cases, which take " + FormatFixed(bytes, 0) +
+           " bytes of memory";
+}
+
 // Takes the members and the forces of all cases, once the counts agree with the size of the force file: a
 // model may be a little larger than its file, which can be cut short, but never by orders of magnitude.
 // `slack` is what the substructures before this one have left for that.
 void AllocateModel(int k, CPier& pier, CDirFile& file, long long& slack) {
-    CMemberCounts counts = MemberCounts();
-    const long long spans = (g_DataSet.m_nSpanNodes + 1LL) * (g_DataSet.m_nColumns - 1LL);
-    const long long frame = counts.columns * (std::max(counts.columnNodes, 0) + 1LL) + std::max(spans, 0LL) +
-                            2LL * counts.cantileverElements + counts.extraMembers;
-    const long long elements = g_DataSet.m_nPileElements + frame;
     const std::string path = SubstructureFile(".vmd", k + 1);
-    const long long fileBytes = file.Open(path, kForceRecordBytes) ? file.Length() : 0;
-    const long long cases = g_DataSet.m_nLoadCases;
-    const long long fixed =
-        2 * static_cast<long long>(sizeof(CElement) + sizeof(CSectionData)) * elements + TableBytes();
-    const long long perCase = elements * static_cast<long long>(kForcesPerElement * sizeof(float)) +
-                              2 * static_cast<long long>(sizeof(CLoadCase));
+    CFileException notOpened(CFileException::none, path, "");
+    const bool opened = file.Open(path, kForceRecordBytes, &notOpened);
+    const long long fileBytes = file.Length();
     const long long limit = 3 * fileBytes + slack;
-    if (fixed > limit || perCase > limit || cases > (limit - fixed) / perCase) {
-        throw CFileException(CFileException::badCount, path,
-                             "holds " + std::to_string(fileBytes) + " bytes, too few for the " +
-                                 std::to_string(elements) + " elements in " + std::to_string(cases) +
-                                 " load cases of which the model files tell");
+    ModelNeed need = NeedOf(MemberCounts());
+    if (!need.FitsInto(limit) && HasNoFrame(g_DataSet.FirstPier().m_nStructureType)) {
+        LeaveOutFrame(pier);
+        need = NeedOf(MemberCounts());
     }
-    slack -= std::max(fixed + perCase * cases - 3 * fileBytes, 0LL);
-    counts.spanElements = static_cast<int>(std::max(spans, 0LL));
+    // A file that can't be opened is told as what it is, however much was asked of it.
+    if (!need.FitsInto(limit)) {
+        if (!opened) throw notOpened;
+        throw CFileException(CFileException::badCount, path, TooShort(fileBytes, need));
+    }
+    slack -= std::max(need.Bytes() - 3 * fileBytes, 0LL);
     try {
-        pier.AllocateMembers(counts, g_DataSet.m_nLoadCases);
+        pier.AllocateMembers(MemberCounts(), g_DataSet.m_nLoadCases);
     } catch (const std::bad_alloc&) {
         pier = CPier();
+        if (!opened) throw notOpened;
         throw CFileException(CFileException::generic, path,
-                             "needs " + std::to_string((perCase * cases + fixed) >> 20) +
+                             "needs " + std::to_string(need.Bytes() >> 20) +
                                  " MB of memory for its forces, more than this process can have");
     }
     pier.AllocateCaseSelection(g_DataSet.m_nLoadCases);

@@ -28,18 +28,19 @@ class ForceReader {
 
     // Records that the file should hold and doesn't.
     long long Read() {
-        const long long whole = m_file.Length() / kForceRecordBytes;
+        m_file.Seek(0);  // a file that could not be opened says so here
+        m_nWhole = m_file.Length() / kForceRecordBytes;
         int cases = 0;
         CFiniteForces finite;
         if (MapBlock()) {
-            cases = static_cast<int>(std::min<long long>(whole / m_block, m_pier.m_nLoadCases));
+            cases = static_cast<int>(std::min<long long>(m_nWhole / m_block, m_pier.m_nLoadCases));
             ReadBlocks(cases, finite);
         }
         TakeLastRecordOf(cases - 1);
         for (int c = cases; c < m_pier.m_nLoadCases; ++c) ReadCaseByRecord(c, finite);
         Note(finite);
         m_pier.m_bPileHeadsFinite = m_pier.m_bPileForcesFinite || HeadsFinite();
-        return std::max(0LL, m_block * m_pier.m_nLoadCases - whole);
+        return std::max(0LL, m_block * m_pier.m_nLoadCases - m_nWhole);
     }
 
   private:
@@ -102,7 +103,8 @@ class ForceReader {
         const long long before = loadCase * m_block;
         float* forces = m_pier.MutableCase(loadCase).data();
         for (const CForceRead& read : m_reads) {
-            m_file.Read(m_record.data(), before + read.record);
+            // Behind the file's end the record before stays; there is no need to ask for each.
+            if (before + read.record <= m_nWhole) m_file.Read(m_record.data(), before + read.record);
             Store(forces, {read.element, read.kind}, m_record.data(), finite);
         }
     }
@@ -126,7 +128,7 @@ class ForceReader {
     bool IsColumnElement(int element) const {
         const std::vector<CColumn>& columns = m_pier.m_Frame.m_Columns;
         return !columns.empty() && element >= columns.front().m_nFirstElement &&
-               element <= columns.back().m_nFirstElement + std::max(m_pier.m_nColumnNodes, 0);
+               element < columns.back().m_nFirstElement + m_pier.ColumnElements();
     }
 
     bool HeadsFinite() const {
@@ -142,7 +144,8 @@ class ForceReader {
     CPier& m_pier;
     std::vector<CForceRead> m_reads;
     CDirFile& m_file;
-    long long m_block = 0;  // records of one case
+    long long m_block = 0;   // records of one case
+    long long m_nWhole = 0;  // whole records of the file
     std::vector<Target> m_targets;
     std::array<float, kForceRecordWords> m_record{};
 };

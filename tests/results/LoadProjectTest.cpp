@@ -105,6 +105,7 @@ TEST(LoadProject, CountsThatLieAreNamed) {
     project.Write();
     project.WriteFile(".PLF", SeqBytes().Ints({1 << 30}).End());
     ExpectFault(project, "p.PLF", "1073741824 section blocks");
+    project.substructures[0] = MakePier();
     project.substructures[0].columns = 1 << 30;
     project.Write();
     ExpectFault(project, "p.PLF", "1073741824 columns");
@@ -112,6 +113,43 @@ TEST(LoadProject, CountsThatLieAreNamed) {
     project.substructures[0].type = 12;
     project.Write();
     ExpectFault(project, "p.PLF", "structure type 12");
+}
+
+TEST(LoadProject, AForceFileThatCannotBeOpenedIsToldAsThatWhateverTheModelsSize) {
+    // 14 elements and 2,000,010 of them: their forces in two cases are 1,568 bytes and 224 MB.
+    for (const int columnNodes : {1, 999999}) {
+        ResultProject project;
+        project.substructures[0] = MakePier();
+        project.substructures[0].columnNodes = columnNodes;
+        project.Write();
+        project.Remove(".vmd");
+        ExpectFault(project, "p.vmd", "the file was not found");
+        std::filesystem::create_directory(project.Path(".vmd"));
+        ExpectFault(project, "p.vmd", "the file could not be opened");
+    }
+}
+
+TEST(LoadProject, AForceFileIsTooShortBeyondThreeTimesItsLengthAnd32Megabytes) {
+    ResultProject project;
+    project.Write();
+    // Two piles of two elements: 224 bytes of forces a case, and what a case takes itself.
+    const auto bytesPerCase = static_cast<int>(224 + 2 * sizeof(CLoadCase));
+    const int most = (32 << 20) / bytesPerCase;
+    project.WriteFile(".vmd", "");
+    project.WriteFile(".ncv", ResultProject::Convergence(most - 100).End());
+    {
+        const MessageLog log;
+        EXPECT_TRUE(project.Load());
+        EXPECT_THAT(log.texts, testing::ElementsAre(testing::HasSubstr(" force records are missing")));
+    }
+    project.WriteFile(".ncv", ResultProject::Convergence(most + 1).End());
+    ExpectFault(
+        project, "p.vmd",
+        "holds 0 bytes, too few for 4 elements in " + std::to_string(most + 1) + " load cases, which take ");
+    // 68,000 bytes make room for 204,000 more.
+    project.WriteFile(".vmd", std::string(68000, '\0'));
+    const MessageLog log;
+    EXPECT_TRUE(project.Load());
 }
 
 TEST(LoadProject, ATruncatedFileIsNamedWithTheRecordThatIsMissing) {
