@@ -350,6 +350,24 @@ TEST_F(EmbedmentDialogTest, AStudyWithoutFilesStillOpens) {
     });
 }
 
+TEST_F(EmbedmentDialogTest, APlotThatIsDisabledOrHiddenTakesNoClick) {
+    WriteStudy();
+    Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
+        ASSERT_TRUE(front.ClickGraph(10.0));
+        const int row = FocusRow(dialog);
+        NativeWindow& plot = *front.Find(1029);
+        plot.enabled = false;
+        EXPECT_FALSE(front.ClickGraph(1000.0));
+        plot.enabled = true;
+        plot.visible = false;
+        EXPECT_FALSE(front.ClickGraph(1000.0));
+        EXPECT_EQ(FocusRow(dialog), row);
+        plot.visible = true;
+        EXPECT_TRUE(front.ClickGraph(1000.0));
+        EXPECT_NE(FocusRow(dialog), row);
+    });
+}
+
 TEST_F(EmbedmentDialogTest, AClickOnThePlotMovesToTheNearestTrialsRow) {
     WriteStudy();
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {

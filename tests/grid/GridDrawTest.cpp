@@ -131,4 +131,33 @@ TEST_F(GridDraw, CellsThatShowInPartAreDrawnAndHiddenOnesAreNot) {
     EXPECT_THAT(texts, ElementsAre("r0c0", "r0c1", "r0c3", "r1c0", "r1c1", "r1c3", "r3c0", "r3c1", "r3c3"));
 }
 
+// Both scroll bars of 17 leave 233 by 183.
+TEST_F(GridDraw, ACellHasAPlaceAsLongAsItIsNotScrolledOut) {
+    Build(50, 20, {250, 200});
+    const auto place = [this](int row, int column) {
+        GridRect rect{-1, -1, -1, -1};
+        return m_grid.CellRect(row, column, rect) ? rect : GridRect{};
+    };
+    constexpr GridRect kNone{};
+    EXPECT_EQ(place(9, 4), (GridRect{200, 180, 250, 200}));
+    EXPECT_EQ(place(10, 0), kNone);
+    EXPECT_EQ(place(0, 5), kNone);
+    EXPECT_EQ(place(-1, 0), kNone);
+    EXPECT_EQ(place(0, 20), kNone);
+    m_grid.SetFixedRowCount(1);
+    m_grid.SetFixedColumnCount(1);
+    m_grid.ScrollCellIntoView(49, 19);
+    // The last row ends with the window or before it: 8 rows fit below the heading, from 42 on; 3 columns,
+    // from 17 on.
+    EXPECT_EQ(place(0, 0), (GridRect{0, 0, 50, 20}));
+    EXPECT_EQ(place(42, 17), (GridRect{50, 20, 100, 40}));
+    EXPECT_EQ(place(49, 19), (GridRect{150, 160, 200, 180}));
+    EXPECT_EQ(place(41, 17), kNone);
+    EXPECT_EQ(place(42, 16), kNone);
+    EXPECT_EQ(place(0, 18), (GridRect{100, 0, 150, 20}));
+    m_grid.SetRowHeight(43, 0);
+    EXPECT_EQ(place(43, 17), kNone);
+    EXPECT_EQ(place(44, 17), (GridRect{50, 40, 100, 60}));
+}
+
 }  // namespace

@@ -24,6 +24,15 @@ TEST_F(GridStore, ANewGridTakesTheShadowColourBesideItsCells) {
     EXPECT_EQ(m_grid.Background(), gridplatform::SystemColour(16));
 }
 
+// A character of the default font is 6 by 15 here; the default width is that of 12 letters in two blanks, the
+// height has a margin of 3 above and below.
+TEST_F(GridStore, NewRowsAndColumnsHaveTheSizeOfTheDefaultCell) {
+    m_grid.SetRowCount(1);
+    m_grid.SetColumnCount(1);
+    EXPECT_EQ(m_grid.GetRowHeight(0), 21);
+    EXPECT_EQ(m_grid.GetColumnWidth(0), 84);
+}
+
 TEST_F(GridStore, TextOutOfRangeIsEmpty) {
     Build(2, 2);
     EXPECT_EQ(m_grid.GetCellText(-1, 0), "");
