@@ -8,8 +8,8 @@ CNTGraphTarnsway::CNTGraphTarnsway()
 void CNTGraphTarnsway::OnAttach() {
     // Each exchange of the dialog's data binds its controls again.
     if (m_hAttached == m_hWnd) return;
-    m_hAttached = m_hWnd;
     m_pHost = graphplatform::MakeHost(*this);
+    m_hAttached = m_hWnd;
 }
 
 void CNTGraphTarnsway::SetProperty(int dispatchId, const GraphValue& value) {

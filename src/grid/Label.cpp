@@ -22,8 +22,8 @@ CLabel::CLabel()
 void CLabel::OnAttach() {
     // Every data exchange binds the control anew.
     if (m_hWnd == m_hAttached) return;
-    m_hAttached = m_hWnd;
     gridplatform::AttachLabel(*this);
+    m_hAttached = m_hWnd;
 }
 
 void CLabel::SetScale(double factor) {

@@ -4,9 +4,13 @@
 #include <olectl.h>
 
 #include <algorithm>
+#include <new>
+#include <utility>
 #include <vector>
 
 #include "embedment/NTGraphTarnsway.h"
+#include "embedment/win32/GraphMessages.h"
+#include "framework/win32/Failures.h"
 
 namespace {
 
@@ -56,7 +60,8 @@ class Variant {
         const int bytes = static_cast<int>(text.size());
         const int length = MultiByteToWideChar(kWesternCodePage, 0, text.data(), bytes, nullptr, 0);
         const BSTR wide = SysAllocStringLen(nullptr, static_cast<UINT>(length));
-        if (wide != nullptr) MultiByteToWideChar(kWesternCodePage, 0, text.data(), bytes, wide, length);
+        if (wide == nullptr) throw std::bad_alloc();
+        MultiByteToWideChar(kWesternCodePage, 0, text.data(), bytes, wide, length);
         return wide;
     }
     VARIANT m_value;
@@ -88,15 +93,26 @@ struct ControlContainer {
     }
 };
 
+// The object that a call of the platform gives out; null when it gives none.
+template <class Interface, class Call>
+ComPointer<Interface> Take(const Call& call) {
+    void* object = nullptr;
+    const HRESULT result = call(&object);
+    return ComPointer<Interface>(FAILED(result) ? nullptr : static_cast<Interface*>(object));
+}
+
+template <class Interface>
+ComPointer<Interface> Ask(IUnknown& object, const IID& id) {
+    return Take<Interface>([&](void** answer) { return object.QueryInterface(id, answer); });
+}
+
 bool IsRegistered() {
     CLSID id{};
     if (FAILED(CLSIDFromString(kGraphClass, &id))) return false;
-    IClassFactory* factory = nullptr;
-    const HRESULT found = CoGetClassObject(id, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory,
-                                           reinterpret_cast<void**>(&factory));
-    if (FAILED(found) || factory == nullptr) return false;
-    factory->Release();
-    return true;
+    const auto factory = Take<IClassFactory>([&](void** object) {
+        return CoGetClassObject(id, CLSCTX_INPROC_SERVER, nullptr, IID_IClassFactory, object);
+    });
+    return factory != nullptr;
 }
 
 }  // namespace
@@ -104,16 +120,12 @@ bool IsRegistered() {
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"  // interfaces of the platform have no destructor
 
-// Takes the control's events; only the click is of interest. It keeps itself as long as it is referred to.
+// Takes the control's events; only the click is of interest. It goes with the last reference to it.
 class ControlHost::EventSink final : public IDispatch {
   public:
-    EventSink(CNTGraphTarnsway& graph, const IID& events) : m_graph(&graph), m_events(events) {}
     // Comes with one reference.
-    static EventSink* Make(CNTGraphTarnsway& graph, const IID& events) {
-        const auto sink = std::make_shared<EventSink>(graph, events);
-        sink->m_self = sink;
-        return sink.get();
-    }
+    EventSink(CNTGraphTarnsway& graph, const IID& events) : m_graph(&graph), m_events(events) {}
+    virtual ~EventSink() = default;
     // The graph is going away; later events find nobody.
     void Forget() { m_graph = nullptr; }
 
@@ -130,8 +142,7 @@ class ControlHost::EventSink final : public IDispatch {
     ULONG STDMETHODCALLTYPE AddRef() override { return ++m_references; }
     ULONG STDMETHODCALLTYPE Release() override {
         const ULONG left = --m_references;
-        std::shared_ptr<EventSink> last;
-        if (left == 0) last.swap(m_self);
+        if (left == 0) std::unique_ptr<EventSink>(this).reset();
         return left;
     }
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
@@ -144,89 +155,91 @@ class ControlHost::EventSink final : public IDispatch {
     }
     HRESULT STDMETHODCALLTYPE Invoke(DISPID member, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
                                      UINT*) override {
-        if (member == kClickEvent && m_graph != nullptr) m_graph->OnClicked();
-        return S_OK;
+        const bool clicked = member == kClickEvent && m_graph != nullptr;
+        win32::NoteMessage(clicked ? WM_LBUTTONDOWN : WM_NULL);
+        return !clicked || win32::RunBorder([this] { m_graph->OnClicked(); }) ? S_OK : E_FAIL;
     }
 
   private:
     CNTGraphTarnsway* m_graph;
     IID m_events;
     ULONG m_references = 1;
-    std::shared_ptr<EventSink> m_self;
 };
 
 #pragma GCC diagnostic pop
 
-std::unique_ptr<ControlHost> ControlHost::Create(CNTGraphTarnsway& graph, HWND window) {
-    static const ControlContainer container;
-    if (!container.IsWhole() || !IsRegistered() || !container.init()) return nullptr;
-    IUnknown* site = nullptr;
-    if (FAILED(container.create(kGraphClass, window, nullptr, &site))) return nullptr;
-    if (site != nullptr) site->Release();
-    IUnknown* unknown = nullptr;
-    if (FAILED(container.get(window, &unknown)) || unknown == nullptr) return nullptr;
-    IDispatch* control = nullptr;
-    const HRESULT result = unknown->QueryInterface(IID_IDispatch, reinterpret_cast<void**>(&control));
-    unknown->Release();
-    if (FAILED(result) || control == nullptr) return nullptr;
-    return std::make_unique<ControlHost>(control, graph);
+ControlWindow::ControlWindow(HWND place) : m_place(place) {
+    RECT area{};
+    GetClientRect(place, &area);
+    m_window = CreateWindowExA(0, kGraphWindowClass, "", WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0,
+                               area.right, area.bottom, place, nullptr, win32::ModuleInstance(), nullptr);
+    if (m_window == nullptr) throw std::bad_alloc();
 }
 
-ControlHost::ControlHost(IDispatch* control, CNTGraphTarnsway& graph) : m_control(control) {
+ControlWindow::~ControlWindow() {
+    // It is gone already where the dialog went first, and its handle may be another window's.
+    if (IsWindow(m_window) && GetParent(m_window) == m_place) DestroyWindow(m_window);
+}
+
+std::unique_ptr<ControlHost> ControlHost::Create(CNTGraphTarnsway& graph, HWND place) {
+    static const ControlContainer container;
+    if (!container.IsWhole() || !IsRegistered() || !container.init()) return nullptr;
+    auto window = std::make_unique<ControlWindow>(place);
+    IUnknown* site = nullptr;
+    if (FAILED(container.create(kGraphClass, window->Get(), nullptr, &site))) return nullptr;
+    const ComPointer<IUnknown> ownSite(site);
+    IUnknown* object = nullptr;
+    if (FAILED(container.get(window->Get(), &object)) || object == nullptr) return nullptr;
+    const ComPointer<IUnknown> unknown(object);
+    ComPointer<IDispatch> control = Ask<IDispatch>(*unknown, IID_IDispatch);
+    // Without it nothing could be drawn: the control goes with its window and leaves the place to the plot.
+    if (control == nullptr) return nullptr;
+    return std::make_unique<ControlHost>(std::move(window), std::move(control), graph);
+}
+
+ControlHost::ControlHost(std::unique_ptr<ControlWindow> window, ComPointer<IDispatch> control,
+                         CNTGraphTarnsway& graph)
+    : m_window(std::move(window)), m_control(std::move(control)) {
     Advise(graph);
 }
 
 ControlHost::~ControlHost() {
-    if (m_point != nullptr) {
-        m_point->Unadvise(m_cookie);
-        m_point->Release();
-    }
-    if (m_sink != nullptr) {
-        m_sink->Forget();
-        m_sink->Release();
-    }
-    m_control->Release();
+    if (m_point != nullptr) m_point->Unadvise(m_cookie);
+    if (m_sink != nullptr) m_sink->Forget();
 }
 
 // The control's default events; where it does not name them, the first events that are no notices of
 // properties.
-IConnectionPoint* ControlHost::FindEvents(IID& events) const {
-    IConnectionPointContainer* points = nullptr;
-    if (FAILED(m_control->QueryInterface(IID_IConnectionPointContainer, reinterpret_cast<void**>(&points)))) {
-        return nullptr;
-    }
-    IConnectionPoint* point = nullptr;
-    IProvideClassInfo2* info = nullptr;
-    if (SUCCEEDED(m_control->QueryInterface(IID_IProvideClassInfo2, reinterpret_cast<void**>(&info)))) {
-        if (SUCCEEDED(info->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events))) {
-            points->FindConnectionPoint(events, &point);
+ComPointer<IConnectionPoint> ControlHost::FindEvents(IID& events) const {
+    const auto points = Ask<IConnectionPointContainer>(*m_control, IID_IConnectionPointContainer);
+    if (points == nullptr) return nullptr;
+    const auto info = Ask<IProvideClassInfo2>(*m_control, IID_IProvideClassInfo2);
+    if (info != nullptr && SUCCEEDED(info->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events))) {
+        IConnectionPoint* point = nullptr;
+        if (SUCCEEDED(points->FindConnectionPoint(events, &point)) && point != nullptr) {
+            return ComPointer<IConnectionPoint>(point);
         }
-        info->Release();
     }
-    IEnumConnectionPoints* all = nullptr;
-    if (point == nullptr && SUCCEEDED(points->EnumConnectionPoints(&all))) {
-        while (all->Next(1, &point, nullptr) == S_OK) {
-            if (SUCCEEDED(point->GetConnectionInterface(&events)) &&
-                !IsEqualIID(events, IID_IPropertyNotifySink)) {
-                break;
-            }
-            point->Release();
-            point = nullptr;
+    IEnumConnectionPoints* list = nullptr;
+    if (FAILED(points->EnumConnectionPoints(&list)) || list == nullptr) return nullptr;
+    const ComPointer<IEnumConnectionPoints> all(list);
+    IConnectionPoint* next = nullptr;
+    while (all->Next(1, &next, nullptr) == S_OK) {
+        ComPointer<IConnectionPoint> point(next);
+        if (SUCCEEDED(point->GetConnectionInterface(&events)) &&
+            !IsEqualIID(events, IID_IPropertyNotifySink)) {
+            return point;
         }
-        all->Release();
     }
-    points->Release();
-    return point;
+    return nullptr;
 }
 
 void ControlHost::Advise(CNTGraphTarnsway& graph) {
     IID events{};
-    m_point = FindEvents(events);
-    if (m_point == nullptr) return;
-    m_sink = EventSink::Make(graph, events);
-    if (SUCCEEDED(m_point->Advise(m_sink, &m_cookie))) return;
-    m_point->Release();
-    m_point = nullptr;
+    ComPointer<IConnectionPoint> point = FindEvents(events);
+    if (point == nullptr) return;
+    m_sink.reset(std::make_unique<EventSink>(graph, events).release());
+    if (SUCCEEDED(point->Advise(m_sink.get(), &m_cookie))) m_point = std::move(point);
 }
 
 void ControlHost::Set(int dispatchId, const GraphValue& value) {

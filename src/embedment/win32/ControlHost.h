@@ -7,13 +7,35 @@
 // The interfaces want windows.h before them.
 #include <ocidl.h>
 
+// A reference to an object of the platform.
+struct ComRelease {
+    void operator()(IUnknown* object) const { object->Release(); }
+};
+template <class Interface>
+using ComPointer = std::unique_ptr<Interface, ComRelease>;
+
+// A child that fills the graph's window and gives the control its place. The control goes with it.
+class ControlWindow {
+  public:
+    explicit ControlWindow(HWND place);  // throws where the platform refuses a window
+    ControlWindow(const ControlWindow&) = delete;
+    ControlWindow& operator=(const ControlWindow&) = delete;
+    ~ControlWindow();
+    HWND Get() const { return m_window; }
+
+  private:
+    HWND m_place;
+    HWND m_window;
+};
+
 // A registered graph control of the machine in the graph's window, driven through its dispatch interface.
 class ControlHost : public GraphHost {
   public:
-    // Null: no such control is registered, or it could not be made.
-    static std::unique_ptr<ControlHost> Create(CNTGraphTarnsway& graph, HWND window);
+    // Null: no such control is registered, or it could not be made, or has no dispatch interface.
+    static std::unique_ptr<ControlHost> Create(CNTGraphTarnsway& graph, HWND place);
 
-    ControlHost(IDispatch* control, CNTGraphTarnsway& graph);
+    ControlHost(std::unique_ptr<ControlWindow> window, ComPointer<IDispatch> control,
+                CNTGraphTarnsway& graph);
     ControlHost(const ControlHost&) = delete;
     ControlHost& operator=(const ControlHost&) = delete;
     ~ControlHost() override;
@@ -27,10 +49,11 @@ class ControlHost : public GraphHost {
   private:
     class EventSink;
     void Advise(CNTGraphTarnsway& graph);
-    IConnectionPoint* FindEvents(IID& events) const;
+    ComPointer<IConnectionPoint> FindEvents(IID& events) const;
 
-    IDispatch* m_control;
-    IConnectionPoint* m_point = nullptr;
-    EventSink* m_sink = nullptr;  // one reference of it is ours
+    std::unique_ptr<ControlWindow> m_window;
+    ComPointer<IDispatch> m_control;
+    ComPointer<IConnectionPoint> m_point;  // null: the control reports no events
+    ComPointer<EventSink> m_sink;
     DWORD m_cookie = 0;
 };

@@ -1,8 +1,5 @@
 #include "embedment/win32/GraphWindow.h"
 
-// The common controls want windows.h before them.
-#include <commctrl.h>
-
 #include <algorithm>
 #include <cstring>
 
@@ -11,10 +8,10 @@
 #include "embedment/win32/ControlHost.h"
 #include "embedment/win32/GraphMessages.h"
 #include "embedment/win32/PlotGdiCanvas.h"
+#include "framework/win32/Drawing.h"
 
 namespace {
 
-constexpr UINT_PTR kSubclass = 1;
 constexpr WORD kArrow = 32512;  // the platform's arrow cursor
 
 SIZE ClientSize(HWND window) {
@@ -44,10 +41,8 @@ std::unique_ptr<GraphHost> MakeHost(CNTGraphTarnsway& graph) {
         return std::make_unique<PlotGraphHost>(graph.Plot(), [&graph] { graph.OnClicked(); });
     }
     const HWND window = ToHwnd(graph.m_hWnd);
-    // The control takes its place first; what the graph's window is asked comes to it before the control.
-    std::unique_ptr<GraphHost> control = ControlHost::Create(graph, window);
     auto host = std::make_unique<GraphWindow>(graph, window);
-    host->UseControl(std::move(control));
+    host->UseControl(ControlHost::Create(graph, window));
     return host;
 }
 
@@ -55,11 +50,11 @@ std::unique_ptr<GraphHost> MakeHost(CNTGraphTarnsway& graph) {
 
 GraphWindow::GraphWindow(CNTGraphTarnsway& graph, HWND window)
     : PlotGraphHost(graph.Plot(), [&graph] { graph.OnClicked(); }), m_graph(graph), m_window(window) {
-    SetWindowSubclass(m_window, Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+    win32::HookWindow(m_window, *this);
 }
 
 GraphWindow::~GraphWindow() {
-    if (m_window != nullptr) RemoveWindowSubclass(m_window, Procedure, kSubclass);
+    if (m_window != nullptr) win32::UnhookWindow(m_window);
 }
 
 void GraphWindow::Set(int dispatchId, const GraphValue& value) {
@@ -85,20 +80,7 @@ ScreenRect GraphWindow::Place() const {
             static_cast<int>(place.bottom)};
 }
 
-LRESULT CALLBACK GraphWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                        DWORD_PTR data) {
-    auto& self = *reinterpret_cast<GraphWindow*>(data);
-    if (message == WM_NCDESTROY) {
-        RemoveWindowSubclass(window, Procedure, id);
-        self.m_window = nullptr;
-        return DefSubclassProc(window, message, wParam, lParam);
-    }
-    LRESULT result = 0;
-    return self.OnMessage(message, lParam, result) ? result
-                                                   : DefSubclassProc(window, message, wParam, lParam);
-}
-
-bool GraphWindow::OnMessage(UINT message, LPARAM lParam, LRESULT& result) {
+bool GraphWindow::OnMessage(UINT message, WPARAM, LPARAM lParam, LRESULT& result) {
     if (message == kGraphDrawing) {
         CopyDrawing(lParam);
         return true;
@@ -135,35 +117,29 @@ void GraphWindow::CopyDrawing(LPARAM lParam) const {
 
 LRESULT GraphWindow::PointOf(double x) const {
     const SIZE size = ClientSize(m_window);
-    const HDC dc = GetDC(m_window);
-    const double pixel = m_plot.PixelOf(x, PlotGdiCanvas(dc), size.cx, size.cy);
-    ReleaseDC(m_window, dc);
+    const win32::WindowContext context(m_window);
+    const double pixel = m_plot.PixelOf(x, PlotGdiCanvas(context.Context()), size.cx, size.cy);
     if (!(pixel >= 0.0 && pixel < size.cx)) return -1;
     return MAKELRESULT(static_cast<int>(pixel), size.cy / 2);
 }
 
 void GraphWindow::OnClick(int pixelX) {
     const SIZE size = ClientSize(m_window);
-    const HDC dc = GetDC(m_window);
-    const double x = m_plot.XAt(pixelX, PlotGdiCanvas(dc), size.cx, size.cy);
-    ReleaseDC(m_window, dc);
+    double x = 0.0;
+    {
+        const win32::WindowContext context(m_window);
+        x = m_plot.XAt(pixelX, PlotGdiCanvas(context.Context()), size.cx, size.cy);
+    }
     Click(x);
 }
 
 // Off the screen first: a plot that is drawn again on every choice must not flicker.
 void GraphWindow::OnPaint() {
-    PAINTSTRUCT paint{};
-    const HDC screen = BeginPaint(m_window, &paint);
+    const win32::Painting painting(m_window);
     const SIZE size = ClientSize(m_window);
-    const HDC dc = CreateCompatibleDC(screen);
-    const HBITMAP bitmap =
-        CreateCompatibleBitmap(screen, std::max<int>(size.cx, 1), std::max<int>(size.cy, 1));
-    const HGDIOBJ before = SelectObject(dc, bitmap);
-    PlotGdiCanvas canvas(dc);
+    const win32::BitmapContext bitmap(painting.Context(), std::max<int>(size.cx, 1),
+                                      std::max<int>(size.cy, 1));
+    PlotGdiCanvas canvas(bitmap.Context());
     m_plot.Draw(canvas, size.cx, size.cy);
-    BitBlt(screen, 0, 0, size.cx, size.cy, dc, 0, 0, SRCCOPY);
-    SelectObject(dc, before);
-    DeleteObject(bitmap);
-    DeleteDC(dc);
-    EndPaint(m_window, &paint);
+    BitBlt(painting.Context(), 0, 0, size.cx, size.cy, bitmap.Context(), 0, 0, SRCCOPY);
 }

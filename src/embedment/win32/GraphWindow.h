@@ -1,11 +1,11 @@
 #pragma once
 
 #include "embedment/GraphHost.h"
-#include "framework/win32/Windows32.h"
+#include "framework/win32/WindowHook.h"
 
 // The graph's place in the dialog: it answers what other programs ask and shows the module's own plot, unless
 // a control of the machine took the place.
-class GraphWindow : public PlotGraphHost {
+class GraphWindow : public PlotGraphHost, private win32::MessageTarget {
   public:
     GraphWindow(CNTGraphTarnsway& graph, HWND window);
     GraphWindow(const GraphWindow&) = delete;
@@ -22,9 +22,8 @@ class GraphWindow : public PlotGraphHost {
     ScreenRect Place() const override;
 
   private:
-    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                      DWORD_PTR data);
-    bool OnMessage(UINT message, LPARAM lParam, LRESULT& result);
+    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+    void OnGone() noexcept override { m_window = nullptr; }
     LRESULT PointOf(double x) const;
     void CopyDrawing(LPARAM lParam) const;
     void OnPaint();

@@ -1,17 +1,16 @@
 #include "embedment/CaptureEx.h"
-#include "framework/win32/Windows32.h"
+#include "framework/win32/Drawing.h"
 
 namespace graphplatform {
 
 bool ReadScreen(const ScreenRect& rect, std::vector<std::uint8_t>& data) {
     constexpr int kBytesPerPixel = 3;
     const int width = rect.right - rect.left, height = rect.bottom - rect.top;
-    const HDC screen = GetDC(nullptr);
-    const HDC memory = CreateCompatibleDC(screen);
-    const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-    const HGDIOBJ before = SelectObject(memory, bitmap);
-    BOOL done = BitBlt(memory, 0, 0, width, height, screen, rect.left, rect.top, SRCCOPY);
-    SelectObject(memory, before);
+    const win32::WindowContext screen(nullptr);
+    win32::BitmapContext copy(screen.Context(), width, height);
+    const BOOL copied =
+        BitBlt(copy.Context(), 0, 0, width, height, screen.Context(), rect.left, rect.top, SRCCOPY);
+    copy.Release();
     BITMAPINFO info{};
     info.bmiHeader.biSize = sizeof info.bmiHeader;
     info.bmiHeader.biWidth = width;
@@ -22,14 +21,10 @@ bool ReadScreen(const ScreenRect& rect, std::vector<std::uint8_t>& data) {
     // The platform pads a row to a multiple of four bytes.
     const auto row = static_cast<std::size_t>((width * kBytesPerPixel + 3) / 4 * 4);
     std::vector<std::uint8_t> padded(row * static_cast<std::size_t>(height));
-    if (done &&
-        GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), padded.data(), &info, DIB_RGB_COLORS) == 0) {
-        done = FALSE;
+    if (!copied || GetDIBits(copy.Context(), copy.Bitmap(), 0, static_cast<UINT>(height), padded.data(),
+                             &info, DIB_RGB_COLORS) == 0) {
+        return false;
     }
-    DeleteObject(bitmap);
-    DeleteDC(memory);
-    ReleaseDC(nullptr, screen);
-    if (!done) return false;
     data.clear();
     for (std::size_t y = 0; y < static_cast<std::size_t>(height); ++y) {
         const auto from = padded.begin() + static_cast<std::ptrdiff_t>(y * row);

@@ -2,20 +2,38 @@
 // The common controls want windows.h before them.
 #include <commctrl.h>
 
-#include <vector>
-
 #include "framework/Dialog.h"
 #include "framework/win32/Bindings.h"
+#include "framework/win32/Failures.h"
 
 // Modal dialogs from the module's resource templates. The identifier of a dialog's control list is that of
 // its template; both are made from the same list.
 
 namespace {
 
-// The dialogs that are open, the front one last.
-std::vector<HWND>& OpenDialogs() {
-    static std::vector<HWND> dialogs;
-    return dialogs;
+// A dialog that is being run, on the stack of the call that runs it: opening one takes no memory.
+class RunningDialog {
+  public:
+    explicit RunningDialog(CDialog& dialog) : m_dialog(dialog), m_below(Front()) { Front() = this; }
+    RunningDialog(const RunningDialog&) = delete;
+    RunningDialog& operator=(const RunningDialog&) = delete;
+    ~RunningDialog() { Front() = m_below; }
+
+    static RunningDialog*& Front() {
+        static RunningDialog* front = nullptr;
+        return front;
+    }
+    // Null: its window is not made yet, or is gone already.
+    HWND m_window = nullptr;
+    CDialog& m_dialog;
+    RunningDialog* const m_below;
+};
+
+// Runs one step of a dialog's own; what it throws is reported.
+template <class Step>
+void RunHandler(CDialog& dialog, const Step& step) noexcept {
+    const win32::HandlerScope handler;
+    RunGuarded(dialog, step);
 }
 
 CDialog* DialogOf(HWND window) {
@@ -49,29 +67,45 @@ bool OnCommandMessage(CDialog& dialog, WPARAM wParam) {
     const int id = static_cast<short>(LOWORD(wParam));
     Notice notice = Notice::clicked;
     if (!ReadNotice(KindOf(dialog.Spec(), id), HIWORD(wParam), notice)) return false;
+    if (notice == Notice::clicked) win32::NoteMessage(WM_COMMAND);
     bool handled = false;
-    RunGuarded(dialog, [&] { handled = dialog.OnCommand(id, notice); });
+    RunHandler(dialog, [&] { handled = dialog.OnCommand(id, notice); });
     return handled;
 }
 
 // The module carries no icon, so the window gets none: it shows the platform's, and so does its minimised
 // form.
 void OnInit(HWND window, LPARAM lParam) {
-    CDialog& dialog = *reinterpret_cast<CDialog*>(lParam);
-    SetWindowLongPtrA(window, DWLP_USER, lParam);
+    auto& running = *reinterpret_cast<RunningDialog*>(lParam);
+    CDialog& dialog = running.m_dialog;
+    SetWindowLongPtrA(window, DWLP_USER, reinterpret_cast<LONG_PTR>(&dialog));
     dialog.m_hWnd = FromHwnd(window);
-    OpenDialogs().push_back(window);
+    running.m_window = window;
     SetWindowTextA(window, dialog.Spec().title);
-    RunGuarded(dialog, [&dialog] { dialog.OnInitDialog(); });
+    RunHandler(dialog, [&dialog] { dialog.OnInitDialog(); });
 }
 
 void OnDestroy(HWND window, CDialog& dialog) {
     win32::UnbindControls(window);
     dialog.m_hWnd = nullptr;
-    std::erase(OpenDialogs(), window);
+    for (RunningDialog* at = RunningDialog::Front(); at != nullptr; at = at->m_below) {
+        if (at->m_window == window) at->m_window = nullptr;
+    }
 }
 
-INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+bool OnHelp(CDialog& dialog, LPARAM lParam) {
+    const int id = static_cast<short>(reinterpret_cast<const HELPINFO*>(lParam)->iCtrlId);
+    bool handled = false;
+    RunHandler(dialog, [&] { handled = dialog.OnHelpInfo(id); });
+    return handled;
+}
+
+void OnReportFailure(CDialog& dialog) {
+    RunHandler(dialog, win32::ThrowKept);
+    win32::EndReport();
+}
+
+INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     if (message == WM_INITDIALOG) {
         OnInit(window, lParam);
         return TRUE;  // the focus goes to the first control
@@ -81,15 +115,14 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARA
     switch (message) {
         case WM_COMMAND:
             return OnCommandMessage(*dialog, wParam) ? TRUE : FALSE;
-        case WM_HELP: {
-            const int id = static_cast<short>(reinterpret_cast<const HELPINFO*>(lParam)->iCtrlId);
-            bool handled = false;
-            RunGuarded(*dialog, [&] { handled = dialog->OnHelpInfo(id); });
-            return handled ? TRUE : FALSE;
-        }
+        case WM_HELP:
+            return OnHelp(*dialog, lParam) ? TRUE : FALSE;
         case WM_MOUSEMOVE:
-            RunGuarded(*dialog, [dialog] { dialog->OnMouseMove(); });
+            RunHandler(*dialog, [dialog] { dialog->OnMouseMove(); });
             return FALSE;
+        case win32::kReportFailure:
+            OnReportFailure(*dialog);
+            return TRUE;
         case WM_SETCURSOR:
             if (backend::WaitCursorDepth() == 0) return FALSE;
             SetCursor(LoadCursorA(nullptr, MAKEINTRESOURCEA(kWaitCursor)));
@@ -103,6 +136,20 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARA
     }
 }
 
+BOOL CALLBACK TakeMainWindow(HWND window, LPARAM found) noexcept {
+    // A window that another one owns is a tool of it.
+    if (!IsWindowVisible(window) || GetWindow(window, GW_OWNER) != nullptr) return TRUE;
+    *reinterpret_cast<HWND*>(found) = window;
+    return FALSE;
+}
+
+// The host's main window on this thread; null when it has none to see.
+HWND MainWindow() {
+    HWND window = nullptr;
+    EnumThreadWindows(GetCurrentThreadId(), TakeMainWindow, reinterpret_cast<LPARAM>(&window));
+    return window;
+}
+
 }  // namespace
 
 namespace win32 {
@@ -114,8 +161,16 @@ HINSTANCE ModuleInstance() {
     return module;
 }
 
+HWND FrontDialog() {
+    const RunningDialog* at = RunningDialog::Front();
+    while (at != nullptr && at->m_window == nullptr) at = at->m_below;
+    return at == nullptr ? nullptr : at->m_window;
+}
+
 HWND OwnerWindow() {
-    return OpenDialogs().empty() ? GetActiveWindow() : OpenDialogs().back();
+    if (const HWND dialog = FrontDialog()) return dialog;
+    const HWND active = GetActiveWindow();
+    return active != nullptr && IsWindowVisible(active) ? active : MainWindow();
 }
 
 }  // namespace win32
@@ -126,9 +181,10 @@ int RunDialog(CDialog& dialog) {
     INITCOMMONCONTROLSEX controls{sizeof controls, ICC_UPDOWN_CLASS};
     InitCommonControlsEx(&controls);
     const auto resource = static_cast<WORD>(dialog.Spec().id);
+    RunningDialog running(dialog);
     const INT_PTR result =
         DialogBoxParamA(win32::ModuleInstance(), MAKEINTRESOURCEA(resource), win32::OwnerWindow(),
-                        DialogProcedure, reinterpret_cast<LPARAM>(&dialog));
+                        DialogProcedure, reinterpret_cast<LPARAM>(&running));
     return static_cast<int>(result);
 }
 

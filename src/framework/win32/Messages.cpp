@@ -20,6 +20,7 @@ UINT IconStyle(MessageIcon icon) {
 struct WaitCursor {
     int depth = 0;
     HCURSOR before = nullptr;
+    int handlers = 0;  // that are running, one inside the box or dialog of another
 };
 
 WaitCursor& Waiting() {
@@ -61,3 +62,16 @@ int WaitCursorDepth() {
 }
 
 }  // namespace backend
+
+namespace win32 {
+
+HandlerScope::HandlerScope() {
+    ++Waiting().handlers;
+}
+
+HandlerScope::~HandlerScope() {
+    WaitCursor& cursor = Waiting();
+    if (--cursor.handlers == 0) cursor.depth = 0;
+}
+
+}  // namespace win32

@@ -33,7 +33,21 @@ namespace win32 {
 // The module that this code lives in, whatever program loaded it; its resources are looked up here.
 HINSTANCE ModuleInstance();
 
-// The window that owns the next dialog or message box: the front dialog, else the host's active window.
+// The dialog of ours that was opened last and is still open; null when there is none.
+HWND FrontDialog();
+
+// The window that owns the next dialog or message box: the front dialog, else the host's active window, else
+// its main window on this thread. Null where the thread has no window that could be disabled.
 HWND OwnerWindow();
+
+// A handler of a dialog begins, and ends. When the last one ends, a wait cursor that it left is no longer
+// held: the next move of the mouse takes it away.
+class HandlerScope {
+  public:
+    HandlerScope();
+    HandlerScope(const HandlerScope&) = delete;
+    HandlerScope& operator=(const HandlerScope&) = delete;
+    ~HandlerScope();
+};
 
 }  // namespace win32

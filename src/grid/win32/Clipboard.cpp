@@ -5,9 +5,10 @@
 
 #include <cstring>
 #include <memory>
-#include <new>
 #include <string>
+#include <string_view>
 
+#include "framework/win32/Failures.h"
 #include "grid/win32/GridWindow.h"
 
 namespace {
@@ -68,16 +69,10 @@ class FormatList final : public Counted<IEnumFORMATETC, IID_IEnumFORMATETC> {
   public:
     explicit FormatList(bool passed) : m_bPassed(passed) {}
 
-    // Nothing may unwind the platform's frames.
     static HRESULT Give(bool passed, IEnumFORMATETC** list) {
         if (list == nullptr) return E_POINTER;
         *list = nullptr;
-        try {
-            *list = std::make_unique<FormatList>(passed).release();
-        } catch (const std::bad_alloc&) {
-            return E_OUTOFMEMORY;
-        }
-        return S_OK;
+        return win32::RunMethod([&] { *list = std::make_unique<FormatList>(passed).release(); });
     }
 
     HRESULT STDMETHODCALLTYPE Next(ULONG wanted, FORMATETC* formats, ULONG* given) override {
@@ -144,6 +139,34 @@ struct Releaser {
     void operator()(IUnknown* object) const { object->Release(); }
 };
 
+// What a data object handed out. It may be as big as the clipboard, so it goes on every way out.
+class Medium {
+  public:
+    Medium() = default;
+    Medium(const Medium&) = delete;
+    Medium& operator=(const Medium&) = delete;
+    ~Medium() {
+        if (m_bytes != nullptr) GlobalUnlock(m_medium.hGlobal);
+        if (m_medium.tymed != TYMED_NULL) ReleaseStgMedium(&m_medium);
+    }
+    // Empty where the object has no text. The view ends with this object.
+    std::string_view Read(IDataObject& object) {
+        FORMATETC format = PlainText();
+        if (FAILED(object.GetData(&format, &m_medium))) {
+            m_medium = {};
+            return {};
+        }
+        if (m_medium.tymed != TYMED_HGLOBAL) return {};
+        m_bytes = static_cast<const char*>(GlobalLock(m_medium.hGlobal));
+        if (m_bytes == nullptr) return {};
+        return {m_bytes, strnlen(m_bytes, GlobalSize(m_medium.hGlobal))};
+    }
+
+  private:
+    STGMEDIUM m_medium{};
+    const char* m_bytes = nullptr;
+};
+
 }  // namespace
 
 namespace win32 {
@@ -158,18 +181,8 @@ std::string ClipboardText() {
     IDataObject* got = nullptr;
     if (FAILED(OleGetClipboard(&got)) || got == nullptr) return {};
     const std::unique_ptr<IDataObject, Releaser> object(got);
-    FORMATETC format = PlainText();
-    STGMEDIUM medium{};
-    if (FAILED(object->GetData(&format, &medium))) return {};
-    std::string text;
-    if (medium.tymed == TYMED_HGLOBAL) {
-        if (const auto* bytes = static_cast<const char*>(GlobalLock(medium.hGlobal))) {
-            text.assign(bytes, strnlen(bytes, GlobalSize(medium.hGlobal)));
-            GlobalUnlock(medium.hGlobal);
-        }
-    }
-    ReleaseStgMedium(&medium);
-    return text;
+    Medium medium;
+    return std::string(medium.Read(*object));
 }
 
 }  // namespace win32

@@ -1,22 +1,13 @@
 #include "grid/win32/EditorWindow32.h"
 
-// The common controls want windows.h before them.
-#include <commctrl.h>
-
 #include <vector>
 
 #include "grid/win32/GdiCanvas.h"
 #include "grid/win32/GridWindow.h"
 
-namespace {
-
-constexpr UINT_PTR kSubclass = 1;
-
-}  // namespace
-
 EditorWindow32::~EditorWindow32() {
     if (m_window == nullptr) return;
-    RemoveWindowSubclass(m_window, Procedure, kSubclass);
+    win32::UnhookWindow(m_window);
     DestroyWindow(m_window);
 }
 
@@ -28,7 +19,7 @@ bool EditorWindow32::Create(const GridRect& rect, const FontRecord& font) {
                         rect.top, rect.Width(), rect.Height(), m_grid, id, win32::ModuleInstance(), nullptr);
     if (m_window == nullptr) return false;
     SendMessageA(m_window, WM_SETFONT, reinterpret_cast<WPARAM>(win32::FontFor(font)), FALSE);
-    SetWindowSubclass(m_window, Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+    win32::HookWindow(m_window, *this);
     m_editor->m_hWnd = FromHwnd(m_window);
     m_editor->Start(*this);
     return true;
@@ -62,36 +53,30 @@ void EditorWindow32::Close() {
     PostMessageA(m_window, WM_CLOSE, 0, 0);
 }
 
-LRESULT CALLBACK EditorWindow32::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                           UINT_PTR id, DWORD_PTR data) {
-    auto& self = *reinterpret_cast<EditorWindow32*>(data);
-    if (message == WM_NCDESTROY) {
-        RemoveWindowSubclass(window, Procedure, id);
-        self.m_window = nullptr;
-        self.m_editor->m_hWnd = nullptr;
-        return DefSubclassProc(window, message, wParam, lParam);
-    }
-    return self.OnMessage(message, wParam, lParam);
+void EditorWindow32::OnGone() noexcept {
+    m_window = nullptr;
+    m_editor->m_hWnd = nullptr;
 }
 
-LRESULT EditorWindow32::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+bool EditorWindow32::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
     const HWND window = m_window;
     switch (message) {
         case WM_GETDLGCODE:
-            return DefSubclassProc(window, message, wParam, lParam) | DLGC_WANTALLKEYS;
+            result = win32::CallOwnProcedure(window, message, wParam, lParam) | DLGC_WANTALLKEYS;
+            return true;
         case WM_CHAR:
-            if (m_editor->OnChar(static_cast<unsigned>(wParam))) return 0;
+            if (m_editor->OnChar(static_cast<unsigned>(wParam))) return true;
             break;
         case WM_KEYDOWN:
-            if (m_editor->OnKeyDown(static_cast<unsigned>(wParam), win32::Keys())) return 0;
+            if (m_editor->OnKeyDown(static_cast<unsigned>(wParam), win32::Keys())) return true;
             break;
         case WM_KILLFOCUS:
             m_editor->OnKillFocus();
-            break;
+            return false;
         default:
-            return DefSubclassProc(window, message, wParam, lParam);
+            return false;
     }
-    const LRESULT result = DefSubclassProc(window, message, wParam, lParam);
-    if (m_window != nullptr && message != WM_KILLFOCUS) m_editor->OnTyped();
-    return result;
+    result = win32::CallOwnProcedure(window, message, wParam, lParam);
+    if (m_window != nullptr) m_editor->OnTyped();
+    return true;
 }

@@ -2,12 +2,12 @@
 
 #include <memory>
 
-#include "framework/win32/Windows32.h"
+#include "framework/win32/WindowHook.h"
 #include "grid/InPlaceEdit.h"
 
 // A real edit window as the child of the grid. Characters and keys pass through the editor first and reach
 // the edit window only when it lets them through.
-class EditorWindow32 : public EditorWindow {
+class EditorWindow32 : public EditorWindow, private win32::MessageTarget {
   public:
     EditorWindow32(HWND grid, std::unique_ptr<CInPlaceEdit> editor)
         : m_grid(grid), m_editor(std::move(editor)) {}
@@ -28,9 +28,8 @@ class EditorWindow32 : public EditorWindow {
     void Close() override;
 
   private:
-    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                      DWORD_PTR data);
-    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+    void OnGone() noexcept override;
 
     HWND m_grid;
     HWND m_window = nullptr;

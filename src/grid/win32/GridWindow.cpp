@@ -1,18 +1,15 @@
 #include "grid/win32/GridWindow.h"
 
-// The common controls want windows.h before them.
-#include <commctrl.h>
-
 #include <algorithm>
 #include <cstring>
 
+#include "framework/win32/Drawing.h"
 #include "grid/GridHelpers.h"
 #include "grid/win32/GdiCanvas.h"
 #include "grid/win32/GridMessages.h"
 
 namespace {
 
-constexpr UINT_PTR kSubclass = 1;
 constexpr UINT_PTR kDragTimer = 1;
 constexpr UINT kDragTimerMilliseconds = 100;
 
@@ -51,12 +48,12 @@ GridWindow::GridWindow(CGridCtrl& grid, HWND window) : m_grid(grid), m_window(wi
     // The editor is a child: painting leaves its place out.
     const LONG style = GetWindowLongA(m_window, GWL_STYLE);
     SetWindowLongA(m_window, GWL_STYLE, style | WS_CLIPCHILDREN);
-    SetWindowSubclass(m_window, Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+    win32::HookWindow(m_window, *this);
 }
 
 GridWindow::~GridWindow() {
     m_editors.clear();
-    if (m_window != nullptr) RemoveWindowSubclass(m_window, Procedure, kSubclass);
+    if (m_window != nullptr) win32::UnhookWindow(m_window);
 }
 
 GridSize GridWindow::ClientSize() const {
@@ -123,27 +120,16 @@ void GridWindow::SweepEditors() {
 bool GridWindow::OpenEditor(std::unique_ptr<CInPlaceEdit> editor, const GridRect& rect) {
     if (m_window == nullptr) return false;
     SweepEditors();
-    m_editors.push_back(std::make_unique<EditorWindow32>(m_window, std::move(editor)));
-    if (m_editors.back()->Create(rect, m_grid.DefaultCell(false, false).GetFont())) return true;
-    m_editors.pop_back();
-    return false;
+    auto window = std::make_unique<EditorWindow32>(m_window, std::move(editor));
+    EditorWindow32& created = *window;
+    m_editors.reserve(m_editors.size() + 1);
+    if (!created.Create(rect, m_grid.DefaultCell(false, false).GetFont())) return false;
+    m_editors.push_back(std::move(window));
+    return true;
 }
 
 void GridWindow::ShowTip(const GridRect& rect, const std::string& text, const FontRecord& font) {
     if (m_window != nullptr) m_tip.Show(m_window, rect, text, font);
-}
-
-LRESULT CALLBACK GridWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                       DWORD_PTR data) {
-    auto& self = *reinterpret_cast<GridWindow*>(data);
-    if (message == WM_NCDESTROY) {
-        RemoveWindowSubclass(window, Procedure, id);
-        self.m_window = nullptr;
-        return DefSubclassProc(window, message, wParam, lParam);
-    }
-    LRESULT result = 0;
-    return self.OnMessage(message, wParam, lParam, result) ? result
-                                                           : DefSubclassProc(window, message, wParam, lParam);
 }
 
 bool GridWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
@@ -235,11 +221,10 @@ LRESULT GridWindow::DialogCode(LPARAM lParam) const {
 }
 
 void GridWindow::OnPaint() {
-    PAINTSTRUCT paint{};
-    const HDC dc = BeginPaint(m_window, &paint);
-    GdiCanvas canvas(dc);
-    m_grid.Paint(canvas, {paint.rcPaint.left, paint.rcPaint.top, paint.rcPaint.right, paint.rcPaint.bottom});
-    EndPaint(m_window, &paint);
+    const win32::Painting painting(m_window);
+    const RECT& area = painting.Area();
+    GdiCanvas canvas(painting.Context());
+    m_grid.Paint(canvas, {area.left, area.top, area.right, area.bottom});
 }
 
 void GridWindow::OnScrollMessage(bool vertical, WPARAM wParam) {

@@ -3,7 +3,7 @@
 #include <memory>
 #include <vector>
 
-#include "framework/win32/Windows32.h"
+#include "framework/win32/WindowHook.h"
 #include "grid/GridCtrl.h"
 #include "grid/win32/EditorWindow32.h"
 #include "grid/win32/TipWindow.h"
@@ -18,7 +18,7 @@ std::string ClipboardText();
 }  // namespace win32
 
 // The window of a grid: its messages become the grid's events.
-class GridWindow : public GridHost {
+class GridWindow : public GridHost, private win32::MessageTarget {
   public:
     GridWindow(CGridCtrl& grid, HWND window);
     GridWindow(const GridWindow&) = delete;
@@ -41,10 +41,8 @@ class GridWindow : public GridHost {
     void HideTip() override { m_tip.Hide(); }
 
   private:
-    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                      DWORD_PTR data);
-    // True: the message was handled with that result.
-    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+    void OnGone() noexcept override { m_window = nullptr; }
     bool OnMouse(UINT message, WPARAM wParam, LPARAM lParam);
     bool OnKey(UINT message, WPARAM wParam);
     bool OnQuery(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);

@@ -1,13 +1,12 @@
-#include "framework/win32/Windows32.h"
-// The common controls want windows.h before them.
-#include <commctrl.h>
+#include <memory>
 
+#include "framework/win32/Drawing.h"
+#include "framework/win32/WindowHook.h"
 #include "grid/Label.h"
 #include "grid/win32/GdiCanvas.h"
 
 namespace {
 
-constexpr UINT_PTR kSubclass = 1;
 constexpr WORD kHandCursor = 32649;
 
 unsigned AlignmentOf(HWND window) {
@@ -22,42 +21,47 @@ unsigned AlignmentOf(HWND window) {
 }
 
 void PaintLabel(HWND window, const CLabel& label) {
-    PAINTSTRUCT paint{};
-    const HDC dc = BeginPaint(window, &paint);
+    const win32::Painting painting(window);
     RECT client{};
     GetClientRect(window, &client);
-    GdiCanvas canvas(dc);
+    GdiCanvas canvas(painting.Context());
     const GridRect area{0, 0, client.right, client.bottom};
     canvas.FillRect(area, label.FaceColour());
     canvas.DrawText(label.GetWindowText(), area, AlignmentOf(window) | kTextWordBreak, label.Font(),
                     label.TextColour());
-    EndPaint(window, &paint);
 }
 
-LRESULT CALLBACK LabelProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                DWORD_PTR data) {
-    auto& label = *reinterpret_cast<CLabel*>(data);
-    switch (message) {
-        case WM_NCDESTROY:
-            RemoveWindowSubclass(window, LabelProcedure, id);
-            break;
-        case WM_PAINT:
-            PaintLabel(window, label);
-            return 0;
-        case WM_ERASEBKGND:
-            return 1;
-        case WM_MOUSEMOVE:
-            label.OnMouseMove();
-            break;
-        case WM_SETCURSOR:
-            if (!label.HasHandCursor() || backend::WaitCursorDepth() > 0) break;
-            SetCursor(LoadCursorA(nullptr, MAKEINTRESOURCEA(kHandCursor)));
-            return TRUE;
-        default:
-            break;
+// The messages of a label's window. It belongs to the window and goes with it.
+class LabelWindow final : public win32::MessageTarget {
+  public:
+    LabelWindow(CLabel& label, HWND window) : m_label(label), m_window(window) {}
+
+    bool OnMessage(UINT message, WPARAM, LPARAM, LRESULT& result) override {
+        switch (message) {
+            case WM_PAINT:
+                PaintLabel(m_window, m_label);
+                return true;
+            case WM_ERASEBKGND:
+                result = 1;
+                return true;
+            case WM_MOUSEMOVE:
+                m_label.OnMouseMove();
+                return false;
+            case WM_SETCURSOR:
+                if (!m_label.HasHandCursor() || backend::WaitCursorDepth() > 0) return false;
+                SetCursor(LoadCursorA(nullptr, MAKEINTRESOURCEA(kHandCursor)));
+                result = TRUE;
+                return true;
+            default:
+                return false;
+        }
     }
-    return DefSubclassProc(window, message, wParam, lParam);
-}
+    void OnGone() noexcept override { std::unique_ptr<LabelWindow>(this).reset(); }
+
+  private:
+    CLabel& m_label;
+    HWND m_window;
+};
 
 }  // namespace
 
@@ -65,7 +69,9 @@ namespace gridplatform {
 
 void AttachLabel(CLabel& label) {
     if (label.m_hWnd == nullptr) return;
-    SetWindowSubclass(ToHwnd(label.m_hWnd), LabelProcedure, kSubclass, reinterpret_cast<DWORD_PTR>(&label));
+    auto window = std::make_unique<LabelWindow>(label, ToHwnd(label.m_hWnd));
+    win32::HookWindow(ToHwnd(label.m_hWnd), *window);
+    static_cast<void>(window.release());  // goes with the window
 }
 
 void RedrawLabel(CLabel& label) {

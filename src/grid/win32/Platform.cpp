@@ -3,6 +3,7 @@
 // OLE wants windows.h before it.
 #include <ole2.h>
 
+#include "framework/win32/Drawing.h"
 #include "grid/GridHost.h"
 #include "grid/win32/GdiCanvas.h"
 
@@ -12,18 +13,6 @@ constexpr const char* kClassName = "MFCGridCtrl";
 constexpr UINT kClassStyle = 11;  // double clicks, redraw on both size changes
 constexpr const char* kOleFailedText =
     "OLE initialization failed. Make sure that the OLE libraries are the correct version";
-
-class ScreenContext {
-  public:
-    ScreenContext() : m_dc(GetDC(nullptr)) {}
-    ScreenContext(const ScreenContext&) = delete;
-    ScreenContext& operator=(const ScreenContext&) = delete;
-    ~ScreenContext() { ReleaseDC(nullptr, m_dc); }
-    HDC Get() const { return m_dc; }
-
-  private:
-    HDC m_dc;
-};
 
 void RegisterGridClass() {
     WNDCLASSA window{};
@@ -54,13 +43,13 @@ Colour SystemColour(int index) {
 }
 
 GridSize MeasureText(const std::string& text, const FontRecord& font) {
-    const ScreenContext screen;
-    return GdiCanvas(screen.Get()).TextSize(text, font);
+    const win32::WindowContext screen(nullptr);
+    return GdiCanvas(screen.Context()).TextSize(text, font);
 }
 
 int ScreenDpi() {
-    const ScreenContext screen;
-    return GetDeviceCaps(screen.Get(), LOGPIXELSX);
+    const win32::WindowContext screen(nullptr);
+    return GetDeviceCaps(screen.Context(), LOGPIXELSX);
 }
 
 unsigned DoubleClickTime() {

@@ -1,21 +1,20 @@
 #include "grid/win32/TipWindow.h"
 
-// The common controls want windows.h before them.
-#include <commctrl.h>
+#include <utility>
 
+#include "framework/win32/Drawing.h"
 #include "grid/GridCtrl.h"
 #include "grid/win32/GdiCanvas.h"
 
 namespace {
 
-constexpr UINT_PTR kSubclass = 1;
 constexpr int kTextMargin = 3;
 
 }  // namespace
 
 TipWindow::~TipWindow() {
     if (m_window == nullptr) return;
-    RemoveWindowSubclass(m_window, Procedure, kSubclass);
+    win32::UnhookWindow(m_window);
     DestroyWindow(m_window);
 }
 
@@ -26,7 +25,12 @@ void TipWindow::Show(HWND owner, const GridRect& rect, const std::string& text, 
                                    WS_POPUP | WS_BORDER | SS_NOTIFY, 0, 0, 0, 0, owner, nullptr,
                                    win32::ModuleInstance(), nullptr);
         if (m_window == nullptr) return;
-        SetWindowSubclass(m_window, Procedure, kSubclass, reinterpret_cast<DWORD_PTR>(this));
+        try {
+            win32::HookWindow(m_window, *this);
+        } catch (...) {
+            DestroyWindow(std::exchange(m_window, nullptr));
+            throw;
+        }
     }
     m_owner = owner;
     m_text = text;
@@ -48,18 +52,7 @@ void TipWindow::WatchForLeave() {
     TrackMouseEvent(&watch);
 }
 
-LRESULT CALLBACK TipWindow::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                      DWORD_PTR data) {
-    auto& self = *reinterpret_cast<TipWindow*>(data);
-    if (message == WM_NCDESTROY) {
-        RemoveWindowSubclass(window, Procedure, id);
-        self.m_window = nullptr;
-        return DefSubclassProc(window, message, wParam, lParam);
-    }
-    return self.OnMessage(message, wParam, lParam) ? 0 : DefSubclassProc(window, message, wParam, lParam);
-}
-
-bool TipWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+bool TipWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT&) {
     switch (message) {
         case WM_PAINT:
             OnPaint();
@@ -95,13 +88,11 @@ void TipWindow::OnButton(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 void TipWindow::OnPaint() {
-    PAINTSTRUCT paint{};
-    const HDC dc = BeginPaint(m_window, &paint);
+    const win32::Painting painting(m_window);
     RECT client{};
     GetClientRect(m_window, &client);
-    GdiCanvas canvas(dc);
+    GdiCanvas canvas(painting.Context());
     canvas.FillRect({0, 0, client.right, client.bottom}, GetSysColor(COLOR_INFOBK));
     canvas.DrawText(m_text, {kTextMargin - 1, 0, client.right, client.bottom},
                     kTextSingleLine | kTextMiddle | kTextNoPrefix, m_font, GetSysColor(COLOR_INFOTEXT));
-    EndPaint(m_window, &paint);
 }

@@ -2,27 +2,26 @@
 
 #include <string>
 
-#include "framework/win32/Windows32.h"
+#include "framework/win32/WindowHook.h"
 #include "grid/GridTypes.h"
 
 class CGridCtrl;
 
 // The window of the title tip: a text over a cell, above all other windows.
-class TipWindow {
+class TipWindow : private win32::MessageTarget {
   public:
     explicit TipWindow(CGridCtrl& grid) : m_grid(grid) {}
     TipWindow(const TipWindow&) = delete;
     TipWindow& operator=(const TipWindow&) = delete;
-    ~TipWindow();
+    ~TipWindow() override;
 
     // `rect` in the client area of the grid's window.
     void Show(HWND owner, const GridRect& rect, const std::string& text, const FontRecord& font);
     void Hide();
 
   private:
-    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                      DWORD_PTR data);
-    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
+    void OnGone() noexcept override { m_window = nullptr; }
     void OnPaint();
     void OnButton(UINT message, WPARAM wParam, LPARAM lParam);
     void WatchForLeave();
