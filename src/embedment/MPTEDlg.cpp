@@ -181,11 +181,20 @@ void CMPTEDlg::TakeCase(bool emptyIsInvalid) {
         DrawPlot();
         return;
     }
+    RestoreCase();
+    AfxMessageBox("Invalid load case.");
+}
+
+void CMPTEDlg::RestoreCase() {
+    // Set back on every way out: otherwise a failure would end the choice of cases for good.
+    struct Restoring {
+        bool& on;
+        ~Restoring() { on = false; }
+    };
     m_bRestoring = true;
+    const Restoring restoring{m_bRestoring};
     CDataExchange exchange(*this, false);
     DDX_Text(exchange, kCase, m_nCase);
-    m_bRestoring = false;
-    AfxMessageBox("Invalid load case.");
 }
 
 void CMPTEDlg::OnIndividual(int) {

@@ -64,6 +64,7 @@ class CMPTEDlg : public CDialog {
     void SetUpGrid();
     void SetCaptions();
     void TakeCase(bool emptyIsInvalid);
+    void RestoreCase();
     void OnQuantityChanged(int id);
     void OnCaseFocusLost(int id);
     void OnCaseChanged(int id);

@@ -128,27 +128,29 @@ void CDialog::OnFileException(const std::string& text) {
 
 namespace {
 
-// A message takes memory too; where none is left the step ends without a word, never the process.
-void TellFailure(CDialog& dialog, const char* head, const char* text) noexcept {
+// Made when the program starts: where memory is out, these words take none.
+const std::string kNoMemoryText = "There is not enough memory for this operation.";
+
+void ReportThrown(CDialog& dialog) {
     try {
-        dialog.OnFileException(std::string(head) + text);
-    } catch (const std::exception&) {
-        return;
+        throw;
+    } catch (const CFileException& failure) {
+        dialog.OnFileException(failure.what());
+    } catch (const std::bad_alloc&) {
+        dialog.OnFileException(kNoMemoryText);
+    } catch (const std::exception& failure) {
+        dialog.OnFileException(std::string("The operation failed: ") + failure.what());
+    } catch (...) {
+        dialog.OnFileException("The operation failed.");
     }
 }
 
 }  // namespace
 
-bool RunGuarded(CDialog& dialog, const std::function<void()>& step) {
+void ReportFailure(CDialog& dialog) noexcept {
     try {
-        step();
-        return true;
-    } catch (const CFileException& failure) {
-        TellFailure(dialog, "", failure.what());
-    } catch (const std::bad_alloc&) {
-        TellFailure(dialog, "", "There is not enough memory for this operation.");
-    } catch (const std::exception& failure) {
-        TellFailure(dialog, "The operation failed: ", failure.what());
+        ReportThrown(dialog);
+    } catch (...) {
+        return;  // no memory for the words
     }
-    return false;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -92,6 +91,20 @@ class CDialog : public CWnd {
 
 inline const CRuntimeClass CDialog::classCDialog{"CDialog", &CWnd::classCWnd};
 
-// Runs one step of a dialog's message dispatch. A failure that the step throws is told by the dialog's
-// OnFileException and the dialog lives on; false then.
-bool RunGuarded(CDialog& dialog, const std::function<void()>& step);
+// Reports the exception that is being handled by the dialog's OnFileException; to be called from a catch
+// clause. Where memory is out even for the words, nothing is reported.
+void ReportFailure(CDialog& dialog) noexcept;
+
+// Runs one step of a dialog's message dispatch: no exception leaves it. A failure that the step throws is
+// reported and the dialog lives on; false then. The border itself takes no memory, so that it holds where
+// none is left.
+template <class Step>
+bool RunGuarded(CDialog& dialog, Step&& step) noexcept {
+    try {
+        step();
+        return true;
+    } catch (...) {
+        ReportFailure(dialog);
+        return false;
+    }
+}

@@ -136,9 +136,15 @@ void CGridCell::Reset() {
 bool CGridCell::OpenEditor(std::unique_ptr<CInPlaceEdit> editor, const GridRect& rect) {
     m_bEditing = true;
     m_pEditor = editor.get();
-    if (m_pGrid->Host().OpenEditor(std::move(editor), rect)) return true;
-    EndEdit();
-    return false;
+    bool opened = false;
+    try {
+        opened = m_pGrid->Host().OpenEditor(std::move(editor), rect);
+    } catch (...) {
+        EndEdit();  // the editor is gone with its window
+        throw;
+    }
+    if (!opened) EndEdit();
+    return opened;
 }
 
 bool CGridCell::Edit(int row, int column, const GridRect& rect, GridPoint, int id, unsigned key) {

@@ -141,6 +141,8 @@ class CGridCtrl : public CWnd {
     CInPlaceEdit* OpenEditor() const;  // null: no cell is being edited
     // Ends an open edit as a loss of focus does.
     void EndOpenEdit();
+    // The editor could not hand its text over: the cell keeps its own.
+    void AbandonEdit();
     int EditorTextWidth(int row, int column, const std::string& text) const;
 
   protected:
@@ -157,6 +159,7 @@ class CGridCtrl : public CWnd {
 
   private:
     enum class MouseMode { none, selecting, sizingColumn, sizingRow };
+    using CellRow = std::vector<std::unique_ptr<CGridCellBase>>;
 
     void MarkFixed(int row, int column);
     void RemarkFixed();
@@ -208,7 +211,7 @@ class CGridCtrl : public CWnd {
     std::vector<unsigned> m_RowHeights, m_ColumnWidths;
     std::array<CGridDefaultCell, 4> m_DefaultCells;  // normal, fixed row, fixed column, corner
     FontRecord m_PrintFont;
-    std::vector<std::vector<std::unique_ptr<CGridCellBase>>> m_CellRows;
+    std::vector<CellRow> m_CellRows;
     CCellID m_FocusCell, m_FirstVisibleCell, m_SelectionStart, m_SelectionEnd;
     bool m_bColumnsResizable = true, m_bRowsResizable = true;
     std::map<std::uint32_t, CCellID> m_Selection, m_DragStartSelection;

@@ -31,12 +31,17 @@ void CGridCtrl::FinishCellEdit(int row, int column, const std::string& text) {
     m_EditCell = {};
     CGridCellBase* cell = GetCell(row, column);
     if (cell == nullptr) return;
+    cell->EndEdit();  // first: where memory runs out the edit is over and the cell keeps its text
     if (text != cell->GetText() && AcceptEdit(row, column, text)) {
         SetCellText(row, column, text);
         SetCellState(row, column, cell->GetState() | kCellChanged);
     }
-    cell->EndEdit();
     RedrawCell(row, column);
+}
+
+void CGridCtrl::AbandonEdit() {
+    if (CGridCellBase* cell = GetCell(m_EditCell.row, m_EditCell.column)) cell->EndEdit();
+    m_EditCell = {};
 }
 
 void CGridCtrl::OnNotify(const EditNotice& notice) {

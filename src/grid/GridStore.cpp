@@ -35,8 +35,8 @@ CGridCtrl::~CGridCtrl() {
 void CGridCtrl::OnAttach() {
     // Every data exchange binds the control anew.
     if (m_hWnd == m_hAttached) return;
-    m_hAttached = m_hWnd;
     SetHost(gridplatform::MakeHost(*this));
+    m_hAttached = m_hWnd;
 }
 
 void CGridCtrl::SetHost(std::unique_ptr<GridHost> host) {
@@ -63,20 +63,25 @@ void CGridCtrl::ClearGrid() {
 
 bool CGridCtrl::SetRowCount(int rows) {
     if (m_bNoStore || rows < 0) return false;
+    // All memory is taken before anything changes: a grid that lacks cells must not be drawn.
+    std::vector<CellRow> added;
+    for (int row = m_nRows; row < rows; ++row) {
+        CellRow& cells = added.emplace_back();
+        for (int column = 0; column < m_nCols; ++column) cells.push_back(MakeCell(row, column));
+    }
+    m_CellRows.reserve(U(rows));
+    m_RowHeights.reserve(U(rows));
     for (int row = rows; row < m_nRows; ++row) {
         for (int column = 0; column < m_nCols; ++column) FreeCell(row, column);
     }
     const int before = m_nRows;
-    m_CellRows.resize(U(rows));
+    m_CellRows.resize(U(std::min(rows, before)));
+    for (CellRow& cells : added) m_CellRows.push_back(std::move(cells));
     m_RowHeights.resize(U(rows), static_cast<unsigned>(DefaultCell(false, false).Height()));
     m_nRows = rows;
     m_nFixedRows = std::min(m_nFixedRows, rows);
     for (int row = before; row < rows; ++row) {
-        m_CellRows[U(row)].reserve(U(m_nCols));
-        for (int column = 0; column < m_nCols; ++column) {
-            m_CellRows[U(row)].push_back(MakeCell(row, column));
-            MarkFixed(row, column);
-        }
+        for (int column = 0; column < m_nCols; ++column) MarkFixed(row, column);
     }
     ForgetCellsOutside();
     LayoutChanged();
@@ -85,19 +90,26 @@ bool CGridCtrl::SetRowCount(int rows) {
 
 bool CGridCtrl::SetColumnCount(int columns) {
     if (m_bNoStore || columns < 0) return false;
-    for (int row = 0; row < m_nRows; ++row) {
-        for (int column = columns; column < m_nCols; ++column) FreeCell(row, column);
-        m_CellRows[U(row)].resize(U(columns));
-    }
     const int before = m_nCols;
+    // All memory is taken before anything changes, as with the rows.
+    CellRow added;
+    for (int row = 0; row < m_nRows; ++row) {
+        m_CellRows[U(row)].reserve(U(columns));
+        for (int column = before; column < columns; ++column) added.push_back(MakeCell(row, column));
+    }
+    m_ColumnWidths.reserve(U(columns));
+    auto next = added.begin();
+    for (int row = 0; row < m_nRows; ++row) {
+        for (int column = columns; column < before; ++column) FreeCell(row, column);
+        CellRow& cells = m_CellRows[U(row)];
+        cells.resize(U(std::min(columns, before)));
+        for (int column = before; column < columns; ++column) cells.push_back(std::move(*next++));
+    }
     m_ColumnWidths.resize(U(columns), static_cast<unsigned>(DefaultCell(false, false).Width()));
     m_nCols = columns;
     m_nFixedCols = std::min(m_nFixedCols, columns);
     for (int row = 0; row < m_nRows; ++row) {
-        for (int column = before; column < columns; ++column) {
-            m_CellRows[U(row)][U(column)] = MakeCell(row, column);
-            MarkFixed(row, column);
-        }
+        for (int column = before; column < columns; ++column) MarkFixed(row, column);
     }
     ForgetCellsOutside();
     LayoutChanged();

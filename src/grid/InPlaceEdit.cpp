@@ -4,6 +4,16 @@
 
 #include "grid/GridCtrl.h"
 
+namespace {
+
+// An edit that ended takes its window away, whatever the grid made of it.
+struct Closing {
+    EditorWindow& window;
+    ~Closing() { window.Close(); }
+};
+
+}  // namespace
+
 CInPlaceEdit::CInPlaceEdit(CGridCtrl& grid, int row, int column, int id, const std::string& text,
                            unsigned startKey)
     : m_grid(grid), m_nRow(row), m_nColumn(column), m_nId(id), m_sInitial(text), m_nStartKey(startKey) {}
@@ -80,7 +90,13 @@ void CInPlaceEdit::End(unsigned key, KeyState keys) {
     // Closing the window takes the focus away from it, which ends the edit too.
     if (m_bEnded || m_pWindow == nullptr) return;
     m_bEnded = true;
-    EditNotice notice{m_nId, kEditEnded, m_nRow, m_nColumn, m_pWindow->Read().text, key, keys};
+    const Closing closing{*m_pWindow};
+    EditNotice notice{m_nId, kEditEnded, m_nRow, m_nColumn, {}, key, keys};
+    try {
+        notice.text = m_pWindow->Read().text;
+    } catch (...) {
+        m_grid.AbandonEdit();
+        throw;
+    }
     m_grid.OnNotify(notice);
-    m_pWindow->Close();
 }

@@ -1,52 +1,9 @@
-#include <atomic>
-#include <cstdlib>
-#include <new>
-
 #include "app/Launch.h"
 #include "reliability/BrokenProject.h"
+#include "reliability/FaultyCalls.h"
 
 // The Nth allocation fails, for N = 1, 2, 3 ... until a run passes clean: no run may end the process, and
 // the run behind it must be whole again.
-
-namespace {
-
-std::atomic<long> g_allocationsLeft{-1};  // below 0: all succeed
-
-void* Allocate(std::size_t bytes) {
-    if (g_allocationsLeft >= 0 && g_allocationsLeft-- == 0) throw std::bad_alloc();
-    void* memory = std::malloc(bytes == 0 ? 1 : bytes);
-    if (memory == nullptr) throw std::bad_alloc();
-    return memory;
-}
-
-}  // namespace
-
-void* operator new(std::size_t bytes) {
-    return Allocate(bytes);
-}
-void* operator new[](std::size_t bytes) {
-    return Allocate(bytes);
-}
-// The form without exceptions, which the library's sorts use, fails by the same count.
-void* operator new(std::size_t bytes, const std::nothrow_t&) noexcept {
-    try {
-        return Allocate(bytes);
-    } catch (const std::bad_alloc&) {
-        return nullptr;
-    }
-}
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory) noexcept {
-    std::free(memory);
-}
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
 
 namespace {
 
@@ -68,10 +25,10 @@ class Presses {
         headless::SetModalDriver([&next](headless::HeadlessDialog& dialog) {
             while (dialog.IsOpen() && next < std::size(kPresses)) dialog.Click(kPresses[next++]);
         });
-        g_allocationsLeft = number;
+        faulty::g_allocationsLeft = number;
         LaunchLumerin(kFormatText, m_project.c_str(), "5.2.1", "", "", "");
-        const bool failed = g_allocationsLeft < 0;
-        g_allocationsLeft = -1;
+        const bool failed = faulty::g_allocationsLeft < 0;
+        faulty::g_allocationsLeft = -1;
         headless::ResetState();
         return failed;
     }

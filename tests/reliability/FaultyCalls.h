@@ -1,10 +1,13 @@
 // Calls of the C library that a test lets fail. The linker sends the product's own calls through here.
 #pragma once
 
+#include <atomic>
+
 namespace faulty {
 
 // How many more calls succeed before one fails; below 0 all do. The one that fails sets it to -1.
-extern long g_callocsLeft;  // memory for forces
-extern long g_writesLeft;   // fwrite: the failing call stores half of its bytes, as a disk does that fills
+extern std::atomic<long> g_allocationsLeft;  // operator new
+extern long g_callocsLeft;                   // memory for forces
+extern long g_writesLeft;  // fwrite: the failing call stores half of its bytes, as a disk does that fills
 
 }  // namespace faulty
