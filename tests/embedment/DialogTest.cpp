@@ -128,6 +128,16 @@ TEST_F(EmbedmentDialogTest, WordsFollowTheProject) {
          kFormatText);
 }
 
+TEST_F(EmbedmentDialogTest, TimeStepsAreLoadCasesInTheTitleAndTheHeadings) {
+    WriteStudy();
+    g_DataSet.m_nAnalysisMode = 1;
+    Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
+        EXPECT_EQ(front.Find(1030)->text, "Time Step");
+        EXPECT_EQ(Row(dialog, 0)[1], "Load Case");
+        EXPECT_EQ(DrawnText(dialog, kGraphCaption), "Load Case 1 - Embedment vs Lateral Displacement");
+    });
+}
+
 TEST_F(EmbedmentDialogTest, AQuantityChangesHeadingsTableAndPlot) {
     WriteStudy();
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
