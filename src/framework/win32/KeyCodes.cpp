@@ -1,0 +1,20 @@
+// The codes of Keys.h are the platform's own; a wrong one would be another key.
+#include "framework/Keys.h"
+#include "framework/win32/Windows32.h"
+
+static_assert(kKeyMouse == VK_LBUTTON);
+static_assert(kKeyBackspace == VK_BACK);
+static_assert(kKeyTab == VK_TAB);
+static_assert(kKeyReturn == VK_RETURN);
+static_assert(kKeyEscape == VK_ESCAPE);
+static_assert(kKeyBlank == VK_SPACE);
+static_assert(kKeyPageUp == VK_PRIOR);
+static_assert(kKeyPageDown == VK_NEXT);
+static_assert(kKeyEnd == VK_END);
+static_assert(kKeyHome == VK_HOME);
+static_assert(kKeyLeft == VK_LEFT);
+static_assert(kKeyUp == VK_UP);
+static_assert(kKeyRight == VK_RIGHT);
+static_assert(kKeyDown == VK_DOWN);
+static_assert(kKeyInsert == VK_INSERT);
+static_assert(kKeyDelete == VK_DELETE);
