@@ -56,6 +56,7 @@ void CGridCtrl::FreeCell(int row, int column) {
 }
 
 void CGridCtrl::ClearGrid() {
+    if (m_bNoStore) return;
     SetRowCount(0);
     SetColumnCount(0);
     m_nFixedRows = m_nFixedCols = 0;

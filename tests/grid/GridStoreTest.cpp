@@ -160,6 +160,21 @@ TEST_F(GridStore, WithoutAStoreEverySetterReturnsAtOnce) {
     EXPECT_EQ(m_grid.GetCellText(0, 0), "r0c0");
 }
 
+TEST_F(GridStore, WithoutAStoreClearingReturnsAtOnce) {
+    Build(3, 3);
+    m_grid.SetFixedRowCount(1);
+    m_grid.SetFixedColumnCount(2);
+    m_grid.SetNoStore(true);
+    m_grid.ClearGrid();
+    EXPECT_EQ(m_grid.GetFixedRowCount(), 1);
+    EXPECT_EQ(m_grid.GetFixedColumnCount(), 2);
+    EXPECT_EQ(m_grid.GetRowCount(), 3);
+    m_grid.SetNoStore(false);
+    m_grid.ClearGrid();
+    EXPECT_EQ(m_grid.GetFixedRowCount(), 0);
+    EXPECT_EQ(m_grid.GetRowCount(), 0);
+}
+
 TEST_F(GridStore, ClearingForgetsFocusAndSelection) {
     Build(3, 3);
     FocusOn(1, 1);
