@@ -83,7 +83,8 @@ int ReadKeyedValues(std::string_view text, std::string_view key, std::span<Value
 
 ifstreamex::ifstreamex(const std::string& path) {
     const std::string found = FindFileAnyCase(path);
-    if (found.empty()) {
+    // A folder can be opened on some platforms, and fails when it is read.
+    if (found.empty() || IsFolder(found)) {
         setstate(std::ios::failbit);
     } else {
         open(found, std::ios::in | std::ios::binary);
@@ -95,6 +96,15 @@ bool ifstreamex::ReadPhysicalLine(std::string& line, int maxLength, char delimit
         setstate(std::ios::failbit);
         return false;
     }
+    try {
+        return TakeLine(line, maxLength, delimiter);
+    } catch (const std::ios_base::failure&) {
+        setstate(std::ios::badbit);  // the buffer throws for a file that can't be read
+        return false;
+    }
+}
+
+bool ifstreamex::TakeLine(std::string& line, int maxLength, char delimiter) {
     constexpr int kEnd = std::char_traits<char>::eof();
     std::streambuf& source = *rdbuf();
     int stored = 0;

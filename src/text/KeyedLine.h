@@ -7,7 +7,8 @@
 
 // The host's keyed text: lines of keys such as "N=" with values behind them, in named sections.
 
-// An input text file. A missing file leaves the stream in the failed state; nothing throws.
+// An input text file. A missing file, or a folder in its place, leaves the stream in the failed state, a file
+// that can't be read in the bad one; nothing throws but what memory that runs out does.
 class ifstreamex : public std::ifstream {
   public:
     // Opens the file of that name whatever the case of its letters.
@@ -22,6 +23,7 @@ class ifstreamex : public std::ifstream {
 
   private:
     bool ReadPhysicalLine(std::string& line, int maxLength, char delimiter);
+    bool TakeLine(std::string& line, int maxLength, char delimiter);
 };
 
 // Up to out.size() values behind `key`, which is found anywhere in the text without regard to letter case;

@@ -80,6 +80,33 @@ TEST(LoadProject, MissingFilesAreNamed) {
     }
 }
 
+TEST(LoadProject, ATextFileThatCannotBeReadIsAsOneThatIsMissing) {
+    for (const char* suffix : {".MIS", ".CMB", ".LIM"}) {
+        ResultProject project;
+        project.substructures[0].codeFamily = 0;
+        project.Write();
+        project.WriteFile(".MIS", "PROJECTDATA\nL= 5 N= a bridge\n");
+        project.WriteFile(".CMB", "[Comb. 1]\nfirst\n[Comb. 2]\nsecond\n");
+        project.WriteFile(".LIM", "x\nA= 1\nx\nx\n101 1 2\n:\n");
+        const auto loaded = [&project] {
+            const MessageLog log;
+            EXPECT_TRUE(project.Load());
+            EXPECT_TRUE(log.texts.empty());
+            const CLoadCase& second = g_DataSet.FirstPier().m_LoadCases[1];
+            return g_DataSet.m_sProjectN + "|" + second.m_sName + "|" + second.m_sLimitState;
+        };
+        EXPECT_EQ(loaded(), "a bri|second|STRENGTH-I");
+        project.Remove(suffix);
+        const std::string missing = loaded();
+        std::filesystem::create_directory(project.Path(suffix));
+        EXPECT_EQ(loaded(), missing) << "a folder " << suffix;
+        project.Remove(suffix);
+        // The memory of a process opens as a file whose first bytes can't be read.
+        std::filesystem::create_symlink("/proc/self/mem", project.Path(suffix));
+        EXPECT_EQ(loaded(), missing) << "a read error in " << suffix;
+    }
+}
+
 TEST(LoadProject, AFileWithoutItsMarkIsNamed) {
     for (const char* suffix : {".TWR", ".PLF", ".PIL", ".ncv", ".pls"}) {
         ResultProject project;

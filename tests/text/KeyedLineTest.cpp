@@ -106,6 +106,28 @@ TEST_F(KeyedFile, AMissingFileIsAFailedStream) {
     EXPECT_EQ(line, "");
 }
 
+TEST_F(KeyedFile, AFolderInItsPlaceIsAFailedStream) {
+    std::filesystem::create_directory(m_folder / "bridge.MIS");
+    ifstreamex in((m_folder / "bridge.MIS").string());
+    EXPECT_TRUE(in.fail());
+    EXPECT_FALSE(in.is_open());
+    std::string line = "old";
+    EXPECT_FALSE(in.GetLineEx(line, kLimit));
+    EXPECT_EQ(line, "");
+}
+
+// The memory of a process opens as a file whose first bytes can't be read.
+TEST_F(KeyedFile, AReadErrorIsABadStream) {
+    std::filesystem::create_symlink("/proc/self/mem", m_folder / "bridge.MIS");
+    ifstreamex in((m_folder / "bridge.MIS").string());
+    ASSERT_TRUE(in.is_open());
+    std::string line = "old";
+    EXPECT_FALSE(in.GetLineEx(line, kLimit));
+    EXPECT_EQ(line, "");
+    EXPECT_TRUE(in.bad());
+    EXPECT_FALSE(in.GetLineEx(line, kLimit));
+}
+
 TEST_F(KeyedFile, TheFileIsFoundWhateverTheCaseOfItsName) {
     FileOf("here\n");
     ifstreamex in((m_folder / "BRIDGE.mis").string());
