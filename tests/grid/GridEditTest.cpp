@@ -28,6 +28,18 @@ TEST_F(GridEdit, TypingOpensTheEditorAndReplacesTheText) {
     EXPECT_EQ(Focus(), (CCellID{0, 0}));
 }
 
+TEST_F(GridEdit, TheCellThatIsEditedIsScrolledIntoView) {
+    Build(50, 9, {250, 200});
+    FocusOn(30, 6);
+    m_grid.ScrollCellIntoView(0, 0);
+    Type("1");
+    ASSERT_NE(m_host->Editor(), nullptr);
+    // Both bars leave nine whole rows and four whole columns.
+    EXPECT_EQ(m_grid.FirstVisibleCell(), (CCellID{22, 3}));
+    Press(kKeyReturn);
+    EXPECT_EQ(m_grid.GetCellText(30, 6), "1");
+}
+
 TEST_F(GridEdit, ABoolCellTakesZeroAndRefusesFiveAndTheSign) {
     BuildOne(CGridCellBOOL::classCGridCellBOOL, "1");
     Type("0");

@@ -33,6 +33,36 @@ TEST_F(GridStore, NewRowsAndColumnsHaveTheSizeOfTheDefaultCell) {
     EXPECT_EQ(m_grid.GetColumnWidth(0), 84);
 }
 
+TEST_F(GridStore, ACellThatHoldsNothingOfItsOwnLeavesItAllToTheDefaults) {
+    const CGridCellBase plain;
+    EXPECT_EQ(plain.GetText(), "");
+    EXPECT_EQ(plain.GetTipText(), "");
+    EXPECT_EQ(plain.GetImage(), -1);
+    EXPECT_EQ(plain.GetUserValue(), 0);
+    EXPECT_EQ(plain.GetState(), 0u);
+    EXPECT_EQ(plain.GetFormat(), 0u);
+    EXPECT_EQ(plain.GetTextColour(), kDefaultColour);
+    EXPECT_EQ(plain.GetBackground(), kDefaultColour);
+    EXPECT_EQ(plain.GetFont(), FontRecord{});
+    EXPECT_TRUE(plain.IsDefaultFont());
+    EXPECT_EQ(plain.GetGrid(), nullptr);
+    EXPECT_EQ(plain.GetEditor(), nullptr);
+    EXPECT_EQ(plain.GetMargin(), 0);
+    EXPECT_FALSE(plain.IsEditing());
+    CGridCell cell;
+    cell.SetText("x");
+    cell.SetImage(4);
+    cell.SetUserValue(5);
+    cell.SetMargin(6);
+    cell.SetState(kCellSelected);
+    cell.CopyFrom(plain);
+    EXPECT_EQ(cell.GetText(), "");
+    EXPECT_EQ(cell.GetImage(), -1);
+    EXPECT_EQ(cell.GetUserValue(), 0);
+    EXPECT_EQ(cell.GetMargin(), 0);
+    EXPECT_EQ(cell.GetState(), 0u);
+}
+
 TEST_F(GridStore, TextOutOfRangeIsEmpty) {
     Build(2, 2);
     EXPECT_EQ(m_grid.GetCellText(-1, 0), "");
