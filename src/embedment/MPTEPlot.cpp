@@ -195,7 +195,11 @@ void CMPTEDlg::DrawPlot() {
     m_Graph.SetProperty(kGraphElementC, 5);
     m_Graph.SetProperty(kGraphElementD, 1);
     SetPlotAxes();
+    int before = -1;
     for (int i = m_pResults.FirstTrial(); i >= 0; i = m_pResults.FindAdjacentTrial(i, false)) {
+        // A trial that is missing between two others is no straight line.
+        if (i > before + 1) m_Graph.LeaveGap();
+        before = i;
         const CEnvelopePoint point = PointOf(i);
         m_Graph.InvokeHelper(kGraphPlotPoint, {point.dEmbedment, point.dValue, 1});
     }

@@ -22,6 +22,8 @@ class CNTGraphTarnsway : public CWnd, public GraphPeer {
 
     void SetProperty(int dispatchId, const GraphValue& value);
     void InvokeHelper(int dispatchId, std::vector<GraphValue> arguments = {});
+    // For the module's own plot alone: it is no call of the control.
+    void LeaveGap() { m_plot.LeaveGap(); }
     int GetElementCount() const;
     double GetClickedX() const;
 

@@ -103,14 +103,26 @@ void CPlot::Call(int dispatchId, std::span<const GraphValue> arguments) {
             m_dMaxY = Real(arguments[3]);
             break;
         case kGraphPlotPoint: {
-            const int element = Integer(kGraphElement, 0);
-            if (arguments.size() < 2 || element < 0 || element >= static_cast<int>(m_Elements.size())) break;
-            m_Elements[static_cast<std::size_t>(element)].push_back({Real(arguments[0]), Real(arguments[1])});
+            Curve* curve = CurrentElement();
+            if (arguments.size() < 2 || curve == nullptr) break;
+            if (curve->empty()) curve->emplace_back();
+            curve->back().push_back({Real(arguments[0]), Real(arguments[1])});
             break;
         }
         default:
             break;
     }
+}
+
+void CPlot::LeaveGap() {
+    Curve* curve = CurrentElement();
+    if (curve != nullptr && !curve->empty()) curve->emplace_back();
+}
+
+CPlot::Curve* CPlot::CurrentElement() {
+    const int element = Integer(kGraphElement, 0);
+    if (element < 0 || element >= static_cast<int>(m_Elements.size())) return nullptr;
+    return &m_Elements[static_cast<std::size_t>(element)];
 }
 
 int CPlot::Integer(int id, int fallback) const {
@@ -165,7 +177,9 @@ void CPlot::Draw(PlotCanvas& canvas, double width, double height) const {
     DrawAxes(canvas, layout);
     DrawTexts(canvas, layout, width);
     if (!layout.x.IsValid() || !layout.y.IsValid()) return;
-    for (const auto& points : m_Elements) DrawSeries(canvas, layout, points);
+    for (const Curve& curve : m_Elements) {
+        for (const auto& run : curve) DrawSeries(canvas, layout, run);
+    }
 }
 
 void CPlot::DrawGrid(PlotCanvas& canvas, const Layout& layout) const {
@@ -236,20 +250,20 @@ void CPlot::DrawTexts(PlotCanvas& canvas, const Layout& layout, double width) co
             frame.Height() + em * 2.0, true);
 }
 
-void CPlot::DrawSeries(PlotCanvas& canvas, const Layout& layout, const std::vector<PlotPoint>& points) const {
+void CPlot::DrawSeries(PlotCanvas& canvas, const Layout& layout, const std::vector<PlotPoint>& run) const {
     const PlotRect& frame = layout.frame;
     const double em = layout.text.height;
     std::vector<PlotPoint> places;
-    for (const PlotPoint& point : points) {
+    for (const PlotPoint& point : run) {
         const PlotPoint place{frame.left + frame.Width() * layout.x.Share(point.x),
                               frame.bottom - frame.Height() * layout.y.Share(point.y)};
         if (IsFinite(place)) places.push_back(place);
     }
     // Lines end at the frame, so that a point outside it still shows where its line goes.
-    std::vector<PlotPoint> run;
+    std::vector<PlotPoint> line;
     const auto flush = [&] {
-        if (run.size() > 1) canvas.Polyline(run, std::max(1.3, em * 0.15), kSeries);
-        run.clear();
+        if (line.size() > 1) canvas.Polyline(line, std::max(1.3, em * 0.15), kSeries);
+        line.clear();
     };
     for (std::size_t i = 1; i < places.size(); ++i) {
         PlotPoint from = places[i - 1], to = places[i];
@@ -257,8 +271,8 @@ void CPlot::DrawSeries(PlotCanvas& canvas, const Layout& layout, const std::vect
             flush();
             continue;
         }
-        if (run.empty()) run.push_back(from);
-        run.push_back(to);
+        if (line.empty()) line.push_back(from);
+        line.push_back(to);
         if (!frame.Contains(places[i])) flush();
     }
     flush();

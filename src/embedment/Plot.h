@@ -39,6 +39,9 @@ class CPlot {
     void Set(int dispatchId, const GraphValue& value) { m_Properties[dispatchId] = value; }
     GraphValue Get(int dispatchId) const;
     void Call(int dispatchId, std::span<const GraphValue> arguments);
+    // The current element's next point is not joined to the one before it. The graph control has no such
+    // member: it joins all points.
+    void LeaveGap();
 
     void Draw(PlotCanvas& canvas, double width, double height) const;
     // The x of the data at a place of the drawing, also left and right of the frame.
@@ -60,16 +63,20 @@ class CPlot {
         double tick = 0.0;  // length of a tick mark
     };
 
+    // An element's points in runs; the points of a run are joined by a line.
+    using Curve = std::vector<std::vector<PlotPoint>>;
+
     int Integer(int id, int fallback) const;
+    Curve* CurrentElement();  // null: there is none
     std::string Text(int id) const;
     Axis MakeAxis(double min, double max, int ticksId, int formatId) const;
     Layout MakeLayout(const PlotCanvas& canvas, double width, double height) const;
     void DrawGrid(PlotCanvas& canvas, const Layout& layout) const;
     void DrawAxes(PlotCanvas& canvas, const Layout& layout) const;
     void DrawTexts(PlotCanvas& canvas, const Layout& layout, double width) const;
-    void DrawSeries(PlotCanvas& canvas, const Layout& layout, const std::vector<PlotPoint>& points) const;
+    void DrawSeries(PlotCanvas& canvas, const Layout& layout, const std::vector<PlotPoint>& run) const;
 
     std::map<int, GraphValue> m_Properties;
-    std::vector<std::vector<PlotPoint>> m_Elements;
+    std::vector<Curve> m_Elements;
     double m_dMinX = 0.0, m_dMaxX = 1.0, m_dMinY = 0.0, m_dMaxY = 1.0;
 };

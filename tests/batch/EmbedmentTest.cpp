@@ -8,7 +8,7 @@
 #include "batch/EmbedmentCommand.h"
 #include "samples/SampleFolder.h"
 
-// The study of the sample pier: eight trials of which the fifth is unfinished and the seventh is missing.
+// The study of the sample pier: eight trials of which the fifth is missing and the seventh is unfinished.
 
 namespace {
 
@@ -83,6 +83,26 @@ TEST_F(EmbedmentCommandTest, WritesPictureAndWorkbookAndTellsTheirPaths) {
     std::ifstream file(options.picture);
     const std::string picture(std::istreambuf_iterator<char>(file), {});
     EXPECT_THAT(picture, HasSubstr("Load Comb 2 - Embedment vs Lateral Displacement</text>"));
+}
+
+TEST_F(EmbedmentCommandTest, ThePictureLeavesAGapAtAnUnfinishedTrial) {
+    options.picture = folder.Base("curve.svg");
+    const auto count = [this](const std::string& what) {
+        std::ifstream file(options.picture);
+        const std::string picture(std::istreambuf_iterator<char>(file), {});
+        std::size_t hits = 0;
+        for (std::size_t at = picture.find(what); at != std::string::npos; at = picture.find(what, at + 1))
+            ++hits;
+        return hits;
+    };
+    ASSERT_EQ(Run(), kExitDone) << err.str();
+    EXPECT_EQ(count("<circle"), 6U);
+    EXPECT_EQ(count("<polyline"), 1U);  // trials 1 to 4; 6 and 8 are alone
+    // With the seventh finished 6 to 8 are a second line.
+    std::ofstream(folder.Base("MPTE7/pier_MPTE7.PEL"), std::ios::app) << "EOF\n";
+    ASSERT_EQ(Run(), kExitDone) << err.str();
+    EXPECT_EQ(count("<circle"), 7U);
+    EXPECT_EQ(count("<polyline"), 2U);
 }
 
 TEST_F(EmbedmentCommandTest, ACaseThatTheStudyDoesNotHaveIsWrongUse) {

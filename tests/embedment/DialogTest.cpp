@@ -4,11 +4,13 @@
 
 #include "StudyProject.h"
 #include "embedment/EmbedmentDialog.h"
+#include "embedment/SvgCanvas.h"
 
 using headless::HeadlessDialog;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 
 namespace {
 
@@ -326,6 +328,23 @@ TEST_F(EmbedmentDialogTest, AnIncompleteTrialReadsNotAvailableAndHasNoPoint) {
         front.Click(1034);
         EXPECT_THAT(Row(dialog, 3), ElementsAre("2", "NA", "NA", "NA", "NA"));
         EXPECT_EQ(Row(dialog, 4)[1], "2");
+    });
+}
+
+TEST_F(EmbedmentDialogTest, AnIncompleteTrialLeavesAGapInTheDrawingAndNoTraceInItsCalls) {
+    WriteBase(kBase);
+    WriteTrial(3, kThird);
+    std::size_t calls = 0;
+    Open([&](CMPTEDlg& dialog, HeadlessDialog&) {
+        calls = dialog.m_Graph.LastDrawing().size();
+        const std::string picture = PlotAsSvg(dialog.m_Graph.Plot(), 580.0, 306.0);
+        EXPECT_THAT(picture, HasSubstr("<circle"));
+        EXPECT_THAT(picture, Not(HasSubstr("<polyline")));  // trials 1 and 3
+    });
+    WriteTrial(2, kSecond);
+    Open([&](CMPTEDlg& dialog, HeadlessDialog&) {
+        EXPECT_EQ(dialog.m_Graph.LastDrawing().size(), calls + 1);  // one point more
+        EXPECT_THAT(PlotAsSvg(dialog.m_Graph.Plot(), 580.0, 306.0), HasSubstr("<polyline"));
     });
 }
 

@@ -222,6 +222,34 @@ TEST(Plot, JoinsThePointsByALine) {
     EXPECT_GT(canvas.discs[0].y, canvas.discs[2].y);  // greater values are higher up
 }
 
+TEST(Plot, AGapIsNotJoined) {
+    CPlot plot = MakePlot(10.0, 20.0, 0.0, 4.0);
+    plot.LeaveGap();  // before the first point there is nothing to part
+    AddPoint(plot, 10.0, 0.0);
+    AddPoint(plot, 12.0, 1.0);
+    plot.LeaveGap();
+    AddPoint(plot, 14.0, 2.0);
+    plot.LeaveGap();
+    AddPoint(plot, 16.0, 3.0);
+    AddPoint(plot, 18.0, 3.5);
+    AddPoint(plot, 20.0, 4.0);
+    const RecordingCanvas canvas = Drawn(plot);
+    ASSERT_EQ(canvas.discs.size(), 6u);
+    ASSERT_EQ(canvas.lines.size(), 2u);
+    EXPECT_EQ(canvas.lines[0].size(), 2u);
+    EXPECT_EQ(canvas.lines[1].size(), 3u);
+    EXPECT_EQ(canvas.lines[1][0].x, canvas.discs[3].x);
+}
+
+TEST(Plot, AGapWithoutAnElementIsNone) {
+    CPlot plot;
+    plot.LeaveGap();
+    plot.Call(kGraphAddElement, {});
+    plot.Set(kGraphElement, -1);
+    plot.LeaveGap();
+    EXPECT_EQ(std::get<int>(plot.Get(kGraphElementCount)), 1);
+}
+
 TEST(Plot, ALineToAPointOutsideEndsAtTheFrame) {
     CPlot plot = MakePlot(10.0, 20.0, 0.0, 4.0);
     AddPoint(plot, 10.0, 2.0);
