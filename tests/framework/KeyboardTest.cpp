@@ -10,6 +10,27 @@ constexpr KeyState kShift{true, false};
 
 class KeyboardTest : public HeadlessTest {};
 
+// Keys with a character have its code; the others have the numbers that the platform gives them, so that a
+// script means the same keys on both faces.
+TEST(KeyCodes, AreThePlatforms) {
+    EXPECT_EQ(kKeyBackspace, static_cast<unsigned>('\b'));
+    EXPECT_EQ(kKeyTab, static_cast<unsigned>('\t'));
+    EXPECT_EQ(kKeyReturn, static_cast<unsigned>('\r'));
+    EXPECT_EQ(kKeyEscape, 0x1bu);
+    EXPECT_EQ(kKeyBlank, static_cast<unsigned>(' '));
+    EXPECT_EQ(kKeyPageUp, 0x21u);
+    EXPECT_EQ(kKeyPageDown, 0x22u);
+    EXPECT_EQ(kKeyEnd, 0x23u);
+    EXPECT_EQ(kKeyHome, 0x24u);
+    EXPECT_EQ(kKeyLeft, 0x25u);
+    EXPECT_EQ(kKeyUp, 0x26u);
+    EXPECT_EQ(kKeyRight, 0x27u);
+    EXPECT_EQ(kKeyDown, 0x28u);
+    EXPECT_EQ(kKeyInsert, 0x2du);
+    EXPECT_EQ(kKeyDelete, 0x2eu);
+    EXPECT_EQ(kKeyMouse, 1u);  // a button, which no key can be
+}
+
 TEST_F(KeyboardTest, TabStopsAtTheCheckedRadioButtonAndPassesWhatCannotBeUsed) {
     TestDialog dialog;
     Run(dialog, [](HeadlessDialog& front) {

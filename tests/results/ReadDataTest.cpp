@@ -190,6 +190,16 @@ TEST(PierData, LocationsGoBySubstructureNumber) {
     EXPECT_EQ(g_DataSet.m_Piers[2].m_dLocationX, 7.0);
 }
 
+TEST(PierData, AFirstLineWithoutANumberNamesNoSubstructure) {
+    ResultProject project;
+    project.substructures.resize(2);
+    project.Write();
+    project.WriteFile(".MIS", "PIERDATA\nN= 2\nX= 7.0\nP= 2\n:\n");
+    ASSERT_TRUE(project.Load());
+    EXPECT_EQ(g_DataSet.m_Piers[0].m_dLocationX, 0.0);
+    EXPECT_EQ(g_DataSet.m_Piers[1].m_dLocationX, 7.0);  // that of the line before
+}
+
 TEST(KeyedText, AMissingFileSetsNothing) {
     ResultProject project;
     project.Write();
