@@ -1,5 +1,6 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -348,6 +349,31 @@ TEST_F(ReportRunTest, AFullWorkbookLeavesInvalidTablesOutInSilence) {
         EXPECT_EQ(text.find("Maximum Demand/Capacity Ratio For All Pile Properties"), std::string::npos);
         EXPECT_THAT(text, EndsWith("</Workbook>\r\n"));
     });
+}
+
+TEST_F(ReportRunTest, AFullTextIsPaddedAfterEveryTableButTheExtraMembers) {
+    const auto read = [](const std::string& path) {
+        std::ifstream file(path, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+    const auto lines = [](const std::string& text) { return std::count(text.begin(), text.end(), '\n'); };
+    // A page has 61 lines. The group's last table is that of the pile forces, and its page is filled.
+    const std::string group = Project("group");
+    Launch(group + ".in", 2, [](HeadlessDialog& dialog) {
+        dialog.Click(1001);
+        dialog.Click(1010);
+    });
+    const std::string padded = read(group + "_Full_Report.txt");
+    const std::string forces = read(group + "_Max_Forces_For_All_Pile_Sects.txt");
+    EXPECT_EQ(lines(padded) % 61, 0);
+    EXPECT_NE(lines(forces) % 61, 0);
+    EXPECT_THAT(padded, HasSubstr(forces + "\r\n\r\n"));
+    const std::string bridge = Project("bridge");
+    Launch(bridge + ".in", 2, [](HeadlessDialog& dialog) {
+        dialog.Click(1001);
+        dialog.Click(1012);
+    });
+    EXPECT_THAT(read(bridge + "_Full_Report.txt"), EndsWith(read(bridge + "_Max_Extra_Member_Forces.txt")));
 }
 
 TEST_F(ReportRunTest, ATableThatIsNotEnabledHasNothingToShowAndLeavesAnEmptyFile) {

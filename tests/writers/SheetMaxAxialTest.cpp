@@ -133,6 +133,17 @@ TEST_F(SheetMaxAxial, RatiosOfCombinations) {
     EXPECT_EQ(xml::Fault(sheet), "");
 }
 
+TEST_F(SheetMaxAxial, CombinationsAreHeadedInKipsInMetricProjectsToo) {
+    MakePiers({{.piles = 1, .cases = 1, .family = kFamilyLrfd}});
+    g_DataSet.m_nUnits = 1;
+    g_DataSet.m_sForceUnit = "kN";
+    Pier().AllocateResultTables();
+    PresentClasses({kStrength});
+    const std::string sheet = Written(kTableMaxAxial);
+    EXPECT_NE(sheet.find(CombinationHead(Cell("AASHTO-LRFD"))), std::string::npos);
+    EXPECT_EQ(sheet.find("(kN)"), std::string::npos);
+}
+
 class SheetMaxAxialHeadings : public SheetMaxAxial {
   protected:
     // Body of three substructures without results.
