@@ -30,8 +30,9 @@ class LineReader {
         SkipBlanks();
         return word;
     }
-    int Integer(const char* what) {
-        const std::string word = Word(what);
+    int Integer(const char* what) { return IntegerOf(Word(what), what); }
+    // The same of a word that was taken already.
+    int IntegerOf(const std::string& word, const char* what) const {
         int value = 0;
         const char* end = word.data() + word.size();
         const auto [at, fault] = std::from_chars(word.data(), end, value);
@@ -46,6 +47,8 @@ class LineReader {
         if (fault != std::errc() || at != end || !std::isfinite(value)) Fail(word + " is not " + what);
         return value;
     }
+    // What is left of the line, with nothing taken off.
+    std::string_view Ahead() const { return m_rest; }
     std::string Rest() {
         std::string rest(m_rest);
         m_rest = {};
@@ -124,6 +127,120 @@ void ReadAnswer(LineReader& line, ScriptAction& action) {
     action.verb = answer == "yes" ? ScriptVerb::answerYes : ScriptVerb::answerNo;
 }
 
+// ---- the mouse
+
+constexpr int kMostNotches = 200;  // of one turn of the wheel
+constexpr int kMostScrolls = 1000;
+constexpr const char* kRowWord = "a row's number";
+constexpr const char* kColumnWord = "a column's number";
+
+template <typename Value>
+struct Named {
+    std::string_view name;
+    Value value;
+};
+
+// The value of a name; null: no such name.
+template <typename Value, std::size_t count>
+const Value* FindNamed(const Named<Value> (&table)[count], std::string_view name) {
+    for (const Named<Value>& entry : table) {
+        if (entry.name == name) return &entry.value;
+    }
+    return nullptr;
+}
+
+constexpr Named<MouseDeed> kDeeds[] = {
+    {"move", MouseDeed::move},          {"press", MouseDeed::press},
+    {"release", MouseDeed::release},    {"click", MouseDeed::click},
+    {"double", MouseDeed::doubleClick}, {"shaky-double", MouseDeed::shakyDouble},
+    {"right", MouseDeed::rightClick},   {"wheel", MouseDeed::wheel},
+    {"scroll", MouseDeed::scroll},      {"lose", MouseDeed::lose},
+    {"cancel", MouseDeed::cancel},
+};
+
+constexpr Named<KeyState> kHeldKeys[] = {
+    {"Shift", {true, false}},
+    {"Ctrl", {false, true}},
+    {"Ctrl+Shift", {true, true}},
+};
+
+constexpr Named<MousePlace> kPlaces[] = {
+    {"beside", MousePlace::beside}, {"frame", MousePlace::frame}, {"above", MousePlace::above},
+    {"below", MousePlace::below},   {"left", MousePlace::left},   {"right", MousePlace::right},
+    {"away", MousePlace::away},
+};
+
+constexpr Named<ScrollPart> kScrollParts[] = {
+    {"up", ScrollPart::lineUp},          {"down", ScrollPart::lineDown}, {"page-up", ScrollPart::pageUp},
+    {"page-down", ScrollPart::pageDown}, {"first", ScrollPart::first},   {"last", ScrollPart::last},
+};
+
+bool TakesHeldKeys(MouseDeed deed) {
+    return deed == MouseDeed::press || deed == MouseDeed::click || deed == MouseDeed::doubleClick;
+}
+
+void ReadSpot(LineReader& line, MouseAction& mouse) {
+    std::string word = line.Word("a place of the mouse");
+    if (const KeyState* keys = TakesHeldKeys(mouse.deed) ? FindNamed(kHeldKeys, word) : nullptr) {
+        mouse.keys = *keys;
+        word = line.Word("a place of the mouse");
+    }
+    if (const MousePlace* place = FindNamed(kPlaces, word)) {
+        mouse.spot.place = *place;
+        return;
+    }
+    mouse.spot = {MousePlace::cell, line.IntegerOf(word, kRowWord), line.Integer(kColumnWord)};
+    if (line.AtEnd()) return;
+    const std::string edge = line.Word("an edge of the cell");
+    if (edge != "right" && edge != "bottom") line.Fail("expected right or bottom, not " + edge);
+    mouse.spot.place = edge == "right" ? MousePlace::cellRight : MousePlace::cellBottom;
+}
+
+int ReadCount(LineReader& line, int lowest, int highest) {
+    const int count = line.Integer("a number of times");
+    if (count < lowest || count > highest) line.Fail(std::to_string(count) + " is out of range");
+    return count;
+}
+
+void ReadMouse(LineReader& line, ScriptAction& action) {
+    action.verb = ScriptVerb::mouse;
+    action.text = "mouse " + std::string(line.Ahead());
+    const std::string word = line.Word("what the mouse does");
+    const MouseDeed* deed = FindNamed(kDeeds, word);
+    if (deed == nullptr) line.Fail("the mouse cannot " + word);
+    MouseAction& mouse = action.mouse;
+    mouse.deed = *deed;
+    switch (mouse.deed) {
+        case MouseDeed::lose:
+        case MouseDeed::cancel:
+            break;
+        case MouseDeed::wheel:
+            mouse.count = ReadCount(line, -kMostNotches, kMostNotches);
+            break;
+        case MouseDeed::scroll: {
+            const std::string part = line.Word("a part of the scroll bar");
+            const ScrollPart* found = FindNamed(kScrollParts, part);
+            if (found == nullptr) line.Fail(part + " is no part of the scroll bar");
+            mouse.part = *found;
+            if (!line.AtEnd()) mouse.count = ReadCount(line, 1, kMostScrolls);
+            break;
+        }
+        case MouseDeed::release:
+            if (!line.AtEnd()) ReadSpot(line, mouse);
+            break;
+        default:
+            ReadSpot(line, mouse);
+            break;
+    }
+}
+
+void ReadHover(LineReader& line, ScriptAction& action) {
+    action.verb = ScriptVerb::mouse;
+    action.text = "hover " + std::string(line.Ahead());
+    const int row = line.Integer(kRowWord);
+    action.mouse.spot = {MousePlace::cell, row, line.Integer(kColumnWord)};
+}
+
 // What follows the verb, for each verb.
 struct VerbReader {
     const char* word;
@@ -157,8 +274,8 @@ constexpr VerbReader kVerbs[] = {
     {"cell",
      [](LineReader& line, ScriptAction& action) {
          action.verb = ScriptVerb::cell;
-         action.id = line.Integer("a row's number");
-         action.number = line.Integer("a column's number");
+         action.id = line.Integer(kRowWord);
+         action.number = line.Integer(kColumnWord);
          action.text = line.Rest();
      }},
     {"graph-click",
@@ -181,12 +298,8 @@ constexpr VerbReader kVerbs[] = {
          if (line.AtEnd()) line.Fail("expected the text to type");
          action.text = line.Rest();
      }},
-    {"hover",
-     [](LineReader& line, ScriptAction& action) {
-         action.verb = ScriptVerb::hover;
-         action.id = line.Integer("a row's number");
-         action.number = line.Integer("a column's number");
-     }},
+    {"hover", ReadHover},
+    {"mouse", ReadMouse},
     {"where", [](LineReader&, ScriptAction& action) { action.verb = ScriptVerb::where; }},
     {"again",
      [](LineReader& line, ScriptAction& action) {
@@ -218,8 +331,8 @@ std::string RefusedName(const ScriptAction& action) {
             return "graph-click";
         case ScriptVerb::shot:
             return "shot";
-        case ScriptVerb::hover:
-            return "hover " + std::to_string(action.id) + " " + std::to_string(action.number);
+        case ScriptVerb::mouse:
+            return action.text;
         case ScriptVerb::key:
             return "key " + action.text;
         case ScriptVerb::type:

@@ -7,6 +7,7 @@
 
 #include "framework/ControlList.h"
 #include "framework/Keys.h"
+#include "framework/MouseAction.h"
 
 // The script that drives the dialogs, the same for every face of the product: one action a line, "#" at a
 // line's start or behind a blank begins a comment. It is read whole before the first action runs.
@@ -28,7 +29,7 @@ enum class ScriptVerb {
     keyHelp,  // id
     type,     // text
     where,
-    hover,  // row in id, column in number
+    mouse,  // mouse; text: the line as written
     again,  // text: the project's file beside the last one, empty for the same project
 };
 
@@ -45,6 +46,7 @@ struct ScriptAction {
     double x = 0.0;
     std::string text;
     ScriptKey key;
+    MouseAction mouse;
 };
 
 // Whether a control of that kind has a use for the key, or takes typed texts, when it has the focus. Esc,

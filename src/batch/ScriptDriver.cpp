@@ -103,8 +103,8 @@ void ScriptDriver::Play(const ScriptAction& action, headless::HeadlessDialog& di
         case ScriptVerb::type:
             done = Type(action.text, dialog);
             break;
-        case ScriptVerb::hover:
-            done = dialog.HoverCell(action.id, action.number);
+        case ScriptVerb::mouse:
+            done = dialog.Mouse(action.mouse);
             break;
         case ScriptVerb::where:
             TellFocus(dialog);

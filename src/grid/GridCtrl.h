@@ -107,20 +107,26 @@ class CGridCtrl : public CWnd {
     // ---- events of the window (GridKeyboard.cpp, GridMouse.cpp). True: the grid used it.
     bool OnKeyDown(unsigned key, KeyState keys);
     bool OnChar(unsigned character, KeyState keys);
-    void OnLeftDown(GridPoint point, KeyState keys);
+    // `time` in milliseconds; it counts beside a title tip alone.
+    void OnLeftDown(GridPoint point, KeyState keys, unsigned time = 0) { Press(point, keys, time, false); }
     void OnMouseMove(GridPoint point, bool leftDown);
     void OnLeftUp(GridPoint point);
     void OnDoubleClick(GridPoint point);
+    // The mouse is not the grid's any more: what it was doing ends, with what it has done so far.
+    void OnCaptureLost();
     void OnDragTimer();
     void OnMouseWheel(int steps);  // above 0: towards the first row
     void OnScroll(bool vertical, int position);
     void OnSize();
     void OnGotFocus();
     void OnNotify(const EditNotice& notice);
-    // A mouse button over the title tip; true: the cell below was double-clicked.
-    bool OnTipButton(unsigned time) { return m_TitleTip.OnButton(*m_pHost, time); }
+    // The mouse on the title tip, with points in the grid's window: a press counts for the cell below.
+    void OnTipLeftDown(GridPoint point, KeyState keys, unsigned time) { Press(point, keys, time, true); }
+    void OnTipMove(GridPoint point) { m_MousePoint = point; }
+    void OnTipLeave() { m_TitleTip.Hide(*m_pHost); }
     CCellID TipCell() const { return m_TitleTip.Cell(); }
-    void HideTip() { m_TitleTip.Hide(*m_pHost); }
+    // The tip comes back when the mouse moves.
+    void HideTip();
 
     // ---- layout and drawing (GridLayout.cpp, GridDraw.cpp)
     bool CellRect(int row, int column, GridRect& rect) const;  // false: scrolled out, or hidden
@@ -160,6 +166,7 @@ class CGridCtrl : public CWnd {
   private:
     enum class MouseMode { none, selecting, sizingColumn, sizingRow };
     using CellRow = std::vector<std::unique_ptr<CGridCellBase>>;
+    static constexpr GridPoint kNoPoint{-30000, -30000};
 
     void MarkFixed(int row, int column);
     void RemarkFixed();
@@ -171,6 +178,7 @@ class CGridCtrl : public CWnd {
     int NextRow(int row, int step) const;  // the next visible normal row; -1: none
     int NextColumn(int column, int step) const;
     void GoTo(CCellID cell, bool extend);
+    void Choose(CCellID cell, bool extend);
     bool MoveByTab(bool backwards);
     CCellID TabTarget(bool backwards) const;  // none: the dialog's next control
     bool MoveByKey(unsigned key, KeyState keys);
@@ -191,11 +199,15 @@ class CGridCtrl : public CWnd {
     void SetTop(int row, int column);
     void DrawRow(CDC& dc, int row, int top, int clientWidth);
     void DrawCell(CDC& dc, int row, int column, const GridRect& rect);
+    GridRect WithoutLines(GridRect rect) const;
     int RowAt(int y) const;
     int ColumnAt(int x) const;
+    void Press(GridPoint point, KeyState keys, unsigned time, bool onTip);
+    void TakeFocusByMouse();
+    void EndMouseMode();
     bool BeginResize(GridPoint point);
     void ContinueResize(GridPoint point);
-    void ShowTipAt(GridPoint point);
+    void ShowTipOf(CCellID cell);
     void PrintRow(CDC& dc, int row, int firstColumn, int lastColumn, int top);
     int PrintRowsPerPage() const;
 
@@ -220,9 +232,11 @@ class CGridCtrl : public CWnd {
     GridSize m_PrintPage;
 
     MouseMode m_MouseMode = MouseMode::none;
-    GridPoint m_MousePoint;
-    int m_nResized = -1;      // the row or column whose border is being dragged
-    int m_nResizeOrigin = 0;  // its near edge
+    GridPoint m_MousePoint = kNoPoint;
+    GridPoint m_TipEndPoint = kNoPoint;  // where the mouse was when a tip ended
+    bool m_bTakingFocus = false;         // a click brings the focus
+    int m_nResized = -1;                 // the row or column whose border is being dragged
+    int m_nResizeOrigin = 0;             // its near edge
     bool m_bLayoutDirty = false;
     std::array<ScrollPlace, 2> m_Bars;  // horizontal, vertical
     CCellID m_EditCell;                 // the cell with the open editor

@@ -36,15 +36,19 @@ void CGridCtrl::DrawRow(CDC& dc, int row, int top, int clientWidth) {
     for (int column = LeftColumn(); column < m_nCols && left < clientWidth; ++column) draw(column);
 }
 
+// The lines lie on the right and bottom pixels of a cell; the cell draws the rest.
+GridRect CGridCtrl::WithoutLines(GridRect rect) const {
+    if ((m_nLineMode & 1) != 0) --rect.bottom;
+    if ((m_nLineMode & 2) != 0) --rect.right;
+    return rect;
+}
+
 void CGridCtrl::DrawCell(CDC& dc, int row, int column, const GridRect& rect) {
-    // The lines lie on the right and bottom pixels of a cell; the cell draws the rest.
-    GridRect inner = rect;
-    if ((m_nLineMode & 1) != 0) {
-        --inner.bottom;
+    const GridRect inner = WithoutLines(rect);
+    if (inner.bottom < rect.bottom) {
         dc.Line({rect.left, inner.bottom}, {rect.right, inner.bottom}, m_crGridLines);
     }
-    if ((m_nLineMode & 2) != 0) {
-        --inner.right;
+    if (inner.right < rect.right) {
         dc.Line({inner.right, rect.top}, {inner.right, rect.bottom}, m_crGridLines);
     }
     m_CellRows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]->Draw(dc, inner);

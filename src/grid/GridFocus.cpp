@@ -19,7 +19,7 @@ bool CGridCtrl::MoveFocusCell(int row, int column) {
     const CCellID before = m_FocusCell;
     m_FocusCell = {row, column};
     if (before == m_FocusCell) return true;
-    m_TitleTip.Hide(*m_pHost);
+    HideTip();
     if (CGridCellBase* cell = GetCell(before.row, before.column)) {
         cell->SetState(cell->GetState() & ~unsigned{kCellFocus});
         RedrawCell(before.row, before.column);
@@ -49,7 +49,8 @@ CCellID CGridCtrl::FirstCell() const {
     return cell.IsValid() ? cell : CCellID{};
 }
 
-void CGridCtrl::GoTo(CCellID cell, bool extend) {
+// The cell becomes the focus cell and the selection, or the selection's new corner.
+void CGridCtrl::Choose(CCellID cell, bool extend) {
     if (!cell.IsValid()) return;
     if (extend) {
         ExtendSelectionTo(cell);
@@ -57,6 +58,11 @@ void CGridCtrl::GoTo(CCellID cell, bool extend) {
         SelectRange(cell.row, cell.column, cell.row, cell.column, false, true);
     }
     MoveFocusCell(cell.row, cell.column);
+}
+
+void CGridCtrl::GoTo(CCellID cell, bool extend) {
+    if (!cell.IsValid()) return;
+    Choose(cell, extend);
     ScrollCellIntoView(cell.row, cell.column);
 }
 
@@ -134,6 +140,7 @@ bool CGridCtrl::MoveByKey(unsigned key, KeyState keys) {
 }
 
 void CGridCtrl::OnGotFocus() {
-    // Coming in by Tab there must be a cell that the keys act on.
-    if (!m_FocusCell.IsValid()) GoTo(FirstCell(), false);
+    // Coming in by Tab there must be a cell that the keys act on. A click brings its own, and nothing may
+    // scroll away under it.
+    if (!m_FocusCell.IsValid() && !m_bTakingFocus) GoTo(FirstCell(), false);
 }

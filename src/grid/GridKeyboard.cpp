@@ -39,14 +39,14 @@ void CGridCtrl::DeleteFocusText() {
 }
 
 bool CGridCtrl::OnKeyDown(unsigned key, KeyState keys) {
-    m_TitleTip.Hide(*m_pHost);
+    HideTip();
     const bool used = OnCommandKey(key, keys) || MoveByKey(key, keys);
     if (m_bLayoutDirty) UpdateScrollBars();
     return used;
 }
 
 bool CGridCtrl::OnChar(unsigned character, KeyState keys) {
-    m_TitleTip.Hide(*m_pHost);
+    HideTip();
     if (keys.control || m_MouseMode != MouseMode::none || character == kKeyEscape) return false;
     if (character == kKeyTab && m_bTabMoves) return false;
     if (!m_FocusCell.IsValid()) return false;

@@ -123,7 +123,7 @@ void CGridCtrl::SetTop(int row, int column) {
     column = std::clamp(column, m_nFixedCols, std::max(LastLeftColumn(), m_nFixedCols));
     if (row == TopRow() && column == LeftColumn()) return;
     m_FirstVisibleCell = {row, column};
-    m_TitleTip.Hide(*m_pHost);
+    HideTip();
     RedrawAll();
     UpdateScrollBars();
 }
@@ -158,6 +158,7 @@ bool CGridCtrl::ScrollCellIntoView(int row, int column) {
 void CGridCtrl::LayoutChanged() {
     // Counts and sizes are set one by one for thousands of rows; the bars follow once, before the next paint.
     m_bLayoutDirty = true;
+    HideTip();
     RedrawAll();
 }
 

@@ -11,29 +11,51 @@ constexpr int kBorderReach = 4;  // pixels on either side of a border that catch
 
 }  // namespace
 
-void CGridCtrl::OnLeftDown(GridPoint point, KeyState keys) {
-    m_TitleTip.Hide(*m_pHost);
-    EndOpenEdit();
-    m_pHost->TakeFocus();
+void CGridCtrl::Press(GridPoint point, KeyState keys, unsigned time, bool onTip) {
+    // The cell is looked up first: what follows may end an edit and run handlers of the dialog.
+    const CCellID cell = CellAt(point);
+    const bool second = m_TitleTip.IsSecondPress(cell, time, onTip);
     m_MousePoint = point;
+    HideTip();
+    if (second) {
+        OnDoubleClick(point);
+        return;
+    }
+    EndOpenEdit();
+    const bool extend = keys.shift && m_FocusCell.IsValid();
+    TakeFocusByMouse();
     if (BeginResize(point)) {
         m_pHost->CaptureMouse(true);
         return;
     }
-    const CCellID cell = CellAt(point);
-    if (!cell.IsValid()) return;
-    CGridCellBase& object = *GetCell(cell.row, cell.column);
-    object.OnClick(point);
-    if (object.IsFixed()) {
-        if (object.IsFixedRow()) ClickOnHeadingRow(cell);
-        if (object.IsFixedColumn()) ClickOnHeadingColumn(cell);
+    CGridCellBase* object = GetCell(cell.row, cell.column);
+    if (object == nullptr) return;
+    object->OnClick(point);
+    if (object->IsFixed()) {
+        if (object->IsFixedRow()) ClickOnHeadingRow(cell);
+        if (object->IsFixedColumn()) ClickOnHeadingColumn(cell);
         return;
     }
     m_DragStartSelection.clear();
     if (keys.control) m_DragStartSelection = m_Selection;
     m_MouseMode = MouseMode::selecting;
-    GoTo(cell, keys.shift);
+    // A cell that is partly outside stays there: the second press of a double click must find it.
+    Choose(cell, extend);
     m_pHost->CaptureMouse(true);
+}
+
+void CGridCtrl::TakeFocusByMouse() {
+    struct Taking {
+        bool& flag;
+        explicit Taking(bool& taking) : flag(taking) { flag = true; }
+        ~Taking() { flag = false; }
+    } taking(m_bTakingFocus);
+    m_pHost->TakeFocus();
+    // A click beside the cells leaves the keys the first cell in sight.
+    if (!m_FocusCell.IsValid()) {
+        const CCellID first{NextRow(TopRow() - 1, 1), NextColumn(LeftColumn() - 1, 1)};
+        if (first.IsValid()) Choose(first, false);
+    }
 }
 
 // A click on a heading selects what the heading stands over.
@@ -82,7 +104,11 @@ void CGridCtrl::OnMouseMove(GridPoint point, bool leftDown) {
     m_MousePoint = point;
     if (m_MouseMode != MouseMode::none && !leftDown) OnLeftUp(point);
     if (m_MouseMode == MouseMode::none) {
-        ShowTipAt(point);
+        // The platform repeats the last place when a window over it goes: a tip that a key took away would
+        // come back at once.
+        if (point == m_TipEndPoint) return;
+        m_TipEndPoint = kNoPoint;
+        ShowTipOf(CellAt(point));
         return;
     }
     if (m_MouseMode != MouseMode::selecting) {
@@ -113,6 +139,14 @@ void CGridCtrl::OnDragTimer() {
 
 void CGridCtrl::OnLeftUp(GridPoint point) {
     m_MousePoint = point;
+    EndMouseMode();
+}
+
+void CGridCtrl::OnCaptureLost() {
+    EndMouseMode();
+}
+
+void CGridCtrl::EndMouseMode() {
     if (m_MouseMode == MouseMode::none) return;
     m_MouseMode = MouseMode::none;
     m_nResized = -1;
@@ -122,26 +156,33 @@ void CGridCtrl::OnLeftUp(GridPoint point) {
 }
 
 void CGridCtrl::OnDoubleClick(GridPoint point) {
-    m_TitleTip.Hide(*m_pHost);
+    HideTip();
+    m_TitleTip.ForgetPress();
     OnLeftUp(point);
     const CCellID cell = CellAt(point);
     if (!cell.IsValid()) return;
     GetCell(cell.row, cell.column)->OnDoubleClick(point);
     if (GetCell(cell.row, cell.column)->IsFixed()) return;
-    GoTo(cell, false);
+    Choose(cell, false);
     BeginCellEdit(cell.row, cell.column, point, kKeyMouse);
 }
 
-void CGridCtrl::ShowTipAt(GridPoint point) {
-    const CCellID cell = CellAt(point);
+void CGridCtrl::HideTip() {
+    if (!m_TitleTip.IsShown()) return;
+    m_TipEndPoint = m_MousePoint;
+    m_TitleTip.Hide(*m_pHost);
+}
+
+// Shows the whole text of a cell that cuts it off, and no tip over any other.
+void CGridCtrl::ShowTipOf(CCellID cell) {
+    if (m_TitleTip.IsShown() && m_TitleTip.Cell() != cell) m_TitleTip.Hide(*m_pHost);
     GridRect rect;
-    if (!cell.IsValid() || !CellRect(cell.row, cell.column, rect)) {
+    if (!CellRect(cell.row, cell.column, rect)) return;
+    const CGridCellBase& object = *GetCell(cell.row, cell.column);
+    const int margin = object.GetMargin();
+    if (object.IsEditing() || !CTitleTip::IsCutOff(object.TextWidth(), WithoutLines(rect).Width(), margin)) {
         m_TitleTip.Hide(*m_pHost);
         return;
     }
-    if (m_TitleTip.IsShown() && m_TitleTip.Cell() != cell) m_TitleTip.Hide(*m_pHost);
-    const CGridCellBase& object = *GetCell(cell.row, cell.column);
-    if (object.IsEditing() || !CTitleTip::IsCutOff(object.TextWidth(), rect.Width(), object.GetMargin()))
-        return;
-    m_TitleTip.Show(*m_pHost, cell, rect, object.GetTipText(), object.GetFont(), object.GetMargin());
+    m_TitleTip.Show(*m_pHost, cell, rect, object.GetTipText(), object.GetFont(), margin);
 }

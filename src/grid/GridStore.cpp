@@ -124,7 +124,7 @@ void CGridCtrl::ForgetCellsOutside() {
     if (!IsCellInRange(m_SelectionStart.row, m_SelectionStart.column)) m_SelectionStart = {};
     if (!IsCellInRange(m_SelectionEnd.row, m_SelectionEnd.column)) m_SelectionEnd = {};
     if (!IsCellInRange(m_FirstVisibleCell.row, m_FirstVisibleCell.column)) m_FirstVisibleCell = {};
-    m_TitleTip.Hide(*m_pHost);
+    HideTip();
 }
 
 void CGridCtrl::MarkFixed(int row, int column) {
@@ -195,6 +195,8 @@ bool CGridCtrl::SetCellText(int row, int column, const std::string& text) {
     if (m_bNoStore || cell == nullptr) return false;
     cell->SetText(text);
     RedrawCell(row, column);
+    // A tip over the cell shows the new text, or goes where that fits.
+    if (m_TitleTip.Cell() == CCellID{row, column}) ShowTipOf({row, column});
     return true;
 }
 

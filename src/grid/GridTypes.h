@@ -20,6 +20,7 @@ struct CCellID {
 
 struct GridPoint {
     int x = 0, y = 0;
+    bool operator==(const GridPoint&) const = default;
 };
 struct GridSize {
     int width = 0, height = 0;

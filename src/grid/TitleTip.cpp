@@ -4,8 +4,9 @@
 
 void CTitleTip::Show(GridHost& host, CCellID cell, const GridRect& cellRect, const std::string& text,
                      const FontRecord& font, int margin) {
-    if (cell == m_Cell) return;
+    if (cell == m_Cell && text == m_sText) return;
     m_Cell = cell;
+    m_sText = text;
     const int width = gridplatform::MeasureText(text, font).width + 2 * margin;
     host.ShowTip({cellRect.left, cellRect.top, cellRect.left + width, cellRect.bottom}, text, font);
 }
@@ -16,11 +17,12 @@ void CTitleTip::Hide(GridHost& host) {
     host.HideTip();
 }
 
-bool CTitleTip::OnButton(GridHost& host, unsigned time) {
+bool CTitleTip::IsSecondPress(CCellID cell, unsigned time, bool onTip) {
     // The difference is right across the wrap of the clock.
-    const bool second = m_bClicked && time - m_nLastClick <= gridplatform::DoubleClickTime();
-    m_nLastClick = time;
-    m_bClicked = !second;
-    Hide(host);
+    const bool inTime = time - m_nPressTime <= gridplatform::DoubleClickTime();
+    const bool second = cell.IsValid() && cell == m_PressedCell && inTime && (onTip || m_bPressedTip);
+    m_PressedCell = second ? CCellID{} : cell;
+    m_nPressTime = time;
+    m_bPressedTip = onTip;
     return second;
 }

@@ -14,26 +14,33 @@ class CTitleTip : public CWnd {
     static const CRuntimeClass classCTitleTip;
     const CRuntimeClass& GetRuntimeClass() const override { return classCTitleTip; }
 
-    // Whether a text of that width is cut off in a cell of that width with that margin on either side.
-    static bool IsCutOff(int textWidth, int cellWidth, int margin) {
-        return textWidth > cellWidth - 2 * margin;
+    // Whether a text of that width is cut off in a cell that is drawn so wide with that margin on either
+    // side.
+    static bool IsCutOff(int textWidth, int drawnWidth, int margin) {
+        return textWidth > drawnWidth - 2 * margin;
     }
 
+    // A tip that shows the same text of the same cell already stays as it is.
     void Show(GridHost& host, CCellID cell, const GridRect& cellRect, const std::string& text,
               const FontRecord& font, int margin);
     void Hide(GridHost& host);
 
-    // A mouse button over the tip at a time in milliseconds. True: it is the second of a double click, which
-    // belongs to the cell below.
-    bool OnButton(GridHost& host, unsigned time);
+    // The left button went down over a cell at a time in milliseconds, on the tip or on the grid itself.
+    // True: it is the second press of a double click. The platform sees none where one of the two hit the
+    // tip, which the first press has taken away; two presses on the grid itself are left to the platform.
+    bool IsSecondPress(CCellID cell, unsigned time, bool onTip);
+    // The next press is a first one.
+    void ForgetPress() { m_PressedCell = {}; }
 
     bool IsShown() const { return m_Cell.IsValid(); }
     CCellID Cell() const { return m_Cell; }
 
   private:
     CCellID m_Cell;
-    unsigned m_nLastClick = 0;
-    bool m_bClicked = false;
+    std::string m_sText;
+    CCellID m_PressedCell;  // of the last first press
+    unsigned m_nPressTime = 0;
+    bool m_bPressedTip = false;
 };
 
 inline const CRuntimeClass CTitleTip::classCTitleTip{"CTitleTip", &CWnd::classCWnd};

@@ -122,9 +122,8 @@ bool Type(HWND dialog, const std::string& text) {
     return true;
 }
 
-bool Hover(HWND dialog, int row, int column) {
-    const HWND grid = FindUsableKind(dialog, ControlKind::grid);
-    return grid != nullptr && gridreader::Hover(grid, row, column);
+HWND FindGrid(HWND dialog) {
+    return FindUsableKind(dialog, ControlKind::grid);
 }
 
 bool ClickGraph(HWND dialog, double x) {

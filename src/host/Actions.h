@@ -19,8 +19,8 @@ bool TypeCell(HWND dialog, int row, int column, const std::string& text);
 // The key, and the text, go to the control that has the focus; refused when it has no use for them.
 bool PressKey(HWND dialog, const ScriptKey& key);
 bool Type(HWND dialog, const std::string& text);
-// Moves the mouse over a cell of the grid.
-bool Hover(HWND dialog, int row, int column);
+// The grid that the mouse can reach; null: there is none.
+HWND FindGrid(HWND dialog);
 // A click on the plot at that place of its x axis.
 bool ClickGraph(HWND dialog, double x);
 // The F1 key over a control, whether it can have the focus or not.

@@ -2,24 +2,27 @@
 
 #include "embedment/GraphRecord.h"
 #include "embedment/win32/GraphMessages.h"
+#include "host/Token.h"
 
 namespace graphreader {
 
 std::vector<GraphCall> ReadDrawing(HWND graph) {
     GraphDrawingText query;
-    SendMessageA(graph, kGraphDrawing, 0, reinterpret_cast<LPARAM>(&query));
+    SendMessageA(graph, kGraphDrawing, token::Get(), reinterpret_cast<LPARAM>(&query));
     std::vector<char> text(static_cast<std::size_t>(query.length) + 1);
     query.text = text.data();
     query.capacity = static_cast<int>(text.size());
-    SendMessageA(graph, kGraphDrawing, 0, reinterpret_cast<LPARAM>(&query));
+    SendMessageA(graph, kGraphDrawing, token::Get(), reinterpret_cast<LPARAM>(&query));
     std::vector<GraphCall> calls;
     ReadGraphCalls(text.data(), calls);
     return calls;
 }
 
 bool Click(HWND graph, double x) {
-    const LRESULT point = SendMessageA(graph, kGraphPointOf, 0, reinterpret_cast<LPARAM>(&x));
-    if (point == -1) return false;
+    GraphPoint query{x, {}};
+    if (SendMessageA(graph, kGraphPointOf, token::Get(), reinterpret_cast<LPARAM>(&query)) == FALSE)
+        return false;
+    const LPARAM point = MAKELPARAM(query.place.x, query.place.y);
     PostMessageA(graph, WM_LBUTTONDOWN, MK_LBUTTON, point);
     PostMessageA(graph, WM_LBUTTONUP, 0, point);
     return true;

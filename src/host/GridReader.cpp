@@ -4,17 +4,19 @@
 #include <array>
 
 #include "grid/win32/GridMessages.h"
+#include "host/Token.h"
 
 namespace {
 
-int Count(HWND grid, UINT message) {
-    return static_cast<int>(SendMessageA(grid, message, 0, 0));
+template <typename Record>
+bool Ask(HWND grid, UINT question, Record& record) {
+    return SendMessageA(grid, question, token::Get(), reinterpret_cast<LPARAM>(&record)) != FALSE;
 }
 
 std::string CellText(HWND grid, int row, int column) {
     std::array<char, 1024> text{};
     GridCellText cell{row, column, text.data(), static_cast<int>(text.size()), 0};
-    SendMessageA(grid, kGridCellText, 0, reinterpret_cast<LPARAM>(&cell));
+    Ask(grid, kGridCellText, cell);
     return text.data();
 }
 
@@ -23,10 +25,11 @@ std::string CellText(HWND grid, int row, int column) {
 namespace gridreader {
 
 std::vector<std::vector<std::string>> ReadRows(HWND grid) {
-    const int rowCount = Count(grid, kGridRowCount), columnCount = Count(grid, kGridColumnCount);
-    std::vector<std::vector<std::string>> rows(static_cast<std::size_t>(std::max(rowCount, 0)));
-    for (int row = 0; row < rowCount; ++row) {
-        for (int column = 0; column < columnCount; ++column) {
+    GridCounts counts;
+    Ask(grid, kGridCounts, counts);
+    std::vector<std::vector<std::string>> rows(static_cast<std::size_t>(std::max(counts.rows, 0)));
+    for (int row = 0; row < counts.rows; ++row) {
+        for (int column = 0; column < counts.columns; ++column) {
             rows[static_cast<std::size_t>(row)].push_back(CellText(grid, row, column));
         }
     }
@@ -35,7 +38,7 @@ std::vector<std::vector<std::string>> ReadRows(HWND grid) {
 
 GridView ReadView(HWND grid) {
     GridViewRecord record{};
-    SendMessageA(grid, kGridView, 0, reinterpret_cast<LPARAM>(&record));
+    Ask(grid, kGridView, record);
     GridView view;
     view.row = record.row;
     view.column = record.column;
@@ -54,16 +57,22 @@ GridView ReadView(HWND grid) {
     return view;
 }
 
-bool Hover(HWND grid, int row, int column) {
-    const LRESULT point =
-        SendMessageA(grid, kGridCellPoint, static_cast<WPARAM>(row), static_cast<LPARAM>(column));
-    if (point == -1) return false;
-    SendMessageA(grid, WM_MOUSEMOVE, 0, point);
+bool FindCell(HWND grid, int row, int column, RECT& area) {
+    GridCellArea query{row, column, {}};
+    if (!Ask(grid, kGridCellArea, query)) return false;
+    area = query.area;
     return true;
 }
 
+int RowCount(HWND grid) {
+    GridCounts counts;
+    Ask(grid, kGridCounts, counts);
+    return counts.rows;
+}
+
 bool GoToCell(HWND grid, int row, int column) {
-    return SendMessageA(grid, kGridGoTo, static_cast<WPARAM>(row), static_cast<LPARAM>(column)) != FALSE;
+    GridCellPlace place{row, column};
+    return Ask(grid, kGridGoTo, place);
 }
 
 }  // namespace gridreader

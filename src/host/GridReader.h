@@ -14,8 +14,11 @@ std::vector<std::vector<std::string>> ReadRows(HWND grid);
 
 GridView ReadView(HWND grid);
 
-// Moves the mouse over the cell. False: there is no such cell, or it is not visible.
-bool Hover(HWND grid, int row, int column);
+// Where the cell lies in the client area; the last ones may lie partly outside of it. False: there is no such
+// cell, or it is scrolled away.
+bool FindCell(HWND grid, int row, int column, RECT& area);
+
+int RowCount(HWND grid);
 
 // Puts the focus on the cell. False: there is no such cell.
 bool GoToCell(HWND grid, int row, int column);

@@ -21,6 +21,10 @@ void Send(WORD key, bool up) {
 
 namespace keyboard {
 
+void Hold(WORD key, bool down) {
+    Send(key, !down);
+}
+
 void Press(WORD key, bool shift, bool control) {
     if (control) Send(VK_CONTROL, false);
     if (shift) Send(VK_SHIFT, false);

@@ -8,6 +8,8 @@
 // while after the call.
 namespace keyboard {
 
+// Presses a key and keeps it down, or lets it go.
+void Hold(WORD key, bool down);
 void Press(WORD key, bool shift = false, bool control = false);
 // Types characters that the keyboard's layout has; false for one that it has not, which ends the typing.
 bool Type(std::string_view text);

@@ -13,6 +13,7 @@
 
 #include "host/HostWindows.h"
 #include "host/Resources.h"
+#include "host/Token.h"
 #include "host/WindowDriver.h"
 
 // Stands in for the host program: it loads the module that lies beside it, calls the export, and can play a
@@ -51,7 +52,9 @@ ModuleExport LoadModule() {
     std::array<char, MAX_PATH> program{};
     GetModuleFileNameA(nullptr, program.data(), static_cast<DWORD>(program.size()));
     const std::string path = FolderOf(program.data()) + "Lumerin.dll";
+    token::Publish();
     const HMODULE module = LoadLibraryA(path.c_str());
+    token::Withdraw();
     if (module == nullptr) throw std::runtime_error(path + " could not be loaded");
     const FARPROC address = GetProcAddress(module, "LaunchLumerin");
     if (address == nullptr) throw std::runtime_error(path + " has no export LaunchLumerin");

@@ -15,6 +15,8 @@ namespace {
 
 // A key takes this many ticks from the keyboard to the window that has the focus.
 constexpr int kKeySettle = 12;
+// The same for a step of the mouse.
+constexpr int kMouseSettle = 3;
 // Ticks after which a window that was answered counts as another one under the same handle.
 constexpr int kAnswerPatience = 50;
 
@@ -58,6 +60,11 @@ void WindowDriver::Tick() {
     }
     m_hAnswered = nullptr;
     NoteDialog(front);
+    if (m_mouse.IsBusy()) {
+        m_mouse.Step();
+        m_nSettle = kMouseSettle;
+        return;
+    }
     PlayNext(front);
 }
 
@@ -128,8 +135,8 @@ bool WindowDriver::Perform(const ScriptAction& action, HWND dialog) {
             return actions::PressKey(dialog, action.key);
         case ScriptVerb::type:
             return actions::Type(dialog, action.text);
-        case ScriptVerb::hover:
-            return actions::Hover(dialog, action.id, action.number);
+        case ScriptVerb::mouse:
+            return BeginMouse(action.mouse, dialog);
         case ScriptVerb::where:
             m_lines.Focus(ReadFocus(dialog));
             return true;
@@ -139,6 +146,11 @@ bool WindowDriver::Perform(const ScriptAction& action, HWND dialog) {
             break;
     }
     return true;
+}
+
+bool WindowDriver::BeginMouse(const MouseAction& action, HWND dialog) {
+    const HWND grid = actions::FindGrid(dialog);
+    return grid != nullptr && m_mouse.Begin(grid, action);
 }
 
 void WindowDriver::Dump(HWND dialog) {
@@ -175,6 +187,7 @@ void WindowDriver::CloseDialog(HWND dialog) {
 }
 
 void WindowDriver::EndCall(unsigned result) {
+    m_mouse.LetGo();
     m_records.Print();
     m_lines.Result(result);
     m_open.clear();

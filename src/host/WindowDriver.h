@@ -7,6 +7,7 @@
 #include "batch/JsonLines.h"
 #include "batch/Script.h"
 #include "host/HostWindows.h"
+#include "host/Mouse.h"
 #include "host/Records.h"
 
 // Plays a script on the module's real windows. It lives on the thread of the dialogs: a timer calls Tick in
@@ -34,6 +35,7 @@ class WindowDriver {
     void NoteDialog(HWND dialog);
     void PlayNext(HWND dialog);
     bool Perform(const ScriptAction& action, HWND dialog);
+    bool BeginMouse(const MouseAction& action, HWND dialog);
     void Dump(HWND dialog);
     void CloseDialog(HWND dialog);
 
@@ -41,10 +43,11 @@ class WindowDriver {
     std::size_t m_nNext = 0;
     JsonLines m_lines;
     Records m_records;
+    Mouse m_mouse;
     std::vector<HWND> m_open;    // the dialogs that were told, the front one last
     HWND m_hAnswered = nullptr;  // a message box whose button was pressed
     HWND m_hClosing = nullptr;   // a dialog whose "Close" was pressed
-    int m_nSettle = 0;           // ticks to let pass: keys of the keyboard are on their way
+    int m_nSettle = 0;           // ticks to let pass: keys or the mouse are on their way
     int m_nAnsweredTicks = 0;    // how long the answered box has stayed
     bool m_bAnswerYes = true;
     bool m_bTellWaits = false;

@@ -47,6 +47,84 @@ TEST(Script, ReadsEveryAction) {
     EXPECT_TRUE(actions[18].key.keys.control && !actions[18].key.keys.shift);
 }
 
+MouseAction MouseOf(const std::string& line) {
+    const ScriptAction action = ParseScript(line).front();
+    EXPECT_EQ(action.verb, ScriptVerb::mouse) << line;
+    EXPECT_EQ(RefusedName(action), line);
+    return action.mouse;
+}
+
+TEST(Script, ReadsWhatTheMouseDoes) {
+    const std::pair<const char*, MouseDeed> deeds[] = {
+        {"hover 3 1", MouseDeed::move},
+        {"mouse move 3 1", MouseDeed::move},
+        {"mouse press 3 1", MouseDeed::press},
+        {"mouse release 3 1", MouseDeed::release},
+        {"mouse click 3 1", MouseDeed::click},
+        {"mouse double 3 1", MouseDeed::doubleClick},
+        {"mouse right 3 1", MouseDeed::rightClick},
+        {"mouse shaky-double 3 1", MouseDeed::shakyDouble},
+    };
+    for (const auto& [line, deed] : deeds) {
+        const MouseAction mouse = MouseOf(line);
+        EXPECT_EQ(mouse.deed, deed) << line;
+        EXPECT_EQ(mouse.spot.place, MousePlace::cell) << line;
+        EXPECT_EQ(mouse.spot.row, 3) << line;
+        EXPECT_EQ(mouse.spot.column, 1) << line;
+        EXPECT_FALSE(mouse.keys.shift || mouse.keys.control) << line;
+    }
+    EXPECT_EQ(MouseOf("mouse release").spot.place, MousePlace::here);
+    EXPECT_EQ(MouseOf("mouse lose").deed, MouseDeed::lose);
+    EXPECT_EQ(MouseOf("mouse cancel").deed, MouseDeed::cancel);
+    EXPECT_EQ(MouseOf("mouse wheel -12").deed, MouseDeed::wheel);
+    EXPECT_EQ(MouseOf("mouse wheel -12").count, -12);
+}
+
+TEST(Script, ReadsPlacesAndHeldKeysOfTheMouse) {
+    const std::pair<const char*, MousePlace> places[] = {
+        {"mouse move 0 0 right", MousePlace::cellRight}, {"mouse move 0 0 bottom", MousePlace::cellBottom},
+        {"mouse move beside", MousePlace::beside},       {"mouse move frame", MousePlace::frame},
+        {"mouse move above", MousePlace::above},         {"mouse move below", MousePlace::below},
+        {"mouse move left", MousePlace::left},           {"mouse move right", MousePlace::right},
+        {"mouse move away", MousePlace::away},
+    };
+    for (const auto& [line, place] : places) EXPECT_EQ(MouseOf(line).spot.place, place) << line;
+    EXPECT_TRUE(MouseOf("mouse press Shift 1 1").keys.shift);
+    EXPECT_FALSE(MouseOf("mouse press Shift 1 1").keys.control);
+    EXPECT_TRUE(MouseOf("mouse click Ctrl 1 1").keys.control);
+    const KeyState both = MouseOf("mouse double Ctrl+Shift 1 1").keys;
+    EXPECT_TRUE(both.shift && both.control);
+}
+
+TEST(Script, ReadsThePartsOfTheScrollBar) {
+    const std::pair<const char*, ScrollPart> parts[] = {
+        {"up", ScrollPart::lineUp},          {"down", ScrollPart::lineDown}, {"page-up", ScrollPart::pageUp},
+        {"page-down", ScrollPart::pageDown}, {"first", ScrollPart::first},   {"last", ScrollPart::last},
+    };
+    for (const auto& [name, part] : parts) {
+        const MouseAction mouse = MouseOf(std::string("mouse scroll ") + name);
+        EXPECT_EQ(mouse.deed, MouseDeed::scroll);
+        EXPECT_EQ(mouse.part, part) << name;
+        EXPECT_EQ(mouse.count, 1);
+    }
+    EXPECT_EQ(MouseOf("mouse scroll down 35").count, 35);
+}
+
+TEST(Script, NamesAFaultOfTheMouse) {
+    EXPECT_EQ(FaultOf("mouse"), "script line 1: expected what the mouse does");
+    EXPECT_EQ(FaultOf("mouse squeak"), "script line 1: the mouse cannot squeak");
+    EXPECT_EQ(FaultOf("mouse click"), "script line 1: expected a place of the mouse");
+    EXPECT_EQ(FaultOf("mouse move Shift 1 1"), "script line 1: Shift is not a row's number");
+    EXPECT_EQ(FaultOf("mouse click 1"), "script line 1: expected a column's number");
+    EXPECT_EQ(FaultOf("mouse click 1 1 left"), "script line 1: expected right or bottom, not left");
+    EXPECT_EQ(FaultOf("mouse click beside 1"), "script line 1: unexpected text behind the action: 1");
+    EXPECT_EQ(FaultOf("mouse wheel"), "script line 1: expected a number of times");
+    EXPECT_EQ(FaultOf("mouse wheel 201"), "script line 1: 201 is out of range");
+    EXPECT_EQ(FaultOf("mouse scroll"), "script line 1: expected a part of the scroll bar");
+    EXPECT_EQ(FaultOf("mouse scroll sideways"), "script line 1: sideways is no part of the scroll bar");
+    EXPECT_EQ(FaultOf("mouse scroll down 0"), "script line 1: 0 is out of range");
+}
+
 TEST(Script, EachControlHasItsKeys) {
     const auto key = [](const char* name) { return ParseScript(std::string("key ") + name).front().key; };
     for (const char* name : {"Esc", "Return", "Tab", "Shift+Tab"}) {

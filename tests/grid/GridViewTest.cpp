@@ -105,24 +105,6 @@ TEST_F(GridView, ATextThatFitsHasNoTip) {
     EXPECT_EQ(m_host->Tip(), "");
 }
 
-TEST(TitleTip, TwoClicksWithinTheDoubleClickTimeAreOneDoubleClick) {
-    GridHost host;
-    CTitleTip tip;
-    EXPECT_FALSE(tip.OnButton(host, 1000));
-    EXPECT_TRUE(tip.OnButton(host, 1000 + gridplatform::DoubleClickTime()));
-    EXPECT_FALSE(tip.OnButton(host, 1600));  // a third one starts anew
-    EXPECT_FALSE(tip.OnButton(host, 1601 + gridplatform::DoubleClickTime()));
-}
-
-TEST(TitleTip, AButtonHidesTheTip) {
-    GridHost host;
-    CTitleTip tip;
-    tip.Show(host, {1, 1}, {0, 0, 10, 10}, "text", FontRecord{}, 3);
-    EXPECT_TRUE(tip.IsShown());
-    tip.OnButton(host, 5);
-    EXPECT_FALSE(tip.IsShown());
-}
-
 TEST(Label, ANewLabelIsAPlainText) {
     const CLabel label;
     EXPECT_EQ(label.TextColour(), gridplatform::SystemColour(8));

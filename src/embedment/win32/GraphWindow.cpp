@@ -9,6 +9,7 @@
 #include "embedment/win32/GraphMessages.h"
 #include "embedment/win32/PlotGdiCanvas.h"
 #include "framework/win32/Drawing.h"
+#include "framework/win32/DriverToken.h"
 
 namespace {
 
@@ -80,15 +81,21 @@ ScreenRect GraphWindow::Place() const {
             static_cast<int>(place.bottom)};
 }
 
-bool GraphWindow::OnMessage(UINT message, WPARAM, LPARAM lParam, LRESULT& result) {
+// Nothing behind lParam is touched before the token is known to be the driver's.
+bool GraphWindow::OnQuestion(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) const {
+    if (message != kGraphDrawing && message != kGraphPointOf) return false;
+    if (!win32::IsFromDriver(wParam) || lParam == 0) return true;
     if (message == kGraphDrawing) {
-        CopyDrawing(lParam);
-        return true;
+        CopyDrawing(*reinterpret_cast<GraphDrawingText*>(lParam));
+        result = TRUE;
+    } else if (m_control == nullptr) {
+        result = FindPoint(*reinterpret_cast<GraphPoint*>(lParam)) ? TRUE : FALSE;
     }
-    if (message == kGraphPointOf) {
-        result = m_control == nullptr ? PointOf(*reinterpret_cast<const double*>(lParam)) : -1;
-        return true;
-    }
+    return true;
+}
+
+bool GraphWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+    if (OnQuestion(message, wParam, lParam, result)) return true;
     if (m_control != nullptr) return false;
     switch (message) {
         case WM_PAINT:
@@ -105,8 +112,7 @@ bool GraphWindow::OnMessage(UINT message, WPARAM, LPARAM lParam, LRESULT& result
     }
 }
 
-void GraphWindow::CopyDrawing(LPARAM lParam) const {
-    auto& query = *reinterpret_cast<GraphDrawingText*>(lParam);
+void GraphWindow::CopyDrawing(GraphDrawingText& query) const {
     const std::string text = WriteGraphCalls(m_graph.LastDrawing());
     query.length = static_cast<int>(text.size());
     if (query.text == nullptr || query.capacity <= 0) return;
@@ -115,12 +121,13 @@ void GraphWindow::CopyDrawing(LPARAM lParam) const {
     query.text[bytes] = '\0';
 }
 
-LRESULT GraphWindow::PointOf(double x) const {
+bool GraphWindow::FindPoint(GraphPoint& query) const {
     const SIZE size = ClientSize(m_window);
     const win32::WindowContext context(m_window);
-    const double pixel = m_plot.PixelOf(x, PlotGdiCanvas(context.Context()), size.cx, size.cy);
-    if (!(pixel >= 0.0 && pixel < size.cx)) return -1;
-    return MAKELRESULT(static_cast<int>(pixel), size.cy / 2);
+    const double pixel = m_plot.PixelOf(query.x, PlotGdiCanvas(context.Context()), size.cx, size.cy);
+    if (!(pixel >= 0.0 && pixel < size.cx)) return false;
+    query.place = {static_cast<LONG>(pixel), size.cy / 2};
+    return true;
 }
 
 void GraphWindow::OnClick(int pixelX) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "embedment/GraphHost.h"
+#include "embedment/win32/GraphMessages.h"
 #include "framework/win32/WindowHook.h"
 
 // The graph's place in the dialog: it answers what other programs ask and shows the module's own plot, unless
@@ -24,8 +25,10 @@ class GraphWindow : public PlotGraphHost, private win32::MessageTarget {
   private:
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
     void OnGone() noexcept override { m_window = nullptr; }
-    LRESULT PointOf(double x) const;
-    void CopyDrawing(LPARAM lParam) const;
+    // A driver's question; true: it is one, answered or not.
+    bool OnQuestion(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) const;
+    bool FindPoint(GraphPoint& query) const;
+    void CopyDrawing(GraphDrawingText& query) const;
     void OnPaint();
     void OnClick(int pixelX);
 

@@ -206,11 +206,13 @@ bool HeadlessDialog::TypeCell(int row, int column, const std::string& text) {
     return typed;
 }
 
-bool HeadlessDialog::HoverCell(int row, int column) {
-    const NativeWindow* control = IsOpen() ? FindKind(ControlKind::grid) : nullptr;
-    const bool usable =
-        control != nullptr && control->grid != nullptr && control->enabled && control->visible;
-    return usable && control->grid->Hover(row, column);
+bool HeadlessDialog::Mouse(const MouseAction& action) {
+    NativeWindow* control = IsOpen() ? FindKind(ControlKind::grid) : nullptr;
+    if (control == nullptr || control->grid == nullptr || !control->enabled || !control->visible)
+        return false;
+    bool done = false;
+    Run([control, &action, &done] { done = control->grid->Mouse(action); });
+    return done;
 }
 
 bool HeadlessDialog::ClickGraph(double x) {
@@ -247,6 +249,7 @@ bool HeadlessDialog::PressReturn() {
 
 bool HeadlessDialog::PressHelp(int id) {
     if (!IsOpen() || Find(id) == nullptr) return false;
+    EndTips();
     // As Windows does it, a dialog that has no answer leaves the key to the one that opened it.
     bool handled = false;
     for (NativeWindow* window = &m_window; window != nullptr && !handled; window = window->owner) {

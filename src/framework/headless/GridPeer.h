@@ -7,6 +7,7 @@
 #include "framework/ControlList.h"
 #include "framework/GridView.h"
 #include "framework/Keys.h"
+#include "framework/MouseAction.h"
 
 // What a grid shows to the headless backend, which knows no cells: the grid attaches its peer to the record
 // of its control when the dialog binds it, and the driver types and reads through the peer. The peer belongs
@@ -22,8 +23,10 @@ class GridPeer {
     // leaves to the dialog gives false.
     virtual void TypeChar(unsigned character, KeyState keys) = 0;
     virtual bool PressKey(unsigned key, KeyState keys) = 0;
-    // The mouse moves over the cell. False: there is no such cell, or it is not visible.
-    virtual bool Hover(int row, int column) = 0;
+    // The mouse. False: the place is not there or not visible, or the bar has nothing to scroll.
+    virtual bool Mouse(const MouseAction& action) = 0;
+    // Takes the title tip away, as any key does, wherever the focus is.
+    virtual void EndTip() = 0;
     virtual void GainFocus() = 0;
     // The focus leaves the grid for another control; an open editor ends.
     virtual void LoseFocus() = 0;

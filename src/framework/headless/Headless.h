@@ -9,6 +9,7 @@
 
 #include "framework/Dialog.h"
 #include "framework/Keys.h"
+#include "framework/MouseAction.h"
 #include "framework/headless/GraphPeer.h"
 #include "framework/headless/GridPeer.h"
 
@@ -61,8 +62,8 @@ class HeadlessDialog {
     bool Spin(int id, bool up);
     // Puts the grid's focus on the cell, types the text and Return.
     bool TypeCell(int row, int column, const std::string& text);
-    // Moves the mouse over a cell of the grid.
-    bool HoverCell(int row, int column);
+    // The mouse on the grid and beside it.
+    bool Mouse(const MouseAction& action);
     // A click on the plot at that place of its x axis.
     bool ClickGraph(double x);
     bool PressEscape();
@@ -80,6 +81,7 @@ class HeadlessDialog {
   private:
     bool PressKeyInEdit(NativeWindow& edit, unsigned key, KeyState keys);
     bool PressKeyInCombo(NativeWindow& combo, unsigned key);
+    void EndTips();
     NativeWindow* FindUsable(int id) const;
     NativeWindow& m_window;
 };

@@ -51,8 +51,15 @@ void MoveFocusByTab(WindowHandle window, bool backwards) {
     }
 }
 
+void HeadlessDialog::EndTips() {
+    for (const auto& control : m_window.controls) {
+        if (control->grid != nullptr) control->grid->EndTip();
+    }
+}
+
 bool HeadlessDialog::PressKey(unsigned key, KeyState keys) {
     if (!IsOpen()) return false;
+    EndTips();
     NativeWindow* focus = m_window.focus;
     if (focus != nullptr && focus->grid != nullptr) {
         bool used = false;
@@ -111,6 +118,7 @@ bool HeadlessDialog::PressKeyInCombo(NativeWindow& combo, unsigned key) {
 bool HeadlessDialog::TypeChar(unsigned character) {
     NativeWindow* focus = IsOpen() ? m_window.focus : nullptr;
     if (focus == nullptr) return false;
+    EndTips();
     if (focus->grid != nullptr) {
         Run([focus, character] { focus->grid->TypeChar(character, {}); });
         return true;

@@ -84,12 +84,14 @@ void HeadlessEditor::KeyDown(unsigned key, KeyState keys) {
 }
 
 GridSize HeadlessGrid::ClientSize() const {
-    return {m_size.width - (m_bBar[1] || m_bForced[1] ? kBarWidth : 0),
-            m_size.height - (m_bBar[0] || m_bForced[0] ? kBarWidth : 0)};
+    const auto isThere = [this](std::size_t bar) {
+        return m_bForced[bar] || m_Bars[bar].count > m_Bars[bar].page;
+    };
+    return {m_size.width - (isThere(1) ? kBarWidth : 0), m_size.height - (isThere(0) ? kBarWidth : 0)};
 }
 
 void HeadlessGrid::SetScrollBar(bool vertical, const ScrollPlace& place) {
-    m_bBar[vertical ? 1 : 0] = place.count > place.page;
+    m_Bars[vertical ? 1 : 0] = place;
 }
 
 void HeadlessGrid::ForceScrollBar(bool vertical, bool forced) {
@@ -117,8 +119,26 @@ void HeadlessGrid::LeaveByTab(bool backwards) {
     headless::MoveFocusByTab(m_grid.m_hWnd, backwards);
 }
 
-void HeadlessGrid::ShowTip(const GridRect&, const std::string& text, const FontRecord&) {
+void HeadlessGrid::TakeFocus() {
+    if (m_grid.m_hWnd != nullptr) {
+        backend::SetFocus(m_grid.m_hWnd);
+    } else if (!m_bFocused) {
+        GainFocus();
+    }
+}
+
+void HeadlessGrid::ShowTip(const GridRect& rect, const std::string& text, const FontRecord&) {
     m_sTip = text;
+    m_TipPlace = rect;
+}
+
+void HeadlessGrid::HideTip() {
+    m_sTip.clear();
+    m_TipPlace = {};
+}
+
+void HeadlessGrid::EndTip() {
+    m_grid.HideTip();
 }
 
 HeadlessEditor* HeadlessGrid::Editor() const {
@@ -126,6 +146,7 @@ HeadlessEditor* HeadlessGrid::Editor() const {
 }
 
 void HeadlessGrid::TypeChar(unsigned character, KeyState keys) {
+    m_grid.HideTip();
     if (HeadlessEditor* editor = Editor()) {
         editor->PostChar(character);
     } else {
@@ -134,6 +155,7 @@ void HeadlessGrid::TypeChar(unsigned character, KeyState keys) {
 }
 
 bool HeadlessGrid::PressKey(unsigned key, KeyState keys) {
+    m_grid.HideTip();
     if (HeadlessEditor* editor = Editor()) {
         editor->KeyDown(key, keys);
         return true;
@@ -157,18 +179,13 @@ bool HeadlessGrid::TypeCell(int row, int column, const std::string& text) {
     return true;
 }
 
-bool HeadlessGrid::Hover(int row, int column) {
-    GridRect rect;
-    if (!m_grid.CellRect(row, column, rect)) return false;
-    m_grid.OnMouseMove({(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2}, false);
-    return true;
-}
-
 void HeadlessGrid::GainFocus() {
+    m_bFocused = true;
     m_grid.OnGotFocus();
 }
 
 void HeadlessGrid::LoseFocus() {
+    m_bFocused = false;
     m_grid.EndOpenEdit();
     m_grid.HideTip();
 }

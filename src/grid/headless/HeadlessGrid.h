@@ -6,6 +6,7 @@
 
 #include "framework/headless/GridPeer.h"
 #include "grid/GridHost.h"
+#include "grid/headless/HeadlessMouse.h"
 
 // The window of an editor without a screen: the bare text. Characters that the editor lets through are typed
 // into it as an edit window would.
@@ -35,7 +36,7 @@ class HeadlessEditor : public EditorWindow {
 // A grid's window without a screen: a size, a clipboard, and keys that reach the editor while one is open.
 class HeadlessGrid : public GridHost, public GridPeer {
   public:
-    HeadlessGrid(CGridCtrl& grid, GridSize size) : m_grid(grid), m_size(size) {}
+    HeadlessGrid(CGridCtrl& grid, GridSize size) : m_grid(grid), m_size(size), m_mouse(grid, *this) {}
 
     GridSize ClientSize() const override;
     void SetScrollBar(bool vertical, const ScrollPlace& place) override;
@@ -43,12 +44,15 @@ class HeadlessGrid : public GridHost, public GridPeer {
     void SetClipboard(const std::string& text) override;
     std::string Clipboard() const override;
     bool OpenEditor(std::unique_ptr<CInPlaceEdit> editor, const GridRect& rect) override;
+    void TakeFocus() override;
     void LeaveByTab(bool backwards) override;
+    void CaptureMouse(bool captured) override { m_bCaptured = captured; }
     void ShowTip(const GridRect& rect, const std::string& text, const FontRecord& font) override;
-    void HideTip() override { m_sTip.clear(); }
+    void HideTip() override;
 
     bool TypeCell(int row, int column, const std::string& text) override;
-    bool Hover(int row, int column) override;
+    bool Mouse(const MouseAction& action) override { return m_mouse.Play(action); }
+    void EndTip() override;
     void GainFocus() override;
     void LoseFocus() override;
     GridView View() const override;
@@ -60,6 +64,9 @@ class HeadlessGrid : public GridHost, public GridPeer {
 
     HeadlessEditor* Editor() const;  // null: none is open
     const std::string& Tip() const { return m_sTip; }
+    const GridRect& TipPlace() const { return m_TipPlace; }  // empty: there is no tip
+    bool IsCaptured() const { return m_bCaptured; }
+    const ScrollPlace& VerticalBar() const { return m_Bars[1]; }
     // How often Tab left the grid, forwards and backwards.
     int LeftForwards() const { return m_nLeftForwards; }
     int LeftBackwards() const { return m_nLeftBackwards; }
@@ -67,9 +74,12 @@ class HeadlessGrid : public GridHost, public GridPeer {
   private:
     CGridCtrl& m_grid;
     GridSize m_size;
-    bool m_bBar[2] = {false, false};  // horizontal, vertical
+    ScrollPlace m_Bars[2];  // horizontal, vertical
     bool m_bForced[2] = {false, false};
+    bool m_bFocused = false, m_bCaptured = false;
     std::string m_sTip;
+    GridRect m_TipPlace;
+    HeadlessMouse m_mouse;
     int m_nLeftForwards = 0, m_nLeftBackwards = 0;
     // The last editor stays until the next one opens: its own operation closes it.
     std::unique_ptr<CInPlaceEdit> m_pEditor;

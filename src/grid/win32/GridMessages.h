@@ -2,22 +2,40 @@
 
 #include "framework/win32/Windows32.h"
 
-// What a program in the same process can ask a grid's window, as it would a list control.
+// What the driver of the dialogs can ask a grid's window. wParam is the driver's token (DriverToken.h),
+// lParam the address of a record in the same process, which holds the question and receives the answer. The
+// result is TRUE for an answered question; without the token nothing is read and nothing is written.
 
-// The counts of rows and columns.
-inline constexpr UINT kGridRowCount = WM_USER + 1;
-inline constexpr UINT kGridColumnCount = WM_USER + 2;
-// lParam: a GridCellText to fill. TRUE when the cell is there.
-inline constexpr UINT kGridCellText = WM_USER + 3;
-// wParam row, lParam column: scrolls the cell into view, puts the focus cell there and selects it. TRUE when
-// the cell is there.
-inline constexpr UINT kGridGoTo = WM_USER + 4;
-// wParam row, lParam column; the result is the cell's place in the client area of the last kGridGoTo or
-// paint, packed as x and y of its middle; -1 when it is not visible.
-inline constexpr UINT kGridCellPoint = WM_USER + 5;
+inline constexpr UINT kGridCounts = WM_USER + 1;    // GridCounts
+inline constexpr UINT kGridCellText = WM_USER + 2;  // GridCellText; FALSE: no such cell
+// GridCellPlace: scrolls the cell into view, puts the focus cell there and selects it. FALSE: no such cell.
+inline constexpr UINT kGridGoTo = WM_USER + 3;
+inline constexpr UINT kGridCellArea = WM_USER + 4;  // GridCellArea; FALSE: not visible
+inline constexpr UINT kGridView = WM_USER + 5;      // GridViewRecord
 
-// lParam: a GridViewRecord to fill.
-inline constexpr UINT kGridView = WM_USER + 6;
+// The identifier of the timer that scrolls during a drag.
+inline constexpr UINT_PTR kGridDragTimer = 1;
+
+struct GridCounts {
+    int rows = 0, columns = 0;
+};
+
+struct GridCellPlace {
+    int row = 0, column = 0;
+};
+
+struct GridCellText {
+    int row = 0, column = 0;
+    char* text = nullptr;  // receives at most `capacity` bytes, with the terminating zero
+    int capacity = 0;
+    int length = 0;  // of the whole text
+};
+
+// Where a cell lies in the client area of the window; the last rows and columns may lie partly outside.
+struct GridCellArea {
+    int row = 0, column = 0;
+    RECT area{};
+};
 
 // A GridView in a form that passes between two modules.
 struct GridViewRecord {
@@ -26,11 +44,4 @@ struct GridViewRecord {
     int start, end;
     bool editing, outgrewCell;
     char text[256];  // what does not fit is cut off
-};
-
-struct GridCellText {
-    int row = 0, column = 0;
-    char* text = nullptr;  // receives at most `capacity` bytes, with the terminating zero
-    int capacity = 0;
-    int length = 0;  // of the whole text
 };

@@ -4,13 +4,13 @@
 #include <cstring>
 
 #include "framework/win32/Drawing.h"
+#include "framework/win32/DriverToken.h"
 #include "grid/GridHelpers.h"
 #include "grid/win32/GdiCanvas.h"
 #include "grid/win32/GridMessages.h"
 
 namespace {
 
-constexpr UINT_PTR kDragTimer = 1;
 constexpr UINT kDragTimerMilliseconds = 100;
 
 void FillRecord(const CGridCtrl& grid, GridViewRecord& record) {
@@ -19,6 +19,32 @@ void FillRecord(const CGridCtrl& grid, GridViewRecord& record) {
               view.selected,    view.tipRow, view.tipColumn, view.start, view.end,    view.editing,
               view.outgrewCell, {}};
     view.text.copy(record.text, sizeof record.text - 1);
+}
+
+bool CopyText(const CGridCtrl& grid, GridCellText& query) {
+    if (!grid.IsCellInRange(query.row, query.column)) return false;
+    const std::string text = grid.GetCellText(query.row, query.column);
+    query.length = static_cast<int>(text.size());
+    if (query.text == nullptr || query.capacity <= 0) return true;
+    const int bytes = std::min(query.length, query.capacity - 1);
+    std::memcpy(query.text, text.data(), static_cast<std::size_t>(bytes));
+    query.text[bytes] = '\0';
+    return true;
+}
+
+bool GoTo(CGridCtrl& grid, const GridCellPlace& place) {
+    grid.EndOpenEdit();
+    if (!grid.MoveFocusCell(place.row, place.column)) return false;
+    grid.SelectRange(place.row, place.column, place.row, place.column, false, true);
+    grid.ScrollCellIntoView(place.row, place.column);
+    return true;
+}
+
+bool FindArea(const CGridCtrl& grid, GridCellArea& query) {
+    GridRect rect;
+    if (!grid.CellRect(query.row, query.column, rect)) return false;
+    query.area = win32::ToRect(rect);
+    return true;
 }
 
 GridPoint PointOf(LPARAM lParam) {
@@ -31,6 +57,19 @@ namespace win32 {
 
 KeyState Keys() {
     return {GetKeyState(VK_SHIFT) < 0, GetKeyState(VK_CONTROL) < 0};
+}
+
+KeyState MouseKeys(WPARAM wParam) {
+    return {(wParam & MK_SHIFT) != 0, (wParam & MK_CONTROL) != 0};
+}
+
+unsigned EventTime() {
+    return static_cast<unsigned>(GetMessageTime());
+}
+
+bool IsButtonDown() {
+    // For a left hand the two buttons are swapped.
+    return GetKeyState(VK_LBUTTON) < 0 || GetKeyState(VK_RBUTTON) < 0;
 }
 
 }  // namespace win32
@@ -106,10 +145,10 @@ void GridWindow::CaptureMouse(bool captured) {
     if (m_window == nullptr) return;
     if (captured) {
         SetCapture(m_window);
-        SetTimer(m_window, kDragTimer, kDragTimerMilliseconds, nullptr);
+        SetTimer(m_window, kGridDragTimer, kDragTimerMilliseconds, nullptr);
         return;
     }
-    KillTimer(m_window, kDragTimer);
+    KillTimer(m_window, kGridDragTimer);
     if (GetCapture() == m_window) ReleaseCapture();
 }
 
@@ -155,6 +194,12 @@ bool GridWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& 
         case WM_TIMER:
             m_grid.OnDragTimer();
             return true;
+        case WM_CAPTURECHANGED:
+            if (reinterpret_cast<HWND>(lParam) != m_window) m_grid.OnCaptureLost();
+            return false;
+        case WM_CANCELMODE:
+            m_grid.OnCaptureLost();
+            return false;
         case WM_VSCROLL:
             OnScrollMessage(true, wParam);
             return true;
@@ -171,14 +216,16 @@ bool GridWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& 
             break;
     }
     if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST) return OnMouse(message, wParam, lParam);
-    return OnQuery(message, wParam, lParam, result);
+    return OnQuestion(message, wParam, lParam, result);
 }
 
 bool GridWindow::OnMouse(UINT message, WPARAM wParam, LPARAM lParam) {
     const GridPoint point = PointOf(lParam);
     switch (message) {
         case WM_LBUTTONDOWN:
-            m_grid.OnLeftDown(point, {(wParam & MK_SHIFT) != 0, (wParam & MK_CONTROL) != 0});
+            m_grid.OnLeftDown(point, win32::MouseKeys(wParam), win32::EventTime());
+            // A handler may have shown a message meanwhile, which saw the button come up.
+            if (!win32::IsButtonDown()) m_grid.OnCaptureLost();
             return true;
         case WM_LBUTTONUP:
             m_grid.OnLeftUp(point);
@@ -187,10 +234,6 @@ bool GridWindow::OnMouse(UINT message, WPARAM wParam, LPARAM lParam) {
             m_grid.OnDoubleClick(point);
             return true;
         case WM_MOUSEMOVE:
-            // The platform repeats the last place when a window over it goes: a tip that a key took away
-            // would come back at once.
-            if (point.x == m_LastMove.x && point.y == m_LastMove.y) return true;
-            m_LastMove = point;
             m_grid.OnMouseMove(point, (wParam & MK_LBUTTON) != 0);
             return true;
         default:
@@ -263,44 +306,27 @@ void GridWindow::OnScrollMessage(bool vertical, WPARAM wParam) {
     m_grid.OnScroll(vertical, position);
 }
 
-bool GridWindow::OnQuery(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
-    const int row = static_cast<int>(wParam), column = static_cast<int>(lParam);
-    GridRect rect;
+// Nothing behind lParam is touched before the token is known to be the driver's.
+bool GridWindow::OnQuestion(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
+    if (message < kGridCounts || message > kGridView) return false;
+    if (!win32::IsFromDriver(wParam) || lParam == 0) return true;
+    result = TRUE;
     switch (message) {
-        case kGridRowCount:
-            result = m_grid.GetRowCount();
-            return true;
-        case kGridColumnCount:
-            result = m_grid.GetColumnCount();
-            return true;
+        case kGridCounts:
+            *reinterpret_cast<GridCounts*>(lParam) = {m_grid.GetRowCount(), m_grid.GetColumnCount()};
+            break;
+        case kGridCellText:
+            result = CopyText(m_grid, *reinterpret_cast<GridCellText*>(lParam)) ? TRUE : FALSE;
+            break;
         case kGridGoTo:
-            m_grid.EndOpenEdit();
-            result = m_grid.MoveFocusCell(row, column) ? TRUE : FALSE;
-            if (result == FALSE) return true;
-            m_grid.SelectRange(row, column, row, column, false, true);
-            m_grid.ScrollCellIntoView(row, column);
-            return true;
-        case kGridCellPoint:
-            result = -1;
-            if (m_grid.CellRect(row, column, rect)) {
-                result = MAKELRESULT((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
-            }
-            return true;
-        case kGridView:
-            FillRecord(m_grid, *reinterpret_cast<GridViewRecord*>(lParam));
-            return true;
-        case kGridCellText: {
-            auto& query = *reinterpret_cast<GridCellText*>(lParam);
-            result = m_grid.IsCellInRange(query.row, query.column) ? TRUE : FALSE;
-            const std::string text = m_grid.GetCellText(query.row, query.column);
-            query.length = static_cast<int>(text.size());
-            if (query.text == nullptr || query.capacity <= 0) return true;
-            const int bytes = std::min(query.length, query.capacity - 1);
-            std::memcpy(query.text, text.data(), static_cast<std::size_t>(bytes));
-            query.text[bytes] = '\0';
-            return true;
-        }
+            result = GoTo(m_grid, *reinterpret_cast<const GridCellPlace*>(lParam)) ? TRUE : FALSE;
+            break;
+        case kGridCellArea:
+            result = FindArea(m_grid, *reinterpret_cast<GridCellArea*>(lParam)) ? TRUE : FALSE;
+            break;
         default:
-            return false;
+            FillRecord(m_grid, *reinterpret_cast<GridViewRecord*>(lParam));
+            break;
     }
+    return true;
 }

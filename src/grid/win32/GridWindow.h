@@ -10,8 +10,12 @@
 
 namespace win32 {
 
-// The modifier keys of the message that is being handled.
+// The modifier keys of the message that is being handled, and of a message of the mouse by its parameter.
 KeyState Keys();
+KeyState MouseKeys(WPARAM wParam);
+// The time of the message that is being handled, in milliseconds.
+unsigned EventTime();
+bool IsButtonDown();
 void PutClipboardText(const std::string& text);
 std::string ClipboardText();
 
@@ -45,7 +49,8 @@ class GridWindow : public GridHost, private win32::MessageTarget {
     void OnGone() noexcept override { m_window = nullptr; }
     bool OnMouse(UINT message, WPARAM wParam, LPARAM lParam);
     bool OnKey(UINT message, WPARAM wParam);
-    bool OnQuery(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+    // A driver's question; true: it is one, answered or not.
+    bool OnQuestion(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
     LRESULT DialogCode(LPARAM lParam) const;
     void OnPaint();
     void OnScrollMessage(bool vertical, WPARAM wParam);
@@ -56,5 +61,4 @@ class GridWindow : public GridHost, private win32::MessageTarget {
     bool m_bForced[2] = {false, false};  // horizontal, vertical
     std::vector<std::unique_ptr<EditorWindow32>> m_editors;
     TipWindow m_tip;
-    GridPoint m_LastMove{-1, -1};
 };

@@ -3,16 +3,49 @@
 #include <utility>
 
 #include "framework/win32/Drawing.h"
+#include "framework/win32/Failures.h"
 #include "grid/GridCtrl.h"
 #include "grid/win32/GdiCanvas.h"
+#include "grid/win32/GridWindow.h"
 
 namespace {
 
 constexpr int kTextMargin = 3;
 
+// The tip that shows; the mouse is over one at most.
+TipWindow*& Shown() {
+    static TipWindow* shown = nullptr;
+    return shown;
+}
+
+bool IsPress(UINT message) {
+    switch (message) {
+        case WM_KEYDOWN:
+        case WM_SYSKEYDOWN:
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+        case WM_RBUTTONDOWN:
+        case WM_RBUTTONDBLCLK:
+        case WM_MBUTTONDOWN:
+        case WM_MBUTTONDBLCLK:
+        case WM_XBUTTONDOWN:
+        case WM_XBUTTONDBLCLK:
+        case WM_NCLBUTTONDOWN:
+        case WM_NCLBUTTONDBLCLK:
+        case WM_NCRBUTTONDOWN:
+        case WM_NCRBUTTONDBLCLK:
+        case WM_NCMBUTTONDOWN:
+        case WM_NCMBUTTONDBLCLK:
+            return true;
+        default:
+            return false;
+    }
+}
+
 }  // namespace
 
 TipWindow::~TipWindow() {
+    EndWatch();
     if (m_window == nullptr) return;
     win32::UnhookWindow(m_window);
     DestroyWindow(m_window);
@@ -41,10 +74,38 @@ void TipWindow::Show(HWND owner, const GridRect& rect, const std::string& text, 
                  SWP_NOACTIVATE | SWP_SHOWWINDOW);
     InvalidateRect(m_window, nullptr, TRUE);
     WatchForLeave();
+    WatchForInput();
 }
 
 void TipWindow::Hide() {
+    EndWatch();
     if (m_window != nullptr) ShowWindow(m_window, SW_HIDE);
+}
+
+// A key goes to the window that has the focus, which need not be the grid: the tip watches the messages of
+// its thread.
+void TipWindow::WatchForInput() {
+    if (m_hook != nullptr) return;
+    m_hook = SetWindowsHookExA(WH_GETMESSAGE, WatchMessage, nullptr, GetCurrentThreadId());
+    if (m_hook != nullptr) Shown() = this;
+}
+
+void TipWindow::EndWatch() {
+    if (m_hook == nullptr) return;
+    UnhookWindowsHookEx(m_hook);
+    m_hook = nullptr;
+    if (Shown() == this) Shown() = nullptr;
+}
+
+LRESULT CALLBACK TipWindow::WatchMessage(int code, WPARAM wParam, LPARAM lParam) noexcept {
+    const auto& message = *reinterpret_cast<const MSG*>(lParam);
+    TipWindow* tip = Shown();
+    // What hits the tip itself is its own affair.
+    if (code == HC_ACTION && wParam == PM_REMOVE && tip != nullptr && message.hwnd != tip->m_window &&
+        IsPress(message.message)) {
+        win32::RunBorder([tip] { tip->m_grid.HideTip(); });
+    }
+    return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
 void TipWindow::WatchForLeave() {
@@ -59,32 +120,44 @@ bool TipWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT&) 
             return true;
         case WM_ERASEBKGND:
             return true;
-        case WM_MOUSEMOVE:
+        case WM_MOUSEMOVE: {
             WatchForLeave();
+            const POINT point = InOwner(lParam);
+            m_grid.OnTipMove({point.x, point.y});
             return true;
+        }
         case WM_MOUSELEAVE:
-            m_grid.HideTip();
+            m_grid.OnTipLeave();
             return true;
         case WM_LBUTTONDOWN:
-        case WM_RBUTTONDOWN:
-        case WM_MBUTTONDOWN:
-            OnButton(message, wParam, lParam);
+        case WM_LBUTTONDBLCLK: {
+            const POINT point = InOwner(lParam);
+            m_grid.OnTipLeftDown({point.x, point.y}, win32::MouseKeys(wParam), win32::EventTime());
             return true;
-        case WM_KEYDOWN:
-            m_grid.HideTip();
-            PostMessageA(m_owner, message, wParam, lParam);
+        }
+        case WM_MOUSEWHEEL:
+            SendMessageA(m_owner, message, wParam, lParam);
             return true;
         default:
-            return false;
+            break;
     }
+    if (!IsPress(message)) return false;
+    OnOtherButton(message, wParam, lParam);
+    return true;
 }
 
-void TipWindow::OnButton(UINT message, WPARAM wParam, LPARAM lParam) {
+POINT TipWindow::InOwner(LPARAM lParam) const {
     POINT point{static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
     MapWindowPoints(m_window, m_owner, &point, 1);
-    const LPARAM place = MAKELPARAM(point.x, point.y);
-    const bool twice = m_grid.OnTipButton(GetTickCount());
-    PostMessageA(m_owner, twice && message == WM_LBUTTONDOWN ? WM_LBUTTONDBLCLK : message, wParam, place);
+    return point;
+}
+
+// The grid has no use for the other buttons but to pass them on; a key is the grid's.
+void TipWindow::OnOtherButton(UINT message, WPARAM wParam, LPARAM lParam) {
+    const POINT point = InOwner(lParam);
+    const bool isKey = message == WM_KEYDOWN || message == WM_SYSKEYDOWN;
+    m_grid.HideTip();
+    PostMessageA(m_owner, message, wParam, isKey ? lParam : MAKELPARAM(point.x, point.y));
 }
 
 void TipWindow::OnPaint() {

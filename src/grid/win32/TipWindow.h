@@ -20,15 +20,23 @@ class TipWindow : private win32::MessageTarget {
     void Hide();
 
   private:
+    static LRESULT CALLBACK WatchMessage(int code, WPARAM wParam, LPARAM lParam) noexcept;
     bool OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) override;
-    void OnGone() noexcept override { m_window = nullptr; }
+    void OnGone() noexcept override {
+        EndWatch();
+        m_window = nullptr;
+    }
     void OnPaint();
-    void OnButton(UINT message, WPARAM wParam, LPARAM lParam);
+    void OnOtherButton(UINT message, WPARAM wParam, LPARAM lParam);
+    POINT InOwner(LPARAM lParam) const;
     void WatchForLeave();
+    void WatchForInput();
+    void EndWatch();
 
     CGridCtrl& m_grid;
     HWND m_owner = nullptr;
     HWND m_window = nullptr;
+    HHOOK m_hook = nullptr;  // while the tip shows
     std::string m_text;
     FontRecord m_font;
 };

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "framework/Keys.h"
+
+// What a hand does with the mouse on a grid and beside it. The scripts of both drivers are made of these.
+
+// Where the pointer goes, seen from the grid of the front dialog.
+enum class MousePlace {
+    here,        // where it is
+    cell,        // the middle of a cell
+    cellRight,   // the line at the right edge of a cell
+    cellBottom,  // the line at its bottom edge
+    beside,      // the area below the last row
+    frame,       // the border of the grid's window
+    above,       // outside of the grid's window, on that side of where the pointer is
+    below,
+    left,
+    right,
+    away,  // far from the grid
+};
+
+struct MouseSpot {
+    MousePlace place = MousePlace::here;
+    int row = 0, column = 0;  // of the cell
+};
+
+enum class MouseDeed {
+    move,
+    press,
+    release,
+    click,        // press and release
+    doubleClick,  // two clicks within the double click time
+    shakyDouble,  // the same by a hand that moves the mouse a little between the two
+    rightClick,
+    wheel,   // count: notches, above 0 away from the hand
+    scroll,  // the vertical scroll bar: part, count times
+    lose,    // another window takes the capture of the mouse
+    cancel,  // the platform breaks off what the mouse is doing, as it does for a message box
+};
+
+// A part of the scroll bar: the arrows, the area beside the slider, and the slider drawn to an end.
+enum class ScrollPart { lineUp, lineDown, pageUp, pageDown, first, last };
+
+struct MouseAction {
+    MouseDeed deed = MouseDeed::move;
+    MouseSpot spot;
+    KeyState keys;  // held down during press, click and double click
+    ScrollPart part = ScrollPart::lineUp;
+    int count = 1;
+};

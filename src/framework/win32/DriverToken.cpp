@@ -1,0 +1,34 @@
+#include "framework/win32/DriverToken.h"
+
+#include <array>
+#include <charconv>
+#include <cstdint>
+
+namespace {
+
+constexpr std::uint32_t kNoToken = 0;
+
+std::uint32_t ReadToken() {
+    std::array<char, 16> text{};
+    const DWORD length =
+        GetEnvironmentVariableA(kDriverTokenVariable, text.data(), static_cast<DWORD>(text.size()));
+    if (length == 0 || length >= text.size()) return kNoToken;
+    std::uint32_t token = kNoToken;
+    const char* end = text.data() + length;
+    const auto [at, fault] = std::from_chars(text.data(), end, token, 16);
+    return fault == std::errc() && at == end ? token : kNoToken;
+}
+
+// Read while the module is loaded: the driver takes it out of the environment again, so that the programs
+// that the module starts do not get it.
+const std::uint32_t g_driverToken = ReadToken();
+
+}  // namespace
+
+namespace win32 {
+
+bool IsFromDriver(WPARAM token) {
+    return g_driverToken != kNoToken && token == g_driverToken;
+}
+
+}  // namespace win32

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "framework/MouseAction.h"
+#include "grid/GridTypes.h"
+
+class CGridCtrl;
+class HeadlessGrid;
+
+// The mouse over a grid without a screen. Which window gets what is the platform's rule: the tip lies over
+// the cells, an editor over its cell, and a captured mouse is the grid's wherever it goes. Two presses are a
+// double click when the script says so and one window got both.
+class HeadlessMouse {
+  public:
+    HeadlessMouse(CGridCtrl& grid, HeadlessGrid& window) : m_grid(grid), m_window(window) {}
+
+    // False: the place is not there or not visible, or the bar has nothing to scroll.
+    bool Play(const MouseAction& action);
+
+  private:
+    enum class Target { none, grid, tip, editor };
+
+    bool FindPlace(const MouseSpot& spot, GridPoint& place) const;
+    bool FindOnCell(const MouseSpot& spot, GridPoint& place) const;
+    Target TargetAt(GridPoint place) const;
+    void MoveTo(GridPoint place);
+    void DragOutside();
+    void Press(KeyState keys, bool soon);
+    void Release();
+    void PressRight();
+    bool Scroll(ScrollPart part, int count);
+
+    CGridCtrl& m_grid;
+    HeadlessGrid& m_window;
+    GridPoint m_place{-1000, -1000};  // in the grid's client area
+    bool m_bDown = false;
+    Target m_pressed = Target::none;  // of the last press, until a double click
+    unsigned m_now = 0;               // milliseconds
+};
