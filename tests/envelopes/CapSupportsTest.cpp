@@ -137,6 +137,17 @@ TEST(CapSupports, OtherTypesHaveNoCap) {
     EXPECT_TRUE(model.pier.IsShearSection(1, 3));
 }
 
+TEST(CapSupports, WithoutACapEverySectionCounts) {
+    CapModel model(TwoColumnsWithoutCantilevers());
+    EXPECT_FALSE(model.pier.IsMomentSection(0, 0));
+    EXPECT_FALSE(model.pier.IsShearSection(1, 3));
+    model.pier.m_nStructureType = 4;
+    EXPECT_TRUE(model.pier.IsMomentSection(0, 0));
+    EXPECT_TRUE(model.pier.IsMomentSection(1, 2));
+    EXPECT_TRUE(model.pier.IsShearSection(0, 0));
+    EXPECT_TRUE(model.pier.IsShearSection(1, 3));
+}
+
 TEST(CapSupports, UnknownSupportsGiveNothing) {
     const CapModel model(TwoColumns());
     EXPECT_EQ(model.pier.GetSupportNode(-1), -1);

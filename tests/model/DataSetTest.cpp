@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <vector>
 
 #include "session/Session.h"
 
@@ -40,13 +41,32 @@ class DataSet : public testing::Test {
 
 using Tables = std::set<int>;
 
+// Every count of a data set.
+std::vector<int*> CountsOf(CDataSet& data) {
+    return {
+        &data.m_nAnalysisMode,  &data.m_nNcvInteger,      &data.m_nUnits,         &data.m_nPilesFromNodes,
+        &data.m_nExtraMembers,  &data.m_nXMemberSections, &data.m_nSpanNodes,     &data.m_nCantileverNodes,
+        &data.m_nColumnNodes,   &data.m_nColumnSections,  &data.m_nStructureType, &data.m_nColumns,
+        &data.m_nCantilevers,   &data.m_nElementGaps,     &data.m_nPlfExtraCount, &data.m_nPileNodesTotal,
+        &data.m_nPileElements,  &data.m_nElements,        &data.m_nPilTableSize,  &data.m_nSectionRecords,
+        &data.m_nSectionBlocks, &data.m_nPiers,           &data.m_nPiles,         &data.m_nPileNodes,
+        &data.m_nLoadCases};
+}
+
+TEST_F(DataSet, ANewOneIsEmpty) {
+    CDataSet fresh;
+    EXPECT_TRUE(fresh.IsPierless());
+    EXPECT_EQ(fresh.m_dNcvReal, 0.0);
+    for (const int* count : CountsOf(fresh)) EXPECT_EQ(*count, 0);
+}
+
 TEST_F(DataSet, ResetReturnsToTheFirstState) {
     AddPier();
-    g_DataSet.m_nAnalysisMode = 1;
-    g_DataSet.m_nUnits = 1;
-    g_DataSet.m_nLoadCases = 9;
-    g_DataSet.m_sForceUnit = "kN";
-    g_DataSet.m_sProjectN = "bridge";
+    for (int* count : CountsOf(g_DataSet)) *count = 9;
+    g_DataSet.m_dNcvReal = 1.5;
+    std::string* const texts[] = {&g_DataSet.m_sForceUnit, &g_DataSet.m_sMomentUnit, &g_DataSet.m_sProjectN,
+                                  &g_DataSet.m_sProjectT,  &g_DataSet.m_sProjectC,   &g_DataSet.m_sProjectD};
+    for (std::string* text : texts) *text = "kN";
     g_DataSet.m_bTableValid[3] = false;
     g_DataSet.m_bTableEnabled[0] = true;
     g_FooterOn = g_FooterDate = g_FooterTime = g_FooterVersion = g_FooterFileName = 1;
@@ -55,11 +75,9 @@ TEST_F(DataSet, ResetReturnsToTheFirstState) {
     g_DataLoaded = false;
     g_DataSet.Reset();
     EXPECT_TRUE(g_DataSet.IsPierless());
-    EXPECT_EQ(g_DataSet.m_nAnalysisMode, 0);
-    EXPECT_EQ(g_DataSet.m_nUnits, 0);
-    EXPECT_EQ(g_DataSet.m_nLoadCases, 0);
-    EXPECT_EQ(g_DataSet.m_sForceUnit, "");
-    EXPECT_EQ(g_DataSet.m_sProjectN, "");
+    for (const int* count : CountsOf(g_DataSet)) EXPECT_EQ(*count, 0);
+    EXPECT_EQ(g_DataSet.m_dNcvReal, 0.0);
+    for (const std::string* text : texts) EXPECT_EQ(*text, "");
     for (const bool valid : g_DataSet.m_bTableValid) EXPECT_TRUE(valid);
     for (const bool enabled : g_DataSet.m_bTableEnabled) EXPECT_FALSE(enabled);
     EXPECT_EQ(g_FooterOn + g_FooterDate + g_FooterTime + g_FooterVersion + g_FooterFileName, 0);
