@@ -6,8 +6,8 @@
 
 #include "app/DesignerDlg.h"
 #include "app/Launch.h"
+#include "batch/Border.h"
 #include "batch/ScriptDriver.h"
-#include "text/Utf8.h"
 
 namespace {
 
@@ -33,7 +33,7 @@ std::string Beside(const std::string& path, const std::string& name) {
 ExitStatus RunDrive(const DriveOptions& options, std::ostream& out, std::ostream& err) {
     std::string script;
     if (!ReadScript(options.script, script)) {
-        err << "lumerin: the script " << options.script << " could not be read" << std::endl;
+        PrintLine(err, "lumerin: the script " + options.script + " could not be read");
         return kExitUsage;
     }
     return DriveScript(options, script, out, err);
@@ -45,7 +45,7 @@ ExitStatus DriveScript(const DriveOptions& options, const std::string& script, s
     try {
         actions = ParseScript(script);
     } catch (const ScriptError& error) {
-        err << "lumerin: " << error.what() << std::endl;
+        PrintLine(err, std::string("lumerin: ") + error.what());
         return kExitUsage;
     }
     ScriptDriver driver(std::move(actions), out);
@@ -75,10 +75,10 @@ ExitStatus DriveScript(const DriveOptions& options, const std::string& script, s
     headless::SetSink(nullptr);
     out.flush();
     if (const ScriptAction* left = driver.FirstLeftOver()) {
-        err << "lumerin: script line " << left->line << ": the last dialog is closed" << std::endl;
+        PrintLine(err, "lumerin: script line " + std::to_string(left->line) + ": the last dialog is closed");
     }
     for (const std::string& path : driver.FailedOutputs()) {
-        err << "lumerin: " << ToUtf8(path) << " could not be written whole" << std::endl;
+        PrintLine(err, "lumerin: " + path + " could not be written whole");
     }
     if (!allLoaded) return kExitNotLoaded;
     return driver.FailedOutputs().empty() ? kExitDone : kExitIncomplete;

@@ -6,12 +6,12 @@
 
 #include "app/DesignerDlg.h"
 #include "app/Launch.h"
+#include "batch/Border.h"
 #include "batch/Progress.h"
 #include "batch/ScriptDriver.h"
 #include "embedment/MPTEDlg.h"
 #include "embedment/SvgCanvas.h"
 #include "session/Constants.h"
-#include "text/Utf8.h"
 
 namespace {
 
@@ -44,7 +44,7 @@ EmbedmentDriver::EmbedmentDriver(const EmbedmentOptions& options, std::ostream& 
     : m_options(options), m_out(out), m_err(err) {}
 
 ExitStatus EmbedmentDriver::Run() {
-    Progress progress(m_err, "Loading " + ToUtf8(m_options.project));
+    Progress progress(m_err, "Loading " + ForUser(m_options.project));
     headless::SetSink(this);
     headless::SetModalDriver([this, &progress](headless::HeadlessDialog& dialog) {
         progress.End();
@@ -58,7 +58,7 @@ ExitStatus EmbedmentDriver::Run() {
 }
 
 void EmbedmentDriver::Fail(ExitStatus status, const std::string& text) {
-    m_err << ToUtf8(m_options.project + ": " + text) << std::endl;
+    PrintLine(m_err, m_options.project + ": " + text);
     m_status = std::max(m_status, status);
 }
 
@@ -122,7 +122,7 @@ void EmbedmentDriver::PrintTable(headless::HeadlessDialog& dialog, const CMPTEDl
             if (i > 0) line += kColumnGap;
             line.append(widths[i] - row[i].size(), ' ').append(row[i]);
         }
-        m_out << ToUtf8(line) << '\n';
+        m_out << ForUser(line) << '\n';
     }
 }
 

@@ -3,6 +3,8 @@
 #include <charconv>
 #include <nlohmann/json.hpp>
 
+#include "batch/Border.h"
+
 namespace {
 
 using Json = nlohmann::ordered_json;
@@ -32,7 +34,7 @@ struct ValueText {
     std::string operator()(bool value) const { return value ? "true" : "false"; }
     std::string operator()(int value) const { return std::to_string(value); }
     std::string operator()(double value) const { return NumberText(value); }
-    std::string operator()(const std::string& value) const { return Json(ToUtf8(value)).dump(); }
+    std::string operator()(const std::string& value) const { return Json(ForUser(value)).dump(); }
 };
 
 std::string ValueList(const std::vector<GraphValue>& values) {
@@ -47,14 +49,14 @@ std::string ValueList(const std::vector<GraphValue>& values) {
 }  // namespace
 
 void JsonLines::Dialog(std::string_view title) {
-    m_out << Json{{"dialog", ToUtf8(title)}}.dump() << '\n';
+    m_out << Json{{"dialog", ForUser(title)}}.dump() << '\n';
 }
 
 void JsonLines::Control(const ControlState& state) {
     Json line;
     line["id"] = state.id;
     line["kind"] = kKindNames[static_cast<std::size_t>(state.kind)];
-    line["text"] = ToUtf8(state.text);
+    line["text"] = ForUser(state.text);
     line["enabled"] = state.enabled;
     line["visible"] = state.visible;
     if (state.kind == ControlKind::radio || state.kind == ControlKind::check) line["checked"] = state.checked;
@@ -64,25 +66,25 @@ void JsonLines::Control(const ControlState& state) {
 
 void JsonLines::Message(std::string_view text, std::string_view title, MessageIcon icon) {
     Json line;
-    line["message"] = ToUtf8(text);
-    line["title"] = ToUtf8(title);
+    line["message"] = ForUser(text);
+    line["title"] = ForUser(title);
     line["icon"] = kIconNames[static_cast<std::size_t>(icon)];
     m_out << line.dump() << '\n';
 }
 
 void JsonLines::Open(const std::string& file, const std::string& parameters) {
     Json line;
-    line["open"] = ToUtf8(Unquoted(parameters.empty() ? file : parameters));
-    line["program"] = parameters.empty() ? std::string() : ToUtf8(FileNameOf(Unquoted(file)));
+    line["open"] = ForUser(Unquoted(parameters.empty() ? file : parameters));
+    line["program"] = parameters.empty() ? std::string() : ForUser(FileNameOf(Unquoted(file)));
     m_out << line.dump() << '\n';
 }
 
 void JsonLines::Module(std::string_view module, const services::PlotModuleCall& call) {
     Json line;
-    line["module"] = ToUtf8(module);
-    line["arguments"] =
-        Json::array({call.format, ToUtf8(call.dataFile), ToUtf8(call.plot), ToUtf8(call.family),
-                     ToUtf8(call.version), ToUtf8(call.zeroA), ToUtf8(call.zeroB), ToUtf8(call.argument)});
+    line["module"] = ForUser(module);
+    line["arguments"] = Json::array({call.format, ForUser(call.dataFile), ForUser(call.plot),
+                                     ForUser(call.family), ForUser(call.version), ForUser(call.zeroA),
+                                     ForUser(call.zeroB), ForUser(call.argument)});
     m_out << line.dump() << '\n';
 }
 
@@ -90,7 +92,7 @@ void JsonLines::Row(int row, const std::vector<std::string>& cells) {
     Json line;
     line["row"] = row;
     line["cells"] = Json::array();
-    for (const std::string& cell : cells) line["cells"].push_back(ToUtf8(cell));
+    for (const std::string& cell : cells) line["cells"].push_back(ForUser(cell));
     m_out << line.dump() << '\n';
 }
 
@@ -98,7 +100,7 @@ void JsonLines::Focus(const FocusState& state) {
     Json line;
     line["focus"] = state.id;
     if (state.kind == ControlKind::edit) {
-        line["text"] = ToUtf8(state.text);
+        line["text"] = ForUser(state.text);
         line["selection"] = {state.start, state.end};
     }
     if (state.kind == ControlKind::grid) {
@@ -108,7 +110,7 @@ void JsonLines::Focus(const FocusState& state) {
         line["cells"] = grid.selected;
         if (grid.tipRow >= 0) line["tip"] = {grid.tipRow, grid.tipColumn};
         if (grid.editing) {
-            line["editor"] = {{"text", ToUtf8(grid.text)},
+            line["editor"] = {{"text", ForUser(grid.text)},
                               {"selection", {grid.start, grid.end}},
                               {"wider", grid.outgrewCell}};
         }

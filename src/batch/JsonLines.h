@@ -9,7 +9,6 @@
 #include "framework/ControlList.h"
 #include "framework/GridView.h"
 #include "framework/headless/GraphPeer.h"
-#include "text/Utf8.h"
 
 // The events and states of driven dialogs as JSON, one object a line, in fixed key order. The same lines come
 // from every face of the product, so that two outputs can be compared byte for byte.

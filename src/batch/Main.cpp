@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "app/Launch.h"
+#include "batch/Border.h"
 #include "batch/DriveCommand.h"
 #include "batch/EmbedmentCommand.h"
 #include "batch/ReportDriver.h"
@@ -19,7 +20,8 @@ struct ReportTexts {
 };
 
 void AddCommonOptions(CLI::App& command, CommonOptions& options) {
-    command.add_option("--version-text", options.version, "The host's version, for title page and footers");
+    command.add_option("--version-text", options.version, "The host's version, for title page and footers")
+        ->transform([](const std::string& text) { return FromUser(text); });
     command.add_option("--font-size", options.fontSize, "Font size of the text viewer in points")
         ->check(CLI::Range(1, 100));
     command.add_option("--clock", options.clock, "Date and time to print, YYYY-MM-DDTHH:MM:SS");
@@ -119,7 +121,11 @@ int Run(int argc, char** argv) {
     try {
         program.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return program.exit(error) == 0 ? kExitDone : kExitUsage;
+        std::ostringstream out, err;
+        const int status = program.exit(error, out, err);
+        std::cout << ForUser(out.str()) << std::flush;
+        std::cerr << ForUser(err.str());
+        return status == 0 ? kExitDone : kExitUsage;
     }
     if (program.got_subcommand("report")) {
         FinishReport(report, texts);
@@ -141,7 +147,7 @@ int main(int argc, char** argv) {
     try {
         return Run(argc, argv);
     } catch (const std::exception& error) {
-        std::cerr << "lumerin: " << error.what() << '\n';
+        PrintLine(std::cerr, std::string("lumerin: ") + error.what());
         return kExitUsage;
     }
 }

@@ -9,7 +9,7 @@
 // std::invalid_argument with a text for the user.
 
 struct CommonOptions {
-    std::string version;  // the host's version, for the title page and the footers
+    std::string version;  // the host's version, for the title page and the footers; in the code page
     int fontSize = 0;     // of the text viewer in points; 0: it has no such setting
     std::string clock;    // empty: the machine's
 };

@@ -4,7 +4,7 @@
 
 #include "app/DesignerDlg.h"
 #include "app/Launch.h"
-#include "batch/JsonLines.h"
+#include "batch/Border.h"
 #include "batch/Progress.h"
 #include "batch/ScriptDriver.h"
 #include "batch/Viewer.h"
@@ -27,7 +27,7 @@ ExitStatus ReportDriver::Run(const std::string& project, int format) {
     m_nMessages = 0;
     m_bCasesChosen = false;
     m_status = kExitDone;
-    Progress progress(m_err, "Loading " + ToUtf8(project));
+    Progress progress(m_err, "Loading " + ForUser(project));
     headless::SetSink(this);
     headless::SetModalDriver([this, &progress](headless::HeadlessDialog& dialog) {
         progress.End();
@@ -44,7 +44,7 @@ void ReportDriver::Worsen(ExitStatus status) {
 }
 
 void ReportDriver::Say(const std::string& text) {
-    m_err << ToUtf8(text) << std::endl;
+    PrintLine(m_err, text);
 }
 
 void ReportDriver::Drive(headless::HeadlessDialog& dialog) {

@@ -3,6 +3,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "batch/Border.h"
+
 namespace {
 
 bool IsBlank(char c) {
@@ -54,6 +56,8 @@ class LineReader {
         m_rest = {};
         return rest;
     }
+    // The rest as a text for a control.
+    std::string Text() { return FromUser(Rest()); }
     [[noreturn]] void Fail(const std::string& fault) const { throw ScriptError(m_nLine, fault); }
 
   private:
@@ -257,7 +261,7 @@ constexpr VerbReader kVerbs[] = {
      [](LineReader& line, ScriptAction& action) {
          action.verb = ScriptVerb::text;
          action.id = line.Integer(kControlWord);
-         action.text = line.Rest();
+         action.text = line.Text();
      }},
     {"focus",
      [](LineReader& line, ScriptAction& action) {
@@ -276,7 +280,7 @@ constexpr VerbReader kVerbs[] = {
          action.verb = ScriptVerb::cell;
          action.id = line.Integer(kRowWord);
          action.number = line.Integer(kColumnWord);
-         action.text = line.Rest();
+         action.text = line.Text();
      }},
     {"graph-click",
      [](LineReader& line, ScriptAction& action) {
@@ -296,7 +300,7 @@ constexpr VerbReader kVerbs[] = {
      [](LineReader& line, ScriptAction& action) {
          action.verb = ScriptVerb::type;
          if (line.AtEnd()) line.Fail("expected the text to type");
-         action.text = line.Rest();
+         action.text = line.Text();
      }},
     {"hover", ReadHover},
     {"mouse", ReadMouse},

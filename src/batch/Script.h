@@ -10,7 +10,8 @@
 #include "framework/MouseAction.h"
 
 // The script that drives the dialogs, the same for every face of the product: one action a line, "#" at a
-// line's start or behind a blank begins a comment. It is read whole before the first action runs.
+// line's start or behind a blank begins a comment. It is read whole before the first action runs. A script is
+// UTF-8; texts for controls come out of it in the code page, names of files as they are.
 
 enum class ScriptVerb {
     click,       // id

@@ -98,6 +98,9 @@ struct PlotModuleCall {
 PlotModuleResult CallPlotModule(const char* module, const char* exportName, const PlotModuleCall& call,
                                 std::string& systemText);
 
+// Whether paths are UTF-8 on this platform; otherwise they are bytes of the Western code page, as texts are.
+bool PathsAreUtf8();
+
 // Whether `c` separates folders on this platform, and the separator that it writes itself.
 bool IsFolderSeparator(char c);
 char FolderSeparator();

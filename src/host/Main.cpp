@@ -15,6 +15,7 @@
 #include "host/Resources.h"
 #include "host/Token.h"
 #include "host/WindowDriver.h"
+#include "text/Utf8.h"
 
 // Stands in for the host program: it loads the module that lies beside it, calls the export, and can play a
 // script on the module's real windows. It carries the host's name, which the module trims off its path.
@@ -121,7 +122,8 @@ int PlayScript(const HostOptions& options, ModuleExport launch, std::ostream& ou
         Driver()->EndCall(result);
         const ScriptAction* again = Driver()->TakeAgain();
         more = again != nullptr;
-        if (more && !again->text.empty()) project = FolderOf(project) + again->text;
+        // Names of files are in the code page here, and UTF-8 in a script.
+        if (more && !again->text.empty()) project = FolderOf(project) + ToWestern(again->text);
     }
     KillTimer(nullptr, timer);
     const ScriptAction* left = Driver()->FirstLeftOver();

@@ -4,6 +4,7 @@
 
 #include "framework/Backend.h"
 #include "session/Constants.h"
+#include "text/Utf8.h"
 
 std::string g_InputFilePath;
 std::string g_ProjectBasePath;
@@ -46,6 +47,10 @@ void DerivePaths() {
     }
     if (hasFolder && nameLength > 0) g_ProjectFolder = path.substr(0, path.size() - nameLength);
     g_ProjectFileName = hasFolder ? path.substr(path.size() - nameLength) : "";
+}
+
+std::string PathAsText(const std::string& path) {
+    return services::PathsAreUtf8() ? ToWestern(path) : path;
 }
 
 void TrimRightCharacters(std::string& text, const std::string& characters) {

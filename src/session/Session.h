@@ -33,6 +33,10 @@ void StripQuotes(std::string& text);
 // path has no folder or ends in one.
 void DerivePaths();
 
+// A path as a document shows it: bytes of the Western code page, one a character. The path itself stays as it
+// was given, or its file would not be found.
+std::string PathAsText(const std::string& path);
+
 // Cuts from the end of `text` every character that occurs in `characters` (a set, not a suffix).
 void TrimRightCharacters(std::string& text, const std::string& characters);
 

@@ -12,14 +12,15 @@ std::string FirstCharacters(const std::string& text, int count) {
 
 // The project's file name, fitted to `room` characters.
 std::string FittedFileName(int room) {
-    std::string full = g_ProjectBasePath + g_ExtensionInput;
+    std::string full = PathAsText(g_ProjectBasePath) + g_ExtensionInput;
     if (static_cast<int>(full.size()) <= room) return full;
-    const int nameLength = static_cast<int>(g_ProjectFileName.size());
+    const std::string name = PathAsText(g_ProjectFileName);
+    const int nameLength = static_cast<int>(name.size());
     // The dots and the ending take seven characters; the ending is the report's, whatever the project's is.
-    if (nameLength > room) return FirstCharacters(g_ProjectFileName, room - 3 - 4) + "..." + g_ExtensionText;
+    if (nameLength > room) return FirstCharacters(name, room - 3 - 4) + "..." + g_ExtensionText;
     // The dots come on top of the room: such a line is four characters too long.
     if (nameLength < room)
-        return FirstCharacters(g_ProjectFolder, room - nameLength) + "...\\" + g_ProjectFileName;
+        return FirstCharacters(PathAsText(g_ProjectFolder), room - nameLength) + "...\\" + name;
     return {};
 }
 

@@ -1,5 +1,8 @@
 #include "text/Utf8.h"
 
+#include <cstddef>
+#include <iterator>
+
 namespace {
 
 // Code points of the Western code page's bytes 0x80 to 0x9F; the five unused bytes keep their value.
@@ -8,29 +11,20 @@ constexpr unsigned kUpperControls[32] = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E,
                                          0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                          0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
-// Length of the UTF-8 sequence at `at`; 0 when there is none.
-std::size_t SequenceLength(std::string_view text, std::size_t at) {
+// Length of the UTF-8 sequence that the text begins with; 0 when it begins with none.
+std::size_t SequenceLength(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned first = byte(at);
+    const unsigned first = byte(0);
     if (first < 0x80) return 1;
     const std::size_t length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
-    if (first < 0xC2 || first > 0xF4 || at + length > text.size()) return 0;
+    if (first < 0xC2 || first > 0xF4 || length > text.size()) return 0;
     for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(at + i) & 0xC0u) != 0x80u) return 0;
+        if ((byte(i) & 0xC0u) != 0x80u) return 0;
     }
-    const unsigned second = byte(at + 1);
+    const unsigned second = byte(1);
     if ((first == 0xE0 && second < 0xA0) || (first == 0xED && second > 0x9F)) return 0;
     if ((first == 0xF0 && second < 0x90) || (first == 0xF4 && second > 0x8F)) return 0;
     return length;
-}
-
-bool IsUtf8(std::string_view text) {
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t length = SequenceLength(text, at);
-        if (length == 0) return false;
-        at += length;
-    }
-    return true;
 }
 
 void AppendCodePoint(std::string& out, unsigned code) {
@@ -46,14 +40,45 @@ void AppendCodePoint(std::string& out, unsigned code) {
     }
 }
 
+// The code point of the sequence of that length.
+unsigned CodePointOf(std::string_view sequence) {
+    constexpr unsigned kLeadBits[] = {0, 0x7F, 0x1F, 0x0F, 0x07};
+    unsigned code = static_cast<unsigned char>(sequence[0]) & kLeadBits[sequence.size()];
+    for (const char c : sequence.substr(1)) code = (code << 6) | (static_cast<unsigned char>(c) & 0x3Fu);
+    return code;
+}
+
+char WesternOf(unsigned code) {
+    if (code < 0x80 || (code >= 0xA0 && code <= 0xFF)) return static_cast<char>(code);
+    for (unsigned i = 0; i < std::size(kUpperControls); ++i) {
+        if (kUpperControls[i] == code) return static_cast<char>(0x80 + i);
+    }
+    return '?';
+}
+
 }  // namespace
 
 std::string ToUtf8(std::string_view text) {
-    if (IsUtf8(text)) return std::string(text);
     std::string out;
-    for (const char c : text) {
-        const unsigned byte = static_cast<unsigned char>(c);
-        AppendCodePoint(out, byte >= 0x80 && byte < 0xA0 ? kUpperControls[byte - 0x80] : byte);
+    while (!text.empty()) {
+        const std::size_t length = SequenceLength(text);
+        const unsigned byte = static_cast<unsigned char>(text[0]);
+        if (length > 0) {
+            out.append(text.substr(0, length));
+        } else {
+            AppendCodePoint(out, byte < 0xA0 ? kUpperControls[byte - 0x80] : byte);
+        }
+        text.remove_prefix(length > 0 ? length : 1);
+    }
+    return out;
+}
+
+std::string ToWestern(std::string_view text) {
+    std::string out;
+    while (!text.empty()) {
+        const std::size_t length = SequenceLength(text);
+        out += length > 0 ? WesternOf(CodePointOf(text.substr(0, length))) : text[0];
+        text.remove_prefix(length > 0 ? length : 1);
     }
     return out;
 }

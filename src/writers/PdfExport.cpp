@@ -48,7 +48,7 @@ std::string CPdfExport::RowText(int row) const {
         const std::size_t cell = static_cast<std::size_t>(row) * static_cast<std::size_t>(m_nColumns) +
                                  static_cast<std::size_t>(column);
         if (cell < m_CellImages.size() && !m_CellImages[cell].empty())
-            text += "{#" + m_CellImages[cell] + "}";
+            text += "{#" + PathAsText(m_CellImages[cell]) + "}";
     }
     return text;
 }
@@ -64,10 +64,10 @@ void CPdfExport::WriteKeys(StoredStream& out) const {
         {"[leftJustify]", Word(m_bLeftJustify)},
         {"[columnWidth]", m_sColumnWidth},
         {"[numberOfHeaderRow]", FormatInt(m_nHeaderRows)},
-        {"[imagePath]", m_sImagePath},
+        {"[imagePath]", PathAsText(m_sImagePath)},
         {"[imageCaption]", m_sImageCaption},
         {"[allowImageRescale]", Word(m_bAllowImageRescale)},
-        {"[pdfSavePath]", m_sPdfPath},
+        {"[pdfSavePath]", PathAsText(m_sPdfPath)},
         {"[nDataTypesForColumns]", ColumnTypes()},
         {"[rowPadding]", FormatInt(m_nRowPadding)},
         {"[columnPadding]", FormatInt(m_nColumnPadding)},

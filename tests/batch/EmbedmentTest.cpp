@@ -105,6 +105,22 @@ TEST_F(EmbedmentCommandTest, ThePictureLeavesAGapAtAnUnfinishedTrial) {
     EXPECT_EQ(count("<polyline"), 2U);
 }
 
+TEST_F(EmbedmentCommandTest, NamesInUtf8StayThoseOfTheFiles) {
+    samples::SampleOptions sample;
+    sample.name =
+        "Gr\xC3\xB6\xC3\x9F"
+        "e";
+    base = folder.Write(sample);
+    options.project = base + ".in";
+    options.picture = folder.Base("\xE6\xA9\x8B.svg");
+    options.workbook = true;
+    ASSERT_EQ(Run(), kExitDone) << err.str();
+    const std::string workbook = base + "_LoadComb1-EmbedmentvsLateralDisplacement.xml";
+    EXPECT_THAT(out.str(), testing::EndsWith("\n\n" + options.picture + "\n" + workbook + "\n"));
+    EXPECT_TRUE(std::filesystem::exists(workbook));
+    EXPECT_THAT(Words(4), ElementsAre("2", testing::_, testing::_, "56.00", testing::_));
+}
+
 TEST_F(EmbedmentCommandTest, ACaseThatTheStudyDoesNotHaveIsWrongUse) {
     options.loadCase = 9999;
     EXPECT_EQ(Run(), kExitUsage);

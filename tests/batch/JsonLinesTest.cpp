@@ -93,13 +93,20 @@ TEST_F(JsonLinesTest, PlotNumbersAreShortAndWholeOnesCarryNoDecimals) {
         "[\"call\",60,[12.5,0.590075,1]]]}\n");
 }
 
-TEST(Utf8, BytesOfTheWesternCodePageAreTurnedAndUtf8Stays) {
-    EXPECT_EQ(ToUtf8("plain"), "plain");
-    EXPECT_EQ(ToUtf8("non-Win32\xAE"), "non-Win32\xC2\xAE");
-    EXPECT_EQ(ToUtf8("\x80 \x99"), "\xE2\x82\xAC \xE2\x84\xA2");  // the euro and the trade mark
-    EXPECT_EQ(ToUtf8("gr\xC3\xBCn"), "gr\xC3\xBCn");
-    EXPECT_EQ(ToUtf8("\xC3"), "\xC3\x83");                              // a sequence cut short
-    EXPECT_EQ(ToUtf8("\xED\xA0\x80"), "\xC3\xAD\xC2\xA0\xE2\x82\xAC");  // a surrogate is no text
+TEST_F(JsonLinesTest, TextsAreOfTheCodePageAndPathsAsGiven) {
+    lines.Row(1, {"Gr\xF6\xDF"
+                  "e \x80"});
+    lines.Message(
+        "/p/Gr\xC3\xB6\xC3\x9F"
+        "e.vmd: 5 \x96 7",
+        "Lumerin", MessageIcon::none);
+    lines.Open("\"/p/\xE6\xA9\x8B.txt\"", "");
+    EXPECT_EQ(out.str(),
+              "{\"row\":1,\"cells\":[\"Gr\xC3\xB6\xC3\x9F"
+              "e \xE2\x82\xAC\"]}\n"
+              "{\"message\":\"/p/Gr\xC3\xB6\xC3\x9F"
+              "e.vmd: 5 \xE2\x80\x93 7\",\"title\":\"Lumerin\",\"icon\":\"none\"}\n"
+              "{\"open\":\"/p/\xE6\xA9\x8B.txt\",\"program\":\"\"}\n");
 }
 
 }  // namespace

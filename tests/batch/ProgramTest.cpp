@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <fstream>
+#include <iterator>
 
 #include "samples/SampleFolder.h"
 
@@ -49,6 +50,40 @@ TEST(Program, WrongUsageEndsWithTwo) {
           "report " + project + "--clock now", "report " + project + "--font-size 0",
           "report " + project + "--unknown", "drive " + project, "drive " + project + "/nowhere/script"}) {
         EXPECT_EQ(RunProgram(arguments).status, 2) << arguments;
+    }
+}
+
+// Line 4 of the title page. Lines of the unknown viewer font have 142 characters: "Tarnsway Version " is 17
+// of them, the text 20, so 105 / 2 = 52 blanks come first, however many bytes the text was on the command
+// line.
+TEST(Program, TheVersionTextIsUtf8OnTheCommandLineAndInTheCodePageOnTheTitlePage) {
+    const SampleFolder folder;
+    const std::string base = folder.Write("pier");
+    const std::string text =
+        "\xC3\x89"
+        "dition 4 \xC2\xB1 \xE2\x82\xAC \xE6\xA9\x8B 17";
+    EXPECT_EQ(RunProgram("report " + base + ".in --table title --version-text '" + text + "'").status, 0);
+    std::ifstream file(base + "_Title Page.txt", std::ios::binary);
+    const std::string page(std::istreambuf_iterator<char>(file), {});
+    EXPECT_THAT(page, HasSubstr("\n" + std::string(53, ' ') +
+                                "Tarnsway Version \xC9"
+                                "dition 4 \xB1 \x80 ? 17\r\n"));
+}
+
+TEST(Program, WhatIsSaidIsUtf8) {
+    // "\xC3\xB6" is UTF-8, "\xF6" the same letter in the code page.
+    for (const char* word : {"Gr\xC3\xB6\xC3\x9F"
+                             "e",
+                             "Gr\xF6\xDF"
+                             "e"}) {
+        EXPECT_THAT(RunProgram(std::string("report p.in --table ") + word).output,
+                    HasSubstr("\"Gr\xC3\xB6\xC3\x9F"
+                              "e\" is no table"));
+        EXPECT_THAT(RunProgram(std::string("report p.in --") + word).output, HasSubstr("--Gr\xC3\xB6\xC3\x9F"
+                                                                                       "e"));
+        EXPECT_THAT(RunProgram(std::string("drive p.in /nowhere/") + word).output,
+                    HasSubstr("/nowhere/Gr\xC3\xB6\xC3\x9F"
+                              "e could not be read"));
     }
 }
 

@@ -70,6 +70,50 @@ TEST_F(ReportTest, TheFooterShowsTheChosenParts) {
     EXPECT_EQ(Content(path).find("2026"), std::string::npos);
 }
 
+// "Gr\xC3\xB6\xC3\x9F" "e" in UTF-8 is "Gr\xF6\xDF" "e" in the code page.
+TEST_F(ReportTest, ANameInUtf8StaysThatOfItsFilesAndIsShownInTheCodePage) {
+    samples::SampleOptions sample;
+    sample.name =
+        "Gr\xC3\xB6\xC3\x9F"
+        "e";
+    const std::string base = folder.Write(sample);
+    options.formats = {1, 0};
+    options.footer = ReadFooter("filename");
+    EXPECT_EQ(Report({base + ".in"}, {"axial", "column-dc"}), kExitDone);
+    const std::string axial = base + "_Max_Axial_Forces_Pile_Heads",
+                      ratios = base + "_Max_DC_For_Column_Sections";
+    EXPECT_EQ(out.str(), axial + ".pdf\n" + ratios + ".pdf\n" + axial + ".xml\n" + ratios + ".xml\n");
+    const std::string shown = folder.Path().string() +
+                              "/Gr\xF6\xDF"
+                              "e.in";
+    EXPECT_THAT(Content(axial + ".pdf"), HasSubstr("(" + shown + ") Tj"));
+    EXPECT_THAT(Content(axial + ".xml"), HasSubstr(shown));
+    EXPECT_EQ(Content(axial + ".xml").find("\xC3"), std::string::npos);
+}
+
+TEST_F(ReportTest, MessagesAreUtf8WhateverThePathIs) {
+    samples::SampleOptions sample;
+    sample.name =
+        "Gr\xC3\xB6\xC3\x9F"
+        "e";
+    std::string base = folder.Write(sample);
+    fs::remove(base + ".PLF");
+    EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitNotLoaded);
+    EXPECT_EQ(err.str(), base + ".in: " + base + ".PLF: the file was not found\n");
+    // A name that is no UTF-8 is one of the code page.
+    const std::string utf8 = base;
+    sample.name =
+        "Gr\xF6\xDF"
+        "e";
+    base = folder.Write(sample);
+    fs::remove(base + ".PLF");
+    EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitNotLoaded);
+    EXPECT_EQ(err.str(), utf8 + ".in: " + utf8 + ".PLF: the file was not found\n");
+    // Both in one path.
+    EXPECT_EQ(Report({"/nowhere/\xE9t\xE9/\xC3\xB6.in"}, {"axial"}), kExitNotLoaded);
+    EXPECT_THAT(err.str(), testing::StartsWith("/nowhere/\xC3\xA9t\xC3\xA9/\xC3\xB6.in: "));
+}
+
 TEST_F(ReportTest, ATableThatDoesNotApplyIsNamedAndNotWritten) {
     const std::string base = folder.Write("bent");
     EXPECT_EQ(Report({base + ".in"}, {"column-dc", "axial"}), kExitIncomplete);

@@ -157,6 +157,23 @@ TEST(Script, AnEmptyTextIsAText) {
     EXPECT_EQ(ParseScript("text 5 a#b").front().text, "a#b");
 }
 
+TEST(Script, TextsForControlsComeInTheCodePageAndNamesOfFilesAsTheyAre) {
+    const std::vector<ScriptAction> actions = ParseScript(
+        "text 1025 5 \xC2\xB1 1\ncell 2 1 \xC3\xA9\ntype \xC3\xA9\xE6\xA9\x8B\xE9\nagain Gr\xC3\xB6\xC3\x9F"
+        "e.in\nshot Gr\xC3\xB6\xC3\x9F"
+        "e.png\n");
+    ASSERT_EQ(actions.size(), 5U);
+    EXPECT_EQ(actions[0].text, "5 \xB1 1");
+    EXPECT_EQ(actions[1].text, "\xE9");
+    EXPECT_EQ(actions[2].text, "\xE9?\xE9");  // known, unknown, and no UTF-8
+    EXPECT_EQ(actions[3].text,
+              "Gr\xC3\xB6\xC3\x9F"
+              "e.in");
+    EXPECT_EQ(actions[4].text,
+              "Gr\xC3\xB6\xC3\x9F"
+              "e.png");
+}
+
 TEST(Script, NamesTheLineOfAFault) {
     EXPECT_EQ(FaultOf("dump\n\npress 1004\n"), "script line 3: unknown action press");
     EXPECT_EQ(FaultOf("click"), "script line 1: expected a control's identifier");

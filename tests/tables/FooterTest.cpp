@@ -56,6 +56,41 @@ TEST_F(Footer, AFileNameOfExactlyTheRoomIsNotShown) {
     EXPECT_EQ(FooterText(), "");
 }
 
+// Paths are UTF-8 here: three bytes of these names are one character, and "\xC3\xB6" is the code page's
+// "\xF6".
+TEST_F(Footer, APathIsShownInTheCodePage) {
+    NameAlone(
+        "/home/Br\xC3\xBC"
+        "cke/",
+        "Gr\xC3\xB6\xC3\x9F"
+        "e");
+    EXPECT_EQ(FooterText(),
+              "/home/Br\xFC"
+              "cke/Gr\xF6\xDF"
+              "e.in");
+    NameAlone("/p/", "\xE6\xA9\x8B 1");
+    EXPECT_EQ(FooterText(), "/p/? 1.in");
+    NameAlone("/p/",
+              "Gr\xF6\xDF"
+              "e");  // not UTF-8
+    EXPECT_EQ(FooterText(),
+              "/p/Gr\xF6\xDF"
+              "e.in");
+}
+
+TEST_F(Footer, ThePathsRoomCountsCharacters) {
+    std::string umlauts, western;
+    for (int i = 0; i < 70; ++i) umlauts += "\xC3\xA4", western += '\xE4';
+    NameAlone("C:\\" + umlauts + "\\", "p123");  // 74 + 4 + 3 characters
+    EXPECT_EQ(FooterText(), "C:\\" + western + "\\p123.in");
+    NameAlone("C:\\" + umlauts + "f\\", "p123");  // one too many: the folder is cut behind 74
+    EXPECT_EQ(FooterText(), "C:\\" + western + "f...\\p123.in");
+    NameAlone("C:\\", umlauts + "123456789");  // a name of 82 with its ending: 74, dots and ".txt"
+    EXPECT_EQ(FooterText(), western + "1234....txt");
+    NameAlone("C:\\", umlauts + "12345678");  // 81 fill the line alone
+    EXPECT_EQ(FooterText(), "");
+}
+
 TEST_F(Footer, TheRoomIsWhatTheTextBeforeAndItsSeparatorLeave) {
     NameAlone("C:\\b\\", std::string(70, 'n'));
     g_FooterVersion = 1;

@@ -266,6 +266,24 @@ TEST_F(GridImage, TheDescriptionListsItsKeysInOrder) {
               ",b");
 }
 
+// The builder is a program of the host's platform, whose paths are in the code page.
+TEST_F(GridImage, PathsAreWrittenInTheCodePage) {
+    Build(1, 1);
+    m_grid.SetCellText(0, 0, "5 \xB1 1");
+    CPdfExport pdf(m_grid, (m_folder / "PdfTemp.txt").string(),
+                   "/p/Br\xC3\xBC"
+                   "cke/MPTE.pdf");
+    pdf.m_sImagePath =
+        "/p/Br\xC3\xBC"
+        "cke/\xE6\xA9\x8B.bmp";
+    const std::string text = Write(pdf);
+    EXPECT_THAT(text, HasSubstr("[imagePath]/p/Br\xFC"
+                                "cke/?.bmp\r\n"));
+    EXPECT_THAT(text, HasSubstr("[pdfSavePath]/p/Br\xFC"
+                                "cke/MPTE.pdf\r\n"));
+    EXPECT_THAT(text, testing::EndsWith("5 \xB1 1"));  // a cell is in the code page as it stands
+}
+
 TEST_F(GridImage, DataRowsAreTheGridsLessTheHeading) {
     Build(7, 5);
     CPdfExport pdf = Make();

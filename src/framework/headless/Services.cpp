@@ -114,6 +114,10 @@ PlotModuleResult CallPlotModule(const char* module, const char* /*exportName*/, 
     return CurrentSink().OnPlotModule(module, call, systemText);
 }
 
+bool PathsAreUtf8() {
+    return true;
+}
+
 bool IsFolderSeparator(char c) {
     return c == '/' || c == '\\';
 }

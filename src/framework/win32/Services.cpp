@@ -93,6 +93,10 @@ LocalTime Now() {
     return now;
 }
 
+bool PathsAreUtf8() {
+    return false;
+}
+
 bool IsFolderSeparator(char c) {
     return c == '\\';
 }
