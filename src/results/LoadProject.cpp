@@ -46,6 +46,9 @@ CMemberCounts MemberCounts() {
 
 // What a project may take beyond its force files, all substructures together.
 constexpr long long kSlackBytes = 32LL << 20;
+// A case with its names, the same on platforms of all widths, so that all refuse the same projects.
+constexpr long long kBytesOfACase = 144;
+static_assert(2 * sizeof(CLoadCase) <= kBytesOfACase);
 
 // Bytes of the result tables for the widest code family, before any of them is taken.
 long long TableBytes() {
@@ -80,8 +83,7 @@ ModelNeed NeedOf(const CMemberCounts& counts) {
     need.cases = g_DataSet.m_nLoadCases;
     need.fixedBytes =
         2 * static_cast<long long>(sizeof(CElement) + sizeof(CSectionData)) * elements + TableBytes();
-    need.bytesPerCase = elements * static_cast<long long>(kForcesPerElement * sizeof(float)) +
-                        2 * static_cast<long long>(sizeof(CLoadCase));
+    need.bytesPerCase = elements * static_cast<long long>(kForcesPerElement * sizeof(float)) + kBytesOfACase;
     return need;
 }
 
@@ -91,13 +93,15 @@ void LeaveOutFrame(CPier& pier) {
     pier.m_nCantilevers = g_DataSet.m_nCantilevers = 0;
 }
 
-// Both numbers that were held against each other; counts that lie can ask for more than an integer holds.
+// Counts that lie can ask for more bytes than an integer holds.
 std::string TooShort(long long fileBytes, const ModelNeed& need) {
-    const double bytes = static_cast<double>(need.fixedBytes) +
-                         static_cast<double>(need.bytesPerCase) * static_cast<double>(need.cases);
-    return "holds " + std::to_string(fileBytes) + " bytes, too few for " + std::to_string(need.elements) +
-           " elements in " + std::to_string(need.cases) + " load cases, which take " + FormatFixed(bytes, 0) +
-           " bytes of memory";
+    const double records =
+        static_cast<double>(need.elements) * static_cast<double>(need.cases) * kForceRecordBytes;
+    const std::string cases = std::to_string(need.cases) + " load cases";
+    return "holds " + std::to_string(fileBytes) + " bytes, too few for " +
+           (need.elements == 0 ? cases
+                               : std::to_string(need.elements) + " elements in " + cases +
+                                     ", whose records take " + FormatFixed(records, 0));
 }
 
 // Takes the members and the forces of all cases, once the counts agree with the size of the force file: a

@@ -159,9 +159,8 @@ TEST(LoadProject, AForceFileThatCannotBeOpenedIsToldAsThatWhateverTheModelsSize)
 TEST(LoadProject, AForceFileIsTooShortBeyondThreeTimesItsLengthAnd32Megabytes) {
     ResultProject project;
     project.Write();
-    // Two piles of two elements: 224 bytes of forces a case, and what a case takes itself.
-    const auto bytesPerCase = static_cast<int>(224 + 2 * sizeof(CLoadCase));
-    const int most = (32 << 20) / bytesPerCase;
+    // Two piles of two elements: 224 bytes of forces a case and 144 for itself; 272 bytes of records.
+    const int most = (32 << 20) / (224 + 144);
     project.WriteFile(".vmd", "");
     project.WriteFile(".ncv", ResultProject::Convergence(most - 100).End());
     {
@@ -170,13 +169,22 @@ TEST(LoadProject, AForceFileIsTooShortBeyondThreeTimesItsLengthAnd32Megabytes) {
         EXPECT_THAT(log.texts, testing::ElementsAre(testing::HasSubstr(" force records are missing")));
     }
     project.WriteFile(".ncv", ResultProject::Convergence(most + 1).End());
-    ExpectFault(
-        project, "p.vmd",
-        "holds 0 bytes, too few for 4 elements in " + std::to_string(most + 1) + " load cases, which take ");
+    ExpectFault(project, "p.vmd",
+                "holds 0 bytes, too few for 4 elements in " + std::to_string(most + 1) +
+                    " load cases, whose records take " + std::to_string(272LL * (most + 1)));
     // 68,000 bytes make room for 204,000 more.
     project.WriteFile(".vmd", std::string(68000, '\0'));
     const MessageLog log;
     EXPECT_TRUE(project.Load());
+}
+
+TEST(LoadProject, CasesWithoutElementsAreBoundedToo) {
+    ResultProject project;
+    project.substructures[0].piles = 0;
+    project.substructures[0].pileSections.clear();
+    project.Write();
+    project.WriteFile(".ncv", ResultProject::Convergence(250000).End());  // 36,000,000 bytes
+    ExpectFault(project, "p.vmd", "holds 0 bytes, too few for 250000 load cases");
 }
 
 TEST(LoadProject, ATruncatedFileIsNamedWithTheRecordThatIsMissing) {
