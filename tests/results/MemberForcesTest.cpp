@@ -169,6 +169,20 @@ TEST(MemberForces, TheLastRecordsOfABlockAreTheExtraMembers) {
     EXPECT_EQ(pier.m_nXMemberFirstSection, 7);
 }
 
+// Their tables begin at the lowest section of all, wherever it is in the list.
+TEST(MemberForces, TheFirstSectionOfTheExtraMembersIsTheLowest) {
+    for (const std::vector<int>& sections : {std::vector<int>{5, 6, 7}, {6, 5, 7}, {7, 6, 5}, {5, 5, 9}}) {
+        ResultProject project;
+        ResultSubstructure& sub = project.substructures[0];
+        sub.extraMembers = 3;
+        sub.xMemberSections = 3;
+        sub.rows = {{1, 1, 1, 1}, {2, 4, 9, sections[0]}, {3, 5, 10, sections[1]}, {4, 6, 11, sections[2]}};
+        project.Write();
+        ASSERT_TRUE(project.Load());
+        EXPECT_EQ(g_DataSet.FirstPier().m_nXMemberFirstSection, 5);
+    }
+}
+
 TEST(MemberForces, AFirstGroupKeepsTheFramesOfLaterSubstructuresUnread) {
     ResultProject project;
     project.substructures = {ResultSubstructure{}, MakePier()};
