@@ -1,5 +1,7 @@
 #include "host/Mouse.h"
 
+#include <cstdlib>
+#include <stdexcept>
 #include <utility>
 
 #include "grid/win32/GridMessages.h"
@@ -8,10 +10,12 @@
 
 namespace {
 
-constexpr int kOutside = 12;          // pixels from the grid's window to a place beside it
-constexpr int kInside = 3;            // pixels from the last row into the area below it
-constexpr int kShake = 2;             // pixels that a hand moves between two clicks
-constexpr POINT kFarAway{1, 1};       // on the screen
+constexpr int kOutside = 12;     // pixels from the grid's window to a place beside it
+constexpr int kInside = 3;       // pixels from the last row into the area below it
+constexpr int kShake = 2;        // pixels that a hand moves between two clicks
+constexpr POINT kFarAway{1, 1};  // on the screen
+// Pixels between two presses that cannot be a double click: they are on different cells.
+constexpr int kNearX = 200, kNearY = 32;
 constexpr DWORD kStillTime = 400;     // milliseconds without a scroll that end a drag past the edge
 constexpr DWORD kDoubleMargin = 100;  // milliseconds beyond the double click time
 
@@ -140,9 +144,7 @@ void Mouse::ThenWait(std::function<bool()> isOver) {
 }
 
 void Mouse::Step() {
-    if (m_steps.empty()) return;
-    const std::function<bool()> step = m_steps.front();
-    if (step() && !m_steps.empty()) m_steps.pop_front();
+    if (!m_steps.empty() && m_steps.front()()) m_steps.pop_front();
 }
 
 void Mouse::MoveTo(POINT place) {
@@ -157,6 +159,7 @@ void Mouse::Press(KeyState keys) {
         m_bDown = true;
         m_held = keys;
         m_nPressed = GetTickCount();
+        m_pressed = Pointer();
     });
 }
 
@@ -173,8 +176,19 @@ void Mouse::LetGo() {
 }
 
 // Two presses of the script are two clicks, however fast it is played.
-void Mouse::WaitForDoubleClickTime() {
+void Mouse::WaitForDoubleClickTime(POINT place) {
+    if (std::abs(place.x - m_pressed.x) > kNearX || std::abs(place.y - m_pressed.y) > kNearY) return;
     ThenWait([this] { return GetTickCount() - m_nPressed > GetDoubleClickTime() + kDoubleMargin; });
+}
+
+// A machine that is too slow for a double click must not pass for one that sees none.
+void Mouse::PressAgain(KeyState keys) {
+    Then([this] {
+        if (GetTickCount() - m_nPressed >= GetDoubleClickTime()) {
+            throw std::runtime_error("the double click took too long");
+        }
+    });
+    Press(keys);
 }
 
 void Mouse::WaitForStillness(HWND grid) {
@@ -209,7 +223,7 @@ bool Mouse::BeginAt(HWND grid, const MouseAction& action) {
             if (m_bDown && IsOutside(action.spot.place)) WaitForStillness(grid);
             break;
         case MouseDeed::press:
-            WaitForDoubleClickTime();
+            WaitForDoubleClickTime(place);
             Press(action.keys);
             break;
         case MouseDeed::release:
@@ -220,12 +234,12 @@ bool Mouse::BeginAt(HWND grid, const MouseAction& action) {
             Then([] { SendButton(MOUSEEVENTF_RIGHTUP); });
             break;
         default:
-            WaitForDoubleClickTime();
+            WaitForDoubleClickTime(place);
             Press(action.keys);
             Release();
             if (action.deed == MouseDeed::click) break;
             if (action.deed == MouseDeed::shakyDouble) MoveTo({place.x + kShake, place.y});
-            Press(action.keys);
+            PressAgain(action.keys);
             Release();
             break;
     }
@@ -246,9 +260,9 @@ bool Mouse::BeginScroll(HWND grid, const MouseAction& action) {
             ReadBar(grid, now);
             const POINT place = PartOfBar(now, part);
             SetCursorPos(place.x, place.y);
+            SendButton(MOUSEEVENTF_LEFTDOWN);
+            SendButton(MOUSEEVENTF_LEFTUP);
         });
-        Press({});
-        Release();
     }
     return true;
 }

@@ -33,7 +33,8 @@ class Mouse {
     void MoveTo(POINT place);
     void Press(KeyState keys);
     void Release();
-    void WaitForDoubleClickTime();
+    void PressAgain(KeyState keys);
+    void WaitForDoubleClickTime(POINT place);
     void WaitForStillness(HWND grid);
     bool BeginAt(HWND grid, const MouseAction& action);
     bool BeginScroll(HWND grid, const MouseAction& action);
@@ -43,5 +44,6 @@ class Mouse {
     std::deque<std::function<bool()>> m_steps;  // true: done
     bool m_bDown = false;
     KeyState m_held;
-    DWORD m_nPressed = 0;  // the time of the last press
+    DWORD m_nPressed = 0;  // the time of the last press, and its place on the screen
+    POINT m_pressed{};
 };

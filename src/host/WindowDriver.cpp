@@ -16,7 +16,7 @@ namespace {
 // A key takes this many ticks from the keyboard to the window that has the focus.
 constexpr int kKeySettle = 12;
 // The same for a step of the mouse.
-constexpr int kMouseSettle = 3;
+constexpr int kMouseSettle = 2;
 // Ticks after which a window that was answered counts as another one under the same handle.
 constexpr int kAnswerPatience = 50;
 
