@@ -44,7 +44,7 @@ std::string PresetHelp() {
 }
 
 struct Arguments {
-    std::string folder, name, cases, piles, seed;
+    std::string folder, name, cases, piles, seed, trials;
     SampleOptions options;
 };
 
@@ -54,6 +54,7 @@ void AddArguments(CLI::App& app, Arguments& arguments) {
     app.add_option("--preset", arguments.options.preset, "kind of project")->capture_default_str();
     app.add_option("--cases", arguments.cases, "load cases, combinations or time steps");
     app.add_option("--piles", arguments.piles, "pile rows and columns, as in 4x6");
+    app.add_option("--trials", arguments.trials, "trials of the embedment study (default: 8)");
     app.add_option("--seed", arguments.seed, "another seed gives other loads (default: 1)");
     app.footer(PresetHelp());
 }
@@ -64,6 +65,7 @@ void Run(const CLI::App& app, Arguments& arguments, std::ostream& out) {
     if (app.count("--piles") > 0) ParsePiles(arguments.piles, arguments.options);
     if (app.count("--seed") > 0)
         arguments.options.seed = ParseNumber<std::uint64_t>(arguments.seed, "--seed");
+    if (app.count("--trials") > 0) arguments.options.trials = ParseNumber<int>(arguments.trials, "--trials");
     const auto project = MakeProject(arguments.options);
     const std::filesystem::path folder = arguments.folder;
     WriteProject(folder, project);

@@ -11,6 +11,8 @@ namespace {
 
 constexpr int mostCases = 10'000'000;
 constexpr int mostPilesInLine = 200;
+constexpr int studyTrials = 8;
+constexpr int mostTrials = 1000;
 
 struct PileField {
     int rows = 1;
@@ -277,9 +279,9 @@ void CheckName(const std::string& name) {
 }
 
 // The piles get shorter from trial to trial; one folder was lost and one analysis broke off.
-EmbedmentStudy ShorteningStudy() {
+EmbedmentStudy ShorteningStudy(int trials) {
     EmbedmentStudy study;
-    for (int trial = 0; trial < 8; ++trial) study.lengths.push_back(60.0 - 4.0 * trial);
+    for (int trial = 0; trial < trials; ++trial) study.lengths.push_back(60.0 - 32.0 / trials * trial);
     study.missingTrial = 5;
     study.unfinishedTrial = 7;
     return study;
@@ -305,7 +307,8 @@ Project MakeProject(const SampleOptions& options) {
     CheckRange("cases", project.cases, mostCases);
     CheckRange("pile rows", options.rows.value_or(1), mostPilesInLine);
     CheckRange("pile columns", options.columns.value_or(1), mostPilesInLine);
-    if (preset.study) project.study = ShorteningStudy();
+    CheckRange("trials", options.trials.value_or(1), mostTrials);
+    if (preset.study) project.study = ShorteningStudy(options.trials.value_or(studyTrials));
     for (const auto& plan : preset.plans(options)) project.substructures.push_back(BuildSubstructure(plan));
     return project;
 }

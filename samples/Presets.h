@@ -18,6 +18,7 @@ struct SampleOptions {
     std::optional<int> cases;  // nothing: the preset's own
     std::optional<int> rows;   // of piles; both or none
     std::optional<int> columns;
+    std::optional<int> trials;  // of the embedment study, where the preset has one
 };
 
 struct PresetInfo {
