@@ -133,7 +133,10 @@ void CGridCtrl::OnDragTimer() {
     const GridPoint inside{
         std::clamp(m_MousePoint.x, FixedWidth(), std::max(client.width - 1, FixedWidth())),
         std::clamp(m_MousePoint.y, FixedHeight(), std::max(client.height - 1, FixedHeight()))};
-    const CCellID cell = CellAt(inside);
+    CCellID cell{RowAt(inside.y), ColumnAt(inside.x)};
+    // Where the rows end before the window does, the last one is meant.
+    if (cell.row < 0) cell.row = m_nRows - 1;
+    if (cell.column < 0) cell.column = m_nCols - 1;
     if (cell.IsValid()) ExtendSelectionTo(cell);
 }
 

@@ -140,6 +140,13 @@ TEST_F(GridMouse, ADragPastTheSideReachesTheLastColumn) {
     EXPECT_THAT(m_grid.SelectedCells(), ElementsAre(CCellID{1, 0}, CCellID{1, 1}));
 }
 
+TEST_F(GridMouse, ADragPastTheWindowReachesTheLastRowWhereNothingScrolls) {
+    Build(3, 3);
+    Do(MouseDeed::press, 1, 2);
+    Go(MousePlace::below);
+    EXPECT_THAT(m_grid.SelectedCells(), ElementsAre(CCellID{1, 2}, CCellID{2, 2}));
+}
+
 TEST_F(GridMouse, APlaceThatIsNotVisibleIsRefused) {
     Build(50, 2);
     EXPECT_FALSE(Do(MouseDeed::click, 30, 0));
