@@ -28,9 +28,22 @@ std::string Whole(std::minstd_rand& random) {
     return std::to_string(static_cast<int>(random() % 8) - 1);
 }
 
+std::string Mouse(std::minstd_rand& random) {
+    static constexpr const char* kDeeds[] = {"move",   "press",        "press Shift", "click", "click Ctrl",
+                                             "double", "shaky-double", "release",     "right"};
+    static constexpr const char* kPlaces[] = {"beside", "frame", "above", "below", "left", "right", "away"};
+    static constexpr const char* kOthers[] = {"wheel -2",     "wheel 1",        "scroll last",
+                                              "scroll first", "scroll page-up", "scroll down 3",
+                                              "lose",         "cancel"};
+    if (random() % 4 == 0) return std::string("mouse ") + kOthers[random() % std::size(kOthers)] + "\n";
+    const std::string deed = std::string("mouse ") + kDeeds[random() % std::size(kDeeds)] + " ";
+    if (random() % 4 == 0) return deed + kPlaces[random() % std::size(kPlaces)] + "\n";
+    return deed + Whole(random) + " " + Whole(random) + "\n";
+}
+
 std::string Line(std::minstd_rand& random) {
     const std::string control = std::to_string(Control(random));
-    switch (random() % 16) {
+    switch (random() % 18) {
         case 0:
             return "text " + control + " " + Number(random) + "\n";
         case 1:
@@ -57,6 +70,9 @@ std::string Line(std::minstd_rand& random) {
             return random() % 4 == 0 ? "again\n" : "click 1038\nclick 1039\n";
         case 11:
             return "click 1022\n";
+        case 12:
+        case 13:
+            return Mouse(random);
         default:
             return "click " + control + "\n";
     }

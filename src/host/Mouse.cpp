@@ -17,6 +17,7 @@ constexpr POINT kFarAway{1, 1};  // on the screen
 // Pixels between two presses that cannot be a double click: they are on different cells.
 constexpr int kNearX = 200, kNearY = 32;
 constexpr DWORD kStillTime = 400;     // milliseconds without a scroll that end a drag past the edge
+constexpr DWORD kLeaveTime = 1500;    // milliseconds after which a tip counts as one that stays
 constexpr DWORD kDoubleMargin = 100;  // milliseconds beyond the double click time
 
 void SendButton(DWORD event, int data = 0) {
@@ -95,6 +96,10 @@ bool IsOutside(MousePlace place) {
            place == MousePlace::right;
 }
 
+bool LeavesCells(MousePlace place) {
+    return IsOutside(place) || place == MousePlace::away || place == MousePlace::frame;
+}
+
 bool SameSelection(const GridView& a, const GridView& b) {
     return a.top == b.top && a.left == b.left && a.bottom == b.bottom && a.right == b.right &&
            a.selected == b.selected;
@@ -109,19 +114,20 @@ bool ReadBar(HWND grid, SCROLLBARINFO& bar) {
 
 POINT PartOfBar(const SCROLLBARINFO& bar, ScrollPart part) {
     const RECT& area = bar.rcScrollBar;
+    const int arrow = GetSystemMetrics(SM_CYVSCROLL);  // Wine puts another size into the record
     POINT place{(area.left + area.right) / 2, 0};
     switch (part) {
         case ScrollPart::lineUp:
-            place.y = area.top + bar.dxyLineButton / 2;
+            place.y = area.top + arrow / 2;
             break;
         case ScrollPart::lineDown:
-            place.y = area.bottom - bar.dxyLineButton / 2;
+            place.y = area.bottom - arrow / 2;
             break;
         case ScrollPart::pageUp:
-            place.y = area.top + (bar.dxyLineButton + bar.xyThumbTop) / 2;
+            place.y = area.top + (arrow + bar.xyThumbTop) / 2;
             break;
         case ScrollPart::pageDown:
-            place.y = (area.top + bar.xyThumbBottom + area.bottom - bar.dxyLineButton) / 2;
+            place.y = (area.top + bar.xyThumbBottom + area.bottom - arrow) / 2;
             break;
         default:
             place.y = area.top + (bar.xyThumbTop + bar.xyThumbBottom) / 2;
@@ -199,6 +205,13 @@ void Mouse::WaitForStillness(HWND grid) {
     });
 }
 
+// The platform may take a while to notice that the pointer has left a window.
+void Mouse::WaitForTipToGo(HWND grid) {
+    ThenWait([grid, since = GetTickCount()] {
+        return gridreader::ReadView(grid).tipRow < 0 || GetTickCount() - since > kLeaveTime;
+    });
+}
+
 bool Mouse::Begin(HWND grid, const MouseAction& action) {
     switch (action.deed) {
         case MouseDeed::lose:
@@ -221,6 +234,7 @@ bool Mouse::BeginAt(HWND grid, const MouseAction& action) {
     switch (action.deed) {
         case MouseDeed::move:
             if (m_bDown && IsOutside(action.spot.place)) WaitForStillness(grid);
+            if (!m_bDown && LeavesCells(action.spot.place)) WaitForTipToGo(grid);
             break;
         case MouseDeed::press:
             WaitForDoubleClickTime(place);

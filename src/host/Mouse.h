@@ -36,6 +36,7 @@ class Mouse {
     void PressAgain(KeyState keys);
     void WaitForDoubleClickTime(POINT place);
     void WaitForStillness(HWND grid);
+    void WaitForTipToGo(HWND grid);
     bool BeginAt(HWND grid, const MouseAction& action);
     bool BeginScroll(HWND grid, const MouseAction& action);
     void DrawSlider(HWND grid, bool toEnd);
