@@ -63,8 +63,10 @@ void AddDrive(CLI::App& program, DriveOptions& options, std::string& format) {
         "# begins a comment. Keys: Esc, Return, Tab, Backspace, Delete, Insert, Up, Down, Left, Right, "
         "Home,\n"
         "End, PageUp, PageDown, with Ctrl+ and Shift+ before them, Ctrl+A, Ctrl+C, Ctrl+V, Ctrl+X. Keys and\n"
-        "texts go to the control that has the focus; where tells which one that is. The mouse can move, press,\n"
-        "release, click, double, right (click), wheel N and scroll PART on the grid: mouse click Shift 3 1.\n\n"
+        "texts go to the control that has the focus; where tells which one that is. The mouse can move, "
+        "press,\n"
+        "release, click, double, right (click), wheel N and scroll PART on the grid: mouse click Shift 3 "
+        "1.\n\n"
         "Prints what happens as JSON, one object a line. Exit status: 0 done, 2 wrong usage or a line that "
         "is\n"
         "no action, 3 the project could not be loaded (the script is played all the same).");
