@@ -49,11 +49,12 @@ std::string FolderOf(const std::string& path) {
     return path.substr(0, path.find_last_of('\\') + 1);
 }
 
-ModuleExport LoadModule() {
+// Where the dialogs are to be driven, the module answers this process.
+ModuleExport LoadModule(bool drives) {
     std::array<char, MAX_PATH> program{};
     GetModuleFileNameA(nullptr, program.data(), static_cast<DWORD>(program.size()));
     const std::string path = FolderOf(program.data()) + "Lumerin.dll";
-    token::Publish();
+    if (drives) token::Publish();
     const HMODULE module = LoadLibraryA(path.c_str());
     token::Withdraw();
     if (module == nullptr) throw std::runtime_error(path + " could not be loaded");
@@ -181,7 +182,7 @@ HostExit DriveRounds(const HostOptions& options, ModuleExport launch) {
 HostExit Run(const HostOptions& options) {
     if (!options.clock.empty()) _putenv_s("LUMERIN_CLOCK", options.clock.c_str());
     const ViewerFont font(options.fontSize);
-    const ModuleExport launch = LoadModule();
+    const ModuleExport launch = LoadModule(!options.script.empty());
     if (!options.script.empty() && options.rounds > 0) return DriveRounds(options, launch);
     if (!options.script.empty()) return Drive(options, launch);
     const std::string project = FullPath(options.project);
