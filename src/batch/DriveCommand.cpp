@@ -63,7 +63,8 @@ ExitStatus DriveScript(const DriveOptions& options, const std::string& script, s
     for (bool more = true; more;) {
         loaded = false;
         const unsigned result =
-            LaunchLumerin(options.format, project.c_str(), options.common.version.c_str(), "", "", "");
+            LaunchLumerin(options.format, project.c_str(), options.common.version.c_str(),
+                          options.textA.c_str(), options.textB.c_str(), options.plotArgument.c_str());
         JsonLines(out).Result(result);
         // Without a project the dialog is all there is to drive; that is no failure.
         allLoaded = allLoaded && (loaded || project.empty());

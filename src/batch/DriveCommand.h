@@ -11,6 +11,8 @@ struct DriveOptions {
     std::string script;  // its path; "-" for standard input
     int format = 0;
     bool hasPlotModule = true;
+    std::string textA, textB;  // arguments 4 and 5 of the export
+    std::string plotArgument;  // argument 6, for the plot module
     CommonOptions common;
 };
 

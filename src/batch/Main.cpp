@@ -55,6 +55,12 @@ void AddDrive(CLI::App& program, DriveOptions& options, std::string& format) {
                        "Format that the dialog starts on: text, pdf, excel or a number (default text)");
     command.add_flag("!--without-plot-module", options.hasPlotModule,
                      "Behave as on a machine without the plot module");
+    command.add_option("--text-a", options.textA, "The fourth argument of the export; nothing shows it")
+        ->transform([](const std::string& text) { return FromUser(text); });
+    command.add_option("--text-b", options.textB, "The fifth argument; nothing shows it")
+        ->transform([](const std::string& text) { return FromUser(text); });
+    command.add_option("--plot-argument", options.plotArgument, "The sixth argument, for the plot module")
+        ->transform([](const std::string& text) { return FromUser(text); });
     AddCommonOptions(command, options.common);
     command.footer(
         "Actions: click ID, text ID TEXT, focus ID, select ID N, spin ID up|down, cell ROW COL TEXT,\n"

@@ -28,6 +28,7 @@ enum HostExit { kDone = 0, kUsage = 2, kBroken = 3 };
 
 struct HostOptions {
     std::string project, script, version, clock;
+    std::string textA, textB, plotArgument;  // arguments 4 to 6 of the export
     std::string format = "text";
     int fontSize = 0;
     int rounds = 0;
@@ -68,6 +69,11 @@ int FormatNumber(const std::string& format) {
     if (format == "pdf") return 1;
     if (format == "excel") return 0;
     return std::stoi(format);  // any number, as a host might pass it
+}
+
+unsigned Call(ModuleExport launch, const HostOptions& options, const std::string& project) {
+    return launch(FormatNumber(options.format), project.c_str(), options.version.c_str(),
+                  options.textA.c_str(), options.textB.c_str(), options.plotArgument.c_str());
 }
 
 // The text viewer's font size as it stands in the registry, for the time of the run.
@@ -118,8 +124,7 @@ int PlayScript(const HostOptions& options, ModuleExport launch, std::ostream& ou
     const UINT_PTR timer = SetTimer(nullptr, 0, kTickMilliseconds, OnTimer);
     std::string project = FullPath(options.project);
     for (bool more = true; more;) {
-        const unsigned result =
-            launch(FormatNumber(options.format), project.c_str(), options.version.c_str(), "", "", "");
+        const unsigned result = Call(launch, options, project);
         Driver()->EndCall(result);
         const ScriptAction* again = Driver()->TakeAgain();
         more = again != nullptr;
@@ -186,8 +191,7 @@ HostExit Run(const HostOptions& options) {
     if (!options.script.empty() && options.rounds > 0) return DriveRounds(options, launch);
     if (!options.script.empty()) return Drive(options, launch);
     const std::string project = FullPath(options.project);
-    const unsigned result =
-        launch(FormatNumber(options.format), project.c_str(), options.version.c_str(), "", "", "");
+    const unsigned result = Call(launch, options, project);
     JsonLines(std::cout).Result(result);
     std::cout.flush();
     return kDone;
@@ -206,6 +210,9 @@ int main(int argc, char** argv) {
         program.add_option("SCRIPT", options.script, "File of actions for the dialogs, one a line");
     program.add_option("--format", options.format, "Format to start on: text, pdf, excel, or a number");
     program.add_option("--version-text", options.version, "The host's version");
+    program.add_option("--text-a", options.textA, "The fourth argument of the export; nothing shows it");
+    program.add_option("--text-b", options.textB, "The fifth argument; nothing shows it");
+    program.add_option("--plot-argument", options.plotArgument, "The sixth argument, for the plot module");
     program.add_flag("--waits", options.waits, "Tell the longest wait behind each action");
     program
         .add_option("--rounds", options.rounds,

@@ -6,6 +6,7 @@
 
 #include "batch/DriveCommand.h"
 #include "samples/SampleFolder.h"
+#include "session/Session.h"
 
 namespace {
 
@@ -106,6 +107,23 @@ TEST_F(DriveTest, ActionsBehindTheLastDialogAreToldAndNotPlayed) {
     EXPECT_EQ(Drive(folder.Write("pier") + ".in", "key Esc\nclick 1004\n"), kExitDone);
     EXPECT_THAT(err.str(), HasSubstr("script line 2"));
     EXPECT_EQ(lines.size(), 2U);
+}
+
+TEST_F(DriveTest, TheHostsTextsAreArguments) {
+    const std::string base = folder.Write("pier");
+    DriveOptions options;
+    options.project = base + ".in";
+    options.common.version = "5.2.1";
+    options.textA = " \"first\" ";
+    options.textB = "\"second\"";
+    options.plotArgument = "  \"wide plot\" 3 ";
+    DriveScript(options, "click 1009\n", out, err);
+    // Blanks go at both ends of each, quotes at the ends of the first two, and those alone that stand at the
+    // end.
+    EXPECT_EQ(g_HostTextA, "\"first\"");
+    EXPECT_EQ(g_HostTextB, "second");
+    EXPECT_THAT(out.str(), HasSubstr("_Envelopes.txt\",\"Shear\",\"STRENGTH\",\"5.2.1\",\"0\",\"0\","
+                                     "\"\\\"wide plot\\\" 3\"]}"));
 }
 
 TEST_F(DriveTest, ABadLineEndsBeforeTheFirstAction) {
