@@ -67,9 +67,13 @@ int WaitCursorDepth();
 // Services of the platform that the product asks for by what they do.
 namespace services {
 
-// Starts `file` (a program, or a document in quotes) by the shell; an empty verb is the default one.
-// Returns the shell's code: above 32 is success, the others are told in session/OutputFiles.h.
+// Starts `file` (the full path of a program, or a document in quotes) by the shell; an empty verb is the
+// default one. Returns the shell's code: above 32 is success, the others are told in session/OutputFiles.h.
 int ShellOpen(const std::string& verb, const std::string& file, const std::string& parameters);
+
+// Starts the program that is registered on the machine under that name ("Excel") with a document in quotes;
+// no other program of that name. Returns the shell's code: 2 where none is registered.
+int StartProgram(const std::string& program, const std::string& document);
 
 // Full path of the process's program, and of the module that the product lives in.
 std::string HostProgramPath();
@@ -89,7 +93,8 @@ void TellOutputFailed(const std::string& path);
 // Sets the application's default printer to landscape or portrait, where it has one.
 void SetPrinterLandscape(bool landscape);
 
-// Loads the plot module and calls its export with the eight arguments of the plot call.
+// Loads the plot module from where the host, the system or the machine's PATH has it, never from the current
+// folder or that of the data file, and calls its export with the eight arguments of the plot call.
 enum class PlotModuleResult { called, moduleMissing, exportMissing };
 struct PlotModuleCall {
     int format = 0;  // 0 spreadsheet, 1 otherwise

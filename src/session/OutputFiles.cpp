@@ -52,7 +52,7 @@ void BuildOutputFilePath(unsigned table, unsigned kind) {
 
 void ShowOutputFile(int format) {
     const std::string quoted = "\"" + g_OutputFilePath + "\"";
-    ReportViewerResult(format == kFormatSpreadsheet ? services::ShellOpen("open", "Excel", quoted)
+    ReportViewerResult(format == kFormatSpreadsheet ? services::StartProgram("Excel", quoted)
                                                     : services::ShellOpen("", quoted, ""));
 }
 

@@ -91,5 +91,5 @@ void ExportGrid(const std::string& name, const std::string& title, int headerRow
     // The words stand where a report has its footer; a grid has none and they stay in the file.
     out << WorksheetEndWith(" Need Footer ") << kWorkbookEnd;
     out.Close();
-    ReportViewerResult(services::ShellOpen("open", "Excel", '"' + path + '"'));
+    ReportViewerResult(services::StartProgram("Excel", '"' + path + '"'));
 }

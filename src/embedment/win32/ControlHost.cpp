@@ -11,6 +11,7 @@
 #include "embedment/NTGraphTarnsway.h"
 #include "embedment/win32/GraphMessages.h"
 #include "framework/win32/Failures.h"
+#include "framework/win32/InstalledFiles.h"
 
 namespace {
 
@@ -78,7 +79,7 @@ struct ControlContainer {
     GetControl get = nullptr;
 
     ControlContainer() {
-        const HMODULE library = LoadLibraryA("atl.dll");
+        const HMODULE library = win32::LoadSystemLibrary("atl.dll");
         if (library == nullptr) return;
         Find(library, "AtlAxWinInit", init);
         Find(library, "AtlAxCreateControl", create);

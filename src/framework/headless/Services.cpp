@@ -56,6 +56,10 @@ int ShellOpen(const std::string& verb, const std::string& file, const std::strin
     return CurrentSink().OnShellOpen(verb, file, parameters);
 }
 
+int StartProgram(const std::string& program, const std::string& document) {
+    return CurrentSink().OnShellOpen("open", program, document);
+}
+
 // The native program is its own host and holds the module's code itself. What lies beside either is looked
 // for beside the program, by the names whose letters the product trims off.
 std::string HostProgramPath() {

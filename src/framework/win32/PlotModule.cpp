@@ -1,5 +1,6 @@
 #include <array>
 
+#include "framework/win32/InstalledFiles.h"
 #include "framework/win32/Windows32.h"
 
 // The call of the plot module's export.
@@ -28,7 +29,8 @@ namespace services {
 
 PlotModuleResult CallPlotModule(const char* module, const char* exportName, const PlotModuleCall& call,
                                 std::string& systemText) {
-    const HMODULE library = LoadLibraryA(module);
+    const std::string folder = call.dataFile.substr(0, call.dataFile.find_last_of("\\/:") + 1);
+    const HMODULE library = win32::LoadFullPath(win32::FindLibrary(module, folder));
     if (library == nullptr) return PlotModuleResult::moduleMissing;
     const FARPROC address = GetProcAddress(library, exportName);
     if (address == nullptr) {

@@ -6,12 +6,14 @@
 #include <cstring>
 
 #include "framework/Clock.h"
+#include "framework/win32/InstalledFiles.h"
 
 // What the product asks of the platform beyond its windows: the shell, paths, the text viewer's settings, the
 // clock.
 
 namespace {
 
+constexpr int kProgramMissing = 2;  // the shell's code
 constexpr const char* kViewerKey = "SOFTWARE\\Microsoft\\Notepad";
 
 // The text viewer's settings of the current user; nothing writes there.
@@ -51,6 +53,11 @@ int ShellOpen(const std::string& verb, const std::string& file, const std::strin
     const HINSTANCE code =
         ShellExecuteA(nullptr, OrNull(verb), file.c_str(), OrNull(parameters), nullptr, SW_SHOWNORMAL);
     return static_cast<int>(reinterpret_cast<INT_PTR>(code));
+}
+
+int StartProgram(const std::string& program, const std::string& document) {
+    const std::string path = win32::FindRegisteredProgram(program + ".exe");
+    return path.empty() ? kProgramMissing : ShellOpen("open", path, document);
 }
 
 std::string HostProgramPath() {
