@@ -5,6 +5,7 @@
 
 #include "app/DesignerDlg.h"
 #include "framework/Backend.h"
+#include "framework/WholeFile.h"
 #include "model/DataSet.h"
 #include "session/Constants.h"
 #include "session/Session.h"
@@ -29,6 +30,7 @@ std::string HostText(const char* argument) {
 
 unsigned Launch(int reportFormat, const char* inputFile, const char* version, const char* textA,
                 const char* textB, const char* envelopeArgument) {
+    WholeFile::BeginRun();
     g_HostProgramPath = services::HostProgramPath();
     TrimRightCharacters(g_HostProgramPath, g_ModuleFileName);
     g_InitialReportFormat = reportFormat;

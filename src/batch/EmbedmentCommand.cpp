@@ -1,6 +1,7 @@
 #include "batch/EmbedmentCommand.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <stdexcept>
 
@@ -11,6 +12,7 @@
 #include "batch/ScriptDriver.h"
 #include "embedment/MPTEDlg.h"
 #include "embedment/SvgCanvas.h"
+#include "framework/WholeFile.h"
 #include "session/Constants.h"
 
 namespace {
@@ -30,6 +32,20 @@ std::vector<std::size_t> ColumnWidths(const Rows& rows) {
         for (std::size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
     }
     return widths;
+}
+
+// The one file whose name the user gives. It may be a device, or a pipe of his shell, which takes the bytes.
+bool WritePictureFile(const std::string& path, const std::string& picture) {
+    std::error_code ignored;
+    const std::filesystem::file_status status = std::filesystem::status(path, ignored);
+    if (std::filesystem::is_character_file(status) || std::filesystem::is_fifo(status)) {
+        std::ofstream device(path, std::ios::binary);
+        device << picture;
+        device.close();
+        return !device.fail();
+    }
+    WholeFile file;
+    return file.Open(path) && file.Write(picture.data(), picture.size()) && file.Commit();
 }
 
 }  // namespace
@@ -127,10 +143,8 @@ void EmbedmentDriver::PrintTable(headless::HeadlessDialog& dialog, const CMPTEDl
 }
 
 void EmbedmentDriver::WritePicture(const CMPTEDlg& study) {
-    std::ofstream file(m_options.picture, std::ios::binary);
-    file << PlotAsSvg(study.m_Graph.Plot(), kPictureWidth, kPictureHeight);
-    file.close();
-    if (file) {
+    const std::string picture = PlotAsSvg(study.m_Graph.Plot(), kPictureWidth, kPictureHeight);
+    if (WritePictureFile(m_options.picture, picture)) {
         m_Written.push_back(m_options.picture);
     } else {
         Fail(kExitIncomplete, "the picture " + m_options.picture + " could not be written");
@@ -144,14 +158,15 @@ MessageAnswer EmbedmentDriver::OnMessage(const headless::Message& message) {
 }
 
 void EmbedmentDriver::OnOutputFailed(const std::string& path) {
+    m_sFailed = path;
     Fail(kExitIncomplete, path + " could not be written whole");
 }
 
 int EmbedmentDriver::OnShellOpen(const std::string&, const std::string& file, const std::string& parameters) {
     const int code = ShellCodeOfDocument(file, parameters);
-    const std::string& quoted = parameters.empty() ? file : parameters;
-    if (code > 32) {
-        m_Written.push_back(quoted.substr(1, quoted.size() - 2));
+    const std::string document = OpenedDocument(file, parameters);
+    if (code > 32 && document != m_sFailed) {
+        m_Written.push_back(document);
     } else {
         m_status = std::max(m_status, kExitIncomplete);
     }

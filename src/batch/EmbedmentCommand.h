@@ -46,6 +46,7 @@ class EmbedmentDriver : public headless::Sink {
     std::ostream& m_err;
     int m_nMessages = 0;
     std::vector<std::string> m_Written;
+    std::string m_sFailed;  // the last file that could not be written whole
     ExitStatus m_status = kExitDone;
 };
 

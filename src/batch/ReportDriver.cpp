@@ -134,10 +134,11 @@ void ReportDriver::OnOutputFailed(const std::string& path) {
 }
 
 int ReportDriver::OnShellOpen(const std::string&, const std::string& file, const std::string& parameters) {
-    int code = ShellCodeOfDocument(file, parameters);
-    if (code <= 32) return code;
-    const std::string& quoted = parameters.empty() ? file : parameters;
-    m_sWritten = quoted.substr(1, quoted.size() - 2);
+    const int code = ShellCodeOfDocument(file, parameters);
+    const std::string document = OpenedDocument(file, parameters);
+    // What was not written is not shown: an earlier file of that name has other numbers.
+    if (code <= 32 || !m_sFailed.empty() || !IsDocumentThere(document)) return code;
+    m_sWritten = document;
     return m_options.open ? StartViewer(m_sWritten) : code;
 }
 

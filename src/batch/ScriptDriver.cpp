@@ -9,11 +9,6 @@ namespace {
 constexpr int kShellSuccess = 42;
 constexpr int kShellFileMissing = 2;
 
-std::string WithoutQuotes(const std::string& text) {
-    const bool quoted = text.size() >= 2 && text.front() == '"' && text.back() == '"';
-    return quoted ? text.substr(1, text.size() - 2) : text;
-}
-
 ControlState StateOf(const NativeWindow& control) {
     ControlState state;
     state.id = control.spec->id;
@@ -28,11 +23,21 @@ ControlState StateOf(const NativeWindow& control) {
 
 }  // namespace
 
-int ShellCodeOfDocument(const std::string& file, const std::string& parameters) {
-    const std::string document = WithoutQuotes(parameters.empty() ? file : parameters);
-    if (document.rfind("file:", 0) == 0) return kShellSuccess;
+std::string OpenedDocument(const std::string& file, const std::string& parameters) {
+    const std::string& text = parameters.empty() ? file : parameters;
+    const bool quoted = text.size() >= 2 && text.front() == '"' && text.back() == '"';
+    return quoted ? text.substr(1, text.size() - 2) : text;
+}
+
+bool IsDocumentThere(const std::string& path) {
     std::error_code ignored;
-    return std::filesystem::exists(document, ignored) ? kShellSuccess : kShellFileMissing;
+    return std::filesystem::exists(path, ignored);
+}
+
+int ShellCodeOfDocument(const std::string& file, const std::string& parameters) {
+    const std::string document = OpenedDocument(file, parameters);
+    if (!parameters.empty() || document.rfind("file:", 0) == 0) return kShellSuccess;
+    return IsDocumentThere(document) ? kShellSuccess : kShellFileMissing;
 }
 
 ScriptDriver::ScriptDriver(std::vector<ScriptAction> actions, std::ostream& out)

@@ -49,6 +49,10 @@ class ScriptDriver : public headless::Sink {
     bool m_bHasPlotModule = true;
 };
 
-// The shell's code for a viewer start without a screen: success when the document is there (or is a page of
-// the help), otherwise the code for a missing file.
+// The document of a viewer start, without its quotes.
+std::string OpenedDocument(const std::string& file, const std::string& parameters);
+bool IsDocumentThere(const std::string& path);
+// The shell's code for a viewer start without a screen: success when the document is there or is a page of
+// the help, otherwise the code for a missing file. The shell does not look at the document that a program is
+// started with: the program does.
 int ShellCodeOfDocument(const std::string& file, const std::string& parameters);

@@ -1,8 +1,8 @@
 #include "embedment/CaptureEx.h"
 
 #include <array>
-#include <cstdio>
-#include <memory>
+
+#include "framework/WholeFile.h"
 
 namespace {
 
@@ -46,10 +46,6 @@ int Scaled(int value, double scale) {
     return scaled >= -kLongestSide && scaled <= kLongestSide ? static_cast<int>(scaled) : 0;
 }
 
-struct Closer {
-    void operator()(std::FILE* file) const { std::fclose(file); }
-};
-
 }  // namespace
 
 bool CaptureEx::Capture(double scale, const std::string& path, bool save, int left, int top, int right,
@@ -74,11 +70,9 @@ void CaptureEx::SetImage(int width, int height, std::vector<std::uint8_t> data) 
 
 bool CaptureEx::SaveBitmap(const std::string& path) const {
     if (m_Data.empty()) return false;
-    const std::unique_ptr<std::FILE, Closer> file(std::fopen(path.c_str(), "wb"));
-    if (file == nullptr) return false;
+    WholeFile file;
+    if (!file.Open(path)) return false;
     const HeaderBytes header = MakeHeader(m_nWidth, m_nHeight, m_Data.size());
-    const auto write = [&file](const auto& bytes) {
-        return std::fwrite(bytes.data(), 1, bytes.size(), file.get()) == bytes.size();
-    };
-    return write(header.Bytes()) && write(m_Data) && std::fflush(file.get()) == 0;
+    return file.Write(header.Bytes().data(), header.Bytes().size()) &&
+           file.Write(m_Data.data(), m_Data.size()) && file.Commit();
 }

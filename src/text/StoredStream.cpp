@@ -13,19 +13,17 @@ void StoredStream::Open(const std::string& path) {
     Close();
     m_nUsed = 0;
     m_nPosition = 0;
-    m_file.reset(std::fopen(path.c_str(), "wb"));
     m_strPath = path;
-    m_bFailed = m_file == nullptr;
+    m_bFailed = !m_file.Open(path);
     if (m_bFailed) {
         TellFailure();
         return;
     }
-    std::setvbuf(m_file.get(), nullptr, _IONBF, 0);
     m_buffer.resize(kBufferBytes);
 }
 
 void StoredStream::Write(std::string_view text) {
-    if (m_bFailed || !m_file) return;
+    if (m_bFailed || !IsOpen()) return;
     while (!text.empty()) {
         // A line feed takes two bytes, so a piece always leaves room for its own.
         if (m_buffer.size() - m_nUsed < 2) Flush();
@@ -50,14 +48,14 @@ void StoredStream::Write(std::string_view text) {
 }
 
 void StoredStream::Flush() {
-    if (m_nUsed > 0 && std::fwrite(m_buffer.data(), 1, m_nUsed, m_file.get()) != m_nUsed) m_bFailed = true;
+    if (m_nUsed > 0 && !m_file.Write(m_buffer.data(), m_nUsed)) m_bFailed = true;
     m_nUsed = 0;
 }
 
 void StoredStream::Close() {
-    if (!m_file) return;
+    if (!IsOpen()) return;
     Flush();
-    if (std::fclose(m_file.release()) != 0) m_bFailed = true;
+    if (!m_file.Commit()) m_bFailed = true;
     if (m_bFailed) TellFailure();
 }
 

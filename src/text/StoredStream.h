@@ -1,22 +1,25 @@
 #pragma once
 
 #include <cstdint>
-#include <cstdio>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "framework/WholeFile.h"
+
 // An output file in which every line feed is stored as carriage return and line feed, on every platform, and
-// which knows the stored position. Opening truncates. A stream that failed swallows what is written to it.
+// which knows the stored position. The file gets its name, and replaces an earlier one, when it is closed
+// without a fault; a stream that is given up without a close leaves the earlier file as it was. A stream that
+// failed swallows what is written to it.
 class StoredStream {
   public:
     StoredStream() = default;
     explicit StoredStream(const std::string& path) { Open(path); }
     StoredStream(const StoredStream&) = delete;
     StoredStream& operator=(const StoredStream&) = delete;
-    ~StoredStream() { Close(); }
+    ~StoredStream() = default;
 
+    // Closes an open file first.
     void Open(const std::string& path);
     StoredStream& operator<<(std::string_view text) {
         Write(text);
@@ -25,19 +28,17 @@ class StoredStream {
     void Write(std::string_view text);
     // Bytes stored so far, those in the buffer included.
     std::int64_t Position() const { return m_nPosition; }
-    // Sets the fail state when the file system refuses the rest.
+    // Puts the file in its place. Sets the fail state when the file system has refused a part of it; the
+    // earlier file stays then.
     void Close();
-    bool IsOpen() const { return m_file != nullptr; }
+    bool IsOpen() const { return m_file.IsOpen(); }
     bool Failed() const { return m_bFailed; }
     void ClearState() { m_bFailed = false; }
 
   private:
     void Flush();
     void TellFailure() const;
-    struct Closer {
-        void operator()(std::FILE* file) const { std::fclose(file); }
-    };
-    std::unique_ptr<std::FILE, Closer> m_file;
+    WholeFile m_file;
     std::string m_strPath;
     std::vector<char> m_buffer;
     std::size_t m_nUsed = 0;

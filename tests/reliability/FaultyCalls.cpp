@@ -1,7 +1,11 @@
 #include "reliability/FaultyCalls.h"
 
+#include <sys/types.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
 #include <cstddef>
-#include <cstdio>
 #include <cstdlib>
 #include <new>
 
@@ -10,6 +14,7 @@ namespace faulty {
 std::atomic<long> g_allocationsLeft{-1};
 long g_callocsLeft = -1;
 long g_writesLeft = -1;
+long g_writesToDeath = -1;
 
 namespace {
 
@@ -62,15 +67,21 @@ void operator delete[](void* memory, std::size_t) noexcept {
 extern "C" {
 
 void* __real_calloc(std::size_t count, std::size_t bytes);
-std::size_t __real_fwrite(const void* from, std::size_t bytes, std::size_t count, std::FILE* file);
+ssize_t __real_write(int file, const void* from, std::size_t bytes);
 
 void* __wrap_calloc(std::size_t count, std::size_t bytes) {
     if (faulty::FailsNow(faulty::g_callocsLeft)) return nullptr;
     return __real_calloc(count, bytes);
 }
 
-std::size_t __wrap_fwrite(const void* from, std::size_t bytes, std::size_t count, std::FILE* file) {
-    if (faulty::FailsNow(faulty::g_writesLeft)) return __real_fwrite(from, bytes, count / 2, file);
-    return __real_fwrite(from, bytes, count, file);
+ssize_t __wrap_write(int file, const void* from, std::size_t bytes) {
+    if (faulty::FailsNow(faulty::g_writesToDeath)) {
+        const ssize_t stored = __real_write(file, from, bytes / 2);
+        return kill(getpid(), SIGKILL) == 0 ? stored : -1;
+    }
+    if (!faulty::FailsNow(faulty::g_writesLeft)) return __real_write(file, from, bytes);
+    const ssize_t stored = __real_write(file, from, bytes / 2);
+    errno = ENOSPC;
+    return stored < 0 ? stored : -1;
 }
 }

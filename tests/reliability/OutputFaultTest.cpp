@@ -1,54 +1,49 @@
 #include <fcntl.h>
-#include <linux/capability.h>
 #include <sys/file.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <csignal>
-#include <functional>
+#include <map>
 
 #include "batch/DriveCommand.h"
 #include "batch/EmbedmentCommand.h"
+#include "framework/ChildProcess.h"
+#include "framework/WholeFilePlatform.h"
 #include "reliability/BrokenProject.h"
 #include "reliability/FaultyCalls.h"
 
-// Files that can't be written: the program names each and ends with a status other than zero.
+// Files that can't be written: the program names each, ends with a status other than zero, and leaves the
+// earlier file as it was.
 
 namespace {
 
 namespace fs = std::filesystem;
 using testing::Contains;
 using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
 
 constexpr const char* kAxialText = "_Max_Axial_Forces_Pile_Heads.txt";
 const std::vector<std::string> kAllTables{"axial",      "pile-dc",     "column-dc",     "cap-shear",
                                           "cap-moment", "pile-forces", "column-forces", "extra-members",
                                           "pile-heads", "title",       "envelopes",     "full"};
 
-// The expectation runs in a child, which may lose rights or room without harm to the tests behind it.
-void InChild(const std::function<void()>& steps) {
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        steps();
-        std::fflush(nullptr);
-        _exit(testing::Test::HasFailure() ? 1 : 0);
+// The bytes of all files of the project's tables, by name.
+std::map<std::string, std::string> Documents(const BrokenProject& project) {
+    std::map<std::string, std::string> documents;
+    for (const auto& entry : fs::directory_iterator(project.Folder())) {
+        const std::string name = entry.path().filename().string();
+        if (name.starts_with("p_")) documents[name] = ReadBytesOf(entry.path());
     }
-    int status = 0;
-    waitpid(child, &status, 0);
-    ASSERT_TRUE(WIFEXITED(status)) << "ended by signal " << WTERMSIG(status);
-    EXPECT_EQ(WEXITSTATUS(status), 0);
+    return documents;
 }
 
-void LimitFileSize(rlim_t bytes) {
-    std::signal(SIGXFSZ, SIG_IGN);
-    rlimit limit{};
-    getrlimit(RLIMIT_FSIZE, &limit);
-    limit.rlim_cur = bytes;
-    setrlimit(RLIMIT_FSIZE, &limit);
+std::vector<std::string> TemporaryFiles(const fs::path& folder) {
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(folder)) {
+        const std::string name = entry.path().filename().string();
+        if (wholefile::IsTemporaryName(name)) names.push_back(name);
+    }
+    return names;
 }
 
 TEST(OutputFault, AReadOnlyFolderIsNamedAndTheEarlierFileStays) {
@@ -59,10 +54,7 @@ TEST(OutputFault, AReadOnlyFolderIsNamedAndTheEarlierFileStays) {
     fs::permissions(project.Folder(), fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
                                           fs::perms::others_exec);
     InChild([&] {
-        // Root writes everywhere, so it gives that right up first.
-        __user_cap_header_struct who{_LINUX_CAPABILITY_VERSION_3, 0};
-        __user_cap_data_struct none[2]{};
-        ASSERT_EQ(syscall(SYS_capset, &who, none), 0);
+        ASSERT_TRUE(GiveUpRoot());
         const Answer answer = Report(project.Base(), {"axial", "title", "envelopes"});
         EXPECT_EQ(answer.status, kExitIncomplete);
         EXPECT_EQ(answer.out, "");
@@ -74,8 +66,7 @@ TEST(OutputFault, AReadOnlyFolderIsNamedAndTheEarlierFileStays) {
     fs::permissions(project.Folder(), fs::perms::owner_all);
 }
 
-// A device that is always full stands in the place of each output file, one after the other.
-TEST(OutputFault, AFullDiskIsNamedForEveryTableInEveryFormat) {
+TEST(OutputFault, AFullDiskIsNamedForEveryTableInEveryFormatAndTheEarlierFileStays) {
     const BrokenProject project("pier");
     for (const int format : {kFormatText, kFormatPdf, kFormatSpreadsheet}) {
         for (const std::string& table : kAllTables) {
@@ -83,15 +74,18 @@ TEST(OutputFault, AFullDiskIsNamedForEveryTableInEveryFormat) {
             if (whole.status != kExitDone) continue;  // there is no such form of the table
             const std::string path = whole.out.substr(0, whole.out.find('\n'));
             ASSERT_TRUE(fs::exists(path)) << path;
-            fs::remove(path);
-            fs::create_symlink("/dev/full", path);
-            const Answer answer = Report(project.Base(), {table}, {format});
-            EXPECT_EQ(answer.status, kExitIncomplete) << path;
-            EXPECT_EQ(answer.out, "") << path;
-            EXPECT_THAT(answer.said, Contains(HasSubstr(path)));
-            fs::remove(path);
+            WriteBytesOf(path, "earlier");
+            InChild([&] {
+                LimitFileSize(0);
+                const Answer answer = Report(project.Base(), {table}, {format});
+                EXPECT_EQ(answer.status, kExitIncomplete) << path;
+                EXPECT_EQ(answer.out, "") << path;
+                EXPECT_THAT(answer.said, Contains(HasSubstr(path)));
+            });
+            EXPECT_EQ(ReadBytesOf(path), "earlier") << path;
         }
     }
+    EXPECT_THAT(TemporaryFiles(project.Folder()), IsEmpty());
 }
 
 // The disk fills at byte 0, 1, 2, 4 ... of a file until a run passes clean.
@@ -127,6 +121,7 @@ TEST(OutputFault, AnySingleWriteMayFail) {
         for (const std::string& table : kAllTables) {
             if (Report(project.Base(), {table}, {format}).status == kExitDone) tables.push_back(table);
         }
+        const auto whole = Documents(project);
         long writes = 0;
         for (;; ++writes) {
             faulty::g_writesLeft = writes;
@@ -139,9 +134,71 @@ TEST(OutputFault, AnySingleWriteMayFail) {
             ASSERT_THAT(answer.said[0], HasSubstr(project.Base() + "_"));
             // The other tables are there.
             ASSERT_EQ(std::count(answer.out.begin(), answer.out.end(), '\n'), std::ssize(tables) - 1);
+            ASSERT_TRUE(Documents(project) == whole) << "write " << writes;
         }
+        EXPECT_THAT(TemporaryFiles(project.Folder()), IsEmpty());
         EXPECT_GE(writes, std::ssize(tables));
         RecordProperty("writes" + std::to_string(format), static_cast<int>(writes));
+    }
+}
+
+// The process is killed at one write after the other, in the middle of it: no file is cut, and the next run
+// clears up.
+TEST(OutputFault, AKillAtAnyWriteLeavesEveryFileWhole) {
+    const BrokenProject project("pier", 300);
+    const std::vector<std::string> tables{"axial", "cap-shear", "title", "envelopes", "full"};
+    for (const int format : {kFormatText, kFormatPdf, kFormatSpreadsheet}) {
+        Report(project.Base(), tables, {format});
+        const auto whole = Documents(project);
+        std::size_t leftOvers = 0;
+        bool clean = false;
+        for (long writes = 0; !clean; ++writes) {
+            ASSERT_LT(writes, 1000);
+            const int status = StatusOfChild([&] {
+                faulty::g_writesToDeath = writes;
+                Report(project.Base(), tables, {format});
+            });
+            clean = WIFEXITED(status);
+            ASSERT_TRUE(clean || WTERMSIG(status) == SIGKILL) << WTERMSIG(status);
+            ASSERT_TRUE(Documents(project) == whole) << "write " << writes;
+            const std::size_t left = TemporaryFiles(project.Folder()).size();
+            ASSERT_EQ(left, clean ? 0U : 1U) << "write " << writes;
+            leftOvers += left;
+        }
+        EXPECT_GE(leftOvers, 4U);
+        RecordProperty("kills" + std::to_string(format), static_cast<int>(leftOvers));
+    }
+}
+
+TEST(OutputFault, LinksAndPipesInThePlaceOfFilesAreReplaced) {
+    const BrokenProject project("pier");
+    ASSERT_EQ(Report(project.Base(), kAllTables).status, kExitIncomplete);  // the pile heads have no text
+    const auto whole = Documents(project);
+    ASSERT_GT(whole.size(), 8U);
+    const fs::path outside = project.Folder() / "outside";
+    for (const bool pipes : {false, true}) {
+        for (const auto& [name, bytes] : whole) {
+            const fs::path path = project.Folder() / name;
+            fs::remove(path);
+            WriteBytesOf(outside / name, "not ours");
+            if (pipes) {
+                ASSERT_EQ(mkfifo(path.c_str(), 0666), 0);
+            } else {
+                fs::create_directories(outside);
+                WriteBytesOf(outside / name, "not ours");
+                fs::create_symlink(outside / name, path);
+            }
+        }
+        const int status = StatusOfChild([&] {
+            alarm(60);
+            Report(project.Base(), kAllTables);
+        });
+        ASSERT_EQ(status, 0) << "it waited for a reader";
+        EXPECT_TRUE(Documents(project) == whole);
+        for (const auto& [name, bytes] : whole) {
+            EXPECT_TRUE(fs::is_regular_file(fs::symlink_status(project.Folder() / name))) << name;
+            EXPECT_EQ(ReadBytesOf(outside / name), "not ours") << name;
+        }
     }
 }
 
@@ -170,19 +227,19 @@ TEST(OutputFault, AFileHeldOpenIsReplaced) {
 
 TEST(OutputFault, AScriptsFilesAreNamedToo) {
     const BrokenProject project("pier");
-    for (const char* file : {kAxialText, "_Envelopes.txt", "_LoadCombSelection.xml"}) {
-        fs::create_symlink("/dev/full", project.Base() + file);
-    }
     DriveOptions options;
     options.project = project.Base() + ".in";
     options.format = kFormatText;
-    std::ostringstream out, err;
-    EXPECT_EQ(DriveScript(options, "click 1004\nclick 1009\n", out, err), kExitIncomplete);
-    EXPECT_THAT(err.str(), HasSubstr(project.Base() + kAxialText + " could not be written whole"));
-    EXPECT_THAT(err.str(), HasSubstr(project.Base() + "_Envelopes.txt could not be written whole"));
+    InChild([&] {
+        LimitFileSize(0);
+        std::ostringstream out, err;
+        EXPECT_EQ(DriveScript(options, "click 1004\nclick 1009\n", out, err), kExitIncomplete);
+        EXPECT_THAT(err.str(), HasSubstr(project.Base() + kAxialText + " could not be written whole"));
+        EXPECT_THAT(err.str(), HasSubstr(project.Base() + "_Envelopes.txt could not be written whole"));
+    });
 }
 
-TEST(OutputFault, TheStudysWorkbookAndPictureAreNamed) {
+TEST(OutputFault, TheStudysWorkbookAndPictureAreNamedAndTheEarlierFilesStay) {
     const BrokenProject project("pier");
     EmbedmentOptions options;
     options.project = project.Base() + ".in";
@@ -197,12 +254,39 @@ TEST(OutputFault, TheStudysWorkbookAndPictureAreNamed) {
         if (line.starts_with(project.Base())) written.push_back(line);
     }
     ASSERT_EQ(written.size(), 2U);
+    for (const std::string& path : written) WriteBytesOf(path, "earlier");
+    InChild([&] {
+        LimitFileSize(0);
+        std::ostringstream failedOut, failedErr;
+        EXPECT_EQ(RunEmbedment(options, failedOut, failedErr), kExitIncomplete);
+        for (const std::string& path : written) {
+            EXPECT_THAT(failedErr.str(), HasSubstr(path));
+            EXPECT_THAT(failedOut.str(), Not(HasSubstr(path)));
+        }
+    });
+    for (const std::string& path : written) EXPECT_EQ(ReadBytesOf(path), "earlier");
+    // A link in the place of either is replaced.
     for (const std::string& path : written) {
         fs::remove(path);
-        fs::create_symlink("/dev/full", path);
+        fs::create_symlink("outside", path);
     }
+    EXPECT_EQ(RunEmbedment(options, out, err), kExitDone) << err.str();
+    for (const std::string& path : written) EXPECT_FALSE(fs::is_symlink(path)) << path;
+    EXPECT_FALSE(fs::exists(project.Folder() / "outside"));
+}
+
+// The picture's name is the user's own.
+TEST(OutputFault, ThePictureMayGoToADevice) {
+    const BrokenProject project("pier");
+    EmbedmentOptions options;
+    options.project = project.Base() + ".in";
+    std::ostringstream out, err;
+    options.picture = "/dev/null";
+    EXPECT_EQ(RunEmbedment(options, out, err), kExitDone) << err.str();
+    options.picture = "/dev/full";
     EXPECT_EQ(RunEmbedment(options, out, err), kExitIncomplete);
-    for (const std::string& path : written) EXPECT_THAT(err.str(), HasSubstr(path));
+    EXPECT_THAT(err.str(), HasSubstr("/dev/full"));
+    EXPECT_TRUE(fs::is_character_file("/dev/null") && fs::is_character_file("/dev/full"));
 }
 
 // The names of folders that engineers have. \xFC and \xE9 are letters of the Western code page.

@@ -7,6 +7,9 @@
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <stdexcept>
+
+#include "framework/ChildProcess.h"
 
 namespace {
 
@@ -103,7 +106,7 @@ TEST_F(StoredText, AFileOfNothingButLineFeedsDoubles) {
     EXPECT_TRUE(Stored() == Expanded(std::string(400'000, '\n')));
 }
 
-TEST_F(StoredText, OpeningTruncatesAndBeginsAtZero) {
+TEST_F(StoredText, OpeningOnceMoreBeginsAtZero) {
     StoredStream out(Path());
     out << "an earlier and longer table\n";
     out.Open(Path());
@@ -113,9 +116,34 @@ TEST_F(StoredText, OpeningTruncatesAndBeginsAtZero) {
     EXPECT_EQ(Stored(), "new");
 }
 
-TEST_F(StoredText, TheEndOfItsLifeStoresTheRest) {
-    { StoredStream(Path()) << "kept\n"; }
-    EXPECT_EQ(Stored(), "kept\r\n");
+TEST_F(StoredText, AStreamThatIsGivenUpLeavesTheEarlierFile) {
+    StoredStream first(Path());
+    first << "earlier\n";
+    first.Close();
+    { StoredStream(Path()) << std::string(1'000'000, 'x'); }
+    EXPECT_EQ(Stored(), "earlier\r\n");
+}
+
+// What an exception in a writer does.
+TEST_F(StoredText, AnExceptionLeavesNoFile) {
+    try {
+        StoredStream out(Path());
+        out << "half of";
+        throw std::runtime_error("the writer's");
+    } catch (const std::runtime_error&) {
+    }
+    EXPECT_TRUE(std::filesystem::is_empty(m_folder));
+}
+
+TEST_F(StoredText, AStreamThatOnlyWasOpenIsAnEmptyFile) {
+    StoredStream first(Path());
+    first << "earlier\n";
+    first.Close();
+    StoredStream out(Path());
+    out.Close();
+    EXPECT_FALSE(out.Failed());
+    EXPECT_EQ(Stored(), "");
+    EXPECT_TRUE(std::filesystem::exists(Path()));
 }
 
 TEST_F(StoredText, AStreamThatCannotOpenSwallowsTheText) {
@@ -138,25 +166,47 @@ TEST_F(StoredText, AStreamThatWasNeverOpenedSwallowsTheText) {
     EXPECT_FALSE(out.IsOpen());
 }
 
-TEST_F(StoredText, AFullDeviceFailsAtTheCloseAndTheStateCanBeCleared) {
-    ASSERT_TRUE(std::filesystem::exists("/dev/full"));
-    StoredStream out("/dev/full");
-    ASSERT_TRUE(out.IsOpen());
-    out << "a table\n";
-    EXPECT_FALSE(out.Failed());  // still in the buffer
-    out.Close();
-    EXPECT_TRUE(out.Failed());
-    out.ClearState();
-    EXPECT_FALSE(out.Failed());
+TEST_F(StoredText, AFullDiskFailsAtTheCloseAndTheStateCanBeCleared) {
+    InChild([&] {
+        StoredStream out(Path());
+        ASSERT_TRUE(out.IsOpen());
+        out << "a table\n";
+        EXPECT_FALSE(out.Failed());  // still in the buffer
+        LimitFileSize(4);
+        out.Close();
+        EXPECT_TRUE(out.Failed());
+        out.ClearState();
+        EXPECT_FALSE(out.Failed());
+    });
+    EXPECT_TRUE(std::filesystem::is_empty(m_folder));
 }
 
-TEST_F(StoredText, AFullDeviceFailsWhenTheBufferIsFullToo) {
-    StoredStream out("/dev/full");
-    out << std::string(1'000'000, 'x');
-    EXPECT_TRUE(out.Failed());
-    out << "swallowed";
-    out.Close();
-    EXPECT_TRUE(out.Failed());
+TEST_F(StoredText, AFullDiskFailsWhenTheBufferIsFullToo) {
+    InChild([&] {
+        LimitFileSize(4);
+        StoredStream out(Path());
+        out << std::string(1'000'000, 'x');
+        EXPECT_TRUE(out.Failed());
+        out << "swallowed";
+        out.Close();
+        EXPECT_TRUE(out.Failed());
+    });
+    EXPECT_TRUE(std::filesystem::is_empty(m_folder));
+}
+
+// Cleared or not, a document with a gap is none.
+TEST_F(StoredText, AClearedStateHealsNoDocument) {
+    InChild([&] {
+        StoredStream out(Path());
+        LimitFileSize(4);
+        out << std::string(1'000'000, 'x');
+        LimitFileSize(RLIM_INFINITY);
+        out.ClearState();
+        out << "the rest";
+        out.Close();
+        EXPECT_TRUE(out.Failed());
+    });
+    EXPECT_TRUE(std::filesystem::is_empty(m_folder));
 }
 
 }  // namespace

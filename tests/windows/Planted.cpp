@@ -1,5 +1,5 @@
-// What somebody has put beside a project, as a library and as a program: it leaves a file "planted-ran" in the
-// current folder as soon as it runs, or is only loaded.
+// What somebody has put beside a project, as a library and as a program: it leaves a file "planted-ran" in
+// the current folder as soon as it runs, or is only loaded.
 #include <cstdio>
 
 #include "host/HostWindows.h"

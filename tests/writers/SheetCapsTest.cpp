@@ -290,6 +290,7 @@ TEST_F(SheetCaps, TablesOfAFullReportStandInOrderWithoutCoords) {
                 (writer.*WriterOf(table))(out, true);
         }
         out << "</Workbook>\n";
+        out.Close();
     }
     const std::string workbook = Stored();
     std::vector<std::string> names;

@@ -126,6 +126,7 @@ TEST_F(SheetEachCase, ManyRowsTakeNoMemory) {
         CWriteData writer;
         EXPECT_EQ(writer.WritePileHeadForcesSheet(out, true), 1);
         bytes = out.Position();
+        out.Close();
         EXPECT_FALSE(out.Failed());
     }
     const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;

@@ -111,6 +111,7 @@ class SheetTest : public testing::Test {
             CWriteData writer;
             EXPECT_EQ((writer.*WriterOf(table))(out, embedded), 1);
             EXPECT_EQ(out.IsOpen(), embedded) << "a workbook of its own is closed by its writer";
+            out.Close();
         }
         return Stored();
     }

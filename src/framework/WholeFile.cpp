@@ -1,0 +1,117 @@
+#include "framework/WholeFile.h"
+
+#include <chrono>
+
+#include "framework/WholeFilePlatform.h"
+
+namespace {
+
+constexpr char kMark = '~';
+constexpr std::size_t kDigits = 6;
+constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+constexpr int kNameTries = 100;
+
+// Names need not be hard to guess: a new file is made under none that is taken.
+std::uint32_t NextNumber() {
+    static auto number =
+        static_cast<std::uint32_t>(std::chrono::steady_clock::now().time_since_epoch().count());
+    number = number * 1664525u + 1013904223u;
+    return number >> 8u;
+}
+
+// Looking through a folder for every document would take a batch longer than writing them.
+struct ClearedFolder {
+    bool known = false;
+    std::string name;
+};
+ClearedFolder& LastCleared() {
+    static ClearedFolder folder;
+    return folder;
+}
+
+void ClearOnce(const std::string& folder) {
+    ClearedFolder& last = LastCleared();
+    if (last.known && last.name == folder) return;
+    last.name = folder;
+    last.known = true;
+    wholefile::RemoveLeftOvers(folder);
+}
+
+}  // namespace
+
+namespace wholefile {
+
+std::string TemporaryName(std::uint32_t number) {
+    std::string name(1, kMark);
+    for (std::size_t i = 0; i < kDigits; ++i) name += kHexDigits[number >> (4 * i) & 0xFu];
+    return name.append(kTemporaryEnding);
+}
+
+bool IsTemporaryName(std::string_view name) {
+    return name.size() == 1 + kDigits + kTemporaryEnding.size() && name[0] == kMark &&
+           name.substr(1, kDigits).find_first_not_of(kHexDigits) == std::string_view::npos &&
+           name.ends_with(kTemporaryEnding);
+}
+
+}  // namespace wholefile
+
+bool WholeFile::Open(const std::string& path) {
+    Discard();
+    m_bFailed = false;
+    const wholefile::Target target = wholefile::LookAt(path);
+    if (target == wholefile::Target::refused) return false;
+    m_path = path;
+    const std::string folder = wholefile::FolderPart(path);
+    ClearOnce(folder);
+    const bool isFile = target == wholefile::Target::file;
+    if (!CreateBeside(folder) && isFile) m_handle = wholefile::CreateNameless();
+    if (isFile && !m_temporary.empty()) wholefile::CopyRights(m_handle, path);
+    return IsOpen();
+}
+
+bool WholeFile::CreateBeside(const std::string& folder) {
+    bool taken = true;
+    for (int i = 0; taken && i < kNameTries; ++i) {
+        m_temporary = folder + wholefile::TemporaryName(NextNumber());
+        m_handle = wholefile::CreateNew(m_temporary, taken);
+        if (IsOpen()) return true;
+    }
+    m_temporary.clear();
+    return false;
+}
+
+bool WholeFile::Write(const void* bytes, std::size_t count) {
+    // After a gap the rest would only hide that something is missing.
+    if (!IsOpen() || m_bFailed) return false;
+    m_bFailed = !wholefile::Write(m_handle, bytes, count);
+    return !m_bFailed;
+}
+
+bool WholeFile::Commit() {
+    const bool placed = IsOpen() && !m_bFailed && wholefile::Settle(m_handle) && Place();
+    Discard();
+    return placed;
+}
+
+bool WholeFile::Place() {
+    if (!m_temporary.empty() && wholefile::Rename(m_handle, m_temporary, m_path)) {
+        m_temporary.clear();
+        return true;
+    }
+    return wholefile::LookAt(m_path) == wholefile::Target::file && wholefile::CopyInto(m_handle, m_path);
+}
+
+void WholeFile::BeginRun() noexcept {
+    LastCleared().known = false;
+}
+
+void WholeFile::Discard() noexcept {
+    if (!IsOpen()) return;
+    if (m_temporary.empty()) {
+        wholefile::Close(m_handle);
+    } else {
+        wholefile::Remove(m_handle, m_temporary);
+    }
+    m_handle = kNoHandle;
+    m_temporary.clear();
+}
