@@ -31,6 +31,27 @@ Outcome RunProgram(const std::string& arguments) {
     return outcome;
 }
 
+// Whoever hands the program on hands on what its licences ask for.
+TEST(Program, TheLicencesLieBesideIt) {
+    const auto read = [](const std::string& path) {
+        std::ifstream file(path, std::ios::binary);
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+    for (const char* name : {"/LICENSE", "/THIRD-PARTY-NOTICES.txt"}) {
+        const std::string beside = read(LUMERIN_BINARY_DIR + std::string(name));
+        EXPECT_FALSE(beside.empty());
+        EXPECT_EQ(beside, read(LUMERIN_SOURCE_DIR + std::string(name)));
+    }
+    const std::string notices = read(LUMERIN_BINARY_DIR + std::string("/THIRD-PARTY-NOTICES.txt"));
+    for (const char* words :
+         {"Copyright (c) 2009-2016 the mingw-w64 project", "Copyright (c) 1997-2001 Lucent Technologies",
+          "Copyright (c) 2010 Lockless Inc.", "GCC RUNTIME LIBRARY EXCEPTION\n\nVersion 3.1, 31 March 2009",
+          "University of Cincinnati, developed by Henry Schreiner",
+          "Copyright (c) 2013-2022 Niels Lohmann"}) {
+        EXPECT_THAT(notices, HasSubstr(words));
+    }
+}
+
 TEST(Program, HelpAndVersionAreNoFailure) {
     EXPECT_EQ(RunProgram("--help").status, 0);
     EXPECT_EQ(RunProgram("report --help").status, 0);
