@@ -145,6 +145,10 @@ TEST_F(GridMouse, ADragPastTheWindowReachesTheLastRowWhereNothingScrolls) {
     Do(MouseDeed::press, 1, 2);
     Go(MousePlace::below);
     EXPECT_THAT(m_grid.SelectedCells(), ElementsAre(CCellID{1, 2}, CCellID{2, 2}));
+    Go(MousePlace::here, MouseDeed::release);
+    Do(MouseDeed::press, 1, 1);
+    Go(MousePlace::right);
+    EXPECT_THAT(m_grid.SelectedCells(), ElementsAre(CCellID{1, 1}, CCellID{1, 2}));
 }
 
 TEST_F(GridMouse, APlaceThatIsNotVisibleIsRefused) {
@@ -222,6 +226,19 @@ TEST(TitleTip, TwoPressesWithinTheDoubleClickTimeAreOneDoubleClickWhereOneHitThe
     EXPECT_FALSE(tip.IsSecondPress(cell, 30000, true));
     tip.ForgetPress();
     EXPECT_FALSE(tip.IsSecondPress(cell, 30001, true));
+}
+
+TEST_F(GridTip, APressOnItSoonAfterADoubleClickIsAFirstOne) {
+    ShowTip();
+    m_grid.SetEditable(false);
+    const GridPoint place{75, 30};
+    m_grid.OnLeftDown(place, {}, 1000);
+    m_grid.OnLeftUp(place);
+    m_grid.OnDoubleClick(place);
+    m_grid.OnMouseMove({76, 30}, false);
+    ASSERT_EQ(m_host->Tip(), kLong);
+    m_grid.OnTipLeftDown({76, 30}, {}, 1200);
+    EXPECT_TRUE(m_host->IsCaptured());  // as for a drag that begins
 }
 
 TEST_F(GridTip, AnyButtonHidesItAndItStaysAwayUntilTheMouseMoves) {
