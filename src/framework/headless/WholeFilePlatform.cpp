@@ -115,7 +115,7 @@ bool CopyInto(Handle handle, const std::string& to) {
     struct stat found {};
     bool whole = fstat(file, &found) == 0 && S_ISREG(found.st_mode) && ftruncate(file, 0) == 0 &&
                  lseek(Descriptor(handle), 0, SEEK_SET) == 0;
-    std::array<char, kPiece> piece;
+    std::array<char, kPiece> piece{};
     ssize_t got = 1;
     while (whole && got > 0) {
         got = read(Descriptor(handle), piece.data(), piece.size());

@@ -144,7 +144,7 @@ bool CopyInto(Handle handle, const std::string& to) {
     const LARGE_INTEGER start{};
     bool whole = GetFileInformationByHandle(file, &found) && IsPlainFile(found.dwFileAttributes) &&
                  SetEndOfFile(file) && SetFilePointerEx(ToHandle(handle), start, nullptr, FILE_BEGIN);
-    std::array<char, kPiece> piece;
+    std::array<char, kPiece> piece{};
     DWORD got = 1;
     while (whole && got > 0) {
         whole = ReadFile(ToHandle(handle), piece.data(), kPiece, &got, nullptr) &&
