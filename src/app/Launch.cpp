@@ -1,6 +1,6 @@
 #include "app/Launch.h"
 
-#include <exception>
+#include <atomic>
 #include <string>
 
 #include "app/DesignerDlg.h"
@@ -52,13 +52,39 @@ unsigned Launch(int reportFormat, const char* inputFile, const char* version, co
     return result == IDOK ? 1u : 0u;
 }
 
+// A call that runs. While one does, on whatever thread, the next one is refused: both would work on one
+// session and one model.
+class RunningCall {
+  public:
+    RunningCall() : m_bFirst(!Flag().test_and_set()) {
+        if (m_bFirst) backend::EnterCall();
+    }
+    RunningCall(const RunningCall&) = delete;
+    RunningCall& operator=(const RunningCall&) = delete;
+    ~RunningCall() {
+        if (!m_bFirst) return;
+        backend::LeaveCall();
+        Flag().clear();
+    }
+    bool IsFirst() const { return m_bFirst; }
+
+  private:
+    static std::atomic_flag& Flag() {
+        static constinit std::atomic_flag flag;
+        return flag;
+    }
+    const bool m_bFirst;
+};
+
 }  // namespace
 
 unsigned LaunchLumerin(int reportFormat, const char* inputFile, const char* version, const char* textA,
                        const char* textB, const char* envelopeArgument) {
+    const RunningCall call;
+    if (!call.IsFirst()) return 0u;
     try {
         return Launch(reportFormat, inputFile, version, textA, textB, envelopeArgument);
-    } catch (const std::exception&) {
+    } catch (...) {
         // No memory for the dialog itself. Nothing may cross into the host, whose model is still unsaved.
         g_DataSet.FreePiers();
         return 0u;

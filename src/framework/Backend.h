@@ -24,6 +24,11 @@ struct LocalTime {
 
 namespace backend {
 
+// Around one call of the export, on its thread. The platform's state that belongs to the host is as the module
+// needs it between the two, and as it was behind them.
+void EnterCall() noexcept;
+void LeaveCall() noexcept;
+
 // Windows and controls.
 void SetText(WindowHandle window, const std::string& text);
 std::string Text(WindowHandle window);

@@ -1,3 +1,5 @@
+#include <thread>
+
 #include "app/ReportDialogFixture.h"
 
 namespace {
@@ -15,6 +17,43 @@ class LaunchTest : public ReportDialogTest {
 TEST_F(LaunchTest, CloseReturnsOneAndEscReturnsZero) {
     EXPECT_EQ(Launch("", 0, [](HeadlessDialog& dialog) { dialog.Click(1); }), 1U);
     EXPECT_EQ(Launch("", 0, [](HeadlessDialog& dialog) { dialog.PressEscape(); }), 0U);
+}
+
+TEST_F(LaunchTest, ACallDuringACallReturnsZeroAndChangesNothingOnAnyThread) {
+    const auto again = [] { return LaunchLumerin(0, "/other/q.in", "9.9", "other", "other", "other"); };
+    int opened = 0;
+    const auto driver = [&](HeadlessDialog& dialog) {
+        ++opened;
+        backend::BeginWaitCursor();
+        EXPECT_EQ(again(), 0U);
+        unsigned onThread = 1;
+        std::thread([&] { onThread = again(); }).join();
+        EXPECT_EQ(onThread, 0U);
+        EXPECT_EQ(g_InitialReportFormat, 2);
+        EXPECT_EQ(g_InputFilePath, "/nowhere/p.in");
+        EXPECT_EQ(g_ProjectBasePath, "/nowhere/p");
+        EXPECT_EQ(g_VersionText, "5.2.1");
+        EXPECT_EQ(g_HostTextA, "a");
+        EXPECT_EQ(g_HostTextB, "b");
+        EXPECT_EQ(g_EnvelopePlotArgument, "plot");
+        EXPECT_EQ(backend::WaitCursorDepth(), 1);
+        dialog.Click(1);
+    };
+    for (const int calls : {1, 2}) {
+        headless::SetModalDriver(driver);
+        EXPECT_EQ(LaunchLumerin(2, "/nowhere/p.in", "5.2.1", "a", "b", "plot"), 1U);
+        EXPECT_EQ(opened, calls) << "the refused calls leave the way free for the next one";
+    }
+}
+
+TEST_F(LaunchTest, EachCallStartsWithoutAWaitCursor) {
+    const auto leave = [](HeadlessDialog& dialog) {
+        EXPECT_EQ(backend::WaitCursorDepth(), 0);
+        dialog.Click(1002);
+        EXPECT_EQ(backend::WaitCursorDepth(), 1);
+    };
+    // The cover sheet refuses the spreadsheet format and leaves its wait cursor.
+    for (int call = 0; call < 2; ++call) Launch("/nowhere/p.in", 0, leave);
 }
 
 TEST_F(LaunchTest, StoresItsArguments) {

@@ -68,24 +68,23 @@ class Variant {
     VARIANT m_value;
 };
 
-// The container of ActiveX controls that comes with the platform, loaded when it is first wanted.
+// The container of ActiveX controls that comes with the platform, loaded when it is first wanted. Its
+// AtlAxWinInit is not called: it registers a window class that nothing here uses, and on Wine it fails the
+// second time and leaves OLE initialised.
 struct ControlContainer {
-    using Init = BOOL(WINAPI*)();
     using CreateControl = HRESULT(WINAPI*)(LPCOLESTR, HWND, IStream*, IUnknown**);
     using GetControl = HRESULT(WINAPI*)(HWND, IUnknown**);
 
-    Init init = nullptr;
     CreateControl create = nullptr;
     GetControl get = nullptr;
 
     ControlContainer() {
         const HMODULE library = win32::LoadSystemLibrary("atl.dll");
         if (library == nullptr) return;
-        Find(library, "AtlAxWinInit", init);
         Find(library, "AtlAxCreateControl", create);
         Find(library, "AtlAxGetControl", get);
     }
-    bool IsWhole() const { return init != nullptr && create != nullptr && get != nullptr; }
+    bool IsWhole() const { return create != nullptr && get != nullptr; }
 
   private:
     template <class Function>
@@ -184,7 +183,7 @@ ControlWindow::~ControlWindow() {
 
 std::unique_ptr<ControlHost> ControlHost::Create(CNTGraphTarnsway& graph, HWND place) {
     static const ControlContainer container;
-    if (!container.IsWhole() || !IsRegistered() || !container.init()) return nullptr;
+    if (!container.IsWhole() || !win32::UseOle() || !IsRegistered()) return nullptr;
     auto window = std::make_unique<ControlWindow>(place);
     IUnknown* site = nullptr;
     if (FAILED(container.create(kGraphClass, window->Get(), nullptr, &site))) return nullptr;

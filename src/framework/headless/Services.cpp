@@ -30,6 +30,12 @@ std::string ProgramFolder() {
 
 namespace backend {
 
+void EnterCall() noexcept {
+    headless::State().waitCursorDepth = 0;
+}
+
+void LeaveCall() noexcept {}
+
 MessageAnswer ShowMessage(const std::string& text, const std::string& title, MessageIcon icon,
                           MessageButtons buttons) {
     return CurrentSink().OnMessage({text, title, icon, buttons});

@@ -67,7 +67,8 @@ bool OnCommandMessage(CDialog& dialog, WPARAM wParam) {
     const int id = static_cast<short>(LOWORD(wParam));
     Notice notice = Notice::clicked;
     if (!ReadNotice(KindOf(dialog.Spec(), id), HIWORD(wParam), notice)) return false;
-    if (notice == Notice::clicked) win32::NoteMessage(WM_COMMAND);
+    // A loss of focus may come from the box of a failure.
+    if (notice != Notice::focusLost) win32::NoteMessage(WM_COMMAND);
     bool handled = false;
     RunHandler(dialog, [&] { handled = dialog.OnCommand(id, notice); });
     return handled;

@@ -65,6 +65,10 @@ int WaitCursorDepth() {
 
 namespace win32 {
 
+void ResetWaitCursor() noexcept {
+    Waiting() = {};
+}
+
 HandlerScope::HandlerScope() {
     ++Waiting().handlers;
 }

@@ -33,6 +33,13 @@ namespace win32 {
 // The module that this code lives in, whatever program loaded it; its resources are looked up here.
 HINSTANCE ModuleInstance();
 
+// Initialises OLE on this thread until the call of the export ends. False: the platform refuses it; the next try is
+// a new one.
+bool UseOle() noexcept;
+
+// No wait cursor is held and no handler runs.
+void ResetWaitCursor() noexcept;
+
 // The dialog of ours that was opened last and is still open; null when there is none.
 HWND FrontDialog();
 

@@ -5,6 +5,7 @@
 
 #include <cstring>
 #include <memory>
+#include <new>
 #include <string>
 #include <string_view>
 
@@ -139,6 +140,12 @@ struct Releaser {
     void operator()(IUnknown* object) const { object->Release(); }
 };
 
+// That the clipboard is another program's at the moment, or holds no text, is no failure; that memory is out
+// is one.
+void ThrowIfMemoryIsOut(HRESULT result) {
+    if (result == E_OUTOFMEMORY || result == STG_E_MEDIUMFULL) throw std::bad_alloc();
+}
+
 // What a data object handed out. It may be as big as the clipboard, so it goes on every way out.
 class Medium {
   public:
@@ -152,8 +159,10 @@ class Medium {
     // Empty where the object has no text. The view ends with this object.
     std::string_view Read(IDataObject& object) {
         FORMATETC format = PlainText();
-        if (FAILED(object.GetData(&format, &m_medium))) {
+        const HRESULT result = object.GetData(&format, &m_medium);
+        if (FAILED(result)) {
             m_medium = {};
+            ThrowIfMemoryIsOut(result);
             return {};
         }
         if (m_medium.tymed != TYMED_HGLOBAL) return {};
@@ -173,13 +182,16 @@ namespace win32 {
 
 void PutClipboardText(const std::string& text) {
     const std::unique_ptr<TextObject, Releaser> object(std::make_unique<TextObject>(text).release());
+    HRESULT result = OleSetClipboard(object.get());
     // The flush leaves the text on the clipboard when this module is gone.
-    if (SUCCEEDED(OleSetClipboard(object.get()))) OleFlushClipboard();
+    if (SUCCEEDED(result)) result = OleFlushClipboard();
+    ThrowIfMemoryIsOut(result);
 }
 
 std::string ClipboardText() {
     IDataObject* got = nullptr;
-    if (FAILED(OleGetClipboard(&got)) || got == nullptr) return {};
+    ThrowIfMemoryIsOut(OleGetClipboard(&got));
+    if (got == nullptr) return {};
     const std::unique_ptr<IDataObject, Releaser> object(got);
     Medium medium;
     return std::string(medium.Read(*object));

@@ -1,9 +1,6 @@
 // What the grid asks of the platform apart from its window.
-#include "framework/win32/Windows32.h"
-// OLE wants windows.h before it.
-#include <ole2.h>
-
 #include "framework/win32/Drawing.h"
+#include "framework/win32/Windows32.h"
 #include "grid/GridHost.h"
 #include "grid/win32/GdiCanvas.h"
 
@@ -24,14 +21,6 @@ void RegisterGridClass() {
     window.hbrBackground = GetSysColorBrush(kColourShadow);
     window.lpszClassName = kClassName;
     if (RegisterClassA(&window) == 0) throw CResourceException();
-}
-
-void InitialiseOle() {
-    // Once for the thread of the dialogs; that it is initialised already is fine.
-    static bool done = false;
-    if (done) return;
-    done = true;
-    if (FAILED(OleInitialize(nullptr))) AfxMessageBox(kOleFailedText);
 }
 
 }  // namespace
@@ -58,7 +47,7 @@ unsigned DoubleClickTime() {
 
 void PrepareWindowClass() {
     RegisterGridClass();
-    InitialiseOle();
+    if (!win32::UseOle()) AfxMessageBox(kOleFailedText);
 }
 
 }  // namespace gridplatform
