@@ -2,6 +2,7 @@
 // of the values, and reports one click. It draws nothing.
 //     LUMERIN_GRAPH_RECORD  the file of the record
 //     LUMERIN_GRAPH_CLICK   the x of the click, some time behind the first point; unset: none
+//     LUMERIN_GRAPH_MUTE    set: it has no dispatch interface, and covers its place with a black window
 
 #include <windows.h>
 
@@ -35,6 +36,10 @@ void Record(const std::string& line) {
         std::fprintf(file, "%s\n", line.c_str());
         std::fclose(file);
     }
+}
+
+bool IsMute() {
+    return std::getenv("LUMERIN_GRAPH_MUTE") != nullptr;
 }
 
 std::string TextOf(const VARIANT& value) {
@@ -71,7 +76,7 @@ class GraphControl final : public IDispatch,
   public:
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
         if (object == nullptr) return E_POINTER;
-        if (IsEqualIID(id, IID_IUnknown) || IsEqualIID(id, IID_IDispatch)) {
+        if (IsEqualIID(id, IID_IUnknown) || (IsEqualIID(id, IID_IDispatch) && !IsMute())) {
             *object = static_cast<IDispatch*>(this);
         } else if (IsEqualIID(id, IID_IConnectionPointContainer)) {
             *object = static_cast<IConnectionPointContainer*>(this);
@@ -159,7 +164,12 @@ class GraphControl final : public IDispatch,
     HRESULT STDMETHODCALLTYPE GetMoniker(DWORD, DWORD, IMoniker**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE InitFromData(IDataObject*, BOOL, DWORD) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetClipboardData(DWORD, IDataObject**) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE DoVerb(LONG, LPMSG, IOleClientSite*, LONG, HWND, LPCRECT) override {
+    HRESULT STDMETHODCALLTYPE DoVerb(LONG, LPMSG, IOleClientSite*, LONG, HWND place, LPCRECT) override {
+        if (IsMute()) {
+            CreateWindowExA(0, "STATIC", "", WS_CHILD | WS_VISIBLE | SS_BLACKRECT, 0, 0, 4000, 4000, place,
+                            nullptr, nullptr, nullptr);
+            Record("covered");
+        }
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE EnumVerbs(IEnumOLEVERB**) override { return E_NOTIMPL; }
