@@ -65,7 +65,7 @@ finish_windows() {
 }
 
 step "install what the tests need" install
-step "direction of includes" tools/check-floors
+step "layers of the sources" tools/check-layers
 step "formatter" format
 step "native build" build native
 step "native tests" run_tests native

@@ -17,14 +17,12 @@
 #include <string_view>
 #include <vector>
 
+#include "MeasuredProject.h"
 #include "ReadyLines.h"
 #include "framework/Backend.h"
-#include "model/DataSet.h"
-#include "results/CollectData.h"
-#include "session/Session.h"
-#include "tables/WriteData.h"
 #include "text/Format.h"
 #include "writers/PdfSink.h"
+#include "writers/TableSheets.h"
 
 namespace {
 
@@ -34,30 +32,14 @@ double SecondsSince(Clock::time_point begin) {
     return std::chrono::duration<double>(Clock::now() - begin).count();
 }
 
-double Load(const char* project) {
-    const auto begin = Clock::now();
-    g_InputFilePath = project;
-    g_DataSet.Reset();
-    DerivePaths();
-    if (!g_DataSet.LoadProject()) throw std::runtime_error("the project has no results");
-    g_DataSet.SetTableApplicability();
-    return SecondsSince(begin);
-}
-
-void Collect() {
-    CCollectData collect;
-    collect.CollectMaxAxialForces();
-    collect.CollectPileDemandCapacity();
-    collect.CollectColumnDemandCapacity();
-    collect.CollectCapShear();
-    collect.CollectCapMoment();
-    collect.CollectPileForces();
-    collect.CollectColumnForces();
-    collect.CollectExtraMemberForces();
+// The base path of a project's input file.
+std::string BaseOf(const char* project) {
+    const std::string path = project;
+    return path.substr(0, path.rfind('.'));
 }
 
 // The values at the extremes of a table, added up: sections.py must come to the same sum.
-double SumOfExtremes(const CPier& pier, CPier::MemberFamily family, const CRecordTable& table) {
+double SumOfExtremes(const CPier& pier, ForceRows& rows, MemberFamily family, const CRecordTable& table) {
     double sum = 0.0;
     for (int section = 0; section < table.Sections(); ++section) {
         for (int slot = 0; slot < table.Slots(); ++slot) {
@@ -66,25 +48,30 @@ double SumOfExtremes(const CPier& pier, CPier::MemberFamily family, const CRecor
                 const int element = pier.FindElement(family, record.m_nMember, record.m_nElement);
                 if (record.m_nLoadCase < 0 || element < 0) continue;
                 const int component = table.Extremes() == 1 ? static_cast<int>(kDemandCapacity) : extreme / 2;
-                sum += GetForce(pier.Forces(record.m_nLoadCase, element), record.m_nEnd, component);
+                sum += GetForce(rows.At(record.m_nLoadCase, element), record.m_nEnd, component);
             }
         }
     }
     return sum;
 }
 
-void RunCollect(const char* project) {
-    const double load = Load(project);
-    const auto begin = Clock::now();
-    Collect();
+void RunCollect(const char* path) {
+    auto begin = Clock::now();
+    MeasuredProject project(BaseOf(path));
+    const double load = SecondsSince(begin);
+    begin = Clock::now();
+    project.CollectAll();
     const double collect = SecondsSince(begin);
     double sum = 0.0;
-    for (const CPier& pier : g_DataSet.m_Piers) {
-        sum += SumOfExtremes(pier, CPier::kPileFamily, pier.m_PileDc) +
-               SumOfExtremes(pier, CPier::kPileFamily, pier.m_PileForces) +
-               SumOfExtremes(pier, CPier::kColumnFamily, pier.m_ColumnDc) +
-               SumOfExtremes(pier, CPier::kColumnFamily, pier.m_ColumnForces) +
-               SumOfExtremes(pier, CPier::kXMemberFamily, pier.m_XMemberForces);
+    for (std::size_t p = 0; p < project.Data().m_Piers.size(); ++p) {
+        const CPier& pier = project.Data().m_Piers[p];
+        const PierResults& results = project.Results().piers[p];
+        const std::unique_ptr<ForceRows> rows = project.Forces()[p]->OpenRows();
+        sum += SumOfExtremes(pier, *rows, kPileFamily, results.pileDc) +
+               SumOfExtremes(pier, *rows, kPileFamily, results.pileForces) +
+               SumOfExtremes(pier, *rows, kColumnFamily, results.columnDc) +
+               SumOfExtremes(pier, *rows, kColumnFamily, results.columnForces) +
+               SumOfExtremes(pier, *rows, kXMemberFamily, results.extraMemberForces);
     }
     std::printf("load %.6f\ncollect %.6f\nseconds %.6f\nextremes %.6f\n", load, collect, load + collect, sum);
 }
@@ -96,10 +83,11 @@ void PrintRecords(const char* family, int section, const std::vector<int>& recor
 }
 
 // For projects of one substructure whose element numbers have no gaps, as the benchmark's are.
-void RunPlan(const char* project) {
-    Load(project);
-    const CPier& pier = g_DataSet.FirstPier();
-    std::printf("block %d\nslots %d\ncombinations %d\n", g_DataSet.m_nPileElements + g_DataSet.m_nElements,
+void RunPlan(const char* path) {
+    const MeasuredProject project(BaseOf(path));
+    const CDataSet& data = project.Data();
+    const CPier& pier = data.FirstPier();
+    std::printf("block %d\nslots %d\ncombinations %d\n", data.m_nPileElements + data.m_nElements,
                 pier.SlotCount(), pier.m_bCombinations ? 1 : 0);
     std::printf("classes");
     for (const CLoadCase& loadCase : pier.m_LoadCases) std::printf(" %d", loadCase.m_nLimitClass);
@@ -120,23 +108,24 @@ void RunPlan(const char* project) {
             for (int e = 0; e <= pier.m_nColumnNodes; ++e) {
                 const CElement& element = pier.Element(pier.ColumnElement(column, e));
                 if (element.m_nSection != section) continue;
-                records.push_back(g_DataSet.m_nPileElements + element.m_nElementNumber - 1);
+                records.push_back(data.m_nPileElements + element.m_nElementNumber - 1);
             }
         }
         PrintRecords("column", section, records);
     }
 }
 
-void RunSheet(const char* project, const char* file) {
-    Load(project);
+void RunSheet(const char* path, const char* file) {
+    const MeasuredProject project(BaseOf(path));
+    RowReader reader(project.Forces());
     const auto begin = Clock::now();
     StoredStream out(file);
-    CWriteData().WritePileHeadForcesSheet(out, false);
+    WriteTableSheet(project.MakeReport(reader), kTablePileHeads, out, false);
     out.Close();
     const double seconds = SecondsSince(begin);
     if (out.Failed()) throw std::runtime_error("the sheet could not be written");
     long long rows = 0;
-    for (const CPier& pier : g_DataSet.m_Piers) {
+    for (const CPier& pier : project.Data().m_Piers) {
         rows += static_cast<long long>(pier.m_Piles.size()) * pier.m_nLoadCases;
     }
     constexpr int kCellsOfARow = 12;  // the empty one in front left out
@@ -149,7 +138,7 @@ void RunPdf(long lines, const char* file) {
     StoredStream out(file);
     CPdfWriter pdf(true);
     pdf.WriteHeader(out);
-    CPdfSink sink(out, pdf, false);
+    CPdfSink sink(out, pdf, "", false);
     for (long line = 0; line < lines; ++line) sink.Row(ready[static_cast<std::size_t>(line) % ready.size()]);
     sink.EndTable();
     pdf.Finish(out);
@@ -204,7 +193,6 @@ void RunTouch(std::size_t bytes) {
     constexpr std::size_t kPage = 4096;
     const std::unique_ptr<char, void (*)(void*)> memory(static_cast<char*>(std::calloc(bytes, 1)), std::free);
     if (memory == nullptr) throw std::bad_alloc();
-    services::PreferLargePages(memory.get(), bytes);
     volatile char* const to = memory.get();
     for (std::size_t at = 0; at < bytes; at += kPage) to[at] = 1;
 }

@@ -13,6 +13,10 @@ if(LUMERIN_SANITIZE)
     target_link_options(lumerin-warnings INTERFACE -fsanitize=address,undefined)
     add_compile_definitions(_GLIBCXX_ASSERTIONS)
 endif()
+if(LUMERIN_THREADS)
+    target_compile_options(lumerin-warnings INTERFACE -fsanitize=thread -fno-omit-frame-pointer)
+    target_link_options(lumerin-warnings INTERFACE -fsanitize=thread)
+endif()
 if(LUMERIN_FUZZ)
     # The warnings are GCC's to judge; clang is here for its fuzzer alone.
     target_compile_options(lumerin-warnings INTERFACE -Wno-error -fsanitize=fuzzer-no-link,address,undefined

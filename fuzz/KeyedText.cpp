@@ -1,27 +1,28 @@
 // The keyed text file, by one of its three readers; the project behind it is loaded once.
 
 #include "fuzz/Playground.h"
-#include "model/DataSet.h"
+#include "results/LoadProject.h"
 #include "results/ReadData.h"
-#include "session/Session.h"
 
 namespace {
 
-bool LoadOnce() {
+struct NoMessages : Messages {
+    void Show(const std::string&) override {}
+};
+
+std::optional<Project> LoadOnce() {
     TheFolder().WriteArchive(SampleArchive("pier"));
-    g_InputFilePath = TheFolder().Base() + ".in";
-    DerivePaths();
-    g_DataSet.Reset();
-    return g_DataSet.LoadProject();
+    NoMessages messages;
+    return LoadProject(TheFolder().Base(), messages);
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const bool loaded = LoadOnce();
-    if (!loaded) return -1;
+    static std::optional<Project> project = LoadOnce();
+    if (!project) return -1;
     TheFolder().Write(".MIS", Text(data, size));
     ifstreamex file(TheFolder().Base() + ".MIS");
-    CReadData().FUZZ_READER(file);
+    FUZZ_READER(file, project->data);
     return 0;
 }

@@ -8,10 +8,10 @@
 #include <fstream>
 #include <ostream>
 
-#include "app/DesignerDlg.h"
-#include "app/Launch.h"
-#include "batch/Script.h"
-#include "batch/ScriptDriver.h"
+#include "cli/ScriptDriver.h"
+#include "script/Script.h"
+#include "session/DesignerDlg.h"
+#include "session/Launch.h"
 
 namespace fs = std::filesystem;
 

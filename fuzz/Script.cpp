@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <random>
 
-#include "batch/Script.h"
 #include "fuzz/Playground.h"
+#include "script/Script.h"
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
 

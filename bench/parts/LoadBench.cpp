@@ -1,7 +1,6 @@
 #include <benchmark/benchmark.h>
 
 #include "parts/SampleProject.h"
-#include "results/CollectData.h"
 
 // The load of a project and each collect step, in bytes of the force file a second.
 namespace {
@@ -11,25 +10,24 @@ void SetBytes(benchmark::State& state) {
 }
 
 void Load(benchmark::State& state) {
-    for (auto _ : state) SampleProject::Get().Load();
+    for (auto _ : state) benchmark::DoNotOptimize(SampleProject::Get().Load());
     SetBytes(state);
 }
 BENCHMARK(Load)->Unit(benchmark::kMillisecond);
 
-void CollectStep(benchmark::State& state, void (CCollectData::*step)()) {
-    SampleProject::Get().LoadOnce();
-    CCollectData collect;
-    for (auto _ : state) (collect.*step)();
+void CollectStep(benchmark::State& state, TableId table) {
+    MeasuredProject& project = SampleProject::Loaded();
+    for (auto _ : state) project.Collect(table);
     SetBytes(state);
 }
-BENCHMARK_CAPTURE(CollectStep, MaxAxialForces, &CCollectData::CollectMaxAxialForces);
-BENCHMARK_CAPTURE(CollectStep, PileDemandCapacity, &CCollectData::CollectPileDemandCapacity);
-BENCHMARK_CAPTURE(CollectStep, ColumnDemandCapacity, &CCollectData::CollectColumnDemandCapacity);
-BENCHMARK_CAPTURE(CollectStep, CapShear, &CCollectData::CollectCapShear);
-BENCHMARK_CAPTURE(CollectStep, CapMoment, &CCollectData::CollectCapMoment);
-BENCHMARK_CAPTURE(CollectStep, PileForces, &CCollectData::CollectPileForces);
-BENCHMARK_CAPTURE(CollectStep, ColumnForces, &CCollectData::CollectColumnForces);
-BENCHMARK_CAPTURE(CollectStep, ExtraMemberForces, &CCollectData::CollectExtraMemberForces);
+BENCHMARK_CAPTURE(CollectStep, MaxAxialForces, kTableMaxAxial);
+BENCHMARK_CAPTURE(CollectStep, PileDemandCapacity, kTablePileDc);
+BENCHMARK_CAPTURE(CollectStep, ColumnDemandCapacity, kTableColumnDc);
+BENCHMARK_CAPTURE(CollectStep, CapShear, kTableCapShear);
+BENCHMARK_CAPTURE(CollectStep, CapMoment, kTableCapMoment);
+BENCHMARK_CAPTURE(CollectStep, PileForces, kTablePileForces);
+BENCHMARK_CAPTURE(CollectStep, ColumnForces, kTableColumnForces);
+BENCHMARK_CAPTURE(CollectStep, ExtraMemberForces, kTableExtraMembers);
 
 }  // namespace
 

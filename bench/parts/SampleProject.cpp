@@ -2,13 +2,8 @@
 
 #include <unistd.h>
 
-#include <stdexcept>
-
-#include "model/DataSet.h"
-#include "results/CollectData.h"
 #include "samples/Presets.h"
 #include "samples/Project.h"
-#include "session/Session.h"
 
 SampleProject::SampleProject()
     : m_folder(std::filesystem::temp_directory_path() / ("lumerin-bench-" + std::to_string(getpid()))) {
@@ -18,7 +13,6 @@ SampleProject::SampleProject()
     options.rows = options.columns = 10;
     options.cases = 100;
     samples::WriteProject(m_folder, samples::MakeProject(options));
-    g_InputFilePath = (m_folder / "parts.in").string();
 }
 
 SampleProject::~SampleProject() {
@@ -31,26 +25,17 @@ const SampleProject& SampleProject::Get() {
     return project;
 }
 
-void SampleProject::Load() const {
-    g_DataSet.FreePiers();
-    g_DataSet.Reset();
-    DerivePaths();
-    if (!g_DataSet.LoadProject()) throw std::runtime_error("the project has no results");
-    g_DataSet.SetTableApplicability();
+MeasuredProject SampleProject::Load() const {
+    return MeasuredProject((m_folder / "parts").string());
 }
 
-void SampleProject::LoadOnce() const {
-    if (!g_DataSet.m_Piers.empty()) return;
-    Load();
-    CCollectData collect;
-    collect.CollectMaxAxialForces();
-    collect.CollectPileDemandCapacity();
-    collect.CollectColumnDemandCapacity();
-    collect.CollectCapShear();
-    collect.CollectCapMoment();
-    collect.CollectPileForces();
-    collect.CollectColumnForces();
-    collect.CollectExtraMemberForces();
+MeasuredProject& SampleProject::Loaded() {
+    static MeasuredProject project = [] {
+        MeasuredProject loaded = Get().Load();
+        loaded.CollectAll();
+        return loaded;
+    }();
+    return project;
 }
 
 long long SampleProject::ForceBytes() const {

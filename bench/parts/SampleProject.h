@@ -3,7 +3,9 @@
 #include <filesystem>
 #include <string>
 
-// A project of 8 MB in a folder of its own, made once for all benchmarks and removed behind them.
+#include "MeasuredProject.h"
+
+// A project of 8 MB in a folder of its own, made once for all benchmarks and removed after them.
 class SampleProject {
   public:
     static const SampleProject& Get();
@@ -12,9 +14,9 @@ class SampleProject {
     ~SampleProject();
 
     // Reads the project anew; throws when that fails.
-    void Load() const;
-    // Reads it where it is not held yet, with every table's results.
-    void LoadOnce() const;
+    MeasuredProject Load() const;
+    // The project with every table's results, read on the first call.
+    static MeasuredProject& Loaded();
     std::string OutputFile() const { return (m_folder / "out").string(); }
     long long ForceBytes() const;
 

@@ -1,20 +1,20 @@
 #include <benchmark/benchmark.h>
 
 #include "parts/SampleProject.h"
-#include "tables/WriteData.h"
-#include "writers/PdfWriter.h"
+#include "tables/TableText.h"
+#include "writers/TablePdf.h"
+#include "writers/TableSheets.h"
 
 // Each writer of each table, in bytes of its file a second.
 namespace {
 
 template <class Write>
 void MeasureWriter(benchmark::State& state, Write write) {
-    SampleProject::Get().LoadOnce();
+    const Report report = SampleProject::Loaded().MakeReport();
     std::int64_t bytes = 0;
     for (auto _ : state) {
         StoredStream out(SampleProject::Get().OutputFile());
-        CWriteData writer;
-        write(writer, out);
+        write(report, out);
         bytes += out.Position();
         out.Close();
         if (out.Failed()) state.SkipWithError("the file could not be written");
@@ -22,36 +22,39 @@ void MeasureWriter(benchmark::State& state, Write write) {
     state.SetBytesProcessed(bytes);
 }
 
-void Text(benchmark::State& state, int (CWriteData::*write)(StoredStream&)) {
-    MeasureWriter(state, [write](CWriteData& writer, StoredStream& out) { (writer.*write)(out); });
+void Text(benchmark::State& state, TableId table) {
+    MeasureWriter(state,
+                  [table](const Report& report, StoredStream& out) { WriteTableText(report, table, out); });
 }
 
-void Pdf(benchmark::State& state, int (CWriteData::*write)(StoredStream&, CPdfWriter&)) {
-    MeasureWriter(state, [write](CWriteData& writer, StoredStream& out) {
+void Pdf(benchmark::State& state, TableId table) {
+    MeasureWriter(state, [table](const Report& report, StoredStream& out) {
         CPdfWriter pdf(true);
         pdf.WriteHeader(out);
-        (writer.*write)(out, pdf);
+        WriteTablePdf(report, table, out, pdf);
         pdf.Finish(out);
     });
 }
 
-void Sheet(benchmark::State& state, int (CWriteData::*write)(StoredStream&, bool)) {
-    MeasureWriter(state, [write](CWriteData& writer, StoredStream& out) { (writer.*write)(out, false); });
+void Sheet(benchmark::State& state, TableId table) {
+    MeasureWriter(state, [table](const Report& report, StoredStream& out) {
+        WriteTableSheet(report, table, out, false);
+    });
 }
 
-#define LUMERIN_BENCH_WRITERS(table)                                 \
-    BENCHMARK_CAPTURE(Text, table, &CWriteData::Write##table##Text); \
-    BENCHMARK_CAPTURE(Pdf, table, &CWriteData::Write##table##Pdf);   \
-    BENCHMARK_CAPTURE(Sheet, table, &CWriteData::Write##table##Sheet)
+#define LUMERIN_BENCH_WRITERS(name, table) \
+    BENCHMARK_CAPTURE(Text, name, table);  \
+    BENCHMARK_CAPTURE(Pdf, name, table);   \
+    BENCHMARK_CAPTURE(Sheet, name, table)
 
-LUMERIN_BENCH_WRITERS(MaxAxial);
-LUMERIN_BENCH_WRITERS(PileDc);
-LUMERIN_BENCH_WRITERS(ColumnDc);
-LUMERIN_BENCH_WRITERS(CapShear);
-LUMERIN_BENCH_WRITERS(CapMoment);
-LUMERIN_BENCH_WRITERS(PileForces);
-LUMERIN_BENCH_WRITERS(ColumnForces);
-LUMERIN_BENCH_WRITERS(ExtraMemberForces);
-BENCHMARK_CAPTURE(Sheet, PileHeadForces, &CWriteData::WritePileHeadForcesSheet);
+LUMERIN_BENCH_WRITERS(MaxAxial, kTableMaxAxial);
+LUMERIN_BENCH_WRITERS(PileDc, kTablePileDc);
+LUMERIN_BENCH_WRITERS(ColumnDc, kTableColumnDc);
+LUMERIN_BENCH_WRITERS(CapShear, kTableCapShear);
+LUMERIN_BENCH_WRITERS(CapMoment, kTableCapMoment);
+LUMERIN_BENCH_WRITERS(PileForces, kTablePileForces);
+LUMERIN_BENCH_WRITERS(ColumnForces, kTableColumnForces);
+LUMERIN_BENCH_WRITERS(ExtraMemberForces, kTableExtraMembers);
+BENCHMARK_CAPTURE(Sheet, PileHeadForces, kTablePileHeads);
 
 }  // namespace

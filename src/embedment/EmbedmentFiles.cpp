@@ -4,7 +4,6 @@
 
 #include "framework/Backend.h"
 #include "framework/File.h"
-#include "session/Session.h"
 #include "text/KeyedLine.h"
 
 namespace {
@@ -46,21 +45,20 @@ class InputLines {
 
 }  // namespace
 
-std::string EmbedmentBaseFile() {
-    const std::string& path = g_InputFilePath;
-    const std::size_t point = path.rfind('.');
-    for (std::size_t at = point; at < path.size(); ++at) {
-        if (services::IsFolderSeparator(path[at])) return path + ".PEL";  // the point is a folder's
+std::string EmbedmentBaseFile(const std::string& inputFile) {
+    const std::size_t point = inputFile.rfind('.');
+    for (std::size_t at = point; at < inputFile.size(); ++at) {
+        if (services::IsFolderSeparator(inputFile[at])) return inputFile + ".PEL";  // the point is a folder's
     }
-    return path.substr(0, point) + ".PEL";
+    return inputFile.substr(0, point) + ".PEL";
 }
 
-bool HasEmbedmentFile() {
-    return !g_InputFilePath.empty() && !FindFileAnyCase(EmbedmentBaseFile()).empty();
+bool HasEmbedmentFile(const std::string& inputFile) {
+    return !inputFile.empty() && !FindFileAnyCase(EmbedmentBaseFile(inputFile)).empty();
 }
 
-bool IsEmbedmentRequested() {
-    InputLines lines(FindFileAnyCase(g_InputFilePath));
+bool IsEmbedmentRequested(const std::string& inputFile) {
+    InputLines lines(FindFileAnyCase(inputFile));
     if (!lines.IsOpen()) return false;
     do {
         if (!lines.Next()) return false;

@@ -4,10 +4,9 @@
 
 #include "framework/Backend.h"
 #include "framework/File.h"
-#include "session/Session.h"
 #include "text/Format.h"
 #include "text/KeyedLine.h"
-#include "writers/PdfExport.h"
+#include "text/Paths.h"
 
 namespace {
 
@@ -40,9 +39,10 @@ void RequireCount(const std::string& path, const char* what, int count, int most
 
 }  // namespace
 
-CEmbedmentResults::CEmbedmentResults() {
+CEmbedmentResults::CEmbedmentResults(const std::string& inputFile, Messages& messages)
+    : m_inputFile(inputFile), m_messages(messages) {
     ReadGlobalData();
-    const std::string path = EmbedmentBaseFile();
+    const std::string path = EmbedmentBaseFile(m_inputFile);
     RequireCount(path, "embedment trials", m_nTrials, kMostTrials);
     RequireCount(path, "load cases", m_nCases, kMostCases);
     m_nTableCases = m_nCases;
@@ -54,9 +54,9 @@ CEmbedmentResults::CEmbedmentResults() {
 }
 
 bool CEmbedmentResults::ReadGlobalData() {
-    ifstreamex file(EmbedmentBaseFile());
+    ifstreamex file(EmbedmentBaseFile(m_inputFile));
     if (!file.is_open()) {
-        AfxMessageBox("Error opening the base PEL results file.");
+        m_messages.Show("Error opening the base PEL results file.");
         return false;
     }
     std::string line;
@@ -68,14 +68,14 @@ bool CEmbedmentResults::ReadGlobalData() {
         m_nCases = header[kCasePlace];
         return true;
     }
-    AfxMessageBox("Error reading PEL global data.");
+    m_messages.Show("Error reading PEL global data.");
     return false;
 }
 
 std::string CEmbedmentResults::TrialPath(int trial) const {
-    if (trial == 0) return EmbedmentBaseFile();
-    const std::string folder = FolderOf(g_InputFilePath);
-    std::string name = g_InputFilePath.substr(folder.size());
+    if (trial == 0) return EmbedmentBaseFile(m_inputFile);
+    const std::string folder = FolderOf(m_inputFile);
+    std::string name = m_inputFile.substr(folder.size());
     const std::size_t point = name.rfind('.');
     if (point != std::string::npos) name.erase(point);
     const std::string mark = "MPTE" + FormatInt(trial + 1);
@@ -102,7 +102,7 @@ bool CEmbedmentResults::IsTrialFileComplete(const std::string& path) {
 void CEmbedmentResults::ReadTrialFile(const std::string& path, int trial) {
     ifstreamex file(path);
     if (!file.is_open()) {
-        AfxMessageBox("Error opening the PEL results file.");
+        m_messages.Show("Error opening the PEL results file.");
         return;
     }
     if (!IsTrial(trial)) return;

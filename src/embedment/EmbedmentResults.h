@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "embedment/EmbedmentFiles.h"
+#include "text/Messages.h"
 
 // The five results of a load case in a trial of the embedment study, by their place in its file.
 enum EmbedmentQuantity {
@@ -22,9 +23,9 @@ enum EmbedmentQuantity {
 // file gave are 0, whatever trial or case is asked for.
 class CEmbedmentResults {
   public:
-    // Reads the counts of the base file; without it the table is empty. Throws CFileException for counts that
-    // no study has.
-    CEmbedmentResults();
+    // Reads the counts of the base file beside the project's input file; without it the table is empty. Both
+    // stay the caller's, for the life of the object. Throws CFileException for counts that no study has.
+    CEmbedmentResults(const std::string& inputFile, Messages& messages);
 
     bool ReadGlobalData();  // false: the message was shown and the counts stay
     void LoadTrials();
@@ -62,6 +63,8 @@ class CEmbedmentResults {
     bool IsTrial(int trial) const { return trial >= 0 && trial < m_nTrials; }
     std::string TrialPath(int trial) const;
 
+    const std::string& m_inputFile;
+    Messages& m_messages;
     int m_nCases = 0;
     int m_nTrials = 0;
     int m_nSubstructure = 1;

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "framework/headless/GraphPeer.h"
+#include "framework/Automation.h"
 
 // The calls of a drawing as one text, one line a call, so that they can cross from the module to a program
 // that was linked on its own. Line feeds in texts are lost; the plot's texts have none.

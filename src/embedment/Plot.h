@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "embedment/PlotCanvas.h"
-#include "framework/headless/GraphPeer.h"
+#include "framework/Automation.h"
 
 // The members of the graph control that the dialog uses, by dispatch id.
 enum GraphMember {

@@ -2,17 +2,9 @@
 
 #include <algorithm>
 
-#include "envelopes/CapChain.h"
+#include "model/CapChain.h"
 
 namespace {
-
-// A face or centreline with the two sides that are compared there.
-struct CapSection {
-    bool atNode = false;
-    int node = -1;
-    CapSide left, right;
-    bool oneSided = false;  // both sides are the same element, end and fraction
-};
 
 double SectionX(const CPier& pier, const CapForm& form, int support, int kind) {
     const double x = pier.GetSupportX(support);
@@ -21,39 +13,59 @@ double SectionX(const CPier& pier, const CapForm& form, int support, int kind) {
     return kind == form.RightFace() ? x + half : x;
 }
 
-CapSection CenterlineSection(const CPier& pier, const CapForm& form, int support, int kind) {
+CapSection CenterlineSection(const PierInput& input, const CapForm& form, CSupportLocation location,
+                             double x) {
+    const int support = location.m_nSupport, kind = location.m_nKind;
     int leftEnd = kEndJ, rightEnd = kEndI;
     if (form.splitCenterline) leftEnd = rightEnd = kind == 1 ? kEndJ : kEndI;
-    CapSection section{true, pier.GetSupportNode(support), CapSide(pier, CapSide::kAtNode, leftEnd),
-                       CapSide(pier, CapSide::kAtNode, rightEnd), form.splitCenterline};
+    CapSection section{location,
+                       x,
+                       true,
+                       input.pier.GetSupportNode(support),
+                       CapSide(input, CapSide::kAtNode, leftEnd),
+                       CapSide(input, CapSide::kAtNode, rightEnd),
+                       form.splitCenterline};
     section.left.FindAtNode(section.node);
     section.right.FindAtNode(section.node);
     return section;
 }
 
-CapSection FaceSection(const CPier& pier, const CapForm& form, int support, int kind, double x) {
+CapSection FaceSection(const PierInput& input, const CapForm& form, CSupportLocation location, double x) {
+    const CPier& pier = input.pier;
     const int point = FindCapPoint(pier, x);
     if (point >= 0) {
-        CapSection section{true, pier.m_CapPointNode[static_cast<std::size_t>(point)],
-                           CapSide(pier, CapSide::kAtNode, kEndJ), CapSide(pier, CapSide::kAtNode, kEndI),
+        CapSection section{location,
+                           x,
+                           true,
+                           pier.m_CapPointNode[static_cast<std::size_t>(point)],
+                           CapSide(input, CapSide::kAtNode, kEndJ),
+                           CapSide(input, CapSide::kAtNode, kEndI),
                            false};
         section.left.FindAtNode(section.node);
         section.right.FindAtNode(section.node);
         return section;
     }
-    CapSection section{false, -1, CapSide(pier, CapSide::kInside, kEndJ),
-                       CapSide(pier, CapSide::kInside, kEndI), false};
+    CapSection section{location,
+                       x,
+                       false,
+                       -1,
+                       CapSide(input, CapSide::kInside, kEndJ),
+                       CapSide(input, CapSide::kInside, kEndI),
+                       false};
     CCapPlace place;
-    if (!pier.LocateOnCap(support + 1, kind, x, form.locateMode, place)) return section;
+    if (!pier.LocateOnCap(location.m_nSupport + 1, location.m_nKind, x, form.locateMode, place))
+        return section;
     section.left.SetPlace(place);
     section.right.SetPlace(place);
     section.oneSided = section.left.HasInnerFraction();
     return section;
 }
 
-CapSection FindSection(const CPier& pier, const CapForm& form, int support, int kind, double x) {
-    if (kind == 0 || kind == form.RightFace()) return FaceSection(pier, form, support, kind, x);
-    return CenterlineSection(pier, form, support, kind);
+CapSection FindSection(const PierInput& input, const CapForm& form, CSupportLocation location) {
+    const double x = SectionX(input.pier, form, location.m_nSupport, location.m_nKind);
+    if (location.m_nKind == 0 || location.m_nKind == form.RightFace())
+        return FaceSection(input, form, location, x);
+    return CenterlineSection(input, form, location, x);
 }
 
 // PROP, ELEM and NODE come from the chosen element; a place that is no element leaves those words.
@@ -73,40 +85,12 @@ void StoreElement(const CPier& pier, const CapSection& section, const CapSide& s
     }
 }
 
-void StoreResult(const CPier& pier, const CapForm& form, CapSection& section, int slot, int sense,
-                 CCapEntry& entry) {
-    const CapSideResult atLeft = section.left.Search(form.component, form.tieBreak, slot, sense);
-    const CapSideResult atRight =
-        section.oneSided ? atLeft : section.right.Search(form.component, form.tieBreak, slot, sense);
-    CapChoice choice = CapChoice::left;
-    if (section.oneSided) {
-        if (atLeft.status != 0) choice = CapChoice::none;
-    } else {
-        choice = ChooseSide(form, sense, section.left, atLeft, section.right, atRight);
-    }
-    if (choice == CapChoice::none) {
-        StoreNoResult(entry.record);
-        return;
-    }
-    const CapSide& side = choice == CapChoice::left ? section.left : section.right;
-    const int loadCase = choice == CapChoice::left ? atLeft.loadCase : atRight.loadCase;
-    StorePlace(entry.record, side.Place(), loadCase);
-    entry.record.m_nMissing = 0;
-    StoreElement(pier, section, side, entry.record);
-    StoreValues(side, loadCase, entry.values);
-}
-
 }  // namespace
 
-bool HasCapSections(const CPier& pier) {
-    return HasCapTables(pier) || pier.m_nStructureType == kTypeMast;
-}
-
-CapChoice ChooseSide(const CapForm& form, int sense, const CapSide& left, const CapSideResult& atLeft,
-                     const CapSide& right, const CapSideResult& atRight) {
-    if (atLeft.status == 0 && atRight.status == 0) return form.choose(sense, left, atLeft, right, atRight);
-    if (atLeft.status == 0) return CapChoice::left;
-    return atRight.status == 0 ? CapChoice::right : CapChoice::none;
+CapChoice ChooseSide(const CapForm& form, int sense, const CapSideResult& left, const CapSideResult& right) {
+    if (left.status == 0 && right.status == 0) return form.choose(sense, left, right);
+    if (left.status == 0) return CapChoice::left;
+    return right.status == 0 ? CapChoice::right : CapChoice::none;
 }
 
 void StoreNoElement(CCapRecord& record) {
@@ -125,36 +109,82 @@ void StorePlace(CCapRecord& record, const CCapPlace& place, int loadCase) {
     record.m_nElement = place.m_nElement;
 }
 
-void StoreValues(const CapSide& side, int loadCase, CapValues& values) {
-    if (loadCase < 0) return;
-    for (int component = 0; component < kComponents; ++component) {
-        values[static_cast<std::size_t>(component)] = side.Value(loadCase, component);
+void StoreValues(const CapSideResult& result, CapValues& values) {
+    if (result.loadCase >= 0) values = result.values;
+}
+
+CapSupportSearch::CapSupportSearch(const PierInput& input, const CapForm& form)
+    : m_input(input), m_form(form), m_places(input) {
+    const int supports = HasCapTables(input.pier) ? CapSupportCount(input.pier) : 0;
+    for (int support = 0; support < supports; ++support) {
+        for (int kind = 0; kind < form.kinds; ++kind) {
+            const bool exists = form.splitCenterline ? input.pier.IsShearSection(support, kind)
+                                                     : input.pier.IsMomentSection(support, kind);
+            if (!exists) continue;
+            CapSection& section = m_sections.emplace_back(FindSection(input, form, {support, kind}));
+            section.left.AddPlaces(form.component, m_places);
+            if (!section.oneSided) section.right.AddPlaces(form.component, m_places);
+        }
     }
 }
 
-void ComputeCapAtSupports(const CPier& pier, const CapForm& form, CapSupportTables tables) {
+void CapSupportSearch::StoreResult(CapSection& section, int slot, int sense, CCapEntry& entry) const {
+    const CapSideResult left = section.left.Result(m_form.component, m_places, slot, sense);
+    const CapSideResult right =
+        section.oneSided ? left : section.right.Result(m_form.component, m_places, slot, sense);
+    CapChoice choice = CapChoice::left;
+    if (section.oneSided) {
+        if (left.status != 0) choice = CapChoice::none;
+    } else {
+        choice = ChooseSide(m_form, sense, left, right);
+    }
+    if (choice == CapChoice::none) {
+        StoreNoResult(entry.record);
+        return;
+    }
+    const CapSide& side = choice == CapChoice::left ? section.left : section.right;
+    const CapSideResult& result = choice == CapChoice::left ? left : right;
+    StorePlace(entry.record, side.Place(), result.loadCase);
+    entry.record.m_nMissing = 0;
+    StoreElement(m_input.pier, section, side, entry.record);
+    StoreValues(result, entry.values);
+}
+
+void CapSupportSearch::Finish(CapSupportTables tables) const {
     std::size_t next = 0;
-    const int supports = std::min(CapSupportCount(pier), tables.table.Positions());
-    const int slots = tables.table.Slots();
-    for (int support = 0; support < supports; ++support) {
-        for (int kind = 0; kind < form.kinds; ++kind) {
-            const bool exists = form.splitCenterline ? pier.IsShearSection(support, kind)
-                                                     : pier.IsMomentSection(support, kind);
-            if (!exists) continue;
-            const double x = SectionX(pier, form, support, kind);
-            // The list can be shorter than the sections that exist; the results are found all the same.
-            if (next < tables.list.size()) {
-                tables.x[next] = x;
-                tables.list[next] = {support, kind};
-                ++next;
-            }
-            CapSection section = FindSection(pier, form, support, kind, x);
-            for (int sense = kMaximum; sense <= kMinimum; ++sense) {
-                for (int slot = 0; slot < slots; ++slot) {
-                    StoreResult(pier, form, section, slot, sense,
-                                tables.table.At(support, slot, kind, sense));
-                }
+    for (CapSection section : m_sections) {
+        const CSupportLocation& location = section.location;
+        if (location.m_nSupport >= tables.table.Positions()) break;
+        // The list can be shorter than the sections that exist; the results are found all the same.
+        if (next < tables.list.size()) {
+            tables.x[next] = section.x;
+            tables.list[next] = location;
+            ++next;
+        }
+        for (int sense = kMaximum; sense <= kMinimum; ++sense) {
+            for (int slot = 0; slot < tables.table.Slots(); ++slot) {
+                StoreResult(section, slot, sense,
+                            tables.table.At(location.m_nSupport, slot, location.m_nKind, sense));
             }
         }
+    }
+}
+
+CapBearingSearch::CapBearingSearch(const PierInput& input, const CapForm& form)
+    : m_form(form), m_places(input) {
+    if (!HasCapTables(input.pier)) return;
+    int row = 0;
+    for (const CBearingRow& bearings : input.pier.m_BearingRows) {
+        int position = 0;
+        for (const CBearing& bearing : bearings.m_Bearings) {
+            CapBearing& added = m_bearings.emplace_back(
+                CapBearing{position++, row, CapSide(input, CapSide::kAtBearing, kEndJ),
+                           CapSide(input, CapSide::kAtBearing, kEndI)});
+            for (CapSide* side : {&added.left, &added.right}) {
+                side->FindAtNode(bearing.m_nNode);
+                side->AddPlaces(form.component, m_places);
+            }
+        }
+        ++row;
     }
 }

@@ -2,8 +2,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "model/Pier.h"
-#include "session/Constants.h"
+#include "envelopes/TableSearch.h"
 
 namespace {
 
@@ -16,48 +15,57 @@ std::size_t SearchedSlots(const CPier& pier) {
 // The greatest tension and compression of every pile head in one slot. Both start at zero with strict
 // comparisons: a head that is never in tension has no load case of greatest tension.
 struct HeadExtremes {
-    explicit HeadExtremes(std::size_t piles) : tension(piles, 0.0F), compression(piles, 0.0F) {}
+    explicit HeadExtremes(std::size_t piles)
+        : tension(piles, 0.0F),
+          compression(piles, 0.0F),
+          tensionCase(piles, -1),
+          compressionCase(piles, -1) {}
     std::vector<float> tension, compression;
+    std::vector<int> tensionCase, compressionCase;
 };
 
-void ResetSlots(std::vector<std::vector<int>>& table, std::size_t slots) {
-    for (std::size_t slot = 0; slot < slots; ++slot) std::ranges::fill(table[slot], -1);
-}
+class PileHeadSearch : public TableSearch {
+  public:
+    PileHeadSearch(const PierInput& input, const PierResults& results)
+        : m_input(input),
+          m_slots(
+              std::min({SearchedSlots(input.pier), results.maxTension.size(), results.maxCompression.size()}),
+              HeadExtremes(input.pier.m_Piles.size())) {}
 
-}  // namespace
-
-void CPier::ComputeMaxAxialForces() {
-    const std::size_t slots =
-        std::min({SearchedSlots(*this), m_ppMaxTension.size(), m_ppMaxCompression.size()});
-    ResetSlots(m_ppMaxTension, slots);
-    ResetSlots(m_ppMaxCompression, slots);
-    std::vector<HeadExtremes> best(slots, HeadExtremes(m_Piles.size()));
-    const int cases = std::min(
-        {m_nLoadCases, static_cast<int>(m_LoadCases.size()), static_cast<int>(m_CaseSelected.size())});
-    for (int loadCase = 0; loadCase < cases; ++loadCase) {
-        if (!IsCaseSelected(loadCase)) continue;
-        const int limitClass = m_LoadCases[static_cast<std::size_t>(loadCase)].m_nLimitClass;
-        const std::size_t slot = m_bCombinations ? static_cast<std::size_t>(limitClass) : 0;
-        if (slot >= slots) continue;  // a class below 0 is far above every slot, too
-        std::vector<int>& tension = m_ppMaxTension[slot];
-        std::vector<int>& compression = m_ppMaxCompression[slot];
-        const std::size_t piles = std::min({m_Piles.size(), tension.size(), compression.size()});
-        for (std::size_t pile = 0; pile < piles; ++pile) {
-            if (m_Piles[pile].m_nElements < 1) continue;
-            const float axial = Forces(loadCase, m_Piles[pile].m_nFirstElement)[kEndJ * kComponents + kAxial];
-            if (axial > best[slot].tension[pile]) {
-                best[slot].tension[pile] = axial;
-                tension[pile] = loadCase;
+    void Take(int loadCase, CaseForces forces) override {
+        if (!m_input.selection.IsCaseSelected(loadCase)) return;
+        const std::size_t slot = static_cast<std::size_t>(m_input.pier.SlotOf(loadCase));
+        if (slot >= m_slots.size()) return;  // a class below 0 is far above every slot, too
+        HeadExtremes& best = m_slots[slot];
+        for (std::size_t pile = 0; pile < best.tension.size(); ++pile) {
+            const CPile& member = m_input.pier.m_Piles[pile];
+            if (member.m_nElements < 1) continue;
+            const float axial = ForcesOf(forces, member.m_nFirstElement)[kEndJ * kComponents + kAxial];
+            if (axial > best.tension[pile]) {
+                best.tension[pile] = axial;
+                best.tensionCase[pile] = loadCase;
             }
-            if (axial < best[slot].compression[pile]) {
-                best[slot].compression[pile] = axial;
-                compression[pile] = loadCase;
+            if (axial < best.compression[pile]) {
+                best.compression[pile] = axial;
+                best.compressionCase[pile] = loadCase;
             }
         }
     }
-}
 
-// The table shows the D/C ratio and the axial force of the heads; both were tested while they were read.
-bool CPier::CheckMaxAxialData() const {
-    return m_bPileHeadsFinite;
+    void Finish(PierResults& results) const override {
+        for (std::size_t slot = 0; slot < m_slots.size(); ++slot) {
+            results.maxTension[slot] = m_slots[slot].tensionCase;
+            results.maxCompression[slot] = m_slots[slot].compressionCase;
+        }
+    }
+
+  private:
+    PierInput m_input;
+    std::vector<HeadExtremes> m_slots;
+};
+
+}  // namespace
+
+std::unique_ptr<TableSearch> BeginPileHeadSearch(const PierInput& input, const PierResults& results) {
+    return std::make_unique<PileHeadSearch>(input, results);
 }

@@ -18,75 +18,6 @@ bool Beats(float value, float best, bool greatest) {
     return greatest ? value > best : value < best;
 }
 
-CMaxRecord MakeRecord(const CPier& pier, const CSectionWalk& walk, const FoundEnd& found) {
-    if (found.m_nLoadCase < 0) return kNotFoundRecord;
-    const ElementPlace& place = walk.Place(found.m_nPlace);
-    const CElement& element = pier.Element(place.m_nListElement);
-    return {found.m_nLoadCase,        place.m_nMember, place.m_nElement,
-            element.m_nElementNumber, found.m_nEnd,    element.Node(found.m_nEnd)};
-}
-
-// The searches of a table by section and slot. Without combinations all slots hold the same, so one does.
-template <class Search>
-class SearchTable {
-  public:
-    SearchTable(const CPier& pier, const CRecordTable& table)
-        : m_pier(pier),
-          m_nSlots(pier.m_bCombinations ? table.Slots() : std::min(table.Slots(), 1)),
-          m_searches(static_cast<std::size_t>(table.Sections()) * static_cast<std::size_t>(m_nSlots)) {}
-
-    void Run(const CSectionWalk& walk) {
-        if (walk.Runs().empty()) return;
-        const int cases = std::min({m_pier.m_nLoadCases, static_cast<int>(m_pier.m_LoadCases.size()),
-                                    static_cast<int>(m_pier.m_CaseSelected.size())});
-        for (int loadCase = 0; loadCase < cases; ++loadCase) {
-            const int slot = SlotOf(loadCase);
-            if (slot >= 0 && slot < m_nSlots) RunCase(walk, loadCase, slot);
-        }
-    }
-
-    void Store(const CSectionWalk& walk, CRecordTable& table) const {
-        for (int section = 0; section < table.Sections(); ++section) {
-            for (int slot = 0; slot < table.Slots(); ++slot) {
-                const Search& search = m_searches[Index(section, std::min(slot, m_nSlots - 1))];
-                for (int extreme = 0; extreme < Search::kExtremeCount; ++extreme) {
-                    table.At(section, slot, extreme) = MakeRecord(m_pier, walk, search.Found(extreme));
-                }
-            }
-        }
-    }
-
-  private:
-    int SlotOf(int loadCase) const {
-        if (!m_pier.IsCaseSelected(loadCase)) return -1;
-        if (!m_pier.m_bCombinations) return 0;
-        return m_pier.m_LoadCases[static_cast<std::size_t>(loadCase)].m_nLimitClass;
-    }
-    std::size_t Index(int section, int slot) const {
-        return static_cast<std::size_t>(section) * static_cast<std::size_t>(m_nSlots) +
-               static_cast<std::size_t>(slot);
-    }
-    void RunCase(const CSectionWalk& walk, int loadCase, int slot) {
-        const float* forces = m_pier.Forces(loadCase, 0).data();
-        for (const SectionRun& run : walk.Runs()) {
-            m_searches[Index(run.m_nEntry, slot)].Examine(
-                forces + static_cast<std::size_t>(run.m_nFirstElement) * kForcesPerElement, run.m_nElements,
-                loadCase, run.m_nFirstPlace);
-        }
-    }
-
-    const CPier& m_pier;
-    int m_nSlots;
-    std::vector<Search> m_searches;
-};
-
-template <class Search>
-void Fill(const CPier& pier, const CSectionWalk& walk, CRecordTable& table) {
-    SearchTable<Search> searches(pier, table);
-    searches.Run(walk);
-    searches.Store(walk, table);
-}
-
 }  // namespace
 
 void CDcSearch::Examine(const float* forces, int elements, int loadCase, int firstPlace) {
@@ -168,10 +99,4 @@ void CForceSearch::Take(int extreme, float value) {
     for (std::size_t at = static_cast<std::size_t>(extreme / 2); at < kPair; at += kComponents) {
         limits[at] = value;
     }
-}
-
-void FillSectionTable(const CPier& pier, const CSectionWalk& walk, CRecordTable& table) {
-    if (table.Slots() < 1) return;
-    if (table.Extremes() == kExtremes) Fill<CForceSearch>(pier, walk, table);
-    if (table.Extremes() == 1) Fill<CDcSearch>(pier, walk, table);
 }

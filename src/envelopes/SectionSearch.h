@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "envelopes/Records.h"
 #include "model/Pier.h"
 
 // The search for the extremes of cross sections: one pass over the elements of the selected cases serves all
@@ -30,7 +31,7 @@ struct ElementPlace {
 class CSectionWalk {
   public:
     // `firstSection` is the section number of entry 0.
-    CSectionWalk(const CPier& pier, CPier::MemberFamily family, int firstSection, int entries);
+    CSectionWalk(const CPier& pier, MemberFamily family, int firstSection, int entries);
 
     const std::vector<SectionRun>& Runs() const { return m_runs; }
     const ElementPlace& Place(int place) const { return m_places[static_cast<std::size_t>(place)]; }
@@ -91,6 +92,3 @@ class CForceSearch {
     std::array<float, kPair> m_greatest{}, m_least{};
     std::array<FoundEnd, kExtremes> m_found{};
 };
-
-// Fills the table from the walk's elements in the cases that take part, for all its sections and slots.
-void FillSectionTable(const CPier& pier, const CSectionWalk& walk, CRecordTable& table);

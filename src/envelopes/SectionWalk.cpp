@@ -2,11 +2,11 @@
 
 #include "envelopes/SectionSearch.h"
 
-CSectionWalk::CSectionWalk(const CPier& pier, CPier::MemberFamily family, int firstSection, int entries)
+CSectionWalk::CSectionWalk(const CPier& pier, MemberFamily family, int firstSection, int entries)
     : m_nFirstSection(firstSection), m_nEntries(entries) {
-    if (family == CPier::kPileFamily) AddPiles(pier);
-    if (family == CPier::kColumnFamily) AddColumns(pier);
-    if (family == CPier::kXMemberFamily) AddExtraMembers(pier);
+    if (family == kPileFamily) AddPiles(pier);
+    if (family == kColumnFamily) AddColumns(pier);
+    if (family == kXMemberFamily) AddExtraMembers(pier);
 }
 
 void CSectionWalk::AddPiles(const CPier& pier) {

@@ -24,8 +24,8 @@ struct LocalTime {
 
 namespace backend {
 
-// Around one call of the export, on its thread. The platform's state that belongs to the host is as the module
-// needs it between the two, and as it was behind them.
+// Around one call of the export, on its thread. The platform's state that belongs to the host is as the
+// module needs it between the two, and as it was behind them.
 void EnterCall() noexcept;
 void LeaveCall() noexcept;
 
@@ -114,10 +114,6 @@ bool PathsAreUtf8();
 // Whether `c` separates folders on this platform, and the separator that it writes itself.
 bool IsFolderSeparator(char c);
 char FolderSeparator();
-
-// Tells the system that a big piece of memory will be filled, so that it may back it with large pages: taking
-// gigabytes four kilobytes at a time costs more than reading the files that fill them. Advice alone.
-void PreferLargePages(void* memory, std::size_t bytes);
 
 }  // namespace services
 

@@ -3,8 +3,8 @@
 #include <span>
 
 // A dialog's controls are written once, in a list of lines such as
-//     PUSH_BUTTON(1004, "Max Axial Forces at Pile Heads", 204, 78, 170, 14)
-// (src/app/dialogs/*.inc). The Windows resource script and the tables of the headless backend both include
+//     PUSH_BUTTON(IDC_MAX_AXIAL, "Max Axial Forces at Pile Heads", 204, 78, 170, 14)
+// (session/dialogs/*.inc). The Windows resource script and the tables of the headless backend both include
 // the same list, each with its own meaning of the macros; this is the table's meaning.
 
 enum class ControlKind { group, radio, check, button, text, edit, combo, spin, grid, graph };

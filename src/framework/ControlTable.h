@@ -1,7 +1,7 @@
 // The meaning of the control list macros as rows of ControlSpec. Included before a list in a .cpp file:
 //     const ControlSpec kControls[] = {
 //     #include "framework/ControlTable.h"
-//     #include "app/dialogs/ReportDialog.inc"
+//     #include "session/dialogs/ReportDialog.inc"
 //     };
 // No include guard: each list wants the macros.
 #define NO_ID kNoId

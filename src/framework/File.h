@@ -27,6 +27,17 @@ class CFileException : public std::exception {
 std::string FindFileAnyCase(const std::string& path);
 bool IsFolder(const std::string& path);
 
+// What tells a file from another one, or from what it was before, without reading it.
+struct FileStamp {
+    std::int64_t length = -1;   // -1: there is no such file
+    std::int64_t modified = 0;  // in ticks of the platform
+    std::uint64_t volume = 0, index = 0;
+
+    bool operator==(const FileStamp&) const = default;
+};
+// The stamp of the file at the path, found whatever the case of its name.
+FileStamp StampOf(const std::string& path);
+
 // A file opened for reading with sharing allowed for all. Reading fails with CFileException.
 class CFile {
   public:

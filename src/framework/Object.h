@@ -30,6 +30,11 @@ class CObject {
 
     virtual const CRuntimeClass& GetRuntimeClass() const { return classCObject; }
     bool IsKindOf(const CRuntimeClass& base) const { return GetRuntimeClass().IsDerivedFrom(base); }
+
+  protected:
+    // A class whose objects are plain values may move them.
+    CObject(CObject&&) noexcept {}
+    CObject& operator=(CObject&&) noexcept { return *this; }
 };
 
 inline const CRuntimeClass CObject::classCObject{"CObject", nullptr};

@@ -1,8 +1,7 @@
 #include "grid/GridHelpers.h"
 
 #include <algorithm>
-
-#include "session/OutputFiles.h"
+#include <numeric>
 
 namespace {
 
@@ -33,6 +32,21 @@ void SetGridAlignment(CGridCtrl& grid, int fixedRows, int fixedColumns, unsigned
             if (column < fixedColumns) format = columnFormat;
             grid.SetCellFormat(row, column, format);
         }
+    }
+}
+
+void SplitWidth(std::span<const int> weights, std::span<int> out, int total) {
+    const long long sum = std::accumulate(weights.begin(), weights.end(), 0LL);
+    if (sum <= 0) return;
+    long long fractions = 0;
+    for (std::size_t i = 0; i < weights.size() && i < out.size(); ++i) {
+        const long long share = static_cast<long long>(weights[i]) * total;
+        out[i] = static_cast<int>(share / sum);
+        fractions += share % sum;
+    }
+    const long long spread = fractions / sum;
+    for (long long i = 0; i < spread && i < static_cast<long long>(out.size()); ++i) {
+        ++out[static_cast<std::size_t>(i)];
     }
 }
 

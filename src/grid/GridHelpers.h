@@ -15,6 +15,10 @@ void ShadeFixedCells(CGridCtrl& grid, int rows, int columns);
 void SetGridAlignment(CGridCtrl& grid, int fixedRows, int fixedColumns, unsigned columnFormat,
                       unsigned rowFormat, unsigned bodyFormat);
 
+// Spreads `total` over the columns by weight; what integer division leaves goes to the first columns, one
+// each. Both spans have one entry a column.
+void SplitWidth(std::span<const int> weights, std::span<int> out, int total);
+
 // Column widths by weight that fill the client area beside the vertical scroll bar. One entry a column in
 // both; `out` receives the widths.
 void FitColumns(CGridCtrl& grid, std::span<const int> weights, std::span<int> out);

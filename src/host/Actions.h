@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "batch/Script.h"
 #include "host/HostWindows.h"
+#include "script/Script.h"
 
 // What a user does to a control. Each returns false when it is refused: no such control, or a disabled or
 // hidden one. A press is posted, and worked off behind the return.

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "framework/headless/GraphPeer.h"
+#include "framework/Automation.h"
 #include "host/HostWindows.h"
 
 // The plot, asked of its window.

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "batch/JsonLines.h"
+#include "script/JsonLines.h"
 
 // What leaves the module for another program is told by that program: the recorder, in the place of a viewer,
 // and the recording plot module append a line to a file that the environment names.

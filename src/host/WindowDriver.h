@@ -4,11 +4,11 @@
 #include <ostream>
 #include <vector>
 
-#include "batch/JsonLines.h"
-#include "batch/Script.h"
 #include "host/HostWindows.h"
 #include "host/Mouse.h"
 #include "host/Records.h"
+#include "script/JsonLines.h"
+#include "script/Script.h"
 
 // Plays a script on the module's real windows. It lives on the thread of the dialogs: a timer calls Tick in
 // whatever modal loop is running, and only when that loop has nothing else to do, so that a press has been

@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "batch/JsonLines.h"
 #include "host/HostWindows.h"
+#include "script/JsonLines.h"
 
 // What is really on the screen: dialogs, message boxes and controls, read from their windows.
 

@@ -3,6 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "model/Types.h"
+
 // The members of a substructure. Every load case has the same members, so they stand once, each naming its
 // run of elements in the substructure's element list; CPier keeps the forces of all cases.
 
@@ -47,8 +49,8 @@ struct CBearingRow {
 
 // A load case, combination or time step; its forces are in the substructure's force block.
 struct CLoadCase {
-    int m_nLimitClass = 0;  // 0 strength or load factor design; 1 service; 2 extreme; 3 fatigue
-    int m_nNumber = 0;      // its own number in the host's list of combinations; 0 if not a combination
+    LimitClass m_nLimitClass = kStrength;
+    int m_nNumber = 0;  // its own number in the host's list of combinations; 0 if not a combination
     std::string m_sName = "none";
     std::string m_sLimitState = "none";
 };

@@ -1,11 +1,12 @@
 #include "model/Pier.h"
 
 #include <algorithm>
-#include <new>
 
-#include "framework/Backend.h"
+#include "model/CaseSelection.h"
 
 namespace {
+
+constexpr std::array<LimitClass, kLimitClasses> kAllClasses{kStrength, kService, kExtreme, kFatigue};
 
 int AtLeastZero(int count) {
     return std::max(count, 0);
@@ -48,38 +49,6 @@ void CPier::AllocateMembers(const CMemberCounts& counts, int loadCases) {
     m_Masked.assign(frameElements, 0);
     m_nLoadCases = AtLeastZero(loadCases);
     m_LoadCases.assign(static_cast<std::size_t>(m_nLoadCases), CLoadCase{});
-    AllocateForces();
-}
-
-// Zeroed pages come from the system untouched, so forces that are read at once are written once.
-void CPier::AllocateForces() {
-    constexpr std::size_t kBlockBytes = std::size_t{16} << 20;
-    m_ForceBlocks.clear();
-    const std::size_t caseFloats = m_Elements.size() * kForcesPerElement;
-    if (caseFloats == 0) return;
-    m_nBlockShift = 0;
-    while ((caseFloats * sizeof(float)) << (m_nBlockShift + 1) <= kBlockBytes) ++m_nBlockShift;
-    const std::size_t cases = static_cast<std::size_t>(m_nLoadCases);
-    const std::size_t perBlock = std::size_t{1} << m_nBlockShift;
-    for (std::size_t done = 0; done < cases; done += perBlock) {
-        const std::size_t here = std::min(perBlock, cases - done);
-        // NOLINTNEXTLINE(cppcoreguidelines-no-malloc)
-        void* block = std::calloc(here * caseFloats, sizeof(float));
-        if (block == nullptr) throw std::bad_alloc();
-        m_ForceBlocks.emplace_back(static_cast<float*>(block));
-        services::PreferLargePages(block, here * caseFloats * sizeof(float));
-    }
-}
-
-std::vector<int> CPier::CollectSections(const CMember& member) const {
-    std::vector<int> sections;
-    for (int e = 0; e < member.m_nElements; ++e) {
-        const int section = Element(member.m_nFirstElement + e).m_nSection;
-        if (std::find(sections.begin(), sections.end(), section) == sections.end()) {
-            sections.push_back(section);
-        }
-    }
-    return sections;
 }
 
 int CPier::FindElement(MemberFamily family, int member, int element) const {
@@ -100,49 +69,22 @@ int CPier::FindElement(MemberFamily family, int member, int element) const {
     return -1;
 }
 
-void CPier::AllocateCaseSelection(int cases) {
-    m_CaseSelected.assign(static_cast<std::size_t>(AtLeastZero(cases)), 0);
-}
-
-void CPier::SelectAllCases() {
-    std::fill(m_CaseSelected.begin(), m_CaseSelected.end(), std::uint8_t{1});
-}
-
-bool CPier::IsCaseSelected(int index) const {
-    return index >= 0 && index < static_cast<int>(m_CaseSelected.size()) &&
-           m_CaseSelected[static_cast<std::size_t>(index)] != 0;
-}
-
-void CPier::SetCaseSelected(int index, bool selected) {
-    if (index < 0 || index >= static_cast<int>(m_CaseSelected.size())) return;
-    m_CaseSelected[static_cast<std::size_t>(index)] = selected ? 1 : 0;
-}
-
-bool CPier::HasOnlyLimitClasses(int a, int b, int c, int d) const {
-    if (m_nCodeFamily == -1 || m_nCodeFamily == 1 || m_nCodeFamily == 2) return false;
-    if (m_nCodeFamily != 0) return true;
-    const std::array<int, 4> asked{a, b, c, d};
-    for (int limitClass = 0; limitClass < 4; ++limitClass) {
-        if ((asked[static_cast<std::size_t>(limitClass)] == limitClass) != IsClassPresent(limitClass)) {
-            return false;
-        }
-    }
-    return true;
+bool CPier::HasOnlyLimitClasses(const CaseSelection& selection, int a, int b, int c, int d) const {
+    if (m_nCodeFamily == kFamilyNone || m_nCodeFamily == kFamilyLfd || m_nCodeFamily == kFamilyArema)
+        return false;
+    if (m_nCodeFamily != kFamilyLrfd) return true;
+    const std::array<int, kLimitClasses> asked{a, b, c, d};
+    return std::ranges::all_of(kAllClasses, [&](LimitClass limitClass) {
+        return (asked[static_cast<std::size_t>(limitClass)] == limitClass) ==
+               selection.IsClassPresent(limitClass);
+    });
 }
 
 int CPier::SlotCount() const {
-    if (m_nCodeFamily == 0) return 4;
-    return m_nCodeFamily == 2 ? 2 : 1;
+    if (m_nCodeFamily == kFamilyLrfd) return kLimitClasses;
+    return m_nCodeFamily == kFamilyArema ? 2 : 1;
 }
 
-void CPier::AllocateResultTables() {
-    const int slots = SlotCount();
-    m_ppMaxTension.assign(static_cast<std::size_t>(slots), std::vector<int>(m_Piles.size(), 0));
-    m_ppMaxCompression = m_ppMaxTension;
-    m_PileDc.Allocate(AtLeastZero(m_nPileSections), slots, 1);
-    m_ColumnDc.Allocate(AtLeastZero(m_nColumnSections), slots, 1);
-    if (m_nStructureType == 0 || m_nStructureType == 7) BuildCapGeometry();
-    m_PileForces.Allocate(AtLeastZero(m_nPileSections), slots, kExtremes);
-    m_ColumnForces.Allocate(AtLeastZero(m_nColumnSections), slots, kExtremes);
-    m_XMemberForces.Allocate(AtLeastZero(m_nXMemberSections), slots, kExtremes);
+std::span<const LimitClass> CPier::Slots() const {
+    return std::span(kAllClasses).first(static_cast<std::size_t>(SlotCount()));
 }

@@ -3,45 +3,32 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <cstdlib>
-#include <memory>
 #include <span>
 #include <vector>
 
+#include "model/CapTypes.h"
 #include "model/Element.h"
 #include "model/Members.h"
-#include "model/Records.h"
+#include "model/Types.h"
+#include "text/Messages.h"
 
-// One substructure of the bridge: its members, the forces of every load case, its geometry and bearings, and
-// the result tables that the searches fill. Everything is sized once by the load and never grows; forces
-// never change after it. Indices count from 0.
+class CaseSelection;
+
+// One substructure of the bridge: its members, geometry and bearings. Its forces are in their file.
+// Everything is sized once by the load and never changes after it. Indices count from 0; lengths and
+// positions are in inches for US units and in metres for SI.
 class CPier {
   public:
-    // ---- members and forces (model/)
+    // ---- members
 
     // Lays the members out in the element list, in the order piles, columns, left cantilever, spans, right
-    // cantilever, extra members, and takes zeroed forces for all cases. Counts below 0 count as 0. Throws
-    // std::bad_alloc when the forces do not fit into memory.
+    // cantilever, extra members. Counts below 0 count as 0.
     void AllocateMembers(const struct CMemberCounts& counts, int loadCases);
 
     int ElementCount() const { return static_cast<int>(m_Elements.size()); }
     CElement& Element(int element) { return m_Elements.at(static_cast<std::size_t>(element)); }
     const CElement& Element(int element) const { return m_Elements.at(static_cast<std::size_t>(element)); }
 
-    // The fourteen floats of an element in a load case. Both indices are trusted: they come from the walk
-    // over this substructure's own members.
-    ElementForces Forces(int loadCase, int element) const {
-        return ElementForces(CaseForces(loadCase) + static_cast<std::size_t>(element) * kForcesPerElement,
-                             kForcesPerElement);
-    }
-    // The forces of all elements of a load case, in the order of the element list.
-    std::span<float> MutableCase(int loadCase) {
-        return {CaseForces(loadCase), m_Elements.size() * kForcesPerElement};
-    }
-    std::span<float, kForcesPerElement> MutableForces(int loadCase, int element) {
-        return std::span<float, kForcesPerElement>(
-            CaseForces(loadCase) + static_cast<std::size_t>(element) * kForcesPerElement, kForcesPerElement);
-    }
     // The widths of the columns and the cap; element is an index of the element list behind the piles.
     CSectionData& SectionData(int element) {
         return m_SectionData.at(static_cast<std::size_t>(element - m_nFirstFrameElement));
@@ -65,59 +52,26 @@ class CPier {
     int ColumnElement(int column, int element) const {
         return m_Frame.m_Columns[static_cast<std::size_t>(column)].m_nFirstElement + element;
     }
-    // The distinct section numbers of a run of elements, in order of first appearance.
-    std::vector<int> CollectSections(const CMember& member) const;
-
     // The element of a record of tables 1, 2, 5, 6 or 7 by the member family; -1 when the record points at no
     // existing member or element.
-    enum MemberFamily { kPileFamily, kColumnFamily, kXMemberFamily };
     int FindElement(MemberFamily family, int member, int element) const;
 
-    // ---- selection and limit classes (model/)
+    // ---- limit classes
 
-    void AllocateCaseSelection(int cases);
-    void SelectAllCases();
-    bool IsCaseSelected(int index) const;
-    void SetCaseSelected(int index, bool selected);
-    // Whether the project's limit classes are exactly the chosen set; each argument is its own class number
+    // Whether the selection's limit classes are exactly the chosen set; each argument is its own class number
     // (0, 1, 2, 3) to ask for the class, anything else (by habit -1) to demand that it is absent.
-    bool HasOnlyLimitClasses(int a, int b, int c, int d) const;
-    // Slots of the result tables: 4 for LRFD, 2 for AREMA, otherwise 1.
+    bool HasOnlyLimitClasses(const CaseSelection& selection, int a, int b, int c, int d) const;
+    // Slots of the result tables, one a limit class: 4 for AASHTO-LRFD, 2 for AREMA, otherwise 1.
     int SlotCount() const;
-    // Whether load case `index` takes part in the searches of a slot.
-    bool TakesPart(int index, int slot) const {
-        return m_CaseSelected[static_cast<std::size_t>(index)] != 0 &&
-               (!m_bCombinations || m_LoadCases[static_cast<std::size_t>(index)].m_nLimitClass == slot);
-    }
-    bool IsClassPresent(int limitClass) const {
-        return limitClass >= 0 && limitClass < 4 &&
-               m_nFirstOfClass[static_cast<std::size_t>(limitClass)] >= 0;
+    std::span<const LimitClass> Slots() const;
+    // The slot in which a case (from 0) is searched: its limit class, and slot 0 without combinations.
+    int SlotOf(int loadCase) const {
+        return m_bCombinations ? m_LoadCases[static_cast<std::size_t>(loadCase)].m_nLimitClass : 0;
     }
 
-    // ---- result tables (model/, cap geometry in envelopes/)
+    // ---- cap geometry and lookups
 
-    // Once, at the end of the load.
-    void AllocateResultTables();
-
-    // ---- pile heads and section maxima (envelopes/)
-
-    void ComputeMaxAxialForces();
-    void ComputePileDemandCapacity();
-    void ComputeColumnDemandCapacity();
-    void ComputePileForces();
-    void ComputeColumnForces();
-    void ComputeExtraMemberForces();
-    // False when a number that the table depends on is not finite; steers the spreadsheet format alone.
-    bool CheckMaxAxialData() const;
-    bool CheckPileDemandCapacityData() const;
-    bool CheckColumnDemandCapacityData() const;
-    bool CheckPileForceData() const;
-    bool CheckColumnForceData() const;
-    bool CheckExtraMemberForceData() const;
-
-    // ---- cap sections and lookups (envelopes/)
-
-    void BuildCapGeometry();  // types 0 and 7: cap points, bearing list, sizes and tables of the cap
+    void BuildCapGeometry();  // types 0 and 7: cap points, bearing list, counts of the cap's sections
     int GetSupportNode(int support) const;  // -1 for a type without a cap
     double GetSupportX(int support) const;
     double GetSupportWidth(int support) const;
@@ -128,27 +82,13 @@ class CPier {
     bool LocateOnCap(int support, int kind, double x, int mode, CCapPlace& place) const;
     bool FindElementAtNode(int node, CCapPlace& place, int end) const;
     // The element of the list that has `node` at `end`; -1 after the message.
-    int GetElementFromNode(int node, int end) const;
-    // The element of the list at a place; -1 after the message for a kind that is neither.
-    int GetElement(int kind, int index, int element) const;
+    int GetElementFromNode(int node, int end, Messages& messages) const;
+    // The element of the list at a place; -1 where the cap has none, for a kind that is neither after the
+    // message.
+    int GetElement(int kind, int index, int element, Messages& messages) const;
     void StepAlongCap(int direction, CCapPlace& place) const;  // 1 backwards, 0 forwards
-    int NodeFromCapX(double x) const;
     double NodeCoordinate(int node, int axis) const;
     bool IsCapElementEnd(int node, int end) const;
-
-    // ---- cap searches (envelopes/)
-
-    void ComputeCapShearAtSupports();
-    void ComputeCapShearAtBearings();
-    void MergeShearPoints();
-    bool CheckCapShearData() const;
-    void ComputeCapMomentAtSupports();
-    void ComputeCapMomentAtBearings();
-    void MergeMomentPoints();
-    bool CheckCapMomentData() const;
-    // What comes next along the cap: 0 the support section, 1 the bearing, -1 nothing.
-    int NextShearPoint(int supportCursor, int bearingCursor) const;
-    int NextMomentPoint(int supportCursor, int bearingCursor) const;
 
     // ---- data
 
@@ -159,28 +99,15 @@ class CPier {
     std::vector<CBearingRow> m_BearingRows;       // none, 1 or 2
     std::vector<std::uint8_t> m_ElementMask;      // 1: that element number (less one) has no row in the table
 
-    std::vector<std::vector<int>> m_ppMaxTension;                // [slot][pile], load case or -1
-    std::vector<std::vector<int>> m_ppMaxCompression;            // [slot][pile], load case or -1
-    CRecordTable m_PileDc, m_ColumnDc;                           // [section][slot]
-    CRecordTable m_PileForces, m_ColumnForces, m_XMemberForces;  // [section][slot][13]
-
-    CCapTable m_MomentSupports;  // [support][slot][kind 0..2][extreme]
-    CCapTable m_ShearSupports;   // [support][slot][kind 0..3][extreme]
-    CCapTable m_MomentBearings;  // [bearing][slot][row][extreme]
-    CCapTable m_ShearBearings;   // [bearing][slot][row * 2 + side][extreme]
-    // Lists of fixed length; entries past the last appended keep zeros.
-    std::vector<double> m_MomentSupportX, m_ShearSupportX;
-    std::vector<CSupportLocation> m_MomentSupportList, m_ShearSupportList;
     std::vector<CBearingLocation> m_BearingList;
     std::vector<double> m_BearingX;
-    std::vector<double> m_MomentPointX, m_ShearPointX;  // merged in order of position
-    std::vector<double> m_CapPointX;                    // x of each cap node, left to right
-    std::vector<int> m_CapPointNode;                    // its node number
+    std::vector<double> m_CapPointX;  // x of each cap node, left to right
+    std::vector<int> m_CapPointNode;  // its node number
 
     int m_nUnits = 0;  // 0 US, anything else SI
     int m_nNodes = 0;  // nodes in the pile file's node list
     int m_nBearingRows = 0;
-    int m_nStructureType = 0;
+    StructureType m_nStructureType = kTypePier;
     int m_nCantilevers = 0;                                            // above 0: the cap has cantilevers
     int m_nCantileverNodes = 0, m_nSpanNodes = 0, m_nColumnNodes = 0;  // interior nodes
     int m_nPierNodes = 0, m_nFoundationNodes = 0;
@@ -193,37 +120,17 @@ class CPier {
     int m_nCapMomentSupports = 0, m_nCapShearSupports = 0;
     int m_nCapBearings = 0;
     int m_nMaxRowBearings = 0;
-    std::array<int, 4> m_nFirstOfClass{-1, -1, -1, -1};
     int m_nLoadCases = 0;
-    int m_nCodeFamily = -1;
+    CodeFamily m_nCodeFamily = kFamilyNone;
     bool m_bCombinations = false;
     std::array<std::uint8_t, 72> m_AshBlockA{};   // of the code family file; carried, not interpreted
     std::array<std::uint8_t, 216> m_AshBlockB{};  // the same
-    std::vector<std::uint8_t> m_CaseSelected;     // 1: the case takes part in the tables
-
-    // Whether every force of the family, in every case, is a finite number; found while the forces are read.
-    bool m_bPileForcesFinite = true, m_bColumnForcesFinite = true, m_bXMemberForcesFinite = true;
-    bool m_bPileHeadsFinite = true;  // D/C and FAX at the head ends
 
   private:
-    struct FreeForces {
-        void operator()(float* forces) const { std::free(forces); }  // NOLINT(cppcoreguidelines-no-malloc)
-    };
-    float* CaseForces(int loadCase) const {
-        const std::size_t c = static_cast<std::size_t>(loadCase);
-        const std::size_t inBlock = c & ((std::size_t{1} << m_nBlockShift) - 1);
-        return m_ForceBlocks[c >> m_nBlockShift].get() + inBlock * m_Elements.size() * kForcesPerElement;
-    }
-    void AllocateForces();
-
     std::vector<CElement> m_Elements;
     int m_nFirstFrameElement = 0;  // piles come first in the list; the frame's elements follow
     std::vector<CSectionData> m_SectionData;
     std::vector<std::uint8_t> m_Masked;
-    // [load case][element][14], in blocks of whole cases: a 32-bit process finds room for many middling
-    // pieces where it finds none for one of a gigabyte.
-    std::vector<std::unique_ptr<float[], FreeForces>> m_ForceBlocks;
-    unsigned m_nBlockShift = 0;  // a block has 1 << shift cases
 };
 
 // The sizes that CPier::AllocateMembers lays out.

@@ -1,16 +1,15 @@
 #include <algorithm>
 #include <array>
 
-#include "results/CollectData.h"
+#include "results/Bearings.h"
 #include "results/ProjectFiles.h"
 #include "results/SeqFile.h"
 
 namespace {
 
-// Two rows of bearings stand further apart than this, by the units of the collection object.
-constexpr double kRowDistanceUs = 2.4;
-constexpr double kRowDistanceSi = 0.16;
-constexpr int kSiUnits = 1;
+// Two rows of bearings are further apart than this. Projects in metres are judged by the same number, so that
+// a pair of rows counts as one there; the bearing rows of their cap tables depend on it.
+constexpr double kRowDistance = 2.4;
 
 using Entry = std::array<double, 3>;
 
@@ -32,10 +31,10 @@ std::vector<int> ReadNodes(CSeqFile& file, int entries) {
     return nodes;
 }
 
-bool IsOneRow(const std::vector<Entry>& left, const std::vector<Entry>& right, double limit) {
+bool IsOneRow(const std::vector<Entry>& left, const std::vector<Entry>& right) {
     if (left.size() != right.size()) return false;
     for (std::size_t i = 0; i < left.size(); ++i) {
-        if (right[i][1] - left[i][1] <= limit) return true;
+        if (right[i][1] - left[i][1] <= kRowDistance) return true;
     }
     return false;
 }
@@ -51,10 +50,8 @@ CBearingRow MakeRow(const std::vector<int>& nodes, int entries) {
 
 }  // namespace
 
-void CCollectData::ReadBearings(int k) {
-    const int firstType = g_DataSet.FirstPier().m_nStructureType;
-    if (firstType != kTypePier && firstType != kTypePileBent) return;
-    CSeqFile file(SubstructureFile(".pls", k + 1));
+BearingRows ReadBearings(const std::string& basePath, int number) {
+    CSeqFile file(SubstructureFile(basePath, ".pls", number));
     const std::array<int, 12> counts = file.ReadInts<12>("bearing counts");
     const int left = counts[0], right = counts[1];
     file.CheckCount(left, 24, "bearing entries");
@@ -64,11 +61,7 @@ void CCollectData::ReadBearings(int k) {
     const std::vector<int> leftNodes = ReadNodes(file, left);
     const std::vector<int> rightNodes = ReadNodes(file, right);
 
-    CPier& pier = g_DataSet.m_Piers[static_cast<std::size_t>(k)];
-    // Built before any file was read, this object still has US units: the limit of 2.4 serves SI projects
-    // too.
-    const double limit = m_nUnits == kSiUnits ? kRowDistanceSi : kRowDistanceUs;
-    pier.m_BearingRows.assign(1, MakeRow(leftNodes, left));
-    if (!IsOneRow(leftEntries, rightEntries, limit)) pier.m_BearingRows.push_back(MakeRow(rightNodes, right));
-    pier.m_nBearingRows = static_cast<int>(pier.m_BearingRows.size());
+    BearingRows rows{MakeRow(leftNodes, left)};
+    if (!IsOneRow(leftEntries, rightEntries)) rows.push_back(MakeRow(rightNodes, right));
+    return rows;
 }

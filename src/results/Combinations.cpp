@@ -1,12 +1,15 @@
+#include "results/Combinations.h"
+
 #include <algorithm>
 #include <array>
 #include <iterator>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 
-#include "framework/Backend.h"
-#include "results/CollectData.h"
+#include "framework/File.h"
+#include "model/LimitStates.h"
 #include "results/ProjectFiles.h"
 #include "results/SeqFile.h"
 #include "text/KeyedLine.h"
@@ -19,40 +22,21 @@ constexpr int kLinesToTitle = 4;
 constexpr std::string_view kTitleMark = "[Comb.";
 constexpr std::string_view kListEnd = ":";
 
-// Limit state codes run from these; the names stand in three columns of g_LimitStateNames.
-struct CodeBlock {
-    int first, count;
-    std::size_t column;
-};
-constexpr CodeBlock kCodeBlocks[] = {{101, 13, 0}, {201, 11, 1}, {301, 18, 2}};
-// The host's list gives this code the name of 307; reports name it as the host does.
-constexpr int kMisnamedCode = 305, kNamedAsCode = 307;
-
-struct ClassRange {
-    int family, first, last, limitClass;
-};
-constexpr ClassRange kClassRanges[] = {
-    {kFamilyLrfd, 101, 105, 0}, {kFamilyLrfd, 106, 107, 2},  {kFamilyLrfd, 108, 111, 1},
-    {kFamilyLrfd, 112, 113, 3}, {kFamilyArema, 301, 310, 0}, {kFamilyArema, 311, 318, 1},
-};
-
-constexpr int kNoClass = -1, kClassOfUnknownCodes = 1;
-
-// The limit class of a combination; kNoClass for a code that the family doesn't have.
-int LimitClassOf(int family, int code) {
-    if (family != kFamilyLrfd && family != kFamilyArema) return 0;
-    for (const ClassRange& range : kClassRanges) {
-        if (range.family == family && range.first <= code && code <= range.last) return range.limitClass;
-    }
-    return kNoClass;
+// The limit class of a combination; empty for a code that the family doesn't have. Families without classes
+// have one.
+std::optional<LimitClass> LimitClassOf(CodeFamily family, int code) {
+    if (family != kFamilyLrfd && family != kFamilyArema) return kStrength;
+    LimitClass limitClass = kStrength;
+    return FindLimitClass(family, code, limitClass) ? std::optional(limitClass) : std::nullopt;
 }
+constexpr LimitClass kClassOfUnknownCodes = kService;
 
 // The code family; false when the project says that it has no combinations, which ends the read.
-bool ReadCodeFamily(int k, CPier& pier) {
-    const std::string path = SubstructureFile(".ash", k + 1);
+bool ReadCodeFamily(const std::string& basePath, int k, CPier& pier) {
+    const std::string path = SubstructureFile(basePath, ".ash", k + 1);
     if (FindFileAnyCase(path).empty()) return true;
     CSeqFile file(path);
-    pier.m_nCodeFamily = file.ReadInts<1>("code family")[0];
+    pier.m_nCodeFamily = static_cast<CodeFamily>(file.ReadInts<1>("code family")[0]);
     if (pier.m_nCodeFamily == kFamilyNone) return false;
     pier.m_bCombinations = true;
     file.ReadRecord(pier.m_AshBlockA.data(), static_cast<unsigned>(pier.m_AshBlockA.size()),
@@ -63,8 +47,8 @@ bool ReadCodeFamily(int k, CPier& pier) {
 }
 
 // The title of each combination; without the file the titles become empty.
-void ReadTitles(std::vector<CLoadCase>& cases) {
-    ifstreamex file(ProjectFile(".CMB"));
+void ReadTitles(const std::string& basePath, std::vector<CLoadCase>& cases) {
+    ifstreamex file(ProjectFile(basePath, ".CMB"));
     std::string line;
     for (CLoadCase& loadCase : cases) {
         for (int i = 0; i < kLinesToTitle; ++i) {
@@ -113,7 +97,7 @@ class CaseRuns {
 // back, and the next one takes the same cases again, so rows are only noted while they are read.
 class LimitStateList {
   public:
-    LimitStateList(ifstreamex& file, int cases, int family)
+    LimitStateList(ifstreamex& file, int cases, CodeFamily family)
         : m_file(file), m_nCases(cases), m_nFamily(family) {}
 
     void Read(std::string line) {
@@ -126,25 +110,23 @@ class LimitStateList {
     // Each case gets what the last row says of it.
     void Assign(std::vector<CLoadCase>& named, std::vector<CLoadCase>& classed) const {
         for (const auto& [begin, run] : m_rows.ByFirstCase()) {
-            const std::string name = CCollectData::LimitStateName(run.code);
-            const int limitClass = LimitClassOf(m_nFamily, run.code);
+            const std::string name = LimitStateName(run.code);
+            const LimitClass limitClass = LimitClassOf(m_nFamily, run.code).value_or(kClassOfUnknownCodes);
             for (int j = begin; j < run.end; ++j) {
                 const auto at = static_cast<std::size_t>(j);
                 // Names and numbers go to the first substructure, from which all tables take them.
                 named[at].m_sLimitState = name;
                 named[at].m_nNumber = static_cast<int>(run.numberOfFirst + static_cast<unsigned>(j));
-                if (at < classed.size()) {
-                    classed[at].m_nLimitClass = limitClass == kNoClass ? kClassOfUnknownCodes : limitClass;
-                }
+                if (at < classed.size()) classed[at].m_nLimitClass = limitClass;
             }
         }
     }
 
     // Once for each case that any row gave a code that the family doesn't have.
-    void TellUnknownCodes(std::size_t cases) const {
+    void ReportUnknownCodes(std::size_t cases, Messages& messages) const {
         for (const auto& [begin, run] : m_unknown.ByFirstCase()) {
             for (int j = begin; j < run.end && static_cast<std::size_t>(j) < cases; ++j) {
-                AfxMessageBox("Invalid limit state");
+                messages.Show("Invalid limit state");
             }
         }
     }
@@ -157,7 +139,7 @@ class LimitStateList {
         const CaseRun run{Inside(end), code, static_cast<unsigned>(first) - static_cast<unsigned>(begin)};
         if (Inside(begin) < run.end) {
             m_rows.Overlay(Inside(begin), run);
-            if (LimitClassOf(m_nFamily, code) == kNoClass) m_unknown.Overlay(Inside(begin), run);
+            if (!LimitClassOf(m_nFamily, code)) m_unknown.Overlay(Inside(begin), run);
         }
         m_nDone = end;
         return count < 1 || end <= m_nCases;
@@ -168,13 +150,14 @@ class LimitStateList {
 
     ifstreamex& m_file;
     int m_nCases;
-    int m_nFamily;
+    CodeFamily m_nFamily;
     long long m_nDone = 0;  // cases that earlier rows took
     CaseRuns m_rows, m_unknown;
 };
 
-void ReadLimitStates(std::vector<CLoadCase>& named, CPier& pier) {
-    ifstreamex file(ProjectFile(".LIM"));
+void ReadLimitStates(const std::string& basePath, std::vector<CLoadCase>& named, CPier& pier,
+                     Messages& messages) {
+    ifstreamex file(ProjectFile(basePath, ".LIM"));
     std::string line;
     file.GetLineEx(line, kLimitLineLength);
     file.GetLineEx(line, kLimitLineLength);
@@ -185,40 +168,15 @@ void ReadLimitStates(std::vector<CLoadCase>& named, CPier& pier) {
     LimitStateList list(file, static_cast<int>(named.size()), pier.m_nCodeFamily);
     list.Read(std::move(line));
     list.Assign(named, pier.m_LoadCases);
-    list.TellUnknownCodes(pier.m_LoadCases.size());
+    list.ReportUnknownCodes(pier.m_LoadCases.size(), messages);
 }
 
 }  // namespace
 
-std::string CCollectData::LimitStateName(int code) {
-    const int named = code == kMisnamedCode ? kNamedAsCode : code;
-    for (const CodeBlock& block : kCodeBlocks) {
-        if (named >= block.first && named < block.first + block.count) {
-            return g_LimitStateNames[static_cast<std::size_t>(named - block.first)][block.column];
-        }
-    }
-    return "ERROR 1";
-}
-
-void CCollectData::ReadCombinationData(int k) {
-    CPier& pier = g_DataSet.m_Piers[static_cast<std::size_t>(k)];
-    if (!ReadCodeFamily(k, pier)) return;
-    std::vector<CLoadCase>& named = g_DataSet.FirstPier().m_LoadCases;
-    ReadTitles(named);
-    ReadLimitStates(named, pier);
-    FindFirstCases();
-}
-
-void CCollectData::FindFirstCases() {
-    CPier& first = g_DataSet.FirstPier();
-    first.m_nFirstOfClass.fill(-1);
-    const int family = first.m_nCodeFamily;
-    if (family != kFamilyLrfd && family != kFamilyArema) return;
-    const int classes = family == kFamilyLrfd ? 4 : 2;
-    for (int c = static_cast<int>(first.m_LoadCases.size()) - 1; c >= 0; --c) {
-        const int limitClass = first.m_LoadCases[static_cast<std::size_t>(c)].m_nLimitClass;
-        if (first.IsCaseSelected(c) && limitClass >= 0 && limitClass < classes) {
-            first.m_nFirstOfClass[static_cast<std::size_t>(limitClass)] = c;
-        }
-    }
+void ReadCombinationData(const std::string& basePath, int k, CDataSet& data, Messages& messages) {
+    CPier& pier = data.m_Piers[static_cast<std::size_t>(k)];
+    if (!ReadCodeFamily(basePath, k, pier)) return;
+    std::vector<CLoadCase>& named = data.FirstPier().m_LoadCases;
+    ReadTitles(basePath, named);
+    ReadLimitStates(basePath, named, pier, messages);
 }

@@ -9,9 +9,10 @@ namespace {
 // What the searches for records share: the block's layout and the count of element numbers without a record.
 class Planner {
   public:
-    Planner(const CPier& pier, const CPierReadState& state) : m_pier(pier), m_table(state.elementTable) {
+    Planner(const CPier& pier, const PierModel& model)
+        : m_pier(pier), m_counts(model.counts), m_table(model.elementTable) {
         m_missingBelow.assign(1, 0);
-        for (const std::uint8_t masked : state.elementMask)
+        for (const std::uint8_t masked : model.elementMask)
             m_missingBelow.push_back(m_missingBelow.back() + masked);
     }
 
@@ -29,8 +30,8 @@ class Planner {
     void PlanColumns();
 
     void PlanExtraMembers() {
-        long long record = static_cast<long long>(g_DataSet.m_nPileElements) + g_DataSet.m_nElements -
-                           m_pier.m_nExtraMembers;
+        long long record =
+            static_cast<long long>(m_counts.pileElements) + m_counts.elements - m_pier.m_nExtraMembers;
         for (const CXMember& member : m_pier.m_Frame.m_XMembers) {
             Add(++record, member.m_nFirstElement, ForceKind::extraMember);
         }
@@ -48,11 +49,12 @@ class Planner {
         const int last = static_cast<int>(m_missingBelow.size()) - 1;
         return number - m_missingBelow[static_cast<std::size_t>(std::clamp(number, 0, last))];
     }
-    static int LastColumnSection() { return std::max(g_DataSet.m_nColumnSections, 1) + 1; }
+    int LastColumnSection() const { return std::max(m_counts.columnSections, 1) + 1; }
     // The element number at which column m begins; -1 when no row does.
     int FirstNumberOfColumn(int m) const;
 
     const CPier& m_pier;
+    const PierCounts& m_counts;
     const std::vector<CElementRow>& m_table;
     std::vector<int> m_missingBelow;  // masked numbers below each number
     std::vector<CForceRead> m_reads;
@@ -61,7 +63,7 @@ class Planner {
 void Planner::PlanCap() {
     const long long span = (m_pier.m_nSpanNodes + 1LL) * (m_pier.m_nColumns - 1LL);
     const long long cantilever = m_pier.m_nCantileverNodes + 1LL;
-    const long long firstRecord = (g_DataSet.m_nPileNodes - 1LL) * g_DataSet.m_nPilesFromNodes;
+    const long long firstRecord = (m_counts.pileNodes - 1LL) * m_counts.pilesFromNodes;
     const int rows = static_cast<int>(m_table.size()) - m_pier.m_nExtraMembers;
     const CFrame& frame = m_pier.m_Frame;
     long long position = 0;  // along the cap
@@ -72,7 +74,7 @@ void Planner::PlanCap() {
         const int previous = m_table[static_cast<std::size_t>(std::max(i - 1, 0))].number;
         // Masked numbers keep their place along the cap; inside a cantilever the index does not move.
         const long long gap = static_cast<long long>(row.number) - previous - 1;
-        if (g_DataSet.m_nElementGaps > 0 && gap > 0) {
+        if (m_counts.elementGaps > 0 && gap > 0) {
             position += gap;
             inSpan += gap;
         }
@@ -106,7 +108,7 @@ void Planner::PlanColumns() {
     for (int m = 0; m < m_pier.m_nColumns; ++m) {
         const int number = FirstNumberOfColumn(m);
         if (number == -1 && m_pier.m_nStructureType == kTypePier) continue;
-        const long long record = g_DataSet.m_nPileElements + WithoutGaps(number);
+        const long long record = m_counts.pileElements + WithoutGaps(number);
         const int first = m_pier.ColumnElement(m, 0);
         for (int e = 0; e <= m_pier.m_nColumnNodes; ++e) Add(record + e, first + e, ForceKind::frame);
     }
@@ -114,8 +116,8 @@ void Planner::PlanColumns() {
 
 }  // namespace
 
-std::vector<CForceRead> PlanForceReads(const CPier& pier, const CPierReadState& state, int firstType) {
-    Planner planner(pier, state);
+std::vector<CForceRead> PlanForceReads(const CPier& pier, const PierModel& model, StructureType firstType) {
+    Planner planner(pier, model);
     planner.PlanPiles();
     if (!HasNoFrame(firstType)) {
         planner.PlanCap();

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "model/Pier.h"
-#include "results/CollectData.h"
+#include "results/PierModel.h"
 
 // Words of a record of the member force file, 32-bit floats each.
 inline constexpr int kForceRecordWords = 17;
@@ -24,7 +24,7 @@ struct CForceRead {
 
 // The reads of one load case in the order in which they are done: piles from the head, the cap from left to
 // right, the columns, the extra members. `firstType` is the first substructure's structure type.
-std::vector<CForceRead> PlanForceReads(const CPier& pier, const CPierReadState& state, int firstType);
+std::vector<CForceRead> PlanForceReads(const CPier& pier, const PierModel& model, StructureType firstType);
 
 // Replaces ratios that are no numbers by 0.0, but for those of extra members. Returns whether all fourteen
 // forces are finite now.

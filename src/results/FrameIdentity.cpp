@@ -26,7 +26,7 @@ int ColumnElements(const CPier& pier) {
 class FrameNumbering {
   public:
     explicit FrameNumbering(CPier& pier) : m_pier(pier) {
-        const int type = pier.m_nStructureType;
+        const StructureType type = pier.m_nStructureType;
         m_nElement = FoundationElements(pier) + 1;
         if (type == kTypePier || type == kTypeMast || type == kTypeWallA || type == kTypeWallB) {
             m_nNode = pier.m_nFoundationNodes + 1;
@@ -142,8 +142,8 @@ class FrameNumbering {
 // Walks the element table beside the mask and gives each element its row's section.
 class SectionCursor {
   public:
-    SectionCursor(CPier& pier, const CPierReadState& state, bool useMask)
-        : m_pier(pier), m_state(state), m_bUseMask(useMask) {
+    SectionCursor(CPier& pier, const PierModel& model, bool useMask)
+        : m_pier(pier), m_model(model), m_bUseMask(useMask) {
         m_nRow = m_nMask = static_cast<std::size_t>(FoundationElements(pier));
     }
 
@@ -151,19 +151,19 @@ class SectionCursor {
         for (int e = 0; e < count; ++e) {
             CElement& element = m_pier.Element(firstElement + e);
             const bool masked =
-                m_bUseMask && m_nMask < m_state.elementMask.size() && m_state.elementMask[m_nMask] != 0;
+                m_bUseMask && m_nMask < m_model.elementMask.size() && m_model.elementMask[m_nMask] != 0;
             ++m_nMask;
             if (masked) {
                 element.m_nSection = -1;
-            } else if (m_nRow < m_state.elementTable.size()) {
-                element.m_nSection = m_state.elementTable[m_nRow++].section;
+            } else if (m_nRow < m_model.elementTable.size()) {
+                element.m_nSection = m_model.elementTable[m_nRow++].section;
             }
         }
     }
 
   private:
     CPier& m_pier;
-    const CPierReadState& m_state;
+    const PierModel& m_model;
     bool m_bUseMask;
     std::size_t m_nRow = 0, m_nMask = 0;
 };
@@ -201,11 +201,11 @@ void NumberElements(CPier& pier) {
     FrameNumbering(pier).Number();
 }
 
-void AssignMemberSections(CPier& pier, const CPierReadState& state) {
-    const int type = pier.m_nStructureType;
+void AssignMemberSections(CPier& pier, const PierModel& model) {
+    const StructureType type = pier.m_nStructureType;
     const bool hasCap = type == kTypePier || type == kTypePileBent;
     if (!hasCap && type != kTypeMast && type != kTypeWallA && type != kTypeWallB) return;
-    SectionCursor cursor(pier, state, hasCap);
+    SectionCursor cursor(pier, model, hasCap);
     const auto column = [&](int i) { cursor.Assign(pier.ColumnElement(i, 0), pier.ColumnElements()); };
     const auto cap = [&](int first, int count) { cursor.Assign(first, count); };
     if (hasCap) {
@@ -218,8 +218,8 @@ void AssignMemberSections(CPier& pier, const CPierReadState& state) {
     if (type == kTypeMast) cap(left.m_nFirstElement, left.m_nElements);
 }
 
-void ApplyElementMask(CPier& pier, int firstType) {
-    const int type = pier.m_nStructureType;
+void ApplyElementMask(CPier& pier, StructureType firstType) {
+    const StructureType type = pier.m_nStructureType;
     if ((firstType != kTypePier && firstType != kTypePileBent) ||
         (type != kTypePier && type != kTypePileBent))
         return;

@@ -1,17 +1,16 @@
 #pragma once
 
-#include "model/DataSet.h"
-#include "results/CollectData.h"
+#include "results/PierModel.h"
 
 // The force file carries forces only; these steps give the elements their section, number and nodes.
 
 // Sections of the pile elements, then numbers and nodes, piles in order and elements from the head.
-void IdentifyPiles(CPier& pier, const CPierReadState& state);
+void IdentifyPiles(CPier& pier, const PierModel& model);
 // Element and node numbers of columns and cap, in the order in which the host numbers a frame.
 void NumberElements(CPier& pier);
-void AssignExtraMemberNumbers(CPier& pier, const CPierReadState& state);
-void AssignExtraMemberSections(CPier& pier, const CPierReadState& state);
+void AssignExtraMemberNumbers(CPier& pier, const PierModel& model);
+void AssignExtraMemberSections(CPier& pier, const PierModel& model);
 // Section numbers of columns and cap; -1 for an element number that the model doesn't have.
-void AssignMemberSections(CPier& pier, const CPierReadState& state);
+void AssignMemberSections(CPier& pier, const PierModel& model);
 // Marks the cap elements whose number has no row in the element table.
-void ApplyElementMask(CPier& pier, int firstType);
+void ApplyElementMask(CPier& pier, StructureType firstType);

@@ -1,11 +1,14 @@
+#include "results/LoadProject.h"
+
 #include <algorithm>
 #include <climits>
-#include <new>
 
 #include "framework/File.h"
-#include "results/CollectData.h"
-#include "results/ForcePlan.h"
+#include "results/Bearings.h"
+#include "results/Combinations.h"
+#include "results/ForceFile.h"
 #include "results/Identity.h"
+#include "results/PierModel.h"
 #include "results/ProjectFiles.h"
 #include "results/ReadData.h"
 #include "results/SeqFile.h"
@@ -17,8 +20,8 @@ namespace {
 
 constexpr int kMaxSubstructures = 10000;
 
-int ReadSubstructureCount() {
-    CSeqFile file(ProjectFile(".TWR"));
+int ReadSubstructureCount(const std::string& basePath) {
+    CSeqFile file(ProjectFile(basePath, ".TWR"));
     const int count = file.ReadInts<1>("substructure count")[0];
     if (count < 1 || count > kMaxSubstructures) {
         file.Fail(CFileException::badCount,
@@ -27,21 +30,20 @@ int ReadSubstructureCount() {
     return count;
 }
 
-long long SpanElements() {
-    return std::max((g_DataSet.m_nSpanNodes + 1LL) * (g_DataSet.m_nColumns - 1LL), 0LL);
+long long SpanElements(const PierCounts& counts) {
+    return std::max((counts.spanNodes + 1LL) * (counts.columns - 1LL), 0LL);
 }
 
-CMemberCounts MemberCounts() {
-    const CDataSet& data = g_DataSet;
-    CMemberCounts counts;
-    counts.piles = data.m_nPiles;
-    counts.pileNodes = data.m_nPileNodes;
-    counts.columns = data.m_nColumns;
-    counts.columnNodes = data.m_nColumnNodes;
-    counts.spanElements = static_cast<int>(std::min<long long>(SpanElements(), INT_MAX));
-    counts.cantileverElements = data.m_nCantilevers > 0 ? data.m_nCantileverNodes + 1 : 0;
-    counts.extraMembers = data.m_nExtraMembers;
-    return counts;
+CMemberCounts MemberCountsOf(const PierCounts& counts) {
+    CMemberCounts members;
+    members.piles = counts.piles;
+    members.pileNodes = counts.pileNodes;
+    members.columns = counts.columns;
+    members.columnNodes = counts.columnNodes;
+    members.spanElements = static_cast<int>(std::min<long long>(SpanElements(counts), INT_MAX));
+    members.cantileverElements = counts.cantilevers > 0 ? counts.cantileverNodes + 1 : 0;
+    members.extraMembers = counts.extraMembers;
+    return members;
 }
 
 // What a project may take beyond its force files, all substructures together.
@@ -50,17 +52,18 @@ constexpr long long kSlackBytes = 32LL << 20;
 constexpr long long kBytesOfACase = 144;
 static_assert(2 * sizeof(CLoadCase) <= kBytesOfACase);
 
-// Bytes of the result tables for the widest code family, before any of them is taken.
-long long TableBytes() {
-    const CDataSet& data = g_DataSet;
-    constexpr long long kRecords = kMaxSlots * (kExtremes + 1LL);
+// About what the result tables of the widest code family take: a record of six words for each section, class
+// and extreme, and an entry of a record and seven values for each cap section.
+long long TableBytes(const PierCounts& counts) {
+    constexpr long long kRecordBytes = 24, kCapEntryBytes = 96;
+    constexpr long long kRecords = kLimitClasses * (13 + 1LL);
     constexpr int kCapKinds = 3 + 4;  // of a moment and of a shear section
-    const long long sections = data.m_nSectionRecords + std::max(data.m_nColumnSections, 1) +
-                               static_cast<long long>(data.m_nXMemberSections);
-    const long long piles = 2LL * kMaxSlots * data.m_nPiles;
-    const long long cap = 2LL * kMaxSlots * kCapKinds * data.m_nColumns;
-    return sections * kRecords * static_cast<long long>(sizeof(CMaxRecord)) +
-           piles * static_cast<long long>(sizeof(int)) + cap * static_cast<long long>(sizeof(CCapEntry));
+    const long long sections = counts.sectionRecords + std::max(counts.columnSections, 1) +
+                               static_cast<long long>(counts.extraSections);
+    const long long piles = 2LL * kLimitClasses * counts.piles;
+    const long long cap = 2LL * kLimitClasses * kCapKinds * counts.columns;
+    return sections * kRecords * kRecordBytes + piles * static_cast<long long>(sizeof(int)) +
+           cap * kCapEntryBytes;
 }
 
 // What a model takes, by the counts that its files name.
@@ -74,23 +77,18 @@ struct ModelNeed {
     long long Bytes() const { return fixedBytes + bytesPerCase * cases; }  // of one that fits
 };
 
-ModelNeed NeedOf(const CMemberCounts& counts) {
-    const long long elements = static_cast<long long>(g_DataSet.m_nPileElements) +
-                               counts.columns * (counts.columnNodes + 1LL) + SpanElements() +
-                               2LL * counts.cantileverElements + counts.extraMembers;
+ModelNeed NeedOf(const PierCounts& counts) {
+    const CMemberCounts members = MemberCountsOf(counts);
     ModelNeed need{};
-    need.elements = elements;
-    need.cases = g_DataSet.m_nLoadCases;
-    need.fixedBytes =
-        2 * static_cast<long long>(sizeof(CElement) + sizeof(CSectionData)) * elements + TableBytes();
-    need.bytesPerCase = elements * static_cast<long long>(kForcesPerElement * sizeof(float)) + kBytesOfACase;
+    need.elements = static_cast<long long>(counts.pileElements) +
+                    members.columns * (members.columnNodes + 1LL) + SpanElements(counts) +
+                    2LL * members.cantileverElements + members.extraMembers;
+    need.cases = counts.loadCases;
+    need.fixedBytes = 2 * static_cast<long long>(sizeof(CElement) + sizeof(CSectionData)) * need.elements +
+                      TableBytes(counts);
+    need.bytesPerCase = need.elements * static_cast<long long>(kForcesPerElement * sizeof(float)) +
+                        kBytesOfACase;
     return need;
-}
-
-// The frame of a substructure whose project has no use for it.
-void LeaveOutFrame(CPier& pier) {
-    pier.m_nColumns = g_DataSet.m_nColumns = 0;
-    pier.m_nCantilevers = g_DataSet.m_nCantilevers = 0;
 }
 
 // Counts that lie can ask for more bytes than an integer holds.
@@ -104,83 +102,174 @@ std::string TooShort(long long fileBytes, const ModelNeed& need) {
                                      ", whose records take " + FormatFixed(records, 0));
 }
 
-// Takes the members and the forces of all cases, once the counts agree with the size of the force file: a
-// model may be a little larger than its file, which can be cut short, but never by orders of magnitude.
-// `slack` is what the substructures before this one have left for that.
-void AllocateModel(int k, CPier& pier, CDirFile& file, long long& slack) {
-    const std::string path = SubstructureFile(".vmd", k + 1);
-    CFileException notOpened(CFileException::none, path, "");
-    const bool opened = file.Open(path, kForceRecordBytes, &notOpened);
+// Holds the counts against the size of the force file: a model may be a little larger than its file, which
+// can be cut short, but never by orders of magnitude. `slack` is what the substructures before this one have
+// left for that. The frame of a substructure whose project has no use for it is left out where it asks for
+// too much.
+void RequireSize(const CDirFile& file, const CFileException& notOpened, StructureType firstType,
+                 PierCounts& counts, long long& slack) {
     const long long fileBytes = file.Length();
     const long long limit = 3 * fileBytes + slack;
-    ModelNeed need = NeedOf(MemberCounts());
-    if (!need.FitsInto(limit) && HasNoFrame(g_DataSet.FirstPier().m_nStructureType)) {
-        LeaveOutFrame(pier);
-        need = NeedOf(MemberCounts());
+    ModelNeed need = NeedOf(counts);
+    if (!need.FitsInto(limit) && HasNoFrame(firstType)) {
+        counts.columns = counts.cantilevers = 0;
+        need = NeedOf(counts);
     }
-    // A file that can't be opened is told as what it is, however much was asked of it.
+    // A file that can't be opened is reported as what it is, however much was asked of it.
     if (!need.FitsInto(limit)) {
-        if (!opened) throw notOpened;
-        throw CFileException(CFileException::badCount, path, TooShort(fileBytes, need));
+        if (!file.IsOpen()) throw notOpened;
+        throw CFileException(CFileException::badCount, notOpened.m_strFileName, TooShort(fileBytes, need));
     }
     slack -= std::max(need.Bytes() - 3 * fileBytes, 0LL);
-    try {
-        pier.AllocateMembers(MemberCounts(), g_DataSet.m_nLoadCases);
-    } catch (const std::bad_alloc&) {
-        pier = CPier();
-        if (!opened) throw notOpened;
-        throw CFileException(CFileException::generic, path,
-                             "needs " + std::to_string(need.Bytes() >> 20) +
-                                 " MB of memory for its forces, more than this process can have");
+}
+
+// Writes what the model files say into the substructure.
+void StoreModel(PierModel& model, CPier& pier) {
+    const PierCounts& counts = model.counts;
+    pier.m_nColumns = counts.columns;
+    pier.m_nColumnSections = std::max(counts.columnSections, 1);
+    pier.m_nColumnNodes = counts.columnNodes;
+    pier.m_nExtraMembers = counts.extraMembers;
+    pier.m_nXMemberSections = counts.extraSections;
+    pier.m_nUnits = counts.units;
+    pier.m_nCantilevers = counts.cantilevers;
+    pier.m_nCantileverNodes = counts.cantileverNodes;
+    pier.m_nSpanNodes = counts.spanNodes;
+    pier.m_nStructureType = counts.type;
+    pier.m_nPiles = counts.piles;
+    pier.m_nPileSections = counts.sectionRecords;
+    pier.m_nNodes = counts.nodes;
+    pier.m_nPierNodes = model.pierNodes;
+    pier.m_nFoundationNodes = model.foundationNodes;
+    pier.m_dNodes = std::move(model.nodes);
+    pier.m_ElementMask = model.elementMask;
+    pier.AllocateMembers(MemberCountsOf(counts), counts.loadCases);
+}
+
+// What all tables take from the substructure that was read last.
+void StoreCounts(const PierCounts& counts, CDataSet& data) {
+    data.m_nAnalysisMode = counts.analysisMode;
+    data.m_dNcvReal = counts.convergenceReal;
+    data.m_nNcvInteger = counts.convergenceInteger;
+    data.m_nUnits = counts.units;
+    data.m_sForceUnit = counts.units == 0 ? "kips" : "kN";
+    data.m_sMomentUnit = counts.units == 0 ? "kip-ft" : "kN-m";
+    data.m_nPilesFromNodes = counts.pilesFromNodes;
+    data.m_nExtraMembers = counts.extraMembers;
+    data.m_nXMemberSections = counts.extraSections;
+    data.m_nSpanNodes = counts.spanNodes;
+    data.m_nCantileverNodes = counts.cantileverNodes;
+    data.m_nColumnNodes = counts.columnNodes;
+    data.m_nColumnSections = counts.columnSections;
+    data.m_nStructureType = counts.type;
+    data.m_nColumns = counts.columns;
+    data.m_nCantilevers = counts.cantilevers;
+    data.m_nElementGaps = counts.elementGaps;
+    data.m_nPlfExtraCount = counts.closingCount;
+    data.m_nPileNodesTotal = counts.pileNodesTotal;
+    data.m_nPileElements = counts.pileElements;
+    data.m_nElements = counts.elements;
+    data.m_nPilTableSize = counts.pileTableSize;
+    data.m_nSectionRecords = counts.sectionRecords;
+    data.m_nSectionBlocks = counts.sectionBlocks;
+    data.m_nPiles = counts.piles;
+    data.m_nPileNodes = counts.pileNodes;
+    data.m_nLoadCases = counts.loadCases;
+}
+
+// One load, from the count of the substructures to the geometry of their caps.
+class Loader {
+  public:
+    Loader(const std::string& basePath, Messages& messages) : m_basePath(basePath), m_messages(messages) {}
+
+    // False: nothing converged, which was reported.
+    bool Load() {
+        m_data.m_nPiers = ReadSubstructureCount(m_basePath);
+        m_data.m_Piers.resize(static_cast<std::size_t>(m_data.m_nPiers));
+        for (int k = 0; k < m_data.m_nPiers; ++k) {
+            if (!ReadSubstructure(k)) return false;
+        }
+        for (int k = 0; k < m_data.m_nPiers; ++k) ReadCombinationData(m_basePath, k, m_data, m_messages);
+        ReadKeyedText();
+        int number = 0;
+        for (CPier& pier : m_data.m_Piers) ReadPileDimensions(m_basePath, ++number, pier);
+        ReadBearingsAndMasks();
+        for (CPier& pier : m_data.m_Piers) pier.BuildCapGeometry();
+        return true;
     }
-    pier.AllocateCaseSelection(g_DataSet.m_nLoadCases);
-    pier.SelectAllCases();
-}
 
-bool ReadSubstructure(CCollectData& collect, int k, long long& slack) {
-    CPierReadState state;
-    if (!collect.ReadPierHeader(k, state)) return false;
-    CPier& pier = g_DataSet.m_Piers[static_cast<std::size_t>(k)];
-    AllocateModel(k, pier, state.forceFile, slack);
-    IdentifyPiles(pier, state);
-    collect.ReadMemberForces(k, state);
-    if (pier.m_nColumns > 0) NumberElements(pier);
-    AssignExtraMemberNumbers(pier, state);
-    AssignExtraMemberSections(pier, state);
-    AssignMemberSections(pier, state);
-    return true;
-}
+    Project TakeProject() { return std::move(m_project); }
 
-void ReadKeyedText() {
-    CReadData reader;
-    ifstreamex sections(ProjectFile(".MIS"));
-    reader.ReadPierSections(sections);
-    ifstreamex texts(ProjectFile(".MIS"));
-    reader.ReadProjectData(texts);
-    ifstreamex locations(ProjectFile(".MIS"));
-    reader.ReadPierData(locations);
-}
+  private:
+    bool ReadSubstructure(int k) {
+        const std::optional<StructureType> firstType =
+            k > 0 ? std::optional(m_data.FirstPier().m_nStructureType) : std::nullopt;
+        std::optional<PierModel> model = ReadPierModel({m_basePath, k, firstType, m_maskBytes}, m_messages);
+        if (!model) return false;
+        m_maskBytes += static_cast<long long>(model->elementMask.size());
+        CPier& pier = m_data.m_Piers[static_cast<std::size_t>(k)];
+        CDirFile file;
+        CFileException notOpened(CFileException::none, SubstructureFile(m_basePath, ".vmd", k + 1), "");
+        file.Open(notOpened.m_strFileName, kForceRecordBytes, &notOpened);
+        RequireSize(file, notOpened, firstType.value_or(model->counts.type), model->counts, m_slack);
+        StoreModel(*model, pier);
+        StoreCounts(model->counts, m_data);
+        IdentifyPiles(pier, *model);
+        FindForces(*model, file, pier);
+        if (pier.m_nColumns > 0) NumberElements(pier);
+        AssignExtraMemberNumbers(pier, *model);
+        AssignExtraMemberSections(pier, *model);
+        AssignMemberSections(pier, *model);
+        return true;
+    }
+
+    void FindForces(const PierModel& model, CDirFile& file, const CPier& pier) {
+        auto forces = std::make_unique<ForceFile>(
+            pier, model.counts, PlanForceReads(pier, model, m_data.FirstPier().m_nStructureType), file);
+        const long long missing = forces->MissingRecords();
+        m_project.forces.push_back(std::move(forces));
+        m_project.missingRecords += missing;
+        if (missing == 0) return;
+        m_messages.Show(
+            file.Path() + ": " + std::to_string(missing) +
+            " force records are missing at its end. Each takes the forces of the record before it.");
+    }
+
+    // Each reader looks for its section from the beginning of the file.
+    void ReadKeyedText() {
+        ifstreamex sections(ProjectFile(m_basePath, ".MIS"));
+        ReadPierSections(sections, m_data);
+        ifstreamex texts(ProjectFile(m_basePath, ".MIS"));
+        ReadProjectData(texts, m_data);
+        ifstreamex locations(ProjectFile(m_basePath, ".MIS"));
+        ReadPierData(locations, m_data);
+    }
+
+    void ReadBearingsAndMasks() {
+        const StructureType firstType = m_data.FirstPier().m_nStructureType;
+        int number = 0;
+        for (CPier& pier : m_data.m_Piers) {
+            ++number;
+            if (firstType == kTypePier || firstType == kTypePileBent) {
+                pier.m_BearingRows = ReadBearings(m_basePath, number);
+                pier.m_nBearingRows = static_cast<int>(pier.m_BearingRows.size());
+            }
+            ApplyElementMask(pier, firstType);
+        }
+    }
+
+    const std::string& m_basePath;
+    Messages& m_messages;
+    Project m_project;
+    CDataSet& m_data = m_project.data;
+    long long m_slack = kSlackBytes;
+    long long m_maskBytes = 0;  // of the substructures that were read
+};
 
 }  // namespace
 
-bool CDataSet::LoadProject() {
-    CCollectData collect;
-    m_nPiers = ReadSubstructureCount();
-    m_Piers.clear();
-    m_Piers.resize(static_cast<std::size_t>(m_nPiers));
-    long long slack = kSlackBytes;
-    for (int k = 0; k < m_nPiers; ++k) {
-        if (!ReadSubstructure(collect, k, slack)) return false;
-    }
-    for (int k = 0; k < m_nPiers; ++k) collect.ReadCombinationData(k);
-    ReadKeyedText();
-    for (int k = 0; k < m_nPiers; ++k) collect.ReadPileDimensions(k + 1);
-    for (int k = 0; k < m_nPiers; ++k) {
-        collect.ReadBearings(k);
-        ApplyElementMask(m_Piers[static_cast<std::size_t>(k)], FirstPier().m_nStructureType);
-    }
-    const int firstType = FirstPier().m_nStructureType;
-    if (firstType != kTypePier && firstType != kTypePileBent) m_bTableValid[kTableCapShear] = false;
-    for (CPier& pier : m_Piers) pier.AllocateResultTables();
-    return true;
+std::optional<Project> LoadProject(const std::string& basePath, Messages& messages) {
+    Loader loader(basePath, messages);
+    if (!loader.Load()) return std::nullopt;
+    return loader.TakeProject();
 }

@@ -2,7 +2,6 @@
 #include <cmath>
 #include <string>
 
-#include "model/DataSet.h"
 #include "results/ReadData.h"
 
 namespace {
@@ -101,11 +100,8 @@ class BlockReader {
 
 }  // namespace
 
-void CReadData::ReadPierSections(ifstreamex& file) {
-    const int firstType = g_DataSet.FirstPier().m_nStructureType;
-    if (HasNoFrame(firstType)) {
-        return;
-    }
+void ReadPierSections(ifstreamex& file, CDataSet& data) {
+    if (HasNoFrame(data.FirstPier().m_nStructureType)) return;
     if (!FindSection(file, "PIERXSEC")) return;
     std::string header;
     file.GetLineEx(header, kLineLength);
@@ -113,7 +109,7 @@ void CReadData::ReadPierSections(ifstreamex& file) {
     ReadKeyedInt(header, "P", described);
     ReadKeyedInt(header, "L", squared);
     BlockReader reader(file, squared == 1);
-    for (int i = 0; i < described && i < static_cast<int>(g_DataSet.m_Piers.size()) && !reader.AtEnd(); ++i) {
-        reader.Read(g_DataSet.m_Piers[static_cast<std::size_t>(i)]);
+    for (int i = 0; i < described && i < static_cast<int>(data.m_Piers.size()) && !reader.AtEnd(); ++i) {
+        reader.Read(data.m_Piers[static_cast<std::size_t>(i)]);
     }
 }

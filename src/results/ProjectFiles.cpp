@@ -1,7 +1,6 @@
 #include "results/ProjectFiles.h"
 
 #include "framework/File.h"
-#include "session/Session.h"
 
 namespace {
 std::string AsItLies(const std::string& path) {
@@ -10,11 +9,11 @@ std::string AsItLies(const std::string& path) {
 }
 }  // namespace
 
-std::string ProjectFile(const char* suffix) {
-    return AsItLies(g_ProjectBasePath + suffix);
+std::string ProjectFile(const std::string& basePath, const char* suffix) {
+    return AsItLies(basePath + suffix);
 }
 
-std::string SubstructureFile(const char* suffix, int number) {
-    const std::string path = g_ProjectBasePath + suffix;
+std::string SubstructureFile(const std::string& basePath, const char* suffix, int number) {
+    const std::string path = basePath + suffix;
     return AsItLies(number > 1 ? path + std::to_string(number) : path);
 }

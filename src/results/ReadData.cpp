@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <string>
 
-#include "model/DataSet.h"
 #include "text/Format.h"
 
 namespace {
@@ -24,7 +23,7 @@ constexpr ProjectText kProjectTexts[] = {
 
 }  // namespace
 
-bool CReadData::FindSection(ifstreamex& file, std::string_view keyword) {
+bool FindSection(ifstreamex& file, std::string_view keyword) {
     if (!file.bad()) file.clear(file.is_open() ? std::ios::goodbit : std::ios::failbit);
     std::string line;
     while (file.GetLineEx(line, kLineLength)) {
@@ -33,7 +32,7 @@ bool CReadData::FindSection(ifstreamex& file, std::string_view keyword) {
     return false;
 }
 
-bool CReadData::ReadProjectData(ifstreamex& file) {
+bool ReadProjectData(ifstreamex& file, CDataSet& data) {
     if (!FindSection(file, "PROJECTDATA")) return false;
     std::string line;
     int length = 0;
@@ -43,12 +42,12 @@ bool CReadData::ReadProjectData(ifstreamex& file) {
         const std::size_t at = line.find(text.key);
         if (at == std::string::npos) continue;
         const std::string_view value = Trim(std::string_view(line).substr(at + text.key.size()));
-        g_DataSet.*text.field = value.substr(0, static_cast<std::size_t>(std::max(length, 0)));
+        data.*text.field = value.substr(0, static_cast<std::size_t>(std::max(length, 0)));
     }
     return true;
 }
 
-bool CReadData::ReadPierData(ifstreamex& file) {
+bool ReadPierData(ifstreamex& file, CDataSet& data) {
     if (!FindSection(file, "PIERDATA")) return false;
     std::string line;
     int lines = 0;
@@ -59,8 +58,8 @@ bool CReadData::ReadPierData(ifstreamex& file) {
     for (int i = 0; i < lines && file.GetLineEx(line, kLineLength); ++i) {
         ReadKeyedInt(line, "P", number);
         ReadKeyedDouble(line, "X", location);
-        if (number >= 1 && number <= static_cast<int>(g_DataSet.m_Piers.size())) {
-            g_DataSet.m_Piers[static_cast<std::size_t>(number - 1)].m_dLocationX = location;
+        if (number >= 1 && number <= static_cast<int>(data.m_Piers.size())) {
+            data.m_Piers[static_cast<std::size_t>(number - 1)].m_dLocationX = location;
         }
     }
     return true;

@@ -1,18 +1,18 @@
 #pragma once
 
-#include <string_view>
-
-#include "framework/Object.h"
+#include "model/DataSet.h"
 #include "text/KeyedLine.h"
 
-// The keyed text file of the project: the cross-sections of the substructures, the project's texts and the
-// location of each substructure. Each reader scans the stream for its section and stops behind the first.
-class CReadData : public CObject {
-  public:
-    void ReadPierSections(ifstreamex& file);
-    bool ReadProjectData(ifstreamex& file);
-    bool ReadPierData(ifstreamex& file);
+// The readers of the project's keyed text file. Each scans the stream for its section from the beginning and
+// stops after the first; a stream that could not be opened holds nothing.
 
-  private:
-    static bool FindSection(ifstreamex& file, std::string_view keyword);
-};
+// The cross-sections of columns and caps. The flags of a substructure's block carry over to the next one, the
+// other keys from line to line.
+void ReadPierSections(ifstreamex& file, CDataSet& data);
+// The project's texts. False: there is no such section.
+bool ReadProjectData(ifstreamex& file, CDataSet& data);
+// The location of each substructure. False: there is no such section.
+bool ReadPierData(ifstreamex& file, CDataSet& data);
+
+// Moves on to the line after the one that begins with the keyword. False: there is none.
+bool FindSection(ifstreamex& file, std::string_view keyword);

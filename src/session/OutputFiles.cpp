@@ -1,10 +1,12 @@
 #include "session/OutputFiles.h"
 
-#include <numeric>
+#include <charconv>
 
 #include "framework/Backend.h"
 #include "session/Constants.h"
+#include "session/ReportState.h"
 #include "session/Session.h"
+#include "writers/PdfExport.h"
 
 namespace {
 
@@ -28,6 +30,9 @@ constexpr ViewerFailure kViewerFailures[] = {
     {31, "There is no application associated with the given file name extension."},
     {32, "The specified dynamic-link library was not found."},
 };
+
+// The table image builder, a program beside the host.
+constexpr const char* kBuilderName = "Jarlimex.exe";
 
 constexpr int kLastFailureCode = 32;
 constexpr unsigned kTextCapacity = 4;  // the size that the read of the number before it left behind
@@ -56,6 +61,16 @@ void ShowOutputFile(int format) {
                                                     : services::ShellOpen("", quoted, ""));
 }
 
+void OpenInSpreadsheet(const std::string& path) {
+    ReportViewerResult(services::StartProgram("Excel", '"' + path + '"'));
+}
+
+void StartTableBuilder(CPdfExport& table) {
+    BoxMessages messages;
+    if (!table.Write(messages)) return;
+    services::ShellOpen("", HostProgramFolder() + kBuilderName, '"' + table.DescriptionPath() + '"');
+}
+
 void ReportViewerResult(int code) {
     if (code > kLastFailureCode) return;
     for (const ViewerFailure& failure : kViewerFailures) {
@@ -82,21 +97,13 @@ std::string ReadViewerValue(const char* name) {
     return services::ReadViewerNumber(name, value) ? std::to_string(value) : "";
 }
 
-void SetDefaultPrinterOrientation(int mode) {
-    if (mode == 0 || mode == 1) services::SetPrinterLandscape(mode == 1);
+int ViewerFontSize() {
+    const std::string tenths = ReadViewerValue("iPointSize");
+    int value = 0;
+    std::from_chars(tenths.data(), tenths.data() + tenths.size(), value);
+    return value / 10;
 }
 
-void SplitWidth(std::span<const int> weights, std::span<int> out, int total) {
-    const long long sum = std::accumulate(weights.begin(), weights.end(), 0LL);
-    if (sum <= 0) return;
-    long long fractions = 0;
-    for (std::size_t i = 0; i < weights.size() && i < out.size(); ++i) {
-        const long long share = static_cast<long long>(weights[i]) * total;
-        out[i] = static_cast<int>(share / sum);
-        fractions += share % sum;
-    }
-    const long long spread = fractions / sum;
-    for (long long i = 0; i < spread && i < static_cast<long long>(out.size()); ++i) {
-        ++out[static_cast<std::size_t>(i)];
-    }
+void SetDefaultPrinterOrientation(int mode) {
+    if (mode == 0 || mode == 1) services::SetPrinterLandscape(mode == 1);
 }

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <span>
 #include <string>
+
+class CPdfExport;
 
 // How report files are named, opened in viewers, and how a failed start is worded. All output lies beside
 // the project and shares its base name; a run replaces the earlier file of the same table and format.
@@ -13,6 +14,13 @@ void BuildOutputFilePath(unsigned table, unsigned kind);
 // Starts the viewer on g_OutputFilePath: the spreadsheet program for the spreadsheet format, otherwise
 // whatever the machine associates with the file's type. A failed start is told in a message box.
 void ShowOutputFile(int format);
+
+// Starts the spreadsheet program on a workbook and reports a failed start.
+void OpenInSpreadsheet(const std::string& path);
+
+// Writes the description file of a grid and starts the table image builder on it, without waiting for it. An
+// empty grid is refused with a message; a builder that cannot be started is not noticed.
+void StartTableBuilder(CPdfExport& table);
 
 // One message box for a shell code of 32 or less.
 void ReportViewerResult(int code);
@@ -27,9 +35,8 @@ void ReadViewerSettings(ViewerSettings& settings);
 // A viewer setting as decimal text; empty when there is no such value.
 std::string ReadViewerValue(const char* name);
 
+// The text viewer's font size in points; 0 when there is no such setting.
+int ViewerFontSize();
+
 // 0 portrait, 1 landscape, anything else leaves it.
 void SetDefaultPrinterOrientation(int mode);
-
-// Spreads `total` over the columns by weight; what integer division leaves goes to the first columns, one
-// each. Both spans have one entry a column.
-void SplitWidth(std::span<const int> weights, std::span<int> out, int total);

@@ -6,6 +6,8 @@
 #include "session/Constants.h"
 #include "text/Utf8.h"
 
+CDataSet g_DataSet;
+
 std::string g_InputFilePath;
 std::string g_ProjectBasePath;
 std::string g_ProjectFolder;
@@ -28,6 +30,14 @@ namespace {
 constexpr std::size_t kExtensionLength = 3;
 }  // namespace
 
+void ResetSession() {
+    g_DataSet.Reset();
+    g_FooterOn = g_FooterDate = g_FooterTime = g_FooterVersion = g_FooterFileName = 0;
+    g_ReportFormat = kFormatSpreadsheet;
+    g_AllLoadCases = true;
+    g_DataLoaded = true;
+}
+
 void StripQuotes(std::string& text) {
     if (!text.empty() && text.front() == '"') text.erase(0, 1);
     if (!text.empty() && text.back() == '"') text.pop_back();
@@ -47,10 +57,6 @@ void DerivePaths() {
     }
     if (hasFolder && nameLength > 0) g_ProjectFolder = path.substr(0, path.size() - nameLength);
     g_ProjectFileName = hasFolder ? path.substr(path.size() - nameLength) : "";
-}
-
-std::string PathAsText(const std::string& path) {
-    return services::PathsAreUtf8() ? ToWestern(path) : path;
 }
 
 void TrimRightCharacters(std::string& text, const std::string& characters) {

@@ -2,9 +2,13 @@
 
 #include <string>
 
+#include "model/DataSet.h"
+
 // The state of one call of LaunchLumerin: what the host passed, the paths derived from it, and the report
 // options of the press that is running. The module stays loaded between calls, so the strings outlive a call
 // and are overwritten by the next one.
+
+extern CDataSet g_DataSet;  // the project of the dialog; empty between two calls and after a failed load
 
 extern std::string g_InputFilePath;         // the project's input file, as the host gave it
 extern std::string g_ProjectBasePath;       // without its last three characters; empty: no project is open
@@ -20,11 +24,15 @@ extern std::string g_HostTextB;             // stored, read by nothing
 
 extern int g_InitialReportFormat;  // the format radio group starts on it
 
-// Set to their start values by CDataSet::Reset together with the model.
+// Set to their start values by ResetSession.
 extern bool g_DataLoaded;  // the project was read already for this call
 extern int g_FooterOn, g_FooterDate, g_FooterTime, g_FooterVersion, g_FooterFileName;
 extern int g_ReportFormat;   // copy of the format radio group; steers FormatCellText alone
 extern bool g_AllLoadCases;  // the radio button "All Load Cases" is the selected one
+
+// Start values for the project and for the options that go with it. g_DataLoaded becomes true, so that a
+// second show of the dialog in the same call skips the load.
+void ResetSession();
 
 // Removes one double quote from each end that has one.
 void StripQuotes(std::string& text);
@@ -32,10 +40,6 @@ void StripQuotes(std::string& text);
 // Sets base path, folder and file name from g_InputFilePath. The folder keeps its earlier value when the
 // path has no folder or ends in one.
 void DerivePaths();
-
-// A path as a document shows it: bytes of the Western code page, one a character. The path itself stays as it
-// was given, or its file would not be found.
-std::string PathAsText(const std::string& path);
 
 // Cuts from the end of `text` every character that occurs in `characters` (a set, not a suffix).
 void TrimRightCharacters(std::string& text, const std::string& characters);

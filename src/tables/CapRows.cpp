@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-#include "model/DataSet.h"
+#include "tables/Words.h"
 #include "text/Format.h"
 
 namespace {
@@ -50,37 +50,39 @@ bool Holds(const CCapTable& table, int position, int slot, int kind) {
 
 // The tables of one pier that a walk reads.
 struct Walk {
-    int table;
-    const CPier& pier;
-    int slot, extreme;
+    const CapBlock& block;
     const std::function<void(const CCapRow&)>& visit;
 
-    bool IsShear() const { return table == kTableCapShear; }
+    bool IsShear() const { return block.table == kTableCapShear; }
+    const std::vector<double>& SupportX() const {
+        return IsShear() ? block.results.shearSupportX : block.results.momentSupportX;
+    }
 
     void Support(std::size_t cursor, int point) const {
-        const auto& list = IsShear() ? pier.m_ShearSupportList : pier.m_MomentSupportList;
-        const CCapTable& results = IsShear() ? pier.m_ShearSupports : pier.m_MomentSupports;
+        const auto& list = IsShear() ? block.results.shearSupportList : block.results.momentSupportList;
+        const CCapTable& results = IsShear() ? block.results.shearSupports : block.results.momentSupports;
         if (cursor >= list.size()) return;
         const CSupportLocation& place = list[cursor];
-        if (!Holds(results, place.m_nSupport, slot, place.m_nKind)) return;
+        if (!Holds(results, place.m_nSupport, block.slot, place.m_nKind)) return;
         CCapRow row;
-        row.sLabel = CapSupportLabel(table, pier.m_nStructureType, place.m_nSupport, place.m_nKind);
-        row.pEntry = &results.At(place.m_nSupport, slot, place.m_nKind, extreme);
+        row.sLabel =
+            CapSupportLabel(block.table, block.pier.m_nStructureType, place.m_nSupport, place.m_nKind);
+        row.pEntry = &results.At(place.m_nSupport, block.slot, place.m_nKind, block.extreme);
         row.nPoint = point;
         row.support = place;
         visit(row);
     }
 
     void Bearing(std::size_t cursor, int point) const {
-        if (cursor >= pier.m_BearingList.size()) return;
-        const CBearingLocation& place = pier.m_BearingList[cursor];
-        const CCapTable& results = IsShear() ? pier.m_ShearBearings : pier.m_MomentBearings;
+        if (cursor >= block.pier.m_BearingList.size()) return;
+        const CBearingLocation& place = block.pier.m_BearingList[cursor];
+        const CCapTable& results = IsShear() ? block.results.shearBearings : block.results.momentBearings;
         for (int side = 0; side < (IsShear() ? 2 : 1); ++side) {
             const int kind = IsShear() ? place.Row() * 2 + side : place.Row();
-            if (!Holds(results, place.m_nBearing, slot, kind)) continue;
+            if (!Holds(results, place.m_nBearing, block.slot, kind)) continue;
             CCapRow row;
-            row.sLabel = CapBearingLabel(table, place, side);
-            row.pEntry = &results.At(place.m_nBearing, slot, kind, extreme);
+            row.sLabel = CapBearingLabel(block.table, place, side);
+            row.pEntry = &results.At(place.m_nBearing, block.slot, kind, block.extreme);
             row.bBearing = true;
             row.nPoint = point + side;
             row.bearing = place;
@@ -93,7 +95,7 @@ struct Walk {
     }
 };
 
-void AddWordLine(std::vector<CCapKeyLine>& key, int structureType, bool withBearing) {
+void AddWordLine(std::vector<CCapKeyLine>& key, StructureType structureType, bool withBearing) {
     CCapKeyLine line{{MemberShortName(structureType), MemberName(structureType)}, std::nullopt};
     if (withBearing) line.right = CCapKeyEntry{"Brg", "Bearing"};
     key.push_back(line);
@@ -110,34 +112,34 @@ void AddLines(std::vector<CCapKeyLine>& key, const std::array<KeyForm, N>& forms
 
 }  // namespace
 
-void WalkCap(int table, const CPier& pier, int slot, int extreme,
-             const std::function<void(const CCapRow&)>& visit) {
-    const Walk walk{table, pier, slot, extreme, visit};
-    const int rows = walk.IsShear() ? pier.m_nCapShearPoints : pier.m_nCapMomentPoints;
+void WalkCap(const CapBlock& block, const std::function<void(const CCapRow&)>& visit) {
+    const Walk walk{block, visit};
+    const int rows = walk.IsShear() ? block.pier.m_nCapShearPoints : block.pier.m_nCapMomentPoints;
     int support = 0, bearing = 0;
     for (int count = 0; count < rows;) {
-        const int next =
-            walk.IsShear() ? pier.NextShearPoint(support, bearing) : pier.NextMomentPoint(support, bearing);
-        if (next == 0) {
-            walk.Support(static_cast<std::size_t>(support++), count);
-            ++count;
-        } else if (next == 1) {
-            walk.Bearing(static_cast<std::size_t>(bearing++), count);
-            count += walk.IsShear() ? 2 : 1;
-        } else {
-            break;
+        switch (NextCapPoint(walk.SupportX(), support, block.pier.m_BearingX, bearing)) {
+            case NextPoint::support:
+                walk.Support(static_cast<std::size_t>(support++), count);
+                ++count;
+                break;
+            case NextPoint::bearing:
+                walk.Bearing(static_cast<std::size_t>(bearing++), count);
+                count += walk.IsShear() ? 2 : 1;
+                break;
+            case NextPoint::nothing:
+                return;
         }
     }
 }
 
-std::string CapSupportLabel(int table, int structureType, int support, int kind) {
+std::string CapSupportLabel(TableId table, StructureType structureType, int support, int kind) {
     const bool shear = table == kTableCapShear;
     const std::string_view form = shear ? At(kShearKinds, kind) : At(kMomentKinds, kind);
     if (form.empty()) return shear ? "Invalid" : "";
     return MemberShortName(structureType) + FormatNumbered(form, support + 1);
 }
 
-std::string CapBearingLabel(int table, const CBearingLocation& bearing, int side) {
+std::string CapBearingLabel(TableId table, const CBearingLocation& bearing, int side) {
     const std::string_view form = table == kTableCapShear
                                       ? At(kShearBearings[side == 0 ? 0 : 1], bearing.m_nRowCode)
                                       : At(kMomentBearings, bearing.m_nRowCode);
@@ -148,16 +150,16 @@ std::string CCapKeyEntry::Text() const {
     return (sShort.empty() ? sShort : PadRight(sShort, 3)) + " = " + sLong;
 }
 
-std::vector<CCapKeyLine> CapKey(int table) {
+std::vector<CCapKeyLine> CapKey(TableId table, const CDataSet& data) {
     std::vector<CCapKeyLine> key;
     std::string word = "Support";
-    if (g_DataSet.m_Piers.size() == 1) {
-        const int type = g_DataSet.FirstPier().m_nStructureType;
+    if (data.m_Piers.size() == 1) {
+        const StructureType type = data.FirstPier().m_nStructureType;
         word = MemberName(type);
         AddWordLine(key, type, true);
     } else {
-        const bool bents = g_DataSet.HasStructureType(kTypePileBent);
-        if (g_DataSet.HasStructureType(kTypePier)) AddWordLine(key, kTypePier, !bents);
+        const bool bents = data.HasStructureType(kTypePileBent);
+        if (data.HasStructureType(kTypePier)) AddWordLine(key, kTypePier, !bents);
         if (bents) AddWordLine(key, kTypePileBent, true);
     }
     if (table == kTableCapShear) {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "model/Pier.h"
+#include "tables/Report.h"
 
 // What the two cap tables (kTableCapShear, kTableCapMoment) share in every format: the walk along the cap,
 // the labels of its rows, and the key below the last block.
@@ -23,14 +23,22 @@ struct CCapRow {
     int nSide = 0;               // of a bearing row of the shear table: 0 left, 1 right
 };
 
-// Visits the rows of a pier's block from left to right. Nothing is visited for a pier without a cap.
-void WalkCap(int table, const CPier& pier, int slot, int extreme,
-             const std::function<void(const CCapRow&)>& visit);
+// A block of a cap table: a substructure's sections in a limit class, with the maximum (0) or the minimum (1)
+// of each.
+struct CapBlock {
+    TableId table;
+    const CPier& pier;
+    const PierResults& results;
+    LimitClass slot;
+    int extreme;
+};
+// Visits the rows of a block from left to right. Nothing is visited for a substructure without a cap.
+void WalkCap(const CapBlock& block, const std::function<void(const CCapRow&)>& visit);
 
 // "Invalid" (shear) or empty (moment) for a location kind outside the list.
-std::string CapSupportLabel(int table, int structureType, int support, int kind);
+std::string CapSupportLabel(TableId table, StructureType structureType, int support, int kind);
 // side: 0 left, 1 right; the moment table has one row a bearing and no side.
-std::string CapBearingLabel(int table, const CBearingLocation& bearing, int side);
+std::string CapBearingLabel(TableId table, const CBearingLocation& bearing, int side);
 
 struct CCapKeyEntry {
     std::string sShort;  // "LF"
@@ -42,5 +50,5 @@ struct CCapKeyLine {
     CCapKeyEntry left;
     std::optional<CCapKeyEntry> right;
 };
-// The lines of the key, by the structure types of all piers of the data set.
-std::vector<CCapKeyLine> CapKey(int table);
+// The lines of the key, by the structure types of all substructures.
+std::vector<CCapKeyLine> CapKey(TableId table, const CDataSet& data);

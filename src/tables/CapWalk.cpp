@@ -1,8 +1,8 @@
-#include "model/DataSet.h"
 #include "tables/CapRows.h"
 #include "tables/Catalogue.h"
 #include "tables/RowText.h"
 #include "tables/TableWalks.h"
+#include "tables/Words.h"
 
 // Tables 3 and 4: for each design section of the cap, in order of position, the case with the maximum and the
 // case with the minimum, and all that acts there in the same case.
@@ -10,9 +10,9 @@ namespace {
 
 constexpr std::size_t kKeyColumn = 43;
 
-std::string CapKeyText(int table) {
+std::string CapKeyText(TableId table, const CDataSet& data) {
     std::string text = "\n\n \"Location & Side\" Key:\n\n";
-    const std::vector<CCapKeyLine> key = CapKey(table);
+    const std::vector<CCapKeyLine> key = CapKey(table, data);
     for (const CCapKeyLine& line : key) {
         text += "    ";
         // The moment table's last line has no right entry and ends with its left one; other lines keep the
@@ -27,38 +27,40 @@ std::string CapKeyText(int table) {
 
 class CCapWalk {
   public:
-    CCapWalk(const TableLayout& layout, CLineSink& sink)
-        : m_layout(layout),
+    CCapWalk(const Report& report, const TableLayout& layout, CLineSink& sink)
+        : m_report(report),
+          m_layout(layout),
           m_cap(layout.cap),
           m_sink(sink),
-          m_bLimitStates(g_DataSet.FirstPier().m_bCombinations) {}
+          m_bLimitStates(report.data.HasCombinations()) {}
 
     void Run() {
-        WriteTitleLine(m_layout, m_sink);
+        WriteTitleLine(m_report, m_layout, m_sink);
         m_sink.Gap(2);
-        m_head = BuildColumnHead(m_layout);
-        const std::size_t piers = g_DataSet.m_Piers.size();
+        m_head = BuildColumnHead(m_report.data, m_layout);
+        const std::size_t piers = m_report.data.m_Piers.size();
         for (std::size_t p = 0; p < piers; ++p) {
-            WriteExtreme(g_DataSet.m_Piers[p], static_cast<int>(p) + 1, 0);
+            WriteExtreme(p, 0);
             m_sink.Gap(3);
-            WriteExtreme(g_DataSet.m_Piers[p], static_cast<int>(p) + 1, 1);
+            WriteExtreme(p, 1);
             if (p + 1 < piers) m_sink.Gap(3);
         }
         m_sink.MayBreak(BreakPoint::key);
-        m_sink.Key(CapKeyText(m_layout.table));
+        m_sink.Key(CapKeyText(m_layout.table, m_report.data));
     }
 
   private:
-    void WriteExtreme(const CPier& pier, int number, int extreme) {
+    void WriteExtreme(std::size_t p, int extreme) {
+        const CPier& pier = m_report.data.m_Piers[p];
         m_sink.MayBreak(BreakPoint::pierHeading);
-        WriteHeading(pier, number, extreme);
-        const int slots = g_DataSet.FirstPier().SlotCount();
-        for (int slot = 0; slot < slots; ++slot) {
-            if (!WriteSectionHeading(m_layout, slot, m_sink)) continue;
+        WriteHeading(pier, static_cast<int>(p) + 1, extreme);
+        const std::span<const LimitClass> slots = m_report.data.FirstPier().Slots();
+        for (const LimitClass slot : slots) {
+            if (!WriteSectionHeading(m_report, m_layout, slot, m_sink)) continue;
             m_sink.MayBreak(BreakPoint::columnHead);
             m_sink.Head(m_head);
-            WriteRows(pier, slot, extreme);
-            if (slot + 1 < slots) m_sink.Gap(2);
+            WriteRows({m_layout.table, pier, m_report.results.piers[p], slot, extreme});
+            if (slot != slots.back()) m_sink.Gap(2);
         }
     }
 
@@ -72,8 +74,8 @@ class CCapWalk {
         m_sink.Gap(2);
     }
 
-    void WriteRows(const CPier& pier, int slot, int extreme) {
-        WalkCap(m_layout.table, pier, slot, extreme, [this](const CCapRow& row) {
+    void WriteRows(const CapBlock& block) {
+        WalkCap(block, [this](const CCapRow& row) {
             m_row.clear();
             AppendLeftPadded(m_row, row.sLabel, 12);
             m_row += ' ';
@@ -122,7 +124,7 @@ class CCapWalk {
 
     void AppendResult(const CCapRecord& record, const CapValues& values) {
         AppendInt(m_row, record.m_nLoadCase + 1LL, 5);
-        if (m_bLimitStates) AppendLeftPadded(m_row, LimitStateOf(record.m_nLoadCase), 15);
+        if (m_bLimitStates) AppendLeftPadded(m_row, LimitStateOf(m_report.data, record.m_nLoadCase), 15);
         AppendEnd(record.m_nEnd);
         for (std::size_t i = 0; i < m_cap.values; ++i) {
             if (i + 1 < m_cap.values) m_row += "   ";
@@ -135,6 +137,7 @@ class CCapWalk {
         m_row += end >= kEndI && end <= kInsideElement ? kEnds[end] : "  ***";
     }
 
+    const Report& m_report;
     const TableLayout& m_layout;
     const CapTexts& m_cap;
     CLineSink& m_sink;
@@ -146,6 +149,6 @@ class CCapWalk {
 
 }  // namespace
 
-void WalkCapTable(const TableLayout& layout, CLineSink& sink) {
-    CCapWalk(layout, sink).Run();
+void WalkCapTable(const Report& report, const TableLayout& layout, CLineSink& sink) {
+    CCapWalk(report, layout, sink).Run();
 }

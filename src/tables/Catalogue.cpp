@@ -2,12 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
-#include "model/DataSet.h"
-#include "session/Constants.h"
-#include "session/OutputFiles.h"
-#include "session/Session.h"
+#include "tables/Words.h"
 #include "text/Format.h"
 
 namespace {
@@ -15,21 +11,21 @@ namespace {
 // What heads the block of one slot. The section tables 0, 1 and 2 carry the word MAXIMUM, the cap tables and
 // the force tables do not.
 struct SlotHeading {
-    int family;
-    int slot;
+    CodeFamily family;
+    LimitClass slot;
     bool needsClass;     // the block appears only when a selected case has that class
     bool capMomentOnly;  // fatigue has a block in the cap moment table alone
     const char* maximum;
     const char* plain;
 };
 constexpr std::array<SlotHeading, 7> kSlotHeadings{{
-    {kFamilyLrfd, 0, true, false, " MAXIMUM STRENGTH CASE DATA", " STRENGTH CASE DATA"},
-    {kFamilyLrfd, 1, true, false, " MAXIMUM SERVICE CASE DATA", " SERVICE CASE DATA"},
-    {kFamilyLrfd, 2, true, false, " MAXIMUM EXTREME CASE DATA", " EXTREME CASE DATA"},
-    {kFamilyLrfd, 3, true, true, " MAXIMUM FATIGUE CASE DATA", " FATIGUE CASE DATA"},
-    {kFamilyLfd, 0, false, false, " MAXIMUM LOAD FACTOR DESIGN DATA", " LOAD FACTOR DESIGN DATA"},
-    {kFamilyArema, 0, true, false, " MAXIMUM LOAD FACTOR DESIGN DATA", " LOAD FACTOR DESIGN DATA"},
-    {kFamilyArema, 1, true, false, " MAXIMUM SERVICE LOAD DESIGN DATA", " SERVICE LOAD DESIGN DATA"},
+    {kFamilyLrfd, kStrength, true, false, " MAXIMUM STRENGTH CASE DATA", " STRENGTH CASE DATA"},
+    {kFamilyLrfd, kService, true, false, " MAXIMUM SERVICE CASE DATA", " SERVICE CASE DATA"},
+    {kFamilyLrfd, kExtreme, true, false, " MAXIMUM EXTREME CASE DATA", " EXTREME CASE DATA"},
+    {kFamilyLrfd, kFatigue, true, true, " MAXIMUM FATIGUE CASE DATA", " FATIGUE CASE DATA"},
+    {kFamilyLfd, kStrength, false, false, " MAXIMUM LOAD FACTOR DESIGN DATA", " LOAD FACTOR DESIGN DATA"},
+    {kFamilyArema, kStrength, true, false, " MAXIMUM LOAD FACTOR DESIGN DATA", " LOAD FACTOR DESIGN DATA"},
+    {kFamilyArema, kService, true, false, " MAXIMUM SERVICE LOAD DESIGN DATA", " SERVICE LOAD DESIGN DATA"},
 }};
 
 // How much of a report the text viewer shows on one printed page.
@@ -64,35 +60,36 @@ constexpr std::size_t kNameWidth = 15;
 
 }  // namespace
 
-std::string TableHeadTitle(int table) {
-    if (g_DataSet.IsPierless()) return {};
-    const bool severalPiers = g_DataSet.m_Piers.size() > 1;
+std::string TableHeadTitle(TableId table, const CDataSet& data) {
+    if (data.IsPierless()) return {};
+    const bool severalPiers = data.m_Piers.size() > 1;
     const bool columnTable = table == kTableColumnDc || table == kTableColumnForces;
     // Substructures of several types share the column tables, so their title is the pier's.
-    const int type = columnTable && severalPiers ? kTypePier : g_DataSet.FirstPier().m_nStructureType;
+    const StructureType type = columnTable && severalPiers ? kTypePier : data.FirstPier().m_nStructureType;
     return TableTitle(table, type);
 }
 
-bool SectionHeading(int table, int slot, std::string& heading) {
+bool SectionHeading(const Report& report, TableId table, LimitClass slot, std::string& heading) {
+    const CDataSet& data = report.data;
     heading.clear();
-    if (g_DataSet.IsPierless()) return false;
-    const CPier& first = g_DataSet.FirstPier();
-    const int family = first.m_nCodeFamily;
+    if (data.IsPierless()) return false;
+    const CPier& first = data.FirstPier();
+    const CodeFamily family = first.m_nCodeFamily;
     if (!first.m_bCombinations) return true;
     if (family < kFamilyLrfd || family > kFamilyArema) return true;
     for (const SlotHeading& entry : kSlotHeadings) {
         if (entry.family != family || entry.slot != slot) continue;
         if (entry.capMomentOnly && table != kTableCapMoment) return false;
-        if (entry.needsClass && !first.IsClassPresent(slot)) return false;
+        if (entry.needsClass && !report.selection.IsClassPresent(slot)) return false;
         heading = table <= kTableColumnDc ? entry.maximum : entry.plain;
         return true;
     }
     return false;
 }
 
-std::string FormatCellText(std::string_view text, std::size_t width) {
+std::string FormatCellText(std::string_view text, std::size_t width, ReportFormat format) {
     std::string cell(text == "0.00" || text == "-0.00" ? std::string_view("0") : text);
-    if (g_ReportFormat != kFormatSpreadsheet) return PadLeft(cell, width);
+    if (format != kFormatSpreadsheet) return PadLeft(cell, width);
     if (cell.find('\n') == std::string::npos) cell += '\t';
     return cell;
 }
@@ -116,23 +113,12 @@ std::string CenterText(int fontSize, std::string_view text) {
     return Blanks(static_cast<std::size_t>(blanks)).append(text);
 }
 
-int ViewerFontSize() {
-    const std::string tenths = ReadViewerValue("iPointSize");
-    int value = 0;
-    std::from_chars(tenths.data(), tenths.data() + tenths.size(), value);
-    return value / 10;
-}
-
 int CharsPerLine(int fontSize) {
     return PageOf(fontSize).charsPerLine;
 }
 
-int LinesPerPage() {
-    return PageOf(ViewerFontSize()).linesPerPage;
-}
-
-int LinesToPageEnd(int lines) {
-    return LinesLeft(LinesPerPage(), lines);
+int LinesPerPage(int fontSize) {
+    return PageOf(fontSize).linesPerPage;
 }
 
 void PadToPageEnd(int pageLines, int usedLines, StoredStream& out) {
@@ -140,14 +126,14 @@ void PadToPageEnd(int pageLines, int usedLines, StoredStream& out) {
     if (left > 0) out.Write(std::string(static_cast<std::size_t>(left), '\n'));
 }
 
-int TitlePageBlankLines() {
-    return static_cast<int>(LinesPerPage() * 0.5 + 1.0) - 2;
+int TitlePageBlankLines(const ReportOptions& options) {
+    return static_cast<int>(LinesPerPage(options.viewerFontSize) * 0.5 + 1.0) - 2;
 }
 
-std::array<std::string, 5> TitlePageLines() {
+std::array<std::string, 5> TitlePageLines(const ReportOptions& options) {
     std::array<std::string, 5> lines;
     for (std::size_t i = 0; i < lines.size(); ++i) lines[i] = g_TitleLines[i];
-    lines[3] += g_VersionText;
-    lines[4] += DateText(1);
+    lines[3] += options.versionText;
+    lines[4] += DateText(1, options.now());
     return lines;
 }

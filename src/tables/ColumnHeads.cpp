@@ -1,7 +1,6 @@
 #include <array>
 #include <utility>
 
-#include "model/DataSet.h"
 #include "tables/Catalogue.h"
 #include "tables/TableLayout.h"
 #include "text/Format.h"
@@ -51,7 +50,7 @@ constexpr std::array<const char*, 3> kCombUpper{
     "   SUBSTRUCTURE   PILE  LOAD          AREMA  MAX TENSION      D/C    LOAD         AREMA     MAX COMP    "
     "  D/C"};
 
-bool IsNamedFamily(int family) {
+bool IsNamedFamily(CodeFamily family) {
     return family >= kFamilyLrfd && family <= kFamilyArema;
 }
 
@@ -71,7 +70,7 @@ void AddPileHeadLines(ColumnHead& head, const CPier& first, int mode, bool us) {
     head.lines.emplace_back(us ? lines.lowerUs : lines.lowerSi);
 }
 
-std::string LimitStateHeading(const HeadTexts& texts, int family) {
+std::string LimitStateHeading(const HeadTexts& texts, CodeFamily family) {
     return PadLeft(kFamilyNames[static_cast<std::size_t>(family)],
                    family == kFamilyArema ? texts.aremaWidth : kLimitStateWidth);
 }
@@ -103,16 +102,16 @@ void AddSteppedLines(ColumnHead& head, const HeadTexts& texts, const CPier& firs
 
 }  // namespace
 
-ColumnHead BuildColumnHead(const TableLayout& layout) {
+ColumnHead BuildColumnHead(const CDataSet& data, const TableLayout& layout) {
     ColumnHead head;
     head.linesBehind = layout.head.linesBehind;
     head.linesBehindFirst = layout.head.linesBehindFirst;
     // Two lines are counted even where a head has fewer.
     head.counted = 2 + head.linesBehind + head.linesBehindFirst;
-    if (g_DataSet.IsPierless()) return head;
-    const CPier& first = g_DataSet.FirstPier();
-    const int mode = g_DataSet.m_nAnalysisMode;
-    const bool us = g_DataSet.m_nUnits == 0;
+    if (data.IsPierless()) return head;
+    const CPier& first = data.FirstPier();
+    const int mode = data.m_nAnalysisMode;
+    const bool us = data.m_nUnits == 0;
     if (layout.table == kTableMaxAxial) {
         AddPileHeadLines(head, first, mode, us);
         return head;
@@ -124,10 +123,10 @@ ColumnHead BuildColumnHead(const TableLayout& layout) {
     return head;
 }
 
-const std::string& LimitStateOf(int loadCase) {
+const std::string& LimitStateOf(const CDataSet& data, int loadCase) {
     static const std::string kNone = "none";
-    if (g_DataSet.IsPierless() || loadCase < 0) return kNone;
-    const std::vector<CLoadCase>& cases = g_DataSet.FirstPier().m_LoadCases;
+    if (data.IsPierless() || loadCase < 0) return kNone;
+    const std::vector<CLoadCase>& cases = data.FirstPier().m_LoadCases;
     const auto index = static_cast<std::size_t>(loadCase);
     return index < cases.size() ? cases[index].m_sLimitState : kNone;
 }

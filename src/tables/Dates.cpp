@@ -1,8 +1,7 @@
 #include <algorithm>
 
-#include "framework/Backend.h"
-#include "session/Constants.h"
 #include "tables/Catalogue.h"
+#include "tables/Words.h"
 #include "text/Format.h"
 
 namespace {
@@ -29,8 +28,7 @@ void AppendMonthDayYear(std::string& out, const LocalTime& now) {
 
 }  // namespace
 
-std::string DateText(int mode) {
-    const LocalTime now = services::Now();
+std::string DateText(int mode, const LocalTime& now) {
     std::string text;
     if (mode == 2) {
         AppendTwoDigits(text, now.month);
@@ -45,8 +43,7 @@ std::string DateText(int mode) {
     return text;
 }
 
-std::string TimeText(int mode) {
-    const LocalTime now = services::Now();
+std::string TimeText(int mode, const LocalTime& now) {
     std::string text;
     AppendInt(text, now.hour);
     text += ':';

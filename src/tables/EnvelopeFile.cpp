@@ -1,12 +1,11 @@
+#include "tables/EnvelopeFile.h"
+
 #include <array>
 #include <string>
 #include <string_view>
 
-#include "model/DataSet.h"
-#include "session/Session.h"
 #include "tables/CapRows.h"
 #include "tables/RowText.h"
-#include "tables/WriteData.h"
 #include "text/Format.h"
 
 // The data file of the envelope plotter: keyed sections, each closed by a colon and an empty line. The
@@ -21,40 +20,40 @@ constexpr int kPlainCases = -2;  // in place of a family: load cases or time ste
 // A slot that has blocks: its family and the word in the block's name.
 struct BlockName {
     int family;
-    int slot;
+    LimitClass slot;
     bool needsClass;  // a case of the class must be selected
     bool moment, shear;
     const char* word;
 };
 constexpr std::array<BlockName, 8> kBlockNames{{
-    {kPlainCases, 0, false, true, true, ""},
-    {kFamilyLrfd, 0, true, true, true, "STRENGTH_"},
-    {kFamilyLrfd, 1, true, true, true, "SERVICE_"},
-    {kFamilyLrfd, 2, true, true, true, "EXTREME_"},
-    {kFamilyLrfd, 3, true, true, false, "FATIGUE_"},
-    {kFamilyLfd, 0, false, true, true, ""},
-    {kFamilyArema, 0, true, true, true, "LOAD_FACTOR_DESIGN_"},
-    {kFamilyArema, 1, true, true, true, "SERVICE_LOAD_DESIGN_"},
+    {kPlainCases, kStrength, false, true, true, ""},
+    {kFamilyLrfd, kStrength, true, true, true, "STRENGTH_"},
+    {kFamilyLrfd, kService, true, true, true, "SERVICE_"},
+    {kFamilyLrfd, kExtreme, true, true, true, "EXTREME_"},
+    {kFamilyLrfd, kFatigue, true, true, false, "FATIGUE_"},
+    {kFamilyLfd, kStrength, false, true, true, ""},
+    {kFamilyArema, kStrength, true, true, true, "LOAD_FACTOR_DESIGN_"},
+    {kFamilyArema, kService, true, true, true, "SERVICE_LOAD_DESIGN_"},
 }};
 
 // A line of the limit state section: whether cases of the class are selected.
 struct StatusLine {
-    int family;
+    CodeFamily family;
     const char* key;
-    int limitClass;
+    LimitClass limitClass;
 };
 constexpr std::array<StatusLine, 11> kStatusLines{{
-    {kFamilyLrfd, "SHSTR= ", 0},
-    {kFamilyLrfd, "SHEXT= ", 2},
-    {kFamilyLrfd, "SHSER= ", 1},
-    {kFamilyLrfd, "MOSTR= ", 0},
-    {kFamilyLrfd, "MOEXT= ", 2},
-    {kFamilyLrfd, "MOSER= ", 1},
-    {kFamilyLrfd, "MOFAT= ", 3},
-    {kFamilyArema, "SHLFD= ", 0},
-    {kFamilyArema, "SHSLD= ", 1},
-    {kFamilyArema, "MOLFD= ", 0},
-    {kFamilyArema, "MOSLD= ", 1},
+    {kFamilyLrfd, "SHSTR= ", kStrength},
+    {kFamilyLrfd, "SHEXT= ", kExtreme},
+    {kFamilyLrfd, "SHSER= ", kService},
+    {kFamilyLrfd, "MOSTR= ", kStrength},
+    {kFamilyLrfd, "MOEXT= ", kExtreme},
+    {kFamilyLrfd, "MOSER= ", kService},
+    {kFamilyLrfd, "MOFAT= ", kFatigue},
+    {kFamilyArema, "SHLFD= ", kStrength},
+    {kFamilyArema, "SHSLD= ", kService},
+    {kFamilyArema, "MOLFD= ", kStrength},
+    {kFamilyArema, "MOSLD= ", kService},
 }};
 
 constexpr std::array<const char*, 4> kShearKinds = {" %i LF", " %i LCL", " %i RCL", " %i RF"};
@@ -72,7 +71,7 @@ const char* TextAt(const std::array<const char*, N>& texts, int index, const cha
     return index >= 0 && index < static_cast<int>(N) ? texts[static_cast<std::size_t>(index)] : other;
 }
 
-std::string RowLabel(int table, const CCapRow& row) {
+std::string RowLabel(TableId table, const CCapRow& row) {
     const bool shear = table == kTableCapShear;
     std::string label;
     if (row.bBearing) {
@@ -89,11 +88,12 @@ std::string RowLabel(int table, const CCapRow& row) {
 }
 
 // Feet from the substructure's own position in US units, the plain x in metric ones.
-double RowPosition(const CPier& pier, int table, const CCapRow& row) {
-    const std::vector<double>& points = table == kTableCapShear ? pier.m_ShearPointX : pier.m_MomentPointX;
+double RowPosition(const CapBlock& block, const CCapRow& row, bool us) {
+    const std::vector<double>& points =
+        block.table == kTableCapShear ? block.results.shearPointX : block.results.momentPointX;
     const std::size_t at = static_cast<std::size_t>(row.nPoint);
     const double x = at < points.size() ? points[at] : 0.0;
-    return g_DataSet.m_nUnits == 0 ? (x - pier.m_dLocationX) / 12.0 : x;
+    return us ? (x - block.pier.m_dLocationX) / 12.0 : x;
 }
 
 void AppendLoadAndValue(std::string& line, std::string_view load, double value) {
@@ -103,70 +103,69 @@ void AppendLoadAndValue(std::string& line, std::string_view load, double value) 
     AppendFixed(line, value, 2, 15);
 }
 
-std::string EnvelopeRow(const CPier& pier, int table, const CCapRow& row) {
+std::string EnvelopeRow(const CapBlock& block, const CCapRow& row, bool us) {
     const CCapEntry& entry = *row.pEntry;
-    std::string line = "L= " + PadRight(RowLabel(table, row), kColumnWidth) + "C=  ";
-    AppendFixed(line, RowPosition(pier, table, row), 2, 15);
+    std::string line = "L= " + PadRight(RowLabel(block.table, row), kColumnWidth) + "C=  ";
+    AppendFixed(line, RowPosition(block, row, us), 2, 15);
     if (entry.record.m_nMissing == 1) {
         AppendLoadAndValue(line, "0", 0.0);
     } else if (!row.bSideHasResult || entry.record.m_nLoadCase == -1) {
         line += "none";
     } else {
-        const std::size_t component = table == kTableCapShear ? kF22 : kM33;
+        const std::size_t component = block.table == kTableCapShear ? kF22 : kM33;
         AppendLoadAndValue(line, FormatInt(entry.record.m_nLoadCase), entry.values[component]);
     }
     return line + "\n";
 }
 
 // The entry of a slot that gets blocks; null for one that does not.
-const BlockName* FindBlock(int table, int slot) {
-    const CPier& first = g_DataSet.FirstPier();
-    const int family = first.m_bCombinations ? first.m_nCodeFamily : kPlainCases;
+const BlockName* FindBlock(const Report& report, TableId table, LimitClass slot) {
+    const CPier& first = report.data.FirstPier();
+    const int family = first.m_bCombinations ? int{first.m_nCodeFamily} : kPlainCases;
     for (const BlockName& name : kBlockNames) {
         if (name.family != family || name.slot != slot) continue;
         if (!(table == kTableCapShear ? name.shear : name.moment)) return nullptr;
-        return name.needsClass && !first.IsClassPresent(slot) ? nullptr : &name;
+        return name.needsClass && !report.selection.IsClassPresent(slot) ? nullptr : &name;
     }
     return nullptr;
 }
 
-void WriteEnvelopes(StoredStream& out, int table) {
-    if (!g_DataSet.m_bTableEnabled[static_cast<std::size_t>(table)] || g_DataSet.IsPierless()) return;
+void WriteEnvelopes(const Report& report, TableId table, StoredStream& out) {
+    const CDataSet& data = report.data;
+    if (!report.enabled[table] || data.IsPierless()) return;
     const char* kind = table == kTableCapShear ? "SHEAR_" : "MOMENT_";
-    const int slots = g_DataSet.FirstPier().SlotCount();
-    long long number = 0;
-    for (const CPier& pier : g_DataSet.m_Piers) {
+    const bool us = data.m_nUnits == 0;
+    for (std::size_t p = 0; p < data.m_Piers.size(); ++p) {
         for (int extreme = 0; extreme < 2; ++extreme) {
-            for (int slot = 0; slot < slots; ++slot) {
-                const BlockName* name = FindBlock(table, slot);
+            for (const LimitClass slot : data.FirstPier().Slots()) {
+                const BlockName* name = FindBlock(report, table, slot);
                 if (name == nullptr) continue;
-                out << kind << name->word << (extreme == 0 ? "MAX" : "MIN") << "_PIER" << FormatInt(number)
-                    << "\n";
-                WalkCap(table, pier, slot, extreme,
-                        [&](const CCapRow& row) { out << EnvelopeRow(pier, table, row); });
+                out << kind << name->word << (extreme == 0 ? "MAX" : "MIN") << "_PIER"
+                    << FormatInt(static_cast<long long>(p)) << "\n";
+                const CapBlock block{table, data.m_Piers[p], report.results.piers[p], slot, extreme};
+                WalkCap(block, [&](const CCapRow& row) { out << EnvelopeRow(block, row, us); });
                 out << kSectionEnd;
             }
         }
-        ++number;
     }
 }
 
-void WriteProject(StoredStream& out) {
-    const bool combinations = !g_DataSet.IsPierless() && g_DataSet.FirstPier().m_bCombinations;
+void WriteProject(const CDataSet& data, StoredStream& out) {
+    const bool combinations = data.HasCombinations();
     out << "GENERAL\n"
-        << "U= " << FormatInt(g_DataSet.m_nUnits) << "\n"
-        << "P= " << FormatInt(g_DataSet.m_nPiers) << "\n"
+        << "U= " << FormatInt(data.m_nUnits) << "\n"
+        << "P= " << FormatInt(data.m_nPiers) << "\n"
         << "A= " << (combinations ? "1" : "0") << "\n"
-        << "T= " << FormatInt(g_DataSet.m_nAnalysisMode) << "\n"
+        << "T= " << FormatInt(data.m_nAnalysisMode) << "\n"
         << kSectionEnd;
     out << "PROJECTDATA\n"
-        << g_DataSet.m_sProjectN << "\n"
-        << g_DataSet.m_sProjectD << "\n"
-        << g_DataSet.m_sProjectT << "\n"
-        << g_DataSet.m_sProjectC << "\n"
+        << data.m_sProjectN << "\n"
+        << data.m_sProjectD << "\n"
+        << data.m_sProjectT << "\n"
+        << data.m_sProjectC << "\n"
         << kSectionEnd;
     out << "STRUCTURETYPE\n";
-    for (const CPier& pier : g_DataSet.m_Piers) {
+    for (const CPier& pier : data.m_Piers) {
         out << "S= " << FormatInt(pier.m_nStructureType) << " N= " << FormatInt(pier.m_nCapShearPoints)
             << " M= " << FormatInt(pier.m_nCapMomentPoints) << " B= " << FormatInt(pier.m_nBearingRows)
             << "\n";
@@ -174,35 +173,24 @@ void WriteProject(StoredStream& out) {
     out << kSectionEnd;
 }
 
-}  // namespace
-
-void CWriteData::WriteLimitStateStatus(StoredStream& out) {
-    const CPier& first = g_DataSet.FirstPier();
-    const int family = first.m_nCodeFamily;
-    const int design = family == kFamilyLfd || family == kFamilyArema ? family : 0;
+void WriteLimitStateStatus(const Report& report, StoredStream& out) {
+    const CodeFamily family = report.data.FirstPier().m_nCodeFamily;
+    const int design = family == kFamilyLfd || family == kFamilyArema ? int{family} : 0;
     out << "AASHTO_LIMITSTATE_STATUS\n"
         << "D= " << FormatInt(design) << "\n";
     for (const StatusLine& line : kStatusLines) {
         if (line.family == family)
-            out << line.key << (first.IsClassPresent(line.limitClass) ? "1" : "0") << "\n";
+            out << line.key << (report.selection.IsClassPresent(line.limitClass) ? "1" : "0") << "\n";
     }
     out << kSectionEnd;
 }
 
-void CWriteData::WriteShearEnvelopes(StoredStream& out) {
-    WriteEnvelopes(out, kTableCapShear);
-}
+}  // namespace
 
-void CWriteData::WriteMomentEnvelopes(StoredStream& out) {
-    WriteEnvelopes(out, kTableCapMoment);
-}
-
-// A file that can't be opened swallows what is written; the plotter is started all the same.
-void CWriteData::WriteEnvelopeFile() {
-    StoredStream out(g_OutputFilePath);
-    WriteProject(out);
-    if (!g_DataSet.IsPierless() && g_DataSet.FirstPier().m_bCombinations) WriteLimitStateStatus(out);
-    if (g_DataSet.m_bTableValid[kTableCapShear]) WriteShearEnvelopes(out);
-    if (g_DataSet.m_bTableValid[kTableCapMoment]) WriteMomentEnvelopes(out);
-    out.Close();
+void WriteEnvelopeFile(const Report& report, StoredStream& out) {
+    WriteProject(report.data, out);
+    if (report.data.HasCombinations()) WriteLimitStateStatus(report, out);
+    for (const TableId table : {kTableCapShear, kTableCapMoment}) {
+        if (report.results.valid[table]) WriteEnvelopes(report, table, out);
+    }
 }

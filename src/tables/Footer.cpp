@@ -1,8 +1,7 @@
 #include <algorithm>
 
-#include "session/Constants.h"
-#include "session/Session.h"
 #include "tables/Catalogue.h"
+#include "tables/Words.h"
 
 namespace {
 
@@ -11,44 +10,44 @@ std::string FirstCharacters(const std::string& text, int count) {
 }
 
 // The project's file name, fitted to `room` characters.
-std::string FittedFileName(int room) {
-    std::string full = PathAsText(g_ProjectBasePath) + g_ExtensionInput;
+std::string FittedFileName(const ReportOptions& options, int room) {
+    std::string full = options.projectBasePath + g_ExtensionInput;
     if (static_cast<int>(full.size()) <= room) return full;
-    const std::string name = PathAsText(g_ProjectFileName);
-    const int nameLength = static_cast<int>(name.size());
+    const int nameLength = static_cast<int>(options.projectFileName.size());
     // The dots and the ending take seven characters; the ending is the report's, whatever the project's is.
-    if (nameLength > room) return FirstCharacters(name, room - 3 - 4) + "..." + g_ExtensionText;
+    if (nameLength > room)
+        return FirstCharacters(options.projectFileName, room - 3 - 4) + "..." + g_ExtensionText;
     // The dots come on top of the room: such a line is four characters too long.
     if (nameLength < room)
-        return FirstCharacters(PathAsText(g_ProjectFolder), room - nameLength) + "...\\" + name;
+        return FirstCharacters(options.projectFolder, room - nameLength) + "...\\" + options.projectFileName;
     return {};
 }
 
 }  // namespace
 
-std::string FooterText() {
+std::string FooterText(const ReportOptions& options) {
     std::string text;
-    if (g_FooterOn == 0) return text;
+    if (!options.footer.on) return text;
     bool any = false;
     const auto separate = [&](const char* separator) {
         if (any) text += separator;
         any = true;
     };
-    if (g_FooterDate != 0) {
+    if (options.footer.date) {
         separate("");
-        text += DateText(1);
+        text += DateText(1, options.now());
     }
-    if (g_FooterTime != 0) {
+    if (options.footer.time) {
         separate(" ");
-        text += TimeText(0);
+        text += TimeText(0, options.now());
     }
-    if (g_FooterVersion != 0) {
+    if (options.footer.version) {
         separate(", ");
-        text += g_VersionLabel;
+        text += options.versionLabel;
     }
-    if (g_FooterFileName != 0) {
+    if (options.footer.fileName) {
         separate(", ");
-        text += FittedFileName(CharsPerLine(ViewerFontSize()) - static_cast<int>(text.size()));
+        text += FittedFileName(options, CharsPerLine(options.viewerFontSize) - static_cast<int>(text.size()));
     }
     return text;
 }

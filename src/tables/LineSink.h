@@ -1,8 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "tables/Report.h"
 #include "tables/TableLayout.h"
 
 // How an empty stretch of a table is shown; the text form knows one way, the PDF form three.
@@ -39,7 +41,7 @@ class CLineSink {
 };
 
 // The table (0 to 7) that is written when `table` is asked for: another one where the first substructure's
-// members are in the pile arrays. -1: not enabled, or there is no project.
-int WritableTable(int table);
+// members are in the pile arrays. Empty: not enabled, or there is no project.
+std::optional<TableId> WritableTable(const Report& report, TableId table);
 // Runs the walk of a writable table into a sink.
-void WalkTable(int table, CLineSink& sink);
+void WalkTable(const Report& report, TableId table, CLineSink& sink);

@@ -1,9 +1,9 @@
 #include <array>
 
-#include "model/DataSet.h"
 #include "tables/Catalogue.h"
 #include "tables/RowText.h"
 #include "tables/TableWalks.h"
+#include "tables/Words.h"
 
 // Tables 1, 2, 5, 6 and 7: for every property of piles, columns or extra members the place of the greatest
 // ratio, or of the greatest and the least of each force, with all that acts there in the same case.
@@ -11,27 +11,28 @@ namespace {
 
 class CMemberWalk {
   public:
-    CMemberWalk(const TableLayout& layout, CLineSink& sink)
-        : m_layout(layout),
+    CMemberWalk(const Report& report, const TableLayout& layout, CLineSink& sink)
+        : m_report(report),
+          m_layout(layout),
           m_member(layout.member),
           m_sink(sink),
-          m_bLimitStates(g_DataSet.FirstPier().m_bCombinations) {
+          m_bLimitStates(report.data.HasCombinations()) {
         for (std::size_t e = 0; e < m_extremeNames.size(); ++e) {
-            m_extremeNames[e] = FormatCellText(g_ExtremeNames[e], 11);
+            m_extremeNames[e] = FormatCellText(g_ExtremeNames[e], 11, report.options.format);
             m_missingValues[e] = MissingForceColumns(static_cast<int>(e));
         }
     }
 
     void Run() {
-        WriteTitleLine(m_layout, m_sink);
+        WriteTitleLine(m_report, m_layout, m_sink);
         m_sink.Gap(2);
-        m_head = BuildColumnHead(m_layout);
-        const int slots = g_DataSet.FirstPier().SlotCount();
-        for (unsigned p = 0; p < g_DataSet.m_Piers.size(); ++p) {
-            const CPier& pier = g_DataSet.m_Piers[p];
-            if (m_member.family == CPier::kXMemberFamily && pier.m_nExtraMembers <= 0) continue;
+        m_head = BuildColumnHead(m_report.data, m_layout);
+        const CDataSet& data = m_report.data;
+        for (std::size_t p = 0; p < data.m_Piers.size(); ++p) {
+            const CPier& pier = data.m_Piers[p];
+            if (m_member.family == kXMemberFamily && pier.m_nExtraMembers <= 0) continue;
             if (!WritePierHeading(pier, static_cast<int>(p) + 1)) continue;
-            for (int slot = 0; slot < slots; ++slot) WriteBlock(pier, p, slot);
+            for (const LimitClass slot : data.FirstPier().Slots()) WriteBlock(p, slot);
             if (m_member.gapBehindPier) m_sink.Gap(2);
         }
     }
@@ -49,42 +50,44 @@ class CMemberWalk {
         return !bent;
     }
 
-    void WriteBlock(const CPier& pier, unsigned pierIndex, int slot) {
-        if (!WriteSectionHeading(m_layout, slot, m_sink)) return;
+    void WriteBlock(std::size_t p, LimitClass slot) {
+        const CPier& pier = m_report.data.m_Piers[p];
+        if (!WriteSectionHeading(m_report, m_layout, slot, m_sink)) return;
         m_sink.MayBreak(BreakPoint::columnHead);
         m_sink.Head(m_head);
-        const CRecordTable& records = RecordsOf(pier);
+        const CRecordTable& records = RecordsOf(m_report.results.piers[p]);
         const int properties = PropertiesOf(pier);
         for (int property = 0; property < properties; ++property) {
             const int number = NumberOf(pier, property);
-            if (m_member.sectionByNumber && !g_DataSet.UsesExtraSection(pierIndex, number)) continue;
+            if (m_member.sectionByNumber && !m_report.data.IsExtraMemberSection(p, number)) continue;
             WriteProperty(pier, records, property, number, slot);
             if (m_member.forces && property + 1 < properties) m_sink.Gap(1);
         }
         m_sink.Gap(2);
     }
 
-    const CRecordTable& RecordsOf(const CPier& pier) const {
+    const CRecordTable& RecordsOf(const PierResults& results) const {
         switch (m_member.family) {
-            case CPier::kPileFamily:
-                return m_member.forces ? pier.m_PileForces : pier.m_PileDc;
-            case CPier::kColumnFamily:
-                return m_member.forces ? pier.m_ColumnForces : pier.m_ColumnDc;
+            case kPileFamily:
+                return m_member.forces ? results.pileForces : results.pileDc;
+            case kColumnFamily:
+                return m_member.forces ? results.columnForces : results.columnDc;
             default:
-                return pier.m_XMemberForces;
+                return results.extraMemberForces;
         }
     }
 
     int PropertiesOf(const CPier& pier) const {
-        if (m_member.family == CPier::kPileFamily) return pier.m_nPileSections;
-        return m_member.family == CPier::kColumnFamily ? pier.m_nColumnSections : pier.m_nXMemberSections;
+        if (m_member.family == kPileFamily) return pier.m_nPileSections;
+        return m_member.family == kColumnFamily ? pier.m_nColumnSections : pier.m_nXMemberSections;
     }
 
     int NumberOf(const CPier& pier, int property) const {
         return property + (m_member.sectionByNumber ? pier.m_nXMemberFirstSection : m_member.firstProperty);
     }
 
-    void WriteProperty(const CPier& pier, const CRecordTable& records, int property, int number, int slot) {
+    void WriteProperty(const CPier& pier, const CRecordTable& records, int property, int number,
+                       LimitClass slot) {
         const int rows = m_member.forces ? kPrintedExtremes : 1;
         for (int extreme = 0; extreme < rows; ++extreme) {
             m_row.clear();
@@ -104,7 +107,7 @@ class CMemberWalk {
     }
 
     // A record that points at no case, member or element of the substructure counts as one without a result.
-    const CMaxRecord& Find(const CPier& pier, const CRecordTable& records, int property, int slot,
+    const CMaxRecord& Find(const CPier& pier, const CRecordTable& records, int property, LimitClass slot,
                            int extreme, int& element) const {
         element = -1;
         if (property >= records.Sections() || slot >= records.Slots() || extreme >= records.Extremes()) {
@@ -133,11 +136,11 @@ class CMemberWalk {
             return;
         }
         AppendIntBlankZero(m_row, record.m_nLoadCase + 1, 5);
-        if (m_bLimitStates) AppendLeftPadded(m_row, LimitStateOf(record.m_nLoadCase), 15);
+        if (m_bLimitStates) AppendLeftPadded(m_row, LimitStateOf(m_report.data, record.m_nLoadCase), 15);
         const int end = record.m_nEnd == kEndI ? kEndI : kEndJ;
         m_row += end == kEndI ? "    I" : "    J";
         if (m_member.forces) m_row += m_extremeNames[static_cast<std::size_t>(extreme)];
-        const ElementForces forces = pier.Forces(record.m_nLoadCase, element);
+        const ForceRow forces = m_report.Forces(pier, record.m_nLoadCase, element);
         for (int component = kAxial; component < kDemandCapacity; ++component) {
             m_row += m_member.valueGap;
             AppendFixed(m_row, GetForce(forces, end, component), 2, 10);
@@ -153,6 +156,7 @@ class CMemberWalk {
         m_row += m_missingValues[static_cast<std::size_t>(extreme)];
     }
 
+    const Report& m_report;
     const TableLayout& m_layout;
     const MemberRowTexts& m_member;
     CLineSink& m_sink;
@@ -165,6 +169,6 @@ class CMemberWalk {
 
 }  // namespace
 
-void WalkMembers(const TableLayout& layout, CLineSink& sink) {
-    CMemberWalk(layout, sink).Run();
+void WalkMembers(const Report& report, const TableLayout& layout, CLineSink& sink) {
+    CMemberWalk(report, layout, sink).Run();
 }

@@ -49,7 +49,7 @@ constexpr TableLayout kPileDc{
              .columns = kRatioColumns,
              .unitsUs = kRatioUnitsUs,
              .unitsSi = kRatioUnitsSi},
-    .member = {.family = CPier::kPileFamily,
+    .member = {.family = kPileFamily,
                .valueGap = "   ",
                .missingRatio = {"     No valid load case", "     No valid load case"},
                .pierHeading = kPileHeading,
@@ -70,7 +70,7 @@ constexpr TableLayout kColumnDc{
              .unitsSi = kRatioUnitsSi,
              .aremaWidth = 16},
     .member =
-        {.family = CPier::kColumnFamily,
+        {.family = kColumnFamily,
          .firstProperty = 2,
          .memberWidth = 7,
          .valueGap = "   ",
@@ -151,7 +151,7 @@ constexpr TableLayout kPileForces{
              .columns = kForceColumns,
              .unitsUs = kForceUnitsUs,
              .unitsSi = kForceUnitsSi},
-    .member = {.family = CPier::kPileFamily,
+    .member = {.family = kPileFamily,
                .forces = true,
                .missing = "  ***   ***   ***   ***",
                .pierHeading = kPileHeading,
@@ -168,7 +168,7 @@ constexpr TableLayout kColumnForces{
              .columns = kForceColumns,
              .unitsUs = kForceUnitsUs,
              .unitsSi = kForceUnitsSi},
-    .member = {.family = CPier::kColumnFamily,
+    .member = {.family = kColumnFamily,
                .forces = true,
                .firstProperty = 2,
                .memberWidth = 7,
@@ -190,7 +190,7 @@ constexpr TableLayout kExtraMembers{
              .unitsUs = kForceUnitsUs,
              .unitsSi = kForceUnitsSi},
     // The member column and its filler are one blank wider than the head.
-    .member = {.family = CPier::kXMemberFamily,
+    .member = {.family = kXMemberFamily,
                .forces = true,
                .sectionByNumber = true,
                .blankBeforeMember = true,
@@ -205,6 +205,6 @@ constexpr std::array<TableLayout, 8> kLayouts{kMaxAxial,  kPileDc,     kColumnDc
 
 }  // namespace
 
-const TableLayout& LayoutOf(int table) {
+const TableLayout& LayoutOf(TableId table) {
     return kLayouts.at(static_cast<std::size_t>(table));
 }

@@ -2,11 +2,11 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "model/Pier.h"
-#include "session/Constants.h"
+#include "model/DataSet.h"
 
 // The layouts of tables 0 to 7 as data: one row of one description for each table. The walks over the result
 // tables read margins, heads, fillers and column widths from here, so that the text and the PDF form of a
@@ -44,7 +44,7 @@ struct HeadTexts {
 
 // A row of tables 1, 2, 5, 6 and 7.
 struct MemberRowTexts {
-    CPier::MemberFamily family = CPier::kPileFamily;
+    MemberFamily family = kPileFamily;
     bool forces = false;           // twelve rows a property, each headed by its extreme
     bool sectionByNumber = false;  // properties are named by section number; those in use are printed
     int firstProperty = 1;         // number of the first property
@@ -74,17 +74,17 @@ struct CapTexts {
 };
 
 struct TableLayout {
-    int table = 0;
+    TableId table = kTableMaxAxial;
     TitleMargins text = {};
     TitleMargins pdf = {};
     HeadTexts head = {};
     MemberRowTexts member = {};  // tables 1, 2, 5, 6, 7
     CapTexts cap = {};           // tables 3, 4
     // The table that stands in for this one when the first substructure's members are in the pile arrays.
-    int handOverType8 = -1;
+    std::optional<TableId> handOverType8 = {};
 };
 
-const TableLayout& LayoutOf(int table);  // 0 to 7
+const TableLayout& LayoutOf(TableId table);  // 0 to 7
 
 // The column head of a table for the project as it stands.
 struct ColumnHead {
@@ -93,7 +93,7 @@ struct ColumnHead {
     int linesBehindFirst = 0;  // further ones at a block's start
     int counted = 0;           // lines that the page arithmetic takes for it at a block's start
 };
-ColumnHead BuildColumnHead(const TableLayout& layout);
+ColumnHead BuildColumnHead(const CDataSet& data, const TableLayout& layout);
 
 // The limit state name of a case, as the first substructure has it.
-const std::string& LimitStateOf(int loadCase);
+const std::string& LimitStateOf(const CDataSet& data, int loadCase);

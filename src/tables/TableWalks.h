@@ -3,11 +3,11 @@
 #include "tables/LineSink.h"
 
 // The three walks; a project with a substructure is there when one of them runs.
-void WalkPileHeads(const TableLayout& layout, CLineSink& sink);  // table 0
-void WalkMembers(const TableLayout& layout, CLineSink& sink);    // tables 1, 2, 5, 6, 7
-void WalkCapTable(const TableLayout& layout, CLineSink& sink);   // tables 3, 4
+void WalkPileHeads(const Report& report, const TableLayout& layout, CLineSink& sink);  // table 0
+void WalkMembers(const Report& report, const TableLayout& layout, CLineSink& sink);    // tables 1, 2, 5, 6, 7
+void WalkCapTable(const Report& report, const TableLayout& layout, CLineSink& sink);   // tables 3, 4
 
 // The title's first line, with its margin.
-void WriteTitleLine(const TableLayout& layout, CLineSink& sink);
+void WriteTitleLine(const Report& report, const TableLayout& layout, CLineSink& sink);
 // The heading of a slot's block, if it has one. False: the slot has no block in this table.
-bool WriteSectionHeading(const TableLayout& layout, int slot, CLineSink& sink);
+bool WriteSectionHeading(const Report& report, const TableLayout& layout, LimitClass slot, CLineSink& sink);

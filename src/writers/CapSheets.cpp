@@ -6,14 +6,14 @@
 #include <string>
 #include <string_view>
 
-#include "model/DataSet.h"
 #include "tables/CapRows.h"
 #include "tables/Catalogue.h"
 #include "tables/TableLayout.h"
-#include "tables/WriteData.h"
+#include "tables/Words.h"
 #include "writers/SheetCells.h"
 #include "writers/SheetHeads.h"
 #include "writers/SheetRows.h"
+#include "writers/TableSheets.h"
 #include "writers/WorkbookFrame.h"
 
 namespace {
@@ -22,7 +22,7 @@ constexpr std::array<int, 7> kShearValues = {kAxial, kF22, kF33, kM22, kM33, kTo
 constexpr std::array<int, 4> kMomentValues = {kAxial, kM22, kM33, kDemandCapacity};
 
 struct CapSheet {
-    int table;
+    TableId table;
     const char* extremes[2];           // second heading row: maximum, minimum
     const char* maximumRemark;         // third heading row of the maximum block; null: none
     std::string_view blockOpening[2];  // before the heading rows
@@ -64,7 +64,7 @@ const std::array<CapSheet, 2> kForms = {{
      8},
 }};
 
-const CapSheet& FormOf(int table) {
+const CapSheet& FormOf(TableId table) {
     return kForms[table == kTableCapShear ? 0 : 1];
 }
 
@@ -76,8 +76,8 @@ void AppendHeading(std::string& out, std::string_view text) {
     out.append(kHeadingRow).append(text).append(kHeadingEnd);
 }
 
-std::string BlockHeading(const CapSheet& form, std::size_t pier, std::size_t extreme) {
-    const int type = g_DataSet.m_Piers[pier].m_nStructureType;
+std::string BlockHeading(const CDataSet& data, const CapSheet& form, std::size_t pier, std::size_t extreme) {
+    const StructureType type = data.m_Piers[pier].m_nStructureType;
     std::string out(form.blockOpening[extreme]);
     AppendHeading(out, TableTitle(form.table, type) +
                            FormatNumbered(", Substructure  %i:", static_cast<long long>(pier) + 1));
@@ -105,7 +105,8 @@ std::string_view EndWord(int end) {
     return end == kInsideElement ? "I,J" : kNoValue;
 }
 
-void AppendRow(std::string& out, const CapSheet& form, const CCapRow& row, bool combinations) {
+void AppendRow(std::string& out, const CDataSet& data, const CapSheet& form, const CCapRow& row) {
+    const bool combinations = data.HasCombinations();
     const CCapRecord& record = row.pEntry->record;
     const int further = combinations ? 1 : 0;
     out.append(" <Row>   <Cell ss:Index=\"2\" ss:StyleID=\"s60\"><Data ss:Type=\"String\">");
@@ -128,7 +129,8 @@ void AppendRow(std::string& out, const CapSheet& form, const CCapRow& row, bool 
         out += "\t</Row>\n";
     } else {
         AppendIntCell(out, kWideNumberCell, record.m_nLoadCase + 1);
-        if (combinations) AppendTextCell(out, kWideTextCell, PadName15(LimitStateOf(record.m_nLoadCase)));
+        if (combinations)
+            AppendTextCell(out, kWideTextCell, PadName15(LimitStateOf(data, record.m_nLoadCase)));
         AppendTextCell(out, kWideTextCell, EndWord(record.m_nEnd));
         for (const int component : form.values) {
             AppendDecimalCell(out, kWideDecimalCell, row.pEntry->values[static_cast<std::size_t>(component)]);
@@ -137,15 +139,15 @@ void AppendRow(std::string& out, const CapSheet& form, const CCapRow& row, bool 
     }
 }
 
-void WriteBlocks(StoredStream& out, const CapSheet& form, const CPier& pier, int extreme,
-                 const std::string (&stepWords)[2]) {
-    const bool combinations = g_DataSet.FirstPier().m_bCombinations;
+void WriteBlocks(const Report& report, const CapSheet& form, std::size_t p, int extreme, StoredStream& out) {
+    const CDataSet& data = report.data;
     std::string text;
-    for (const int slot : BlockSlots(form.table)) {
-        out << SectionRows(form.table, slot) << ColumnHeadRows(form.table, stepWords);
-        WalkCap(form.table, pier, slot, extreme, [&](const CCapRow& row) {
+    for (const LimitClass slot : BlockSlots(report, form.table)) {
+        out << SectionRows(data, form.table, slot) << ColumnHeadRows(data, form.table);
+        const CapBlock block{form.table, data.m_Piers[p], report.results.piers[p], slot, extreme};
+        WalkCap(block, [&](const CCapRow& row) {
             text.clear();
-            AppendRow(text, form, row, combinations);
+            AppendRow(text, data, form, row);
             out << text;
         });
         out << form.slotEnd;
@@ -172,10 +174,10 @@ void AppendKeyEntry(std::string& out, const CCapKeyEntry& entry, const KeyCells&
     }
 }
 
-std::string SectionKey(int table) {
+std::string SectionKey(const CDataSet& data, TableId table) {
     std::string out = "<Row></Row>";
     AppendHeading(out, " Location &amp; Side Key:");
-    for (const CCapKeyLine& line : CapKey(table)) {
+    for (const CCapKeyLine& line : CapKey(table, data)) {
         out += "<Row>\n    ";
         AppendKeyEntry(out, line.left, kLeftCells);
         if (line.right) AppendKeyEntry(out, *line.right, kRightCells);
@@ -184,33 +186,25 @@ std::string SectionKey(int table) {
     return out;
 }
 
-void WriteCap(StoredStream& out, int table, const std::string (&stepWords)[2]) {
+void WriteCap(const Report& report, TableId table, StoredStream& out) {
+    const CDataSet& data = report.data;
     const CapSheet& form = FormOf(table);
-    out << WorksheetHead(table, ExpandedRows(table));
-    for (std::size_t p = 0; p < g_DataSet.m_Piers.size(); ++p) {
+    out << WorksheetHead(data, table, ExpandedRows(report, table));
+    for (std::size_t p = 0; p < data.m_Piers.size(); ++p) {
         for (int extreme = 0; extreme < 2; ++extreme) {
-            out << BlockHeading(form, p, static_cast<std::size_t>(extreme));
-            WriteBlocks(out, form, g_DataSet.m_Piers[p], extreme, stepWords);
+            out << BlockHeading(data, form, p, static_cast<std::size_t>(extreme));
+            WriteBlocks(report, form, p, extreme, out);
         }
-        if (p + 1 < g_DataSet.m_Piers.size()) out << form.pierEnd;
+        if (p + 1 < data.m_Piers.size()) out << form.pierEnd;
     }
-    out << SectionKey(table) << CWriteData::WorksheetEnd();
+    out << SectionKey(data, table) << WorksheetEnd(report.options);
 }
 
 }  // namespace
 
-int CWriteData::WriteCapShearSheet(StoredStream& out, bool embedded) {
-    SetStepWords();
-    return WriteWorkbook(kTableCapShear, out, embedded, [&] {
-        WriteCap(out, kTableCapShear, m_sLoadWord);
-        if (!embedded) out << CoordsSheetShear();
-    });
-}
-
-int CWriteData::WriteCapMomentSheet(StoredStream& out, bool embedded) {
-    SetStepWords();
-    return WriteWorkbook(kTableCapMoment, out, embedded, [&] {
-        WriteCap(out, kTableCapMoment, m_sLoadWord);
-        if (!embedded) out << CoordsSheetMoment();
+int WriteCapSheet(const Report& report, TableId table, StoredStream& out, bool embedded) {
+    return WriteWorkbook(report, table, out, embedded, [&] {
+        WriteCap(report, table, out);
+        if (!embedded) out << CoordsSheet(report, table);
     });
 }

@@ -4,9 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "model/DataSet.h"
-#include "tables/WriteData.h"
 #include "text/Format.h"
+#include "writers/WorkbookFrame.h"
 
 namespace {
 
@@ -49,7 +48,7 @@ void AppendEmptyRows(std::string& out, std::size_t count) {
 }
 
 // The words for the caps that have coordinates; null for another structure type.
-const char* CapWords(int structureType) {
+const char* CapWords(StructureType structureType) {
     if (structureType == kTypePier) return "PierCap X Coordinates";
     if (structureType == kTypePileBent) return "BentCap X Coordinates";
     return nullptr;
@@ -57,9 +56,9 @@ const char* CapWords(int structureType) {
 
 // The cell of a pier's title rows. With several piers a pier without a cap shows what the pier before it left
 // in `text`; a single one has no cell.
-std::string TitleCell(std::size_t pier, std::string& text) {
-    const bool several = g_DataSet.m_Piers.size() > 1;
-    const char* words = CapWords(g_DataSet.m_Piers[pier].m_nStructureType);
+std::string TitleCell(const CDataSet& data, std::size_t pier, std::string& text) {
+    const bool several = data.m_Piers.size() > 1;
+    const char* words = CapWords(data.m_Piers[pier].m_nStructureType);
     if (words == nullptr && !several) return {};
     if (words != nullptr) {
         text = words;
@@ -69,8 +68,7 @@ std::string TitleCell(std::size_t pier, std::string& text) {
 }
 
 void AppendBlock(std::string& out, const CPier& pier, const std::vector<double>& points,
-                 std::string_view titleCell) {
-    const bool metres = g_DataSet.m_nUnits != 0;
+                 std::string_view titleCell, bool metres) {
     out.append(kRow).append(titleCell).append(kRowEnd);
     out.append(kRow).append(kText).append(metres ? "(m)" : "(ft)").append(kCellEnd).append(kRowEnd);
     AppendEmptyRows(out, 1);
@@ -82,32 +80,30 @@ void AppendBlock(std::string& out, const CPier& pier, const std::vector<double>&
     }
 }
 
-std::string CoordsSheet(std::vector<double> CPier::*points) {
+const std::vector<double>& PointsOf(const PierResults& results, TableId table) {
+    return table == kTableCapShear ? results.shearPointX : results.momentPointX;
+}
+
+}  // namespace
+
+std::string CoordsSheet(const Report& report, TableId table) {
+    const CDataSet& data = report.data;
     std::size_t rows = 0;
-    for (const CPier& pier : g_DataSet.m_Piers) rows += kFixedRows + 2 * (pier.*points).size();
-    if (!g_DataSet.IsPierless()) rows += kRowsBetweenPiers * (g_DataSet.m_Piers.size() - 1);
+    for (const PierResults& results : report.results.piers)
+        rows += kFixedRows + 2 * PointsOf(results, table).size();
+    if (!data.IsPierless()) rows += kRowsBetweenPiers * (data.m_Piers.size() - 1);
 
     std::string out(kHeadBeforeRows);
     AppendInt(out, static_cast<long long>(rows));
     out += kHeadBehindRows;
     std::string title;
-    for (std::size_t p = 0; p < g_DataSet.m_Piers.size(); ++p) {
-        const CPier& pier = g_DataSet.m_Piers[p];
-        const std::string cell = TitleCell(p, title);
+    for (std::size_t p = 0; p < data.m_Piers.size(); ++p) {
+        const std::vector<double>& points = PointsOf(report.results.piers[p], table);
+        const std::string cell = TitleCell(data, p, title);
         if (p > 0) AppendEmptyRows(out, kRowsBetweenPiers);
-        AppendBlock(out, pier, pier.*points, cell);
+        AppendBlock(out, data.m_Piers[p], points, cell, data.m_nUnits != 0);
         AppendEmptyRows(out, 2);
-        AppendBlock(out, pier, pier.*points, cell);
+        AppendBlock(out, data.m_Piers[p], points, cell, data.m_nUnits != 0);
     }
     return out.append(kEnd);
-}
-
-}  // namespace
-
-std::string CWriteData::CoordsSheetMoment() const {
-    return CoordsSheet(&CPier::m_MomentPointX);
-}
-
-std::string CWriteData::CoordsSheetShear() const {
-    return CoordsSheet(&CPier::m_ShearPointX);
 }

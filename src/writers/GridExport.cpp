@@ -2,9 +2,7 @@
 
 #include "framework/Backend.h"
 #include "grid/CellNumber.h"
-#include "session/Constants.h"
-#include "session/OutputFiles.h"
-#include "session/Session.h"
+#include "tables/Words.h"
 #include "text/Format.h"
 #include "text/StoredStream.h"
 #include "writers/WorkbookFrame.h"
@@ -45,8 +43,8 @@ std::string CellOf(const std::string& text, bool heading, int type) {
     return CellMarkup(form, FormatFixed(ReadCellDouble(text), kValueDecimals));
 }
 
-void WriteSheetHead(StoredStream& out, const std::string& name, const std::string& title,
-                    const CGridCtrl& grid, double widthScale) {
+void WriteSheetHead(StoredStream& out, const std::string& name, const GridSheet& sheet,
+                    const CGridCtrl& grid) {
     const int rows = grid.GetRowCount(), columns = grid.GetColumnCount();
     out << "<Worksheet ss:Name=\"" << name.substr(0, kLongestSheetName) << "\">\n";
     // One column more for the margin, two rows more for the title and the row below it.
@@ -54,16 +52,16 @@ void WriteSheetHead(StoredStream& out, const std::string& name, const std::strin
         << FormatInt(rows + 2) << "\" x:FullColumns=\"1\"\nx:FullRows=\"1\" ss:DefaultRowHeight=\"15\">\n";
     for (int i = 0; i < columns; ++i) {
         out << "  <Column ss:Index=\"" << FormatInt(i + 2) << "\"  ss:Width=\""
-            << FormatFixed(grid.GetColumnWidth(i) * widthScale, 6) << "\"/>\n";
+            << FormatFixed(grid.GetColumnWidth(i) * sheet.widthScale, 6) << "\"/>\n";
     }
     out << "  <Row ss:Height=\"41\">\n    <Cell><Data ss:Type=\"String\">" << Blanks(kMarginBlanks)
         << "</Data></Cell>\n    <Cell ss:MergeAcross=\"" << FormatInt(columns - 1)
-        << "\"  ss:StyleID=\"s87\"><Data ss:Type=\"String\">" << title << "</Data></Cell>\n  </Row>\n";
+        << "\"  ss:StyleID=\"s87\"><Data ss:Type=\"String\">" << sheet.title << "</Data></Cell>\n  </Row>\n";
     out << "<Row></Row>\n";
 }
 
-std::string WorkbookPath(const std::string& name) {
-    std::string path = g_InputFilePath;
+std::string WorkbookPath(const std::string& inputFile, const std::string& name) {
+    std::string path = inputFile;
     const std::size_t dot = path.rfind('.');
     if (dot != std::string::npos) path.erase(dot);
     return path + g_NameSeparator + name + g_ExtensionSpreadsheet;
@@ -71,25 +69,24 @@ std::string WorkbookPath(const std::string& name) {
 
 }  // namespace
 
-void ExportGrid(const std::string& name, const std::string& title, int headerRows, int /*reserved*/,
-                std::span<const int> columnTypes, const CGridCtrl& grid, double widthScale) {
-    const std::string cleaned = RemoveBlanks(name);
-    const std::string path = WorkbookPath(cleaned);
+std::string ExportGrid(const std::string& inputFile, const GridSheet& sheet, const CGridCtrl& grid) {
+    const std::string cleaned = RemoveBlanks(sheet.title);
+    const std::string path = WorkbookPath(inputFile, cleaned);
     StoredStream out(path);
-    out << WorkbookHead(true);
-    WriteSheetHead(out, cleaned, title, grid, widthScale);
+    out << WorkbookHead(true, services::Now());
+    WriteSheetHead(out, cleaned, sheet, grid);
     for (int row = 0; row < grid.GetRowCount(); ++row) {
         out << "    <Row>"
             << "<Cell></Cell>";
         for (int column = 0; column < grid.GetColumnCount(); ++column) {
             const auto at = static_cast<std::size_t>(column);
-            const int type = at < columnTypes.size() ? columnTypes[at] : int{kExportText};
-            out << CellOf(grid.GetCellText(row, column), row < headerRows, type);
+            const int type = at < sheet.columnTypes.size() ? sheet.columnTypes[at] : int{kExportText};
+            out << CellOf(grid.GetCellText(row, column), row < sheet.headerRows, type);
         }
         out << "  </Row>\n";
     }
     // The words stand where a report has its footer; a grid has none and they stay in the file.
     out << WorksheetEndWith(" Need Footer ") << kWorkbookEnd;
     out.Close();
-    ReportViewerResult(services::StartProgram("Excel", '"' + path + '"'));
+    return path;
 }

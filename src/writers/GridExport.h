@@ -15,9 +15,14 @@ enum GridExportType {
     kExportReal8 = 8
 };
 
-// Writes a dialog's grid as it stands into a workbook of one worksheet beside the project and opens it. The
-// file and the worksheet are called by `name` without its blanks. The first `headerRows` rows stay texts;
-// `columnTypes` has the code of each column from the left, further columns are texts. A grid column's width
-// in pixels times `widthScale` is its width in the worksheet.
-void ExportGrid(const std::string& name, const std::string& title, int headerRows, int reserved,
-                std::span<const int> columnTypes, const CGridCtrl& grid, double widthScale);
+// How a dialog's grid becomes a worksheet.
+struct GridSheet {
+    std::string title;                 // the worksheet and, without its blanks, the file are called by it too
+    int headerRows = 0;                // the first rows, which stay texts
+    std::span<const int> columnTypes;  // the code of each column from the left; further columns are texts
+    double widthScale = 1.0;           // of a column in the worksheet to one in the grid, in pixels
+};
+
+// Writes a dialog's grid as it is into a workbook of one worksheet beside the project. Returns its path,
+// whether the file system took it or not.
+std::string ExportGrid(const std::string& inputFile, const GridSheet& sheet, const CGridCtrl& grid);

@@ -5,18 +5,15 @@
 #include <string>
 #include <string_view>
 
-#include "model/DataSet.h"
 #include "tables/Catalogue.h"
 #include "tables/TableLayout.h"
-#include "tables/WriteData.h"
 #include "writers/SheetCells.h"
 #include "writers/SheetHeads.h"
 #include "writers/SheetRows.h"
+#include "writers/TableSheets.h"
 #include "writers/WorkbookFrame.h"
 
 namespace {
-
-using StepWords = std::string[2];
 
 // ---- headings of the limit classes
 
@@ -32,7 +29,7 @@ constexpr std::string_view kHeadingEnd = "</Data></Cell>\n  </Row>\n";
 
 // The first slot's words, on the first substructure and on later ones: CASES becomes DATA in one family.
 struct FirstSlotWords {
-    int family;
+    CodeFamily family;
     const char* first;
     const char* later;
 };
@@ -43,12 +40,12 @@ constexpr std::array<FirstSlotWords, 3> kFirstSlotWords = {{
 }};
 
 // The blank row before a later substructure's first heading.
-std::string_view BlankRow(int family, std::size_t pier) {
+std::string_view BlankRow(CodeFamily family, std::size_t pier) {
     if (pier == 1) return "\t<Row> </Row>\n";
     return family == kFamilyLfd ? "" : " <Row> </Row>\n";
 }
 
-std::string FirstSlotHeading(int family, std::size_t pier) {
+std::string FirstSlotHeading(CodeFamily family, std::size_t pier) {
     std::string out;
     for (const FirstSlotWords& words : kFirstSlotWords) {
         if (words.family != family) continue;
@@ -59,10 +56,10 @@ std::string FirstSlotHeading(int family, std::size_t pier) {
     return out;
 }
 
-std::string SlotHeading(int family, int slot, std::size_t pier) {
-    if (slot == 0) return FirstSlotHeading(family, pier);
-    std::string out(slot == 1 ? kServiceHeading : kExtremeHeading);
-    out += slot == 2               ? "MAXIMUM EXTREME CASE DATA"
+std::string SlotHeading(CodeFamily family, LimitClass slot, std::size_t pier) {
+    if (slot == kStrength) return FirstSlotHeading(family, pier);
+    std::string out(slot == kService ? kServiceHeading : kExtremeHeading);
+    out += slot == kExtreme        ? "MAXIMUM EXTREME CASE DATA"
            : family == kFamilyLrfd ? "MAXIMUM SERVICE CASE DATA"
                                    : "MAXIMUM SERVICE LOAD DESIGN DATA";
     return out.append(kHeadingEnd);
@@ -72,12 +69,13 @@ std::string SlotHeading(int family, int slot, std::size_t pier) {
 
 constexpr std::string_view kHeadCell = "\t\t<Cell ss:StyleID=\"s65\"><Data ss:Type=\"String\">";
 
-std::string PlainColumnHead(const StepWords& words) {
-    const std::string unit = "(" + g_DataSet.m_sForceUnit + ")";
+std::string PlainColumnHead(const CDataSet& data) {
+    const StepWords words = StepWordsOf(data);
+    const std::string unit = "(" + data.m_sForceUnit + ")";
     const std::array<std::string_view, 10> upper = {
-        "", "SUBSTRUCTURE", "PILE", words[0], "MAX TENSION", "D/C", "", words[0], "MAX COMP", "D/C"};
-    const std::array<std::string_view, 10> lower = {"",        "", "",       words[1], unit,
-                                                    "(ratio)", "", words[1], unit,     "(ratio)"};
+        "", "SUBSTRUCTURE", "PILE", words.upper, "MAX TENSION", "D/C", "", words.upper, "MAX COMP", "D/C"};
+    const std::array<std::string_view, 10> lower = {"",        "", "",          words.lower, unit,
+                                                    "(ratio)", "", words.lower, unit,        "(ratio)"};
     std::string out = "\t<Row></Row>\n\t<Row>\n";
     for (const std::string_view text : upper) AppendTextCell(out, kHeadCell, text);
     out += "\t</Row>\n\t<Row>\n";
@@ -85,9 +83,10 @@ std::string PlainColumnHead(const StepWords& words) {
     return out += "\t</Row>\n\t<Row></Row>\n";
 }
 
-void AppendGroupHead(std::string& out, const std::string& stepWord, std::string_view force) {
-    AppendTextCell(out, kHeadCell, stepWord);
-    if (!FamilyWord().empty()) AppendTextCell(out, kHeadCell, FamilyWord());
+void AppendGroupHead(std::string& out, const CDataSet& data, std::string_view force) {
+    const std::string_view family = FamilyWord(data.FirstPier().m_nCodeFamily);
+    AppendTextCell(out, kHeadCell, StepWordsOf(data).upper);
+    if (!family.empty()) AppendTextCell(out, kHeadCell, family);
     AppendTextCell(out, kHeadCell, force);
     AppendTextCell(out, kHeadCell, "D/C");
 }
@@ -103,38 +102,38 @@ constexpr std::string_view kCombinationLowerRow =
     "\t\t<Cell ss:StyleID=\"s65\" ss:Index=\"12\"><Data ss:Type=\"String\">(Ratio)</Data></Cell>\n"
     "\t</Row>\n<Row></Row>\n";
 
-std::string CombinationColumnHead(const StepWords& words) {
+std::string CombinationColumnHead(const CDataSet& data) {
     std::string out =
         "\t<Row></Row>\n\t<Row >"
         "\t\t<Cell ss:Index=\"2\" ss:StyleID=\"s65\"><Data ss:Type=\"String\">SUBSTRUCTURE</Data></Cell>\n";
     AppendTextCell(out, kHeadCell, "PILE");
-    AppendGroupHead(out, words[0], "MAX TENSION");
+    AppendGroupHead(out, data, "MAX TENSION");
     out += "\t\t<Cell></Cell>";
-    AppendGroupHead(out, words[0], "MAX COMP");
+    AppendGroupHead(out, data, "MAX COMP");
     return out.append(kCombinationLowerRow);
 }
 
 // ---- rows
 
 // The load case of a pile's extreme, -1 where it has none.
-int CaseOf(const std::vector<std::vector<int>>& table, int slot, std::size_t pile) {
+int CaseOf(const std::vector<std::vector<int>>& table, LimitClass slot, std::size_t pile) {
     const std::size_t s = static_cast<std::size_t>(slot);
     return s < table.size() && pile < table[s].size() ? table[s][pile] : -1;
 }
 
 // One half of a row: the pile's head in the load case of its extreme.
 struct Group {
+    const Report& report;
     const CPier& pier;
     std::size_t pile;
     int loadCase;
 
     int HeadElement() const {
-        const int element = pier.FindElement(CPier::kPileFamily, static_cast<int>(pile), 0);
+        const int element = pier.FindElement(kPileFamily, static_cast<int>(pile), 0);
         return loadCase >= 0 && loadCase < static_cast<int>(pier.m_LoadCases.size()) ? element : -1;
     }
-    double Value(int element, int component) const {
-        return GetForce(pier.Forces(loadCase, element), kEndJ, component);
-    }
+    // The forces of the head's element; it must have one.
+    ForceRow Forces(int element) const { return report.Forces(pier, loadCase, element); }
 };
 
 void AppendPlainGroup(std::string& out, const Group& group, std::string_view ratioCell) {
@@ -146,8 +145,9 @@ void AppendPlainGroup(std::string& out, const Group& group, std::string_view rat
         return;
     }
     AppendIntCell(out, kNumberCell, group.loadCase + 1);
-    AppendDecimalCell(out, kForceCell, group.Value(element, kAxial));
-    AppendDecimalCell(out, ratioCell, group.Value(element, kDemandCapacity));
+    const ForceRow forces = group.Forces(element);
+    AppendDecimalCell(out, kForceCell, GetForce(forces, kEndJ, kAxial));
+    AppendDecimalCell(out, ratioCell, GetForce(forces, kEndJ, kDemandCapacity));
 }
 
 constexpr std::string_view kMissingCell = "\t\t<Cell ss:StyleID=\"s60\"><Data ss:Type=\"String\">";
@@ -161,9 +161,10 @@ void AppendCombinationGroup(std::string& out, const Group& group, int ratioDecim
         return;
     }
     AppendIntCell(out, kNumberCell, group.loadCase + 1);
-    AppendTextCell(out, kTextCell, PadName15(LimitStateOf(group.loadCase)));
-    AppendDecimalCell(out, kForceCell, group.Value(element, kAxial));
-    AppendDecimalCell(out, kDecimalCell, group.Value(element, kDemandCapacity), ratioDecimals);
+    AppendTextCell(out, kTextCell, PadName15(LimitStateOf(group.report.data, group.loadCase)));
+    const ForceRow forces = group.Forces(element);
+    AppendDecimalCell(out, kForceCell, GetForce(forces, kEndJ, kAxial));
+    AppendDecimalCell(out, kDecimalCell, GetForce(forces, kEndJ, kDemandCapacity), ratioDecimals);
 }
 
 void AppendRowNumbers(std::string& out, std::size_t pierIndex, std::size_t pile) {
@@ -183,26 +184,27 @@ void AppendPlainRow(std::string& out, std::size_t pierIndex, const Group& tensio
     out += "  </Row>\n";
 }
 
-void AppendCombinationRow(std::string& out, std::size_t pierIndex, int slot, const Group& tension,
+void AppendCombinationRow(std::string& out, std::size_t pierIndex, LimitClass slot, const Group& tension,
                           const Group& compression) {
     // Only the tension ratio of the extreme class is cut to two decimals.
     constexpr int kFull = 6;
     out += "    <Row>\n\t";
     AppendRowNumbers(out, pierIndex, tension.pile);
-    AppendCombinationGroup(out, tension, slot == 2 ? 2 : kFull);
+    AppendCombinationGroup(out, tension, slot == kExtreme ? 2 : kFull);
     out += "<Cell></Cell>\n";
     AppendCombinationGroup(out, compression, kFull);
     out += "</Row>\n";
 }
 
-void WriteRows(StoredStream& out, std::size_t pierIndex, int slot, bool combinations) {
-    const CPier& pier = g_DataSet.m_Piers[pierIndex];
+void WriteRows(StoredStream& out, const Report& report, std::size_t pierIndex, LimitClass slot) {
+    const CPier& pier = report.data.m_Piers[pierIndex];
+    const PierResults& results = report.results.piers[pierIndex];
     std::string row;
     for (std::size_t pile = 0; pile < pier.m_Piles.size(); ++pile) {
-        const Group tension{pier, pile, CaseOf(pier.m_ppMaxTension, slot, pile)};
-        const Group compression{pier, pile, CaseOf(pier.m_ppMaxCompression, slot, pile)};
+        const Group tension{report, pier, pile, CaseOf(results.maxTension, slot, pile)};
+        const Group compression{report, pier, pile, CaseOf(results.maxCompression, slot, pile)};
         row.clear();
-        if (combinations) {
+        if (report.data.HasCombinations()) {
             AppendCombinationRow(row, pierIndex, slot, tension, compression);
         } else {
             AppendPlainRow(row, pierIndex, tension, compression);
@@ -213,19 +215,18 @@ void WriteRows(StoredStream& out, std::size_t pierIndex, int slot, bool combinat
 
 }  // namespace
 
-int CWriteData::WriteMaxAxialSheet(StoredStream& out, bool embedded) {
-    return WriteWorkbook(kTableMaxAxial, out, embedded, [&] {
-        SetStepWords();
-        const CPier& first = g_DataSet.FirstPier();
-        out << WorksheetHead(kTableMaxAxial, ExpandedRows(kTableMaxAxial));
-        for (std::size_t p = 0; p < g_DataSet.m_Piers.size(); ++p) {
-            for (const int slot : BlockSlots(kTableMaxAxial)) {
-                if (first.m_bCombinations) out << SlotHeading(first.m_nCodeFamily, slot, p);
-                out << (first.m_bCombinations ? CombinationColumnHead(m_sLoadWord)
-                                              : PlainColumnHead(m_sLoadWord));
-                WriteRows(out, p, slot, first.m_bCombinations);
+int WriteMaxAxialSheet(const Report& report, StoredStream& out, bool embedded) {
+    const CDataSet& data = report.data;
+    return WriteWorkbook(report, kTableMaxAxial, out, embedded, [&] {
+        const bool combinations = data.HasCombinations();
+        out << WorksheetHead(data, kTableMaxAxial, ExpandedRows(report, kTableMaxAxial));
+        for (std::size_t p = 0; p < data.m_Piers.size(); ++p) {
+            for (const LimitClass slot : BlockSlots(report, kTableMaxAxial)) {
+                if (combinations) out << SlotHeading(data.FirstPier().m_nCodeFamily, slot, p);
+                out << (combinations ? CombinationColumnHead(data) : PlainColumnHead(data));
+                WriteRows(out, report, p, slot);
             }
         }
-        out << WorksheetEnd();
+        out << WorksheetEnd(report.options);
     });
 }

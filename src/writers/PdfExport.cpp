@@ -1,12 +1,10 @@
 #include "writers/PdfExport.h"
 
-#include "framework/Backend.h"
-#include "session/Session.h"
 #include "text/Format.h"
+#include "text/Paths.h"
 
 namespace {
 
-constexpr const char* kBuilderName = "Jarlimex.exe";
 constexpr const char* kEmptyGrid = "Error: Empty Grid - Either the number of rows or columns is 0.";
 
 const char* Word(bool value) {
@@ -15,20 +13,13 @@ const char* Word(bool value) {
 
 }  // namespace
 
-std::string FolderOf(const std::string& path) {
-    std::size_t end = path.size();
-    while (end > 0 && !services::IsFolderSeparator(path[end - 1])) --end;
-    return path.substr(0, end);
-}
-
 CPdfExport::CPdfExport(const CGridCtrl& grid, const std::string& descriptionPath, const std::string& pdfPath)
     : m_pColumnTypes(static_cast<std::size_t>(grid.GetColumnCount()), 2),
       m_grid(grid),
       m_nRows(grid.GetRowCount()),
       m_nColumns(grid.GetColumnCount()),
       m_sDescriptionPath(descriptionPath),
-      m_sPdfPath(pdfPath),
-      m_sBuilderPath(HostProgramFolder() + kBuilderName) {}
+      m_sPdfPath(pdfPath) {}
 
 std::string CPdfExport::ColumnTypes() const {
     std::string types;
@@ -83,11 +74,11 @@ void CPdfExport::WriteKeys(StoredStream& out) const {
     for (const auto& [key, value] : keys) out << key << value << "\n";
 }
 
-void CPdfExport::WriteAndStart() {
+bool CPdfExport::Write(Messages& messages) {
     // Each of the two counts is told, so a grid with neither is told twice.
-    if (m_nRows == 0) AfxMessageBox(kEmptyGrid);
-    if (m_nColumns == 0) AfxMessageBox(kEmptyGrid);
-    if (m_nRows == 0 || m_nColumns == 0) return;
+    if (m_nRows == 0) messages.Show(kEmptyGrid);
+    if (m_nColumns == 0) messages.Show(kEmptyGrid);
+    if (m_nRows == 0 || m_nColumns == 0) return false;
     m_nDataRows = m_nRows - m_nHeaderRows;
     StoredStream out(m_sDescriptionPath);
     WriteKeys(out);
@@ -101,5 +92,5 @@ void CPdfExport::WriteAndStart() {
     out.Close();
     m_ExtraLines.clear();
     m_CellImages.clear();
-    services::ShellOpen("", m_sBuilderPath, '"' + m_sDescriptionPath + '"');
+    return true;
 }

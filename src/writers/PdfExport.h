@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "grid/GridCtrl.h"
+#include "text/Messages.h"
 #include "text/StoredStream.h"
 
 // One hand-over of a dialog's grid to the table image builder, a program beside the host that reads a
@@ -12,9 +13,9 @@ class CPdfExport {
   public:
     CPdfExport(const CGridCtrl& grid, const std::string& descriptionPath, const std::string& pdfPath);
 
-    // Writes the description file and starts the builder, without waiting for it. An empty grid is refused
-    // with a message; a builder that can't be started is not noticed.
-    void WriteAndStart();
+    // Writes the description file. False: the grid is empty, which was reported, and nothing was written.
+    bool Write(Messages& messages);
+    const std::string& DescriptionPath() const { return m_sDescriptionPath; }
 
     std::string m_sTitle = "Tarnsway Data";
     std::string m_sAuthor = "Tarnsway";
@@ -50,8 +51,5 @@ class CPdfExport {
 
     const CGridCtrl& m_grid;
     int m_nRows, m_nColumns;
-    std::string m_sDescriptionPath, m_sPdfPath, m_sBuilderPath;
+    std::string m_sDescriptionPath, m_sPdfPath;
 };
-
-// The folder of a path up to and with its last separator; empty where the path has none.
-std::string FolderOf(const std::string& path);

@@ -1,6 +1,5 @@
 #include "writers/PdfSink.h"
 
-#include "tables/Catalogue.h"
 #include "text/Format.h"
 
 namespace {
@@ -17,7 +16,7 @@ constexpr std::size_t kContinuedBlanksNarrow = 57 + 52;
 
 }  // namespace
 
-CPdfSink::CPdfSink(StoredStream& out, CPdfWriter& pdf, bool narrow)
+CPdfSink::CPdfSink(StoredStream& out, CPdfWriter& pdf, std::string_view footer, bool narrow)
     : m_out(out),
       m_pdf(pdf),
       m_nLinesPerPage(pdf.LinesPerPage()),
@@ -25,7 +24,7 @@ CPdfSink::CPdfSink(StoredStream& out, CPdfWriter& pdf, bool narrow)
     m_pdf.BeginPage(m_out, "");
     m_continued += "cont...";
     // A path in the footer shows its backslashes; a single one would be an escape.
-    m_footer = ReplaceAll(FooterText(), "\\", "\\\\");
+    m_footer = ReplaceAll(footer, "\\", "\\\\");
 }
 
 void CPdfSink::Show(std::string_view text) {

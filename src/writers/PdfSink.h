@@ -10,9 +10,9 @@
 // the tables hold balanced parentheses.
 class CPdfSink : public CLineSink {
   public:
-    // Begins the table's first page. The words of a page break in the middle of a block stand further left in
-    // the narrow table 0.
-    CPdfSink(StoredStream& out, CPdfWriter& pdf, bool narrow);
+    // Begins the table's first page. `footer` is that of every page, not yet escaped. The words of a page
+    // break in the middle of a block stand further left in the narrow table 0.
+    CPdfSink(StoredStream& out, CPdfWriter& pdf, std::string_view footer, bool narrow);
 
     const TitleMargins& MarginsOf(const TableLayout& layout) const override { return layout.pdf; }
     void Line(std::string_view text) override;

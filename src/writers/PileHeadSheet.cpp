@@ -6,13 +6,12 @@
 #include <string>
 #include <string_view>
 
-#include "model/DataSet.h"
 #include "tables/Catalogue.h"
 #include "tables/TableLayout.h"
-#include "tables/WriteData.h"
 #include "writers/SheetCells.h"
 #include "writers/SheetHeads.h"
 #include "writers/SheetRows.h"
+#include "writers/TableSheets.h"
 #include "writers/WorkbookFrame.h"
 
 namespace {
@@ -22,15 +21,14 @@ constexpr std::string_view kHeadCell = "\t\t<Cell ss:StyleID=\"s65\"><Data ss:Ty
 // The decimals of a 32-bit number's exact value, as far as they matter to a comparison of two runs.
 constexpr int kDecimals = 12;
 
-std::string HeadRows(const std::string (&stepWords)[2]) {
-    const std::string force = "(" + g_DataSet.m_sForceUnit + ")";
-    const std::string moment = "(" + g_DataSet.m_sMomentUnit + ")";
-    const std::array<std::string_view, 13> upper = {"",      "PILE",   "ELEM", "NODE", stepWords[0],
-                                                    "LIMIT", "FAX",    "F22",  "F33",  "M22",
-                                                    "M33",   "TORQUE", "D/C"};
-    const std::array<std::string_view, 13> lower = {"",      "NO.",  "NO.",    "NO.", stepWords[1],
-                                                    "STATE", force,  force,    force, moment,
-                                                    moment,  moment, "(ratio)"};
+std::string HeadRows(const CDataSet& data) {
+    const StepWords step = StepWordsOf(data);
+    const std::string force = "(" + data.m_sForceUnit + ")";
+    const std::string moment = "(" + data.m_sMomentUnit + ")";
+    const std::array<std::string_view, 13> upper = {"",    "PILE", "ELEM", "NODE", step.upper, "LIMIT", "FAX",
+                                                    "F22", "F33",  "M22",  "M33",  "TORQUE",   "D/C"};
+    const std::array<std::string_view, 13> lower = {"",    "NO.", "NO.",  "NO.",  step.lower, "STATE",  force,
+                                                    force, force, moment, moment, moment,     "(ratio)"};
     std::string out = "\t<Row></Row>\n\t<Row>\n";
     for (const std::string_view text : upper) AppendTextCell(out, kHeadCell, text);
     out += "\t</Row>\n\t<Row>\n";
@@ -38,52 +36,60 @@ std::string HeadRows(const std::string (&stepWords)[2]) {
     return out += "\t</Row>\n\t<Row></Row>\n";
 }
 
-void AppendRow(std::string& out, const CPier& pier, int pile, int loadCase, std::string_view limitState) {
-    const int element = pier.PileElement(pile, 0);
+// The head of a pile in one case.
+struct HeadRow {
+    int pile, loadCase;
+    int elementNumber;
+    std::string_view limitState;
+    ElementForces forces;
+};
+
+void AppendRow(std::string& out, const HeadRow& row) {
     out.append("    <Row><Cell></Cell>").append(kNumberCell);
-    AppendInt(out, pile + 1);
-    out += "</Data></Cell>";  // the element's cell stands on the same line
-    AppendIntCell(out, kNumberCell, pier.Element(element).m_nElementNumber);
+    AppendInt(out, row.pile + 1);
+    out += "</Data></Cell>";  // the element's cell is on the same line
+    AppendIntCell(out, kNumberCell, row.elementNumber);
     // The column headed NODE repeats the pile number: heads are found by pile.
-    AppendIntCell(out, kNumberCell, pile + 1);
-    AppendIntCell(out, kNumberCell, loadCase + 1);
-    AppendTextCell(out, kWideTextCell, limitState);
-    const ElementForces forces = pier.Forces(loadCase, element);
+    AppendIntCell(out, kNumberCell, row.pile + 1);
+    AppendIntCell(out, kNumberCell, row.loadCase + 1);
+    AppendTextCell(out, kWideTextCell, row.limitState);
     for (int component = kAxial; component <= kTorque; ++component) {
-        AppendDecimalCell(out, kForceCell, GetForce(forces, kEndJ, component), kDecimals);
+        AppendDecimalCell(out, kForceCell, GetForce(row.forces, kEndJ, component), kDecimals);
     }
-    AppendDecimalCell(out, kDecimalCell, GetForce(forces, kEndJ, kDemandCapacity), kDecimals);
+    AppendDecimalCell(out, kDecimalCell, GetForce(row.forces, kEndJ, kDemandCapacity), kDecimals);
     out += "  </Row>\n";
 }
 
-void WriteRows(StoredStream& out, const CPier& pier, bool combinations) {
-    std::string row;
-    const int cases = static_cast<int>(pier.m_LoadCases.size());
-    const int piles = static_cast<int>(pier.m_Piles.size());
-    for (int loadCase = 0; loadCase < cases; ++loadCase) {
-        if (!pier.IsCaseSelected(loadCase)) continue;
-        const std::string limitState =
-            combinations ? PadName15(LimitStateOf(loadCase)) : std::string(kNoValue);
-        for (int pile = 0; pile < piles; ++pile) {
-            if (pier.FindElement(CPier::kPileFamily, pile, 0) < 0) continue;
-            row.clear();
-            AppendRow(row, pier, pile, loadCase, limitState);
-            out << row;
+void WriteRows(StoredStream& out, const Report& report, std::size_t p) {
+    const CPier& pier = report.data.m_Piers[p];
+    std::string text;
+    report.rows.EachCase(p, [&](int loadCase, CaseForces forces) {
+        if (!report.selection.IsCaseSelected(loadCase)) return;
+        const std::string limitState = report.data.HasCombinations()
+                                           ? PadName15(LimitStateOf(report.data, loadCase))
+                                           : std::string(kNoValue);
+        for (int pile = 0; pile < static_cast<int>(pier.m_Piles.size()); ++pile) {
+            const int element = pier.FindElement(kPileFamily, pile, 0);
+            if (element < 0) continue;
+            text.clear();
+            AppendRow(text, {pile, loadCase, pier.Element(element).m_nElementNumber, limitState,
+                             ForcesOf(forces, element)});
+            out << text;
         }
-    }
+    });
 }
 
 }  // namespace
 
-int CWriteData::WritePileHeadForcesSheet(StoredStream& out, bool embedded) {
-    return WriteWorkbook(kTablePileHeads, out, embedded, [&] {
-        SetStepWords();
-        for (std::size_t p = 0; p < g_DataSet.m_Piers.size(); ++p) {
+int WritePileHeadSheet(const Report& report, StoredStream& out, bool embedded) {
+    const CDataSet& data = report.data;
+    return WriteWorkbook(report, kTablePileHeads, out, embedded, [&] {
+        for (std::size_t p = 0; p < data.m_Piers.size(); ++p) {
             const int number = static_cast<int>(p);
-            out << PileHeadWorksheetHead(number, ExpandedRows(kTablePileHeads, number));
-            out << HeadRows(m_sLoadWord);
-            WriteRows(out, g_DataSet.m_Piers[p], g_DataSet.FirstPier().m_bCombinations);
-            out << WorksheetEnd();
+            out << PileHeadWorksheetHead(data, number, ExpandedRows(report, kTablePileHeads, number));
+            out << HeadRows(data);
+            WriteRows(out, report, p);
+            out << WorksheetEnd(report.options);
         }
     });
 }

@@ -6,36 +6,36 @@
 #include <string>
 #include <string_view>
 
-#include "model/DataSet.h"
 #include "tables/Catalogue.h"
 #include "tables/TableLayout.h"
-#include "tables/WriteData.h"
+#include "tables/Words.h"
 #include "writers/SheetCells.h"
 #include "writers/SheetHeads.h"
 #include "writers/SheetRows.h"
+#include "writers/TableSheets.h"
 #include "writers/WorkbookFrame.h"
 
 namespace {
 
 struct SectionSheet {
-    int table;
-    CPier::MemberFamily family;
-    CRecordTable CPier::*records;
+    TableId table;
+    MemberFamily family;
+    CRecordTable PierResults::*records;
     int CPier::*sections;
     std::string_view ratioRow;  // opening of a row of the ratio tables
     int firstProperty;          // number of the first section; extra members have their own
 };
 constexpr std::array<SectionSheet, 5> kForms = {{
-    {kTablePileDc, CPier::kPileFamily, &CPier::m_PileDc, &CPier::m_nPileSections,
-     "  <Row ss:Height=\"21\">\n", 1},
-    {kTableColumnDc, CPier::kColumnFamily, &CPier::m_ColumnDc, &CPier::m_nColumnSections,
+    {kTablePileDc, kPileFamily, &PierResults::pileDc, &CPier::m_nPileSections, "  <Row ss:Height=\"21\">\n",
+     1},
+    {kTableColumnDc, kColumnFamily, &PierResults::columnDc, &CPier::m_nColumnSections,
      "<Row ss:Height=\"21\">\n", 2},
-    {kTablePileForces, CPier::kPileFamily, &CPier::m_PileForces, &CPier::m_nPileSections, "", 1},
-    {kTableColumnForces, CPier::kColumnFamily, &CPier::m_ColumnForces, &CPier::m_nColumnSections, "", 2},
-    {kTableExtraMembers, CPier::kXMemberFamily, &CPier::m_XMemberForces, &CPier::m_nXMemberSections, "", 0},
+    {kTablePileForces, kPileFamily, &PierResults::pileForces, &CPier::m_nPileSections, "", 1},
+    {kTableColumnForces, kColumnFamily, &PierResults::columnForces, &CPier::m_nColumnSections, "", 2},
+    {kTableExtraMembers, kXMemberFamily, &PierResults::extraMemberForces, &CPier::m_nXMemberSections, "", 0},
 }};
 
-const SectionSheet& FormOf(int table) {
+const SectionSheet& FormOf(TableId table) {
     for (const SectionSheet& form : kForms) {
         if (form.table == table) return form;
     }
@@ -46,27 +46,39 @@ constexpr std::string_view kPropertyCell =
     "    <Cell ss:Index=\"2\" ss:StyleID=\"s60\"><Data ss:Type=\"Number\">";
 constexpr std::string_view kEndCell = "    <Cell ss:StyleID=\"s61\"><Data ss:Type=\"String\">";
 
+// A substructure with its results, as the rows of one table read them.
+struct Sheet {
+    const Report& report;
+    const SectionSheet& form;
+    std::size_t index;
+
+    const CPier& Pier() const { return report.data.m_Piers[index]; }
+    bool HasCombinations() const { return report.data.HasCombinations(); }
+    std::string LimitState(int loadCase) const { return PadName15(LimitStateOf(report.data, loadCase)); }
+};
+
 // A record with the element that it points at; -1, and a record without result, where there is none.
 struct Place {
     CMaxRecord record;
     int element;
 };
 
-Place PlaceOf(const SectionSheet& form, const CPier& pier, int section, int slot, int extreme) {
-    const CRecordTable& table = pier.*form.records;
+Place PlaceOf(const Sheet& sheet, int section, LimitClass slot, int extreme) {
+    const CRecordTable& table = sheet.report.results.piers[sheet.index].*sheet.form.records;
+    const CPier& pier = sheet.Pier();
     Place place{kNotFoundRecord, -1};
     if (section >= table.Sections() || slot >= table.Slots()) return place;
     const CMaxRecord& record = table.At(section, slot, extreme);
     if (record.m_nLoadCase < 0 || record.m_nLoadCase >= static_cast<int>(pier.m_LoadCases.size()))
         return place;
-    place.element = pier.FindElement(form.family, record.m_nMember, record.m_nElement);
+    place.element = pier.FindElement(sheet.form.family, record.m_nMember, record.m_nElement);
     if (place.element >= 0) place.record = record;
     return place;
 }
 
 // The seven values; each cell but the last closes its line.
-void AppendValues(std::string& out, const CPier& pier, const Place& place, std::string_view cell) {
-    const ElementForces forces = pier.Forces(place.record.m_nLoadCase, place.element);
+void AppendValues(std::string& out, const Sheet& sheet, const Place& place, std::string_view cell) {
+    const ForceRow forces = sheet.report.Forces(sheet.Pier(), place.record.m_nLoadCase, place.element);
     const int end = place.record.m_nEnd == 0 ? kEndI : kEndJ;
     for (int component = 0; component < kComponents; ++component) {
         AppendDecimalCell(out, cell, GetForce(forces, end, component));
@@ -80,46 +92,43 @@ std::string_view EndWord(const Place& place) {
 
 // ---- tables 1 and 2
 
-void AppendRatioRow(std::string& out, const SectionSheet& form, const CPier& pier, int property,
-                    const Place& place) {
-    const bool combinations = g_DataSet.FirstPier().m_bCombinations;
+void AppendRatioRow(std::string& out, const Sheet& sheet, int property, const Place& place) {
     const CMaxRecord& record = place.record;
-    out += form.ratioRow;
+    out += sheet.form.ratioRow;
     AppendIntCell(out, kPropertyCell, property);
     AppendIntCell(out, kNumberCell, record.m_nMember + 1);
     AppendIntCell(out, kNumberCell, record.m_nElementNumber);
     AppendIntCell(out, kNumberCell, record.m_nNode);
     AppendIntCell(out, kNumberCell, record.m_nLoadCase + 1);
     if (place.element < 0) {
-        AppendMissingCells(out, combinations ? 9 : 8);
+        AppendMissingCells(out, sheet.HasCombinations() ? 9 : 8);
         out += "</Row>\n";
         return;
     }
-    if (combinations) AppendTextCell(out, kTextCell, PadName15(LimitStateOf(record.m_nLoadCase)));
+    if (sheet.HasCombinations()) AppendTextCell(out, kTextCell, sheet.LimitState(record.m_nLoadCase));
     AppendTextCell(out, kEndCell, EndWord(place));
-    AppendValues(out, pier, place, kDecimalCell);
+    AppendValues(out, sheet, place, kDecimalCell);
     out += "</Row>\n";
 }
 
-void WriteRatioRows(StoredStream& out, const SectionSheet& form, const CPier& pier, int slot) {
+void WriteRatioRows(StoredStream& out, const Sheet& sheet, LimitClass slot) {
     std::string row;
-    for (int section = 0; section < pier.*form.sections; ++section) {
+    for (int section = 0; section < sheet.Pier().*sheet.form.sections; ++section) {
         row.clear();
-        AppendRatioRow(row, form, pier, section + form.firstProperty, PlaceOf(form, pier, section, slot, 0));
+        AppendRatioRow(row, sheet, section + sheet.form.firstProperty, PlaceOf(sheet, section, slot, 0));
         out << row;
     }
 }
 
 // ---- tables 5, 6 and 7
 
-void AppendForceRow(std::string& out, const CPier& pier, int property, int extreme, const Place& place) {
-    const bool combinations = g_DataSet.FirstPier().m_bCombinations;
+void AppendForceRow(std::string& out, const Sheet& sheet, int property, int extreme, const Place& place) {
     const std::string_view word = g_ExtremeNames[static_cast<std::size_t>(extreme)];
     const CMaxRecord& record = place.record;
     out += "  <Row>\n";
     AppendIntCell(out, kPropertyCell, property);
     if (place.element < 0) {
-        AppendMissingCells(out, combinations ? 6 : 5);
+        AppendMissingCells(out, sheet.HasCombinations() ? 6 : 5);
         AppendTextCell(out, kWideTextCell, word);
         AppendMissingCells(out, kComponents, extreme / 2);
         out += "</Row>\n";
@@ -129,26 +138,26 @@ void AppendForceRow(std::string& out, const CPier& pier, int property, int extre
     AppendIntCell(out, kWideNumberCell, record.m_nElementNumber);
     AppendIntCell(out, kWideNumberCell, record.m_nNode);
     AppendIntCell(out, kWideNumberCell, record.m_nLoadCase + 1);
-    if (combinations) AppendTextCell(out, kWideTextCell, PadName15(LimitStateOf(record.m_nLoadCase)));
+    if (sheet.HasCombinations()) AppendTextCell(out, kWideTextCell, sheet.LimitState(record.m_nLoadCase));
     AppendTextCell(out, kWideTextCell, EndWord(place));
     // A tab stays behind the word in its cell.
     out.append(kWideTextCell).append(word).append("\t").append(kCellEnd);
-    AppendValues(out, pier, place, kWideDecimalCell);
+    AppendValues(out, sheet, place, kWideDecimalCell);
     out += "\n  </Row>\n";
 }
 
-void WriteForceRows(StoredStream& out, const SectionSheet& form, std::size_t pierIndex, int slot) {
-    const CPier& pier = g_DataSet.m_Piers[pierIndex];
-    const bool extraMembers = form.table == kTableExtraMembers;
-    const int firstProperty = extraMembers ? pier.m_nXMemberFirstSection : form.firstProperty;
-    const int sections = pier.*form.sections;
+void WriteForceRows(StoredStream& out, const Sheet& sheet, LimitClass slot) {
+    const CPier& pier = sheet.Pier();
+    const bool extraMembers = sheet.form.table == kTableExtraMembers;
+    const int firstProperty = extraMembers ? pier.m_nXMemberFirstSection : sheet.form.firstProperty;
+    const int sections = pier.*sheet.form.sections;
     std::string rows;
     for (int section = 0; section < sections; ++section) {
         const int property = firstProperty + section;
-        if (extraMembers && !g_DataSet.UsesExtraSection(static_cast<unsigned>(pierIndex), property)) continue;
+        if (extraMembers && !sheet.report.data.IsExtraMemberSection(sheet.index, property)) continue;
         rows.clear();
         for (int extreme = 0; extreme < kPrintedExtremes; ++extreme) {
-            AppendForceRow(rows, pier, property, extreme, PlaceOf(form, pier, section, slot, extreme));
+            AppendForceRow(rows, sheet, property, extreme, PlaceOf(sheet, section, slot, extreme));
         }
         if (section + 1 < sections) rows += "<Row></Row>\n";
         out << rows;
@@ -157,56 +166,31 @@ void WriteForceRows(StoredStream& out, const SectionSheet& form, std::size_t pie
 
 // ---- the walk
 
-// The head's step words are the writer's own.
-void WriteSections(StoredStream& out, int table, const std::string (&stepWords)[2]) {
+void WriteSections(const Report& report, TableId table, StoredStream& out) {
+    const CDataSet& data = report.data;
     const SectionSheet& form = FormOf(table);
-    const bool columns = form.family == CPier::kColumnFamily;
-    const std::string columnHead = ColumnHeadRows(table, stepWords);
-    out << WorksheetHead(table, ExpandedRows(table));
-    for (std::size_t p = 0; p < g_DataSet.m_Piers.size(); ++p) {
-        const CPier& pier = g_DataSet.m_Piers[p];
-        if (table == kTableExtraMembers && pier.m_nExtraMembers == 0) continue;
-        out << SubstructureHeading(table, static_cast<int>(p));
-        if (columns && pier.m_nStructureType == kTypePileBent) continue;
-        for (const int slot : BlockSlots(table)) {
-            out << SectionRows(table, slot) << columnHead;
+    const bool columns = form.family == kColumnFamily;
+    const std::string columnHead = ColumnHeadRows(data, table);
+    out << WorksheetHead(data, table, ExpandedRows(report, table));
+    for (std::size_t p = 0; p < data.m_Piers.size(); ++p) {
+        const Sheet sheet{report, form, p};
+        if (table == kTableExtraMembers && sheet.Pier().m_nExtraMembers == 0) continue;
+        out << SubstructureHeading(data, table, static_cast<int>(p));
+        if (columns && sheet.Pier().m_nStructureType == kTypePileBent) continue;
+        for (const LimitClass slot : BlockSlots(report, table)) {
+            out << SectionRows(data, table, slot) << columnHead;
             if (form.ratioRow.empty()) {
-                WriteForceRows(out, form, p, slot);
+                WriteForceRows(out, sheet, slot);
             } else {
-                WriteRatioRows(out, form, pier, slot);
+                WriteRatioRows(out, sheet, slot);
             }
         }
     }
-    out << CWriteData::WorksheetEnd();
+    out << WorksheetEnd(report.options);
 }
 
 }  // namespace
 
-int CWriteData::WritePileDcSheet(StoredStream& out, bool embedded) {
-    SetStepWords();
-    return WriteWorkbook(kTablePileDc, out, embedded, [&] { WriteSections(out, kTablePileDc, m_sLoadWord); });
-}
-
-int CWriteData::WriteColumnDcSheet(StoredStream& out, bool embedded) {
-    SetStepWords();
-    return WriteWorkbook(kTableColumnDc, out, embedded,
-                         [&] { WriteSections(out, kTableColumnDc, m_sLoadWord); });
-}
-
-int CWriteData::WritePileForcesSheet(StoredStream& out, bool embedded) {
-    SetStepWords();
-    return WriteWorkbook(kTablePileForces, out, embedded,
-                         [&] { WriteSections(out, kTablePileForces, m_sLoadWord); });
-}
-
-int CWriteData::WriteColumnForcesSheet(StoredStream& out, bool embedded) {
-    SetStepWords();
-    return WriteWorkbook(kTableColumnForces, out, embedded,
-                         [&] { WriteSections(out, kTableColumnForces, m_sLoadWord); });
-}
-
-int CWriteData::WriteExtraMemberForcesSheet(StoredStream& out, bool embedded) {
-    SetStepWords();
-    return WriteWorkbook(kTableExtraMembers, out, embedded,
-                         [&] { WriteSections(out, kTableExtraMembers, m_sLoadWord); });
+int WriteSectionSheet(const Report& report, TableId table, StoredStream& out, bool embedded) {
+    return WriteWorkbook(report, table, out, embedded, [&] { WriteSections(report, table, out); });
 }

@@ -4,7 +4,6 @@
 #include <string>
 #include <string_view>
 
-#include "model/DataSet.h"
 #include "tables/Catalogue.h"
 #include "text/Format.h"
 #include "writers/SheetHeads.h"
@@ -13,54 +12,56 @@ namespace {
 
 // A block's heading is opening, blank cell, words in the heading cell, "</Row>", closing.
 struct SectionRow {
-    int table, family, slot;
+    TableId table;
+    CodeFamily family;
+    LimitClass slot;
     std::string_view opening, words, closing;
 };
 // clang-format off
 constexpr SectionRow kSectionRows[] = {
-    {1, 0, 0, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM STRENGTH CASE DATA", "\n"},
-    {1, 0, 1, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM SERVICE CASE DATA", "<\n"},
-    {1, 0, 2, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM EXTREME CASE DATA", "<\n"},
-    {1, 1, 0, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM LOAD FACTOR DESIGN DATA", "\n"},
-    {1, 2, 0, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM LOAD FACTOR DESIGN DATA", "\n"},
-    {1, 2, 1, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM SERVICE LOAD DESIGN DATA", "<\n"},
-    {2, 0, 0, "  <Row></Row>\n\t<Row>    ", "MAXIMUM STRENGTH CASE DATA", "\n< "},
-    {2, 0, 1, "  <Row></Row>\n\t<Row>    ", "MAXIMUM SERVICE CASE DATA", "\n  "},
-    {2, 0, 2, "   <Row></Row>\n\t<Row>    ", "MAXIMUM EXTREME CASE DATA", "\n  "},
-    {2, 1, 0, "   <Row></Row>\n\t<Row>    ", "MAXIMUM LOAD FACTOR DESIGN DATA", "\n "},
-    {2, 2, 0, "  <Row></Row>\n\t<Row>    ", "MAXIMUM LOAD FACTOR DESIGN DATA", "\n< "},
-    {2, 2, 1, "  <Row></Row>\n\t<Row>    ", "MAXIMUM SERVICE LOAD DESIGN DATA", "\n  "},
-    {3, 0, 0, "  <Row></Row>\n<Row>    ", "STRENGTH CASE DATA", "\n<Row></Row>"},
-    {3, 0, 1, "  <Row></Row>\n<Row>    ", "SERVICE CASE DATA", "\n<Row></Row>"},
-    {3, 0, 2, "  <Row></Row>\n<Row>    ", "EXTREME CASE DATA", "\n<Row></Row>"},
-    {3, 1, 0, "  <Row></Row>\n<Row>    ", "LOAD FACTOR DESIGN DATA", "\n<Row></Row>"},
-    {3, 2, 0, "  <Row></Row>\n<Row>    ", "LOAD FACTOR DESIGN DATA", "\n<Row></Row>"},
-    {3, 2, 1, "  <Row></Row>\n<Row>    ", "SERVICE LOAD DESIGN DATA", "\n<Row></Row>"},
-    {4, 0, 0, "  <Row>    ", "STRENGTH CASE DATA", "\n<Row></Row>"},
-    {4, 0, 1, "  <Row>    ", "SERVICE CASE DATA", "\n<Row></Row>"},
-    {4, 0, 2, "  <Row>    ", "EXTREME CASE DATA", "\n<Row></Row>"},
-    {4, 0, 3, "  <Row>    ", "FATIGUE CASE DATA", "\n<Row></Row>"},
-    {4, 1, 0, "  <Row>    ", "LOAD FACTOR DESIGN DATA", "\n<Row></Row>"},
-    {4, 2, 0, "  <Row>    ", "LOAD FACTOR DESIGN DATA", "\n<Row></Row>"},
-    {4, 2, 1, "  <Row>    ", "SERVICE LOAD DESIGN DATA", "\n<Row></Row>"},
-    {5, 0, 0, "   <Row></Row>\n\t<Row>    ", "STRENGTH CASE DATA", "\n"},
-    {5, 0, 1, "  <Row></Row>\n<Row>\n    ", "SERVICE CASE DATA", "<\n"},
-    {5, 0, 2, "   <Row></Row>\n\t<Row>\n    ", "EXTREME CASE DATA", "\n"},
-    {5, 1, 0, "  <Row></Row>\n\t<Row>\n    ", "LOAD FACTOR DESIGN DATA", "\n"},
-    {5, 2, 0, "   <Row></Row>\n\t<Row>    ", "LOAD FACTOR DESIGN DATA", "\n"},
-    {5, 2, 1, "  <Row></Row>\n<Row>\n    ", "SERVICE LOAD DESIGN DATA", "<\n"},
-    {6, 0, 0, "   <Row>\n    ", "STRENGTH CASE DATA", "\n"},
-    {6, 0, 1, "  <Row>\n   ", "SERVICE CASE DATA", "\n"},
-    {6, 0, 2, "   <Row>\n    ", "EXTREME CASE DATA", "\n"},
-    {6, 1, 0, "  <Row>\n    ", "LOAD FACTOR DESIGN DATA", "\n"},
-    {6, 2, 0, "   <Row>\n    ", "LOAD FACTOR DESIGN DATA", "\n"},
-    {6, 2, 1, "  <Row>\n   ", "SERVICE LOAD DESIGN DATA", "\n"},
-    {7, 0, 0, "   <Row>    ", "STRENGTH CASE DATA", "\n"},
-    {7, 0, 1, "  <Row>    ", "SERVICE CASE DATA", "\n"},
-    {7, 0, 2, "   <Row>    ", "EXTREME CASE DATA", "\n"},
-    {7, 1, 0, "  <Row>    ", "LOAD FACTOR DESIGN DATA", "\n"},
-    {7, 2, 0, "   <Row>    ", "LOAD FACTOR DESIGN DATA", "\n"},
-    {7, 2, 1, "  <Row>    ", "SERVICE LOAD DESIGN DATA", "\n"},
+    {kTablePileDc, kFamilyLrfd, kStrength, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM STRENGTH CASE DATA", "\n"},
+    {kTablePileDc, kFamilyLrfd, kService, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM SERVICE CASE DATA", "<\n"},
+    {kTablePileDc, kFamilyLrfd, kExtreme, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM EXTREME CASE DATA", "<\n"},
+    {kTablePileDc, kFamilyLfd, kStrength, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM LOAD FACTOR DESIGN DATA", "\n"},
+    {kTablePileDc, kFamilyArema, kStrength, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM LOAD FACTOR DESIGN DATA", "\n"},
+    {kTablePileDc, kFamilyArema, kService, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM SERVICE LOAD DESIGN DATA", "<\n"},
+    {kTableColumnDc, kFamilyLrfd, kStrength, "  <Row></Row>\n\t<Row>    ", "MAXIMUM STRENGTH CASE DATA", "\n< "},
+    {kTableColumnDc, kFamilyLrfd, kService, "  <Row></Row>\n\t<Row>    ", "MAXIMUM SERVICE CASE DATA", "\n  "},
+    {kTableColumnDc, kFamilyLrfd, kExtreme, "   <Row></Row>\n\t<Row>    ", "MAXIMUM EXTREME CASE DATA", "\n  "},
+    {kTableColumnDc, kFamilyLfd, kStrength, "   <Row></Row>\n\t<Row>    ", "MAXIMUM LOAD FACTOR DESIGN DATA", "\n "},
+    {kTableColumnDc, kFamilyArema, kStrength, "  <Row></Row>\n\t<Row>    ", "MAXIMUM LOAD FACTOR DESIGN DATA", "\n< "},
+    {kTableColumnDc, kFamilyArema, kService, "  <Row></Row>\n\t<Row>    ", "MAXIMUM SERVICE LOAD DESIGN DATA", "\n  "},
+    {kTableCapShear, kFamilyLrfd, kStrength, "  <Row></Row>\n<Row>    ", "STRENGTH CASE DATA", "\n<Row></Row>"},
+    {kTableCapShear, kFamilyLrfd, kService, "  <Row></Row>\n<Row>    ", "SERVICE CASE DATA", "\n<Row></Row>"},
+    {kTableCapShear, kFamilyLrfd, kExtreme, "  <Row></Row>\n<Row>    ", "EXTREME CASE DATA", "\n<Row></Row>"},
+    {kTableCapShear, kFamilyLfd, kStrength, "  <Row></Row>\n<Row>    ", "LOAD FACTOR DESIGN DATA", "\n<Row></Row>"},
+    {kTableCapShear, kFamilyArema, kStrength, "  <Row></Row>\n<Row>    ", "LOAD FACTOR DESIGN DATA", "\n<Row></Row>"},
+    {kTableCapShear, kFamilyArema, kService, "  <Row></Row>\n<Row>    ", "SERVICE LOAD DESIGN DATA", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyLrfd, kStrength, "  <Row>    ", "STRENGTH CASE DATA", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyLrfd, kService, "  <Row>    ", "SERVICE CASE DATA", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyLrfd, kExtreme, "  <Row>    ", "EXTREME CASE DATA", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyLrfd, kFatigue, "  <Row>    ", "FATIGUE CASE DATA", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyLfd, kStrength, "  <Row>    ", "LOAD FACTOR DESIGN DATA", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyArema, kStrength, "  <Row>    ", "LOAD FACTOR DESIGN DATA", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyArema, kService, "  <Row>    ", "SERVICE LOAD DESIGN DATA", "\n<Row></Row>"},
+    {kTablePileForces, kFamilyLrfd, kStrength, "   <Row></Row>\n\t<Row>    ", "STRENGTH CASE DATA", "\n"},
+    {kTablePileForces, kFamilyLrfd, kService, "  <Row></Row>\n<Row>\n    ", "SERVICE CASE DATA", "<\n"},
+    {kTablePileForces, kFamilyLrfd, kExtreme, "   <Row></Row>\n\t<Row>\n    ", "EXTREME CASE DATA", "\n"},
+    {kTablePileForces, kFamilyLfd, kStrength, "  <Row></Row>\n\t<Row>\n    ", "LOAD FACTOR DESIGN DATA", "\n"},
+    {kTablePileForces, kFamilyArema, kStrength, "   <Row></Row>\n\t<Row>    ", "LOAD FACTOR DESIGN DATA", "\n"},
+    {kTablePileForces, kFamilyArema, kService, "  <Row></Row>\n<Row>\n    ", "SERVICE LOAD DESIGN DATA", "<\n"},
+    {kTableColumnForces, kFamilyLrfd, kStrength, "   <Row>\n    ", "STRENGTH CASE DATA", "\n"},
+    {kTableColumnForces, kFamilyLrfd, kService, "  <Row>\n   ", "SERVICE CASE DATA", "\n"},
+    {kTableColumnForces, kFamilyLrfd, kExtreme, "   <Row>\n    ", "EXTREME CASE DATA", "\n"},
+    {kTableColumnForces, kFamilyLfd, kStrength, "  <Row>\n    ", "LOAD FACTOR DESIGN DATA", "\n"},
+    {kTableColumnForces, kFamilyArema, kStrength, "   <Row>\n    ", "LOAD FACTOR DESIGN DATA", "\n"},
+    {kTableColumnForces, kFamilyArema, kService, "  <Row>\n   ", "SERVICE LOAD DESIGN DATA", "\n"},
+    {kTableExtraMembers, kFamilyLrfd, kStrength, "   <Row>    ", "STRENGTH CASE DATA", "\n"},
+    {kTableExtraMembers, kFamilyLrfd, kService, "  <Row>    ", "SERVICE CASE DATA", "\n"},
+    {kTableExtraMembers, kFamilyLrfd, kExtreme, "   <Row>    ", "EXTREME CASE DATA", "\n"},
+    {kTableExtraMembers, kFamilyLfd, kStrength, "  <Row>    ", "LOAD FACTOR DESIGN DATA", "\n"},
+    {kTableExtraMembers, kFamilyArema, kStrength, "   <Row>    ", "LOAD FACTOR DESIGN DATA", "\n"},
+    {kTableExtraMembers, kFamilyArema, kService, "  <Row>    ", "SERVICE LOAD DESIGN DATA", "\n"},
 };
 // clang-format on
 
@@ -70,32 +71,32 @@ constexpr std::string_view kSectionCells =
 constexpr std::string_view kSectionEnd = "</Data></Cell>  </Row>";
 
 struct SubstructureRow {
-    int table;
+    TableId table;
     std::string_view opening, closing;  // around the number
     bool bentRemark;                    // a pile bent has no rows in this table, and the heading says so
 };
 constexpr SubstructureRow kSubstructureRows[] = {
-    {1,
+    {kTablePileDc,
      "  <Row>  </Row>\n  <Row ss:Height=\"21\" >\n"
      "    <Cell><Data ss:Type=\"String\">                                     </Data></Cell>\n"
      "    <Cell ss:StyleID=\"s86\"><Data ss:Type=\"String\">Pile Properties Data for Substructure ",
      "</Data></Cell>\n  </Row>\n", false},
-    {2,
+    {kTableColumnDc,
      "<Row></Row>\n<Row ss:Height=\"21\" >\n"
      "\t<Cell><Data ss:Type=\"String\">                                     </Data></Cell>\n"
      "\t<Cell ss:StyleID=\"s86\"><Data ss:Type=\"String\">Column Properties Data for Substructure ",
      "</Data></Cell>\n</Row>\n\n", true},
-    {5,
+    {kTablePileForces,
      "\t<Row></Row>\n<Row ss:Height=\"21\" >\n"
      "    <Cell><Data ss:Type=\"String\">                                     </Data></Cell>\n"
      "    <Cell ss:StyleID=\"s86\"><Data ss:Type=\"String\">Pile Properties Data for Substructure ",
      "</Data></Cell>\n  </Row>\n", false},
-    {6,
+    {kTableColumnForces,
      "<Row></Row>\n<Row ss:Height=\"21\" >\n"
      "\t<Cell><Data ss:Type=\"String\">                                     </Data></Cell>\n"
      "\t<Cell ss:StyleID=\"s86\"><Data ss:Type=\"String\">Column Properties Data for Substructure ",
      "</Data></Cell>\n</Row>\n", true},
-    {7,
+    {kTableExtraMembers,
      "\t<Row></Row>\n  <Row ss:Height=\"21\">\n"
      "    <Cell><Data ss:Type=\"String\">                                     </Data></Cell>\n"
      "    <Cell ss:StyleID=\"s86\"><Data ss:Type=\"String\">Extra Member Properties Data for Substructure ",
@@ -104,19 +105,19 @@ constexpr SubstructureRow kSubstructureRows[] = {
 
 }  // namespace
 
-std::vector<int> BlockSlots(int table) {
-    std::vector<int> slots;
+std::vector<LimitClass> BlockSlots(const Report& report, TableId table) {
+    std::vector<LimitClass> slots;
     std::string heading;
-    for (int slot = 0; slot < g_DataSet.FirstPier().SlotCount(); ++slot) {
-        if (SectionHeading(table, slot, heading)) slots.push_back(slot);
+    for (const LimitClass slot : report.data.FirstPier().Slots()) {
+        if (SectionHeading(report, table, slot, heading)) slots.push_back(slot);
     }
     return slots;
 }
 
-std::string SectionRows(int table, int slot) {
-    const CPier& first = g_DataSet.FirstPier();
+std::string SectionRows(const CDataSet& data, TableId table, LimitClass slot) {
+    const CPier& first = data.FirstPier();
     if (!first.m_bCombinations) return {};
-    const int family = first.m_nCodeFamily;
+    const CodeFamily family = first.m_nCodeFamily;
     for (const SectionRow& row : kSectionRows) {
         if (row.table != table || row.family != family || row.slot != slot) continue;
         std::string out(row.opening);
@@ -125,8 +126,8 @@ std::string SectionRows(int table, int slot) {
     return {};
 }
 
-std::string SubstructureHeading(int table, int pier) {
-    const bool bent = g_DataSet.m_Piers.at(static_cast<std::size_t>(pier)).m_nStructureType == kTypePileBent;
+std::string SubstructureHeading(const CDataSet& data, TableId table, int pier) {
+    const bool bent = data.m_Piers.at(static_cast<std::size_t>(pier)).m_nStructureType == kTypePileBent;
     for (const SubstructureRow& row : kSubstructureRows) {
         if (row.table != table) continue;
         std::string out(row.opening);

@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <vector>
 
-#include "model/DataSet.h"
 #include "tables/Catalogue.h"
+#include "tables/Words.h"
 #include "text/Format.h"
 
 namespace {
@@ -69,13 +69,9 @@ constexpr Subtitle kSubtitles[] = {
     {"                                ", "MAXIMUM COMPRESSION AND MAXIMUM TENSION FORCES"},
 };
 
-bool HasCombinations() {
-    return g_DataSet.FirstPier().m_bCombinations;
-}
-
-std::vector<int> ColumnWidths(int table) {
+std::vector<int> ColumnWidths(const CDataSet& data, TableId table) {
     Widths widths = kSheetForms[static_cast<std::size_t>(table)].widths;
-    const bool plain = !HasCombinations();
+    const bool plain = !data.HasCombinations();
     if (table == kTableMaxAxial && plain) widths = kMaxAxialPlainWidths;
     const bool dropLimitState = plain && table != kTableMaxAxial && table != kTablePileHeads;
     std::vector<int> out;
@@ -95,9 +91,9 @@ void AppendSubtitles(std::string& out, int merged) {
     }
 }
 
-std::string Head(int table, std::string_view name, long long rows) {
+std::string Head(const CDataSet& data, TableId table, std::string_view name, long long rows) {
     const SheetForm& form = kSheetForms[static_cast<std::size_t>(table)];
-    const std::size_t mode = HasCombinations() ? 1 : 0;
+    const std::size_t mode = data.HasCombinations() ? 1 : 0;
     std::string out = "<Worksheet ss:Name=\"";
     out.append(name).append("\">\n<Table ss:ExpandedColumnCount=\"");
     AppendInt(out, form.columns[mode]);
@@ -105,7 +101,7 @@ std::string Head(int table, std::string_view name, long long rows) {
     AppendInt(out, rows);
     out += "\" x:FullColumns=\"1\"\nx:FullRows=\"1\" ss:DefaultRowHeight=\"15\">\n";
     int column = kFirstColumn;
-    for (const int width : ColumnWidths(table)) {
+    for (const int width : ColumnWidths(data, table)) {
         out += "  <Column ss:Index=\"";
         AppendInt(out, column++);
         out += "\"  ss:Width=\"";
@@ -116,7 +112,7 @@ std::string Head(int table, std::string_view name, long long rows) {
     AppendInt(out, form.merged[mode]);
     out += table == kTableMaxAxial || table == kTablePileHeads ? "\"  ss:StyleID" : "\" ss:StyleID";
     out += "=\"s87\"><Data ss:Type=\"String\">";
-    out += form.title != nullptr ? form.title : TableTitle(table, g_DataSet.FirstPier().m_nStructureType);
+    out += form.title != nullptr ? form.title : TableTitle(table, data.FirstPier().m_nStructureType);
     out += "</Data></Cell>\n  </Row>\n";
     if (table == kTableMaxAxial) AppendSubtitles(out, form.merged[mode]);
     if (table == kTableCapShear || table == kTableCapMoment) out += "<Row></Row>\n<Row></Row>\n";
@@ -126,7 +122,7 @@ std::string Head(int table, std::string_view name, long long rows) {
 // ---- column heads
 
 struct HeadForm {
-    int table;
+    TableId table;
     std::string_view opening;
     std::array<std::string_view, 4> upper, lower;  // the columns before the step
     bool extremeColumn;                            // Max/Min over Force
@@ -138,19 +134,43 @@ constexpr std::array<std::string_view, 4> kCapUpper = {"LOCATION", "ELEM", "PROP
 constexpr std::array<std::string_view, 4> kCapLower = {"&amp; SIDE", "NO. ", "NO. ", "NO. "};
 constexpr std::string_view kHeadEnd = "  </Row>\n<Row></Row>\n";
 constexpr std::array<HeadForm, 7> kHeadForms = {{
-    {1, "  <Row></Row>\n<Row>", {"PROP", "PILE ", "ELEM ", "NODE "}, kNumbers, false, true, kHeadEnd},
-    {2,
+    {kTablePileDc,
+     "  <Row></Row>\n<Row>",
+     {"PROP", "PILE ", "ELEM ", "NODE "},
+     kNumbers,
+     false,
+     true,
+     kHeadEnd},
+    {kTableColumnDc,
      "  <Row></Row>\n\t<Row>",
      {"PROP", "COLUMN ", "ELEM ", "NODE "},
      kNumbers,
      false,
      true,
      "  </Row>\n<Row></Row>"},
-    {3, "\n\t<Row>", kCapUpper, kCapLower, false, true, kHeadEnd},
-    {4, "\n\t<Row>", kCapUpper, kCapLower, false, false, kHeadEnd},
-    {5, "  <Row></Row>\n<Row>\n ", {"PROP", "PILE ", "ELEM ", "NODE "}, kNumbers, true, true, kHeadEnd},
-    {6, "  <Row></Row>\n<Row>", {"PROP", "COLUMN ", "ELEM ", "NODE "}, kNumbers, true, true, kHeadEnd},
-    {7, "  <Row></Row>\n<Row>", {"PROP", "XMEMBR ", "ELEM ", "NODE "}, kNumbers, true, true, kHeadEnd},
+    {kTableCapShear, "\n\t<Row>", kCapUpper, kCapLower, false, true, kHeadEnd},
+    {kTableCapMoment, "\n\t<Row>", kCapUpper, kCapLower, false, false, kHeadEnd},
+    {kTablePileForces,
+     "  <Row></Row>\n<Row>\n ",
+     {"PROP", "PILE ", "ELEM ", "NODE "},
+     kNumbers,
+     true,
+     true,
+     kHeadEnd},
+    {kTableColumnForces,
+     "  <Row></Row>\n<Row>",
+     {"PROP", "COLUMN ", "ELEM ", "NODE "},
+     kNumbers,
+     true,
+     true,
+     kHeadEnd},
+    {kTableExtraMembers,
+     "  <Row></Row>\n<Row>",
+     {"PROP", "XMEMBR ", "ELEM ", "NODE "},
+     kNumbers,
+     true,
+     true,
+     kHeadEnd},
 }};
 
 void AppendHeadCell(std::string& out, std::string_view text, bool first = false) {
@@ -163,10 +183,11 @@ void AppendHeadCells(std::string& out, const std::array<std::string_view, 4>& te
     for (std::size_t i = 0; i < texts.size(); ++i) AppendHeadCell(out, texts[i], i == 0);
 }
 
-void AppendUpperRow(std::string& out, const HeadForm& form, const std::string& stepWord) {
+void AppendUpperRow(std::string& out, const HeadForm& form, const CDataSet& data) {
     AppendHeadCells(out, form.upper);
-    AppendHeadCell(out, stepWord + " ");
-    if (HasCombinations() && !FamilyWord().empty()) AppendHeadCell(out, FamilyWord());
+    AppendHeadCell(out, std::string(StepWordsOf(data).upper) + " ");
+    const std::string_view family = FamilyWord(data.FirstPier().m_nCodeFamily);
+    if (data.HasCombinations() && !family.empty()) AppendHeadCell(out, family);
     AppendHeadCell(out, "I/J");
     if (form.extremeColumn) AppendHeadCell(out, "Max/Min");
     AppendHeadCell(out, "FAX");
@@ -180,12 +201,12 @@ void AppendUpperRow(std::string& out, const HeadForm& form, const std::string& s
     AppendHeadCell(out, "D/C");
 }
 
-void AppendLowerRow(std::string& out, const HeadForm& form, const std::string& stepWord) {
-    const std::string force = "(" + g_DataSet.m_sForceUnit + ")";
-    const std::string moment = "(" + g_DataSet.m_sMomentUnit + ")";
+void AppendLowerRow(std::string& out, const HeadForm& form, const CDataSet& data) {
+    const std::string force = "(" + data.m_sForceUnit + ")";
+    const std::string moment = "(" + data.m_sMomentUnit + ")";
     AppendHeadCells(out, form.lower);
-    AppendHeadCell(out, stepWord + " ");
-    if (HasCombinations()) AppendHeadCell(out, "");
+    AppendHeadCell(out, std::string(StepWordsOf(data).lower) + " ");
+    if (data.HasCombinations()) AppendHeadCell(out, "");
     AppendHeadCell(out, "");
     if (form.extremeColumn) AppendHeadCell(out, "Force");
     for (int i = 0; i < (form.allForces ? 3 : 1); ++i) AppendHeadCell(out, force);
@@ -195,16 +216,16 @@ void AppendLowerRow(std::string& out, const HeadForm& form, const std::string& s
 
 }  // namespace
 
-std::string WorksheetHead(int table, long long rows) {
-    return Head(table, g_TableFileNames[static_cast<std::size_t>(table)], rows);
+std::string WorksheetHead(const CDataSet& data, TableId table, long long rows) {
+    return Head(data, table, g_TableFileNames[static_cast<std::size_t>(table)], rows);
 }
 
-std::string PileHeadWorksheetHead(int pier, long long rows) {
-    return Head(kTablePileHeads, FormatNumbered("Substructure %d", pier + 1), rows);
+std::string PileHeadWorksheetHead(const CDataSet& data, int pier, long long rows) {
+    return Head(data, kTablePileHeads, FormatNumbered("Substructure %d", pier + 1), rows);
 }
 
-std::string_view FamilyWord() {
-    switch (g_DataSet.FirstPier().m_nCodeFamily) {
+std::string_view FamilyWord(CodeFamily family) {
+    switch (family) {
         case kFamilyLrfd:
             return "AASHTO-LRFD";
         case kFamilyLfd:
@@ -216,13 +237,19 @@ std::string_view FamilyWord() {
     }
 }
 
-std::string ColumnHeadRows(int table, const std::string (&stepWords)[2]) {
+StepWords StepWordsOf(const CDataSet& data) {
+    if (data.HasCombinations()) return {"LOAD", "COMB"};
+    if (data.m_nAnalysisMode == kModeTimeSteps) return {"TIME", "STEP"};
+    return {"LOAD", "CASE"};
+}
+
+std::string ColumnHeadRows(const CDataSet& data, TableId table) {
     const auto form = std::find_if(kHeadForms.begin(), kHeadForms.end(),
                                    [table](const HeadForm& entry) { return entry.table == table; });
     if (form == kHeadForms.end()) return {};
     std::string out(form->opening);
-    AppendUpperRow(out, *form, stepWords[0]);
+    AppendUpperRow(out, *form, data);
     out += "  </Row>\n  <Row>\n";
-    AppendLowerRow(out, *form, stepWords[1]);
+    AppendLowerRow(out, *form, data);
     return out.append(form->closing);
 }

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "model/DataSet.h"
-
 namespace {
 
 // What the formulas take from the first substructure.
@@ -12,36 +10,36 @@ struct Terms {
     long long combinations;  // 1 or 0
 };
 
-long long Blocks(int table) {
-    const CPier& first = g_DataSet.FirstPier();
+long long Blocks(const Report& report, TableId table) {
+    const CPier& first = report.data.FirstPier();
     if (!first.m_bCombinations) return 1;
     if (first.m_nCodeFamily != kFamilyLrfd && first.m_nCodeFamily != kFamilyArema) return 1;
-    const int lrfdClasses = table == kTableCapMoment ? 4 : 3;
-    const int classes = first.m_nCodeFamily == kFamilyLrfd ? lrfdClasses : 2;
-    long long blocks = 0;
-    for (int c = 0; c < classes; ++c) blocks += first.IsClassPresent(c) ? 1 : 0;
-    return blocks;
+    // Fatigue has a block in the cap moment table alone.
+    return std::ranges::count_if(first.Slots(), [&](LimitClass limitClass) {
+        return report.selection.IsClassPresent(limitClass) &&
+               (limitClass != kFatigue || table == kTableCapMoment);
+    });
 }
 
-long long KeyRows(int table) {
+long long KeyRows(const CDataSet& data, TableId table) {
     const long long one = table == kTableCapShear ? 9 : 8;
-    if (g_DataSet.m_Piers.size() == 1) return one;
-    return one - 1 + (g_DataSet.HasStructureType(kTypePier) ? 1 : 0) +
-           (g_DataSet.HasStructureType(kTypePileBent) ? 1 : 0);
+    if (data.m_Piers.size() == 1) return one;
+    return one - 1 + (data.HasStructureType(kTypePier) ? 1 : 0) +
+           (data.HasStructureType(kTypePileBent) ? 1 : 0);
 }
 
 long long PileHeadTableRows(const CPier& pier, Terms t) {
     return (pier.m_nPiles + 3 * t.combinations + (t.combinations != 0 ? 3 : 4)) * t.blocks;
 }
 
-long long RatioRows(int table, const CPier& pier, Terms t) {
+long long RatioRows(TableId table, const CPier& pier, Terms t) {
     const long long heading = t.combinations != 0 ? 2 : 3;
     if (table == kTablePileDc) return (pier.m_nPileSections + 3 + 3 * t.combinations) * t.blocks + heading;
     if (pier.m_nStructureType == kTypePileBent) return heading;
     return heading + (pier.m_nColumnSections + (t.combinations != 0 ? 6 : 3)) * t.blocks;
 }
 
-long long ForceRows(int table, const CPier& pier, Terms t) {
+long long ForceRows(TableId table, const CPier& pier, Terms t) {
     constexpr long long kHeading = 2;
     if (table == kTableColumnForces && pier.m_nColumns <= 0) return kHeading;
     const int sections = table == kTablePileForces     ? pier.m_nPileSections
@@ -50,13 +48,13 @@ long long ForceRows(int table, const CPier& pier, Terms t) {
     return kHeading + (13LL * sections + 2 * t.combinations + 3) * t.blocks;
 }
 
-long long CapRows(int table, const CPier& pier, Terms t) {
+long long CapRows(TableId table, const CPier& pier, Terms t) {
     const bool shear = table == kTableCapShear;
     const long long rows = shear ? pier.m_nCapShearPoints : pier.m_nCapMomentPoints;
     return (shear ? 6 : 7) + (8 + 4 * t.combinations + 2 * rows) * t.blocks;
 }
 
-long long PierRows(int table, const CPier& pier, Terms t) {
+long long PierRows(TableId table, const CPier& pier, Terms t) {
     switch (table) {
         case kTableMaxAxial:
             return PileHeadTableRows(pier, t);
@@ -71,20 +69,24 @@ long long PierRows(int table, const CPier& pier, Terms t) {
     }
 }
 
-long long EachCaseRows(const CPier& pier) {
-    const auto selected = std::count_if(pier.m_CaseSelected.begin(), pier.m_CaseSelected.end(),
-                                        [](std::uint8_t byte) { return byte != 0; });
+long long EachCaseRows(const CPier& pier, const CaseSelection& selection) {
+    long long selected = 0;
+    for (int c = 0; c < static_cast<int>(pier.m_LoadCases.size()); ++c)
+        selected += selection.IsCaseSelected(c) ? 1 : 0;
     return static_cast<long long>(pier.m_Piles.size()) * selected + 5;
 }
 
 }  // namespace
 
-long long ExpandedRows(int table, int pier) {
-    if (table == kTablePileHeads) return EachCaseRows(g_DataSet.m_Piers.at(static_cast<std::size_t>(pier)));
+long long ExpandedRows(const Report& report, TableId table, int pier) {
+    const CDataSet& data = report.data;
+    if (table == kTablePileHeads) {
+        return EachCaseRows(data.m_Piers.at(static_cast<std::size_t>(pier)), report.selection);
+    }
     const bool cap = table == kTableCapShear || table == kTableCapMoment;
-    const Terms terms{Blocks(table), g_DataSet.FirstPier().m_bCombinations ? 1 : 0};
-    long long rows = table == kTableMaxAxial ? 3 : cap ? 2 + KeyRows(table) : 1;
-    for (const CPier& each : g_DataSet.m_Piers) rows += PierRows(table, each, terms);
-    if (cap) rows += static_cast<long long>(g_DataSet.m_Piers.size()) - 1;
+    const Terms terms{Blocks(report, table), data.HasCombinations() ? 1 : 0};
+    long long rows = table == kTableMaxAxial ? 3 : cap ? 2 + KeyRows(data, table) : 1;
+    for (const CPier& each : data.m_Piers) rows += PierRows(table, each, terms);
+    if (cap) rows += static_cast<long long>(data.m_Piers.size()) - 1;
     return rows;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tables/Report.h"
+
 // The count of rows that a worksheet announces, by formula: it stands in the worksheet's head, which is
 // written before the rows. `pier` (from 0) counts for kTablePileHeads alone, which has a worksheet for each.
-long long ExpandedRows(int table, int pier = 0);
+long long ExpandedRows(const Report& report, TableId table, int pier = 0);

@@ -1,9 +1,6 @@
 #include "writers/WorkbookFrame.h"
 
-#include "framework/Backend.h"
-#include "model/DataSet.h"
 #include "tables/Catalogue.h"
-#include "tables/WriteData.h"
 #include "text/Format.h"
 
 namespace {
@@ -172,10 +169,10 @@ void AppendStamp(std::string& out, const LocalTime& now) {
 
 }  // namespace
 
-std::string WorkbookHead(bool gridStyles) {
+std::string WorkbookHead(bool gridStyles, const LocalTime& now) {
     std::string out(kHeadOpening);
     out += "  <Created>";
-    AppendStamp(out, services::Now());
+    AppendStamp(out, now);
     out += "</Created>\n";
     out.append(kHeadRest).append(kDefaultStyle);
     for (const Style& style : kStyles) {
@@ -189,28 +186,15 @@ std::string WorksheetEndWith(std::string_view footerText) {
     return out.append(footerText).append(kEndBehindFooter);
 }
 
-int WriteWorkbook(int table, StoredStream& out, bool embedded, const std::function<void()>& worksheets) {
-    if (g_DataSet.IsPierless() || !g_DataSet.m_bTableEnabled.at(static_cast<std::size_t>(table))) return -1;
-    if (!embedded) out << CWriteData::WorkbookHeader();
+std::string WorksheetEnd(const ReportOptions& options) {
+    return WorksheetEndWith(FooterText(options));
+}
+
+int WriteWorkbook(const Report& report, TableId table, StoredStream& out, bool embedded,
+                  const std::function<void()>& worksheets) {
+    if (report.data.IsPierless() || !report.enabled[table]) return -1;
+    if (!embedded) out << WorkbookHead(false, report.options.now());
     worksheets();
-    if (!embedded) {
-        out << kWorkbookEnd;
-        out.Close();
-    }
+    if (!embedded) out << kWorkbookEnd;
     return 1;
-}
-
-std::string CWriteData::WorkbookHeader() {
-    return WorkbookHead(false);
-}
-
-std::string CWriteData::WorksheetEnd() {
-    return WorksheetEndWith(FooterText());
-}
-
-void CWriteData::SetStepWords() {
-    const bool combinations = !g_DataSet.IsPierless() && g_DataSet.FirstPier().m_bCombinations;
-    const bool timeSteps = !combinations && g_DataSet.m_nAnalysisMode == 1;
-    m_sLoadWord[0] = timeSteps ? "TIME" : "LOAD";
-    m_sLoadWord[1] = combinations ? "COMB" : timeSteps ? "STEP" : "CASE";
 }

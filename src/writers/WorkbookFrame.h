@@ -4,14 +4,15 @@
 #include <string>
 #include <string_view>
 
+#include "tables/Report.h"
 #include "text/StoredStream.h"
 
 // The pieces of a SpreadsheetML workbook that are not a table's rows. A workbook is WorkbookHead, worksheets
 // that each end in WorksheetEndWith, and kWorkbookEnd.
 
-// From the XML declaration to the end of the style sheet, stamped with the local clock. A dialog's grid needs
+// From the XML declaration to the end of the style sheet, stamped with the time `now`. A dialog's grid needs
 // further number formats (s68 to s75).
-std::string WorkbookHead(bool gridStyles);
+std::string WorkbookHead(bool gridStyles, const LocalTime& now);
 
 // From the end of the rows to the end of the worksheet; the footer's text stands left, the page number right.
 // The text goes out as it is.
@@ -19,7 +20,14 @@ std::string WorksheetEndWith(std::string_view footerText);
 
 inline constexpr std::string_view kWorkbookEnd = "</Workbook>\n";
 
+// The end of a worksheet with the footer of a report.
+std::string WorksheetEnd(const ReportOptions& options);
+
 // Runs the writer of one table's worksheets. Embedded in a caller's workbook they go out alone; otherwise the
-// workbook's head and end stand around them and the stream is closed. Returns 1, or -1 with nothing written
-// when the table does not apply to the project.
-int WriteWorkbook(int table, StoredStream& out, bool embedded, const std::function<void()>& worksheets);
+// workbook's head and end go around them. Returns 1, or -1 with nothing written when
+// the table does not apply to the project.
+int WriteWorkbook(const Report& report, TableId table, StoredStream& out, bool embedded,
+                  const std::function<void()>& worksheets);
+
+// The worksheet "Coords" that goes with a cap table (kTableCapShear or kTableCapMoment) of its own workbook.
+std::string CoordsSheet(const Report& report, TableId table);

@@ -1,14 +1,14 @@
 #include "embedment/EmbedmentFiles.h"
 
-#include "StudyProject.h"
+#include "support/StudyFolder.h"
 
 namespace {
 
-class EmbedmentFilesTest : public StudyTest {
+class EmbedmentFilesTest : public StudyFileTest {
   protected:
     bool Requested(const std::string& input) const {
         Write("a.in", input);
-        return IsEmbedmentRequested();
+        return IsEmbedmentRequested(inputFile);
     }
 };
 
@@ -18,15 +18,15 @@ const std::string kProblem = "PROBLEM\n1\n2\n3\n4\n5\n6\n7\n8\n";
 }  // namespace
 
 TEST_F(EmbedmentFilesTest, TheBaseFileHasTheInputFilesNameWithItsOwnExtension) {
-    EXPECT_FALSE(HasEmbedmentFile());
+    EXPECT_FALSE(HasEmbedmentFile(inputFile));
     WriteBase("");
-    EXPECT_TRUE(HasEmbedmentFile());
-    g_InputFilePath = "folder.d/project";
-    EXPECT_EQ(EmbedmentBaseFile(), "folder.d/project.PEL");
-    g_InputFilePath = "C:\\p\\a.b.in";
-    EXPECT_EQ(EmbedmentBaseFile(), "C:\\p\\a.b.PEL");
-    g_InputFilePath.clear();
-    EXPECT_FALSE(HasEmbedmentFile());
+    EXPECT_TRUE(HasEmbedmentFile(inputFile));
+    inputFile = "folder.d/project";
+    EXPECT_EQ(EmbedmentBaseFile(inputFile), "folder.d/project.PEL");
+    inputFile = "C:\\p\\a.b.in";
+    EXPECT_EQ(EmbedmentBaseFile(inputFile), "C:\\p\\a.b.PEL");
+    inputFile.clear();
+    EXPECT_FALSE(HasEmbedmentFile(inputFile));
 }
 
 TEST_F(EmbedmentFilesTest, TheStudyIsAskedForBehindTheProblemSection) {
@@ -58,5 +58,5 @@ TEST_F(EmbedmentFilesTest, ALineOfMoreThan256CharactersEndsTheSearch) {
 }
 
 TEST_F(EmbedmentFilesTest, AProjectWithoutInputFileAsksForNothing) {
-    EXPECT_FALSE(IsEmbedmentRequested());
+    EXPECT_FALSE(IsEmbedmentRequested(inputFile));
 }

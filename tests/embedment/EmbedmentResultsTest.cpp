@@ -2,8 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include "StudyProject.h"
 #include "framework/File.h"
+#include "support/StudyFolder.h"
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -14,14 +14,14 @@ namespace {
 constexpr const char* kThreeTrials = " 7  3  0  2  10.0\n";
 constexpr const char* kCaseOne = "  1  1.5 1  2.5 2  3.5 3  4.5 4  5.5 5\n";
 
-class EmbedmentResultsTest : public StudyTest {};
+class EmbedmentResultsTest : public StudyFileTest {};
 
 }  // namespace
 
 TEST_F(EmbedmentResultsTest, ReadsTheFiveValuesAndTheirPiles) {
     WriteBase(std::string(" 7  1  0  2  10.5\n") + kCaseOne +
               "2, -1.25, 9, 0, 8, 0, 7, 1e3, 6, -2e3, 5\nEOF\n");
-    CEmbedmentResults results;
+    CEmbedmentResults results(inputFile, messages);
     results.LoadTrials();
     EXPECT_EQ(results.GetSubstructure(), 7);
     EXPECT_EQ(results.GetTrialCount(), 1);
@@ -42,7 +42,7 @@ TEST_F(EmbedmentResultsTest, ABaseFileWithoutEndMarkIsIncompleteAndTheOthersAreR
     WriteBase(std::string(kThreeTrials) + kCaseOne);
     WriteTrial(2, std::string(" 7 3 0 2 12.0\n") + kCaseOne + "EOF\n");
     WriteTrial(3, std::string(" 7 3 0 2 14.0\n") + kCaseOne + "EOF");
-    CEmbedmentResults results;
+    CEmbedmentResults results(inputFile, messages);
     results.LoadTrials();
     EXPECT_TRUE(results.IsTrialIncomplete(0));
     EXPECT_EQ(results.GetEmbedment(0), 0.0);
@@ -50,26 +50,26 @@ TEST_F(EmbedmentResultsTest, ABaseFileWithoutEndMarkIsIncompleteAndTheOthersAreR
     EXPECT_FALSE(results.IsTrialIncomplete(1));
     EXPECT_FALSE(results.IsTrialIncomplete(2));
     EXPECT_EQ(results.GetEmbedment(2), 14.0);
-    EXPECT_TRUE(Messages().empty());
+    EXPECT_TRUE(messages.texts.empty());
 }
 
 TEST_F(EmbedmentResultsTest, AMissingTrialFolderLeavesAGapWithoutAMessage) {
     WriteBase(std::string(kThreeTrials) + kCaseOne + "EOF\n");
     WriteTrial(3, std::string(" 7 3 0 2 14.0\n") + kCaseOne + "EOF\n");
-    CEmbedmentResults results;
+    CEmbedmentResults results(inputFile, messages);
     results.LoadTrials();
     EXPECT_TRUE(results.IsTrialIncomplete(1));
     EXPECT_EQ(results.FindAdjacentTrial(0, false), 2);
     EXPECT_EQ(results.FindAdjacentTrial(2, true), 0);
     EXPECT_EQ(results.FindAdjacentTrial(2, false), -1);
     EXPECT_EQ(results.FindAdjacentTrial(0, true), -1);
-    EXPECT_TRUE(Messages().empty());
+    EXPECT_TRUE(messages.texts.empty());
 }
 
 TEST_F(EmbedmentResultsTest, AStudyOfOneTrialTriesTheBaseFileAlone) {
     WriteBase(std::string(" 1 1 0 2 10\n") + kCaseOne + "EOF\n");
     WriteTrial(2, std::string(" 1 2 0 2 12\n") + kCaseOne + "EOF\n");
-    CEmbedmentResults results;
+    CEmbedmentResults results(inputFile, messages);
     results.LoadTrials();
     EXPECT_EQ(results.GetTrialCount(), 1);
     EXPECT_EQ(results.GetEmbedment(0), 10.0);
@@ -86,7 +86,7 @@ TEST_F(EmbedmentResultsTest, CaseNumbersOutsideTheTableArePassedOver) {
         "1e300 9 9 9 9 9 9 9 9 9 9\n"
         "2.9 7 1 7 1 7 1 7 1 7 1e99\n"
         "EOF\n");
-    CEmbedmentResults results;
+    CEmbedmentResults results(inputFile, messages);
     results.LoadTrials();
     EXPECT_EQ(results.GetValue(0, 0, kLateral), 0.0);
     EXPECT_EQ(results.GetValue(0, 1, kLateral), 7.0);    // 2.9 is case 2
@@ -104,7 +104,7 @@ TEST_F(EmbedmentResultsTest, OtherCountsInATrialHeaderChangeNeitherTheTrialsNorT
     WriteBase(std::string(" 1 2 0 2 10\n") + kCaseOne + "EOF\n");
     WriteTrial(2, std::string(" 4.7 9 0 5 12.5\n") + kCaseOne + "5 1 1 1 1 1 1 1 1 1 1\nEOF\n");
     WriteTrial(3, std::string(" 1 2 0 2 14\n") + kCaseOne + "EOF\n");
-    CEmbedmentResults results;
+    CEmbedmentResults results(inputFile, messages);
     results.LoadTrials();
     EXPECT_EQ(results.GetTrialCount(), 2);
     EXPECT_EQ(results.GetSubstructure(), 4);
@@ -117,7 +117,7 @@ TEST_F(EmbedmentResultsTest, AbsurdCountsInATrialHeaderAreNotTaken) {
     WriteBase(std::string(" 1 3 0 2 10\n") + kCaseOne + "EOF\n");
     WriteTrial(2, std::string(" 1e40 -3 0 -7 12\n") + kCaseOne + "EOF\n");
     WriteTrial(3, std::string(" 1 1e40 0 1e12 14\n") + kCaseOne + "EOF\n");
-    CEmbedmentResults results;
+    CEmbedmentResults results(inputFile, messages);
     results.LoadTrials();
     EXPECT_EQ(results.GetTrialCount(), 3);
     EXPECT_EQ(results.GetCaseCount(), 2);
@@ -126,7 +126,7 @@ TEST_F(EmbedmentResultsTest, AbsurdCountsInATrialHeaderAreNotTaken) {
 
 TEST_F(EmbedmentResultsTest, ABlankFirstLineLeavesATrialsHeaderUnread) {
     WriteBase(std::string("\n\n 3 1 0 2 10.25\n") + kCaseOne + "EOF\n");
-    CEmbedmentResults results;
+    CEmbedmentResults results(inputFile, messages);
     EXPECT_EQ(results.GetTrialCount(), 1);  // the counts are searched for
     results.LoadTrials();
     // The trial's header then reads as the data of case 3, which the table does not have.
@@ -137,7 +137,7 @@ TEST_F(EmbedmentResultsTest, ABlankFirstLineLeavesATrialsHeaderUnread) {
 
 TEST_F(EmbedmentResultsTest, LinesBehindTheEndMarkStillCount) {
     WriteBase(std::string(" 1 1 0 2 10\nEOF\n") + kCaseOne);
-    CEmbedmentResults results;
+    CEmbedmentResults results(inputFile, messages);
     results.LoadTrials();
     EXPECT_FALSE(results.IsTrialIncomplete(0));
     EXPECT_EQ(results.GetValue(0, 0, kMinAxial), 5.5);
@@ -164,7 +164,7 @@ TEST_F(EmbedmentResultsTest, ALineOfMoreThan255CharactersEndsTheScan) {
     // Behind the end mark: the long line's first part is used, what follows it is not.
     const std::string data = "2 8 1 8 1 8 1 8 1 8 1";
     WriteBase(std::string(" 1 1 0 2 10\nEOF\n") + data + blanks + "\n" + kCaseOne);
-    CEmbedmentResults results;
+    CEmbedmentResults results(inputFile, messages);
     results.LoadTrials();
     EXPECT_EQ(results.GetValue(0, 1, kLateral), 8.0);
     EXPECT_EQ(results.GetValue(0, 0, kLateral), 0.0);
@@ -173,15 +173,15 @@ TEST_F(EmbedmentResultsTest, ALineOfMoreThan255CharactersEndsTheScan) {
 TEST_F(EmbedmentResultsTest, FilesAreFoundWhateverTheCaseOfTheirNames) {
     Write("A.pel", std::string(" 1 2 0 2 10\n") + kCaseOne + "EOF\n");
     Write("mpte2/A_mpte2.pel", std::string(" 1 2 0 2 12\n") + kCaseOne + "EOF\n");
-    CEmbedmentResults results;
+    CEmbedmentResults results(inputFile, messages);
     results.LoadTrials();
     EXPECT_FALSE(results.IsTrialIncomplete(0));
     EXPECT_FALSE(results.IsTrialIncomplete(1));
 }
 
 TEST_F(EmbedmentResultsTest, AMissingBaseFileIsTold) {
-    CEmbedmentResults results;
-    EXPECT_THAT(Messages(), ElementsAre("Error opening the base PEL results file."));
+    CEmbedmentResults results(inputFile, messages);
+    EXPECT_THAT(messages.texts, ElementsAre("Error opening the base PEL results file."));
     EXPECT_EQ(results.GetTrialCount(), 0);
     EXPECT_EQ(results.GetCaseCount(), 0);
     EXPECT_EQ(results.GetSubstructure(), 1);
@@ -191,16 +191,16 @@ TEST_F(EmbedmentResultsTest, AMissingBaseFileIsTold) {
 
 TEST_F(EmbedmentResultsTest, ABaseFileWithoutANumberIsTold) {
     WriteBase("\nno number here\n\n");
-    CEmbedmentResults results;
-    EXPECT_THAT(Messages(), ElementsAre("Error reading PEL global data."));
+    CEmbedmentResults results(inputFile, messages);
+    EXPECT_THAT(messages.texts, ElementsAre("Error reading PEL global data."));
     EXPECT_EQ(results.GetTrialCount(), 0);
 }
 
 TEST_F(EmbedmentResultsTest, AMissingTrialFileIsToldWhenItIsReadAllTheSame) {
     WriteBase(" 1 1 0 2 10\n");
-    CEmbedmentResults results;
+    CEmbedmentResults results(inputFile, messages);
     results.ReadTrialFile((folder / "missing").string(), 0);
-    EXPECT_THAT(Messages(), ElementsAre("Error opening the PEL results file."));
+    EXPECT_THAT(messages.texts, ElementsAre("Error opening the PEL results file."));
     results.ReadTrialFile((folder / "a.PEL").string(), 1);  // no such row
     EXPECT_TRUE(results.IsTrialIncomplete(1));
 }
@@ -209,7 +209,7 @@ TEST_F(EmbedmentResultsTest, CountsThatNoStudyHasAreRefusedWithTheFilesName) {
     for (const char* header : {"1 -3 0 2 10", "1 2 0 -2 10", "1 2000000000 0 2 10", "1 2 0 2000000000 10"}) {
         WriteBase(std::string(header) + "\nEOF\n");
         try {
-            CEmbedmentResults results;
+            CEmbedmentResults results(inputFile, messages);
             ADD_FAILURE() << header;
         } catch (const CFileException& failure) {
             EXPECT_THAT(failure.what(), HasSubstr("a.PEL"));
@@ -222,7 +222,7 @@ TEST_F(EmbedmentResultsTest, TheOrderIsThatOfTheFirstTwoCompleteTrials) {
         const std::string header = " 1 3 0 1 ";
         WriteBase(header + first + "\nEOF\n");
         WriteTrial(3, header + second + "\nEOF\n");
-        CEmbedmentResults results;
+        CEmbedmentResults results(inputFile, messages);
         results.LoadTrials();
         return results.GetTrialOrder();
     };
@@ -230,7 +230,7 @@ TEST_F(EmbedmentResultsTest, TheOrderIsThatOfTheFirstTwoCompleteTrials) {
     EXPECT_EQ(order("12", "12"), CEmbedmentResults::kAscending);
     EXPECT_EQ(order("12", "10"), CEmbedmentResults::kDescending);
     std::filesystem::remove_all(folder / "MPTE3");
-    CEmbedmentResults one;
+    CEmbedmentResults one(inputFile, messages);
     one.LoadTrials();
     EXPECT_EQ(one.GetTrialOrder(), CEmbedmentResults::kNoOrder);
 }

@@ -1,23 +1,31 @@
 #include "CapLiteral.h"
 
 bool LiteralCap::IsInClass(int loadCase, int slot) const {
-    const std::size_t i = static_cast<std::size_t>(loadCase);
-    if (pier.m_CaseSelected[i] == 0) return false;
-    return !pier.m_bCombinations || pier.m_LoadCases[i].m_nLimitClass == slot;
+    if (!selection.IsCaseSelected(loadCase)) return false;
+    return !pier.m_bCombinations ||
+           pier.m_LoadCases[static_cast<std::size_t>(loadCase)].m_nLimitClass == slot;
 }
 
 int LiteralCap::ElementOf(const Candidate& candidate) const {
-    return pier.GetElement(candidate.place.m_nKind, candidate.place.m_nIndex, candidate.place.m_nElement);
+    return pier.GetElement(candidate.place.m_nKind, candidate.place.m_nIndex, candidate.place.m_nElement,
+                           messages);
+}
+
+int LiteralCap::NodeAt(double x) const {
+    for (std::size_t i = 0; i < pier.m_CapPointX.size(); ++i) {
+        if (pier.m_CapPointX[i] == x) return pier.m_CapPointNode[i];
+    }
+    return -1;
 }
 
 double LiteralCap::ReadEnd(const Candidate& candidate, int loadCase, int component) const {
-    return GetForce(pier.Forces(loadCase, ElementOf(candidate)), candidate.end, component);
+    return GetForce(forces.Row(loadCase, ElementOf(candidate)), candidate.end, component);
 }
 
 double LiteralCap::ReadInside(const Candidate& candidate, int loadCase, int component) const {
-    const ElementForces forces = pier.Forces(loadCase, ElementOf(candidate));
-    const float i = forces[static_cast<std::size_t>(component)];
-    const float j = forces[static_cast<std::size_t>(component + kComponents)];
+    const ForceRow row = forces.Row(loadCase, ElementOf(candidate));
+    const float i = row[static_cast<std::size_t>(component)];
+    const float j = row[static_cast<std::size_t>(component + kComponents)];
     const float difference = i - j;
     return static_cast<double>(i) - static_cast<double>(difference) * candidate.t;
 }
@@ -122,7 +130,7 @@ void LiteralCap::FindAtNode(Candidate& candidate, int node) const {
     };
     for (int side = 0; side < 2; ++side) {
         for (int e = 0; e < pier.m_Frame.m_Cantilevers[side].m_nElements; ++e) {
-            if (!matches(pier.GetElement(0, side, e))) continue;
+            if (!matches(pier.GetElement(0, side, e, messages))) continue;
             candidate.found = true;
             candidate.place = {0, side, e, candidate.t};
             return;
@@ -130,7 +138,7 @@ void LiteralCap::FindAtNode(Candidate& candidate, int node) const {
     }
     for (int span = 0; span + 1 < pier.m_nColumns; ++span) {
         for (int e = 0; e <= pier.m_nSpanNodes; ++e) {
-            if (!matches(pier.GetElement(1, span, e))) continue;
+            if (!matches(pier.GetElement(1, span, e, messages))) continue;
             candidate.found = true;
             candidate.place = {1, span, e, candidate.t};
             return;
@@ -172,7 +180,7 @@ void LiteralCap::AtLocation(bool shear, int support, int kind) {
     bool atNode = true;
     int node = pier.GetSupportNode(support);
     if (kind == 0 || kind == last) {
-        node = pier.NodeFromCapX(x);
+        node = NodeAt(x);
         atNode = node != -1;
     } else if (shear && kind == 1) {
         b = a;

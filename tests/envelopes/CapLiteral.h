@@ -1,25 +1,32 @@
 #pragma once
 
-#include "model/Pier.h"
+#include "support/Searches.h"
 
 // The cap searches in their plainest form: one search over the load cases for each class, sense and side,
 // step by step, every value looked up anew. Slow and long on purpose; the searches of the product must agree
 // with it.
 class LiteralCap {
   public:
-    explicit LiteralCap(CPier& source)
-        : pier(source),
-          shearSupports(source.m_ShearSupports),
-          shearBearings(source.m_ShearBearings),
-          momentSupports(source.m_MomentSupports),
-          momentBearings(source.m_MomentBearings) {}
+    // Works on the model's substructure and selection, and on tables of its own, which begin as the model's.
+    explicit LiteralCap(SearchedCap& model)
+        : pier(model.pier),
+          selection(model.selection),
+          messages(model.messages),
+          forces(model.forces.Of(model.pier)),
+          shearSupports(model.results.shearSupports),
+          shearBearings(model.results.shearBearings),
+          momentSupports(model.results.momentSupports),
+          momentBearings(model.results.momentBearings) {}
 
     void ShearAtSupports() { AtSupports(true); }
     void MomentAtSupports() { AtSupports(false); }
     void ShearAtBearings();
     void MomentAtBearings();
 
-    CPier& pier;
+    const CPier& pier;
+    const CaseSelection& selection;
+    Messages& messages;
+    const MemoryForces& forces;
     CCapTable shearSupports, shearBearings, momentSupports, momentBearings;
 
   private:
@@ -39,6 +46,7 @@ class LiteralCap {
 
     bool IsInClass(int loadCase, int slot) const;
     int ElementOf(const Candidate& candidate) const;
+    int NodeAt(double x) const;  // of the cap; -1 where there is none
     double ReadEnd(const Candidate& candidate, int loadCase, int component) const;
     double ReadInside(const Candidate& candidate, int loadCase, int component) const;
     int Search(Reader reader, bool seesMask, int component, int sense, const Candidate& candidate, int slot,

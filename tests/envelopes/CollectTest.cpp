@@ -1,107 +1,153 @@
-// The collect steps: searches over all piers, then the check that may make a table invalid for the session.
-#include "SectionModel.h"
-#include "results/CollectData.h"
+// The searches of whole tables: over all substructures, then the check that may make a table invalid.
+#include "envelopes/Collect.h"
+
+#include <gtest/gtest.h>
+
+#include "support/Searches.h"
 
 namespace {
 
 class Collect : public testing::Test {
   protected:
-    void SetUp() override { g_DataSet.Reset(); }
-    void TearDown() override { g_DataSet.Reset(); }
-
-    static CPier Frame(int type) {
-        CMemberCounts counts;
-        counts.piles = counts.columns = counts.extraMembers = 1;
-        counts.pileNodes = 2;
-        CPier pier = MakePier(counts, 1);
-        pier.m_nStructureType = type;
+    // A pile, a column and an extra member, each of one element and of the lowest section of its family.
+    void AddFrame(int type) {
+        CPier& pier = data.m_Piers.emplace_back();
+        BuildPier(pier, {.type = StructureType{type},
+                         .piles = 1,
+                         .columns = 1,
+                         .extraMembers = 1,
+                         .section = 1,
+                         .sections = 3,
+                         .firstExtraSection = 7});
         pier.Element(1).m_nSection = 2;
         pier.Element(2).m_nSection = 7;
-        return pier;
+        forces.Clear();
+        selection = CaseSelection(data);
+        results = ResultTables(data);
+        results.valid = kAllTables;
     }
-    static std::array<bool, kTableCount> AllValidBut(std::initializer_list<int> tables) {
-        std::array<bool, kTableCount> valid;
-        valid.fill(true);
-        for (const int table : tables) valid[static_cast<std::size_t>(table)] = false;
+    static TableFlags AllValidBut(std::initializer_list<int> tables) {
+        TableFlags valid = kAllTables;
+        for (const int table : tables) valid[TableId{table}] = false;
         return valid;
     }
-    static void CollectMembers() {
-        CCollectData collect;
-        collect.CollectMaxAxialForces();
-        collect.CollectPileDemandCapacity();
-        collect.CollectColumnDemandCapacity();
-        collect.CollectPileForces();
-        collect.CollectColumnForces();
-        collect.CollectExtraMemberForces();
+    void CollectTables(std::initializer_list<TableId> tables) {
+        for (const TableId table : tables)
+            CollectTable(table, {data, forces.Sources(), selection, messages}, results);
     }
+    void CollectMembers() {
+        CollectTables({kTableMaxAxial, kTablePileDc, kTableColumnDc, kTablePileForces, kTableColumnForces,
+                       kTableExtraMembers});
+    }
+    // The validity of a table that was valid before its searches.
+    bool IsValid(TableId table) {
+        results.valid = kAllTables;
+        CollectTables({table});
+        return results.valid[table];
+    }
+    void Clear() {
+        data.FreePiers();
+        forces.Clear();
+    }
+
+    CDataSet data;
+    CaseSelection selection;
+    ModelForces forces{data};
+    ResultTables results;
+    RecordedMessages messages;
 };
 
 TEST_F(Collect, EveryStepFillsItsTableForEveryPier) {
-    g_DataSet.m_Piers.push_back(Frame(4));
-    g_DataSet.m_Piers.push_back(Frame(4));
-    SetForce(g_DataSet.m_Piers[1], 0, 0, kEndJ, kAxial, -2.0F);
+    AddFrame(4);
+    AddFrame(4);
+    forces.Set(data.m_Piers[1], 0, 0, kEndJ, kAxial, -2.0F);
     CollectMembers();
-    for (const CPier& pier : g_DataSet.m_Piers) {
-        EXPECT_EQ(pier.m_PileDc.At(0, 0), RecordAt(0, 0, 0, 0, kEndI));
-        EXPECT_EQ(pier.m_ColumnDc.At(0, 0), RecordAt(0, 0, 0, 1, kEndI));
-        EXPECT_EQ(pier.m_PileForces.At(0, 0, 0),
-                  RecordAt(0, 0, 0, 0, &pier == &g_DataSet.m_Piers[0] ? 1 : 0));
-        EXPECT_EQ(pier.m_ColumnForces.At(0, 0, 5), RecordAt(0, 0, 0, 1, kEndJ));
-        EXPECT_EQ(pier.m_XMemberForces.At(0, 0, 12), RecordAt(0, 0, 0, 2, kEndJ));
+    for (const PierResults& pier : results.piers) {
+        EXPECT_EQ(pier.pileDc.At(0, 0), RecordAt(0, 0, 0, 0, kEndI));
+        EXPECT_EQ(pier.columnDc.At(0, 0), RecordAt(0, 0, 0, 1, kEndI));
+        EXPECT_EQ(pier.pileForces.At(0, 0, 0), RecordAt(0, 0, 0, 0, &pier == &results.piers[0] ? 1 : 0));
+        EXPECT_EQ(pier.columnForces.At(0, 0, 5), RecordAt(0, 0, 0, 1, kEndJ));
+        EXPECT_EQ(pier.extraMemberForces.At(0, 0, 12), RecordAt(0, 0, 0, 2, kEndJ));
     }
-    EXPECT_EQ(g_DataSet.m_Piers[0].m_ppMaxCompression[0][0], -1);
-    EXPECT_EQ(g_DataSet.m_Piers[1].m_ppMaxCompression[0][0], 0);
-    EXPECT_EQ(g_DataSet.m_bTableValid, AllValidBut({}));
+    EXPECT_EQ(results.piers[0].maxCompression[0][0], -1);
+    EXPECT_EQ(results.piers[1].maxCompression[0][0], 0);
+    EXPECT_EQ(results.valid, AllValidBut({}));
 }
 
 // Type 8 counts here, type 7 does not; the tables' applicability tests them the other way round.
 TEST_F(Collect, ColumnTablesBecomeInvalidWhereTheFirstPierHasNoColumns) {
     for (const int type : {1, 2, 6, 8}) {
-        g_DataSet.Reset();
-        g_DataSet.m_Piers.push_back(Frame(type));
+        Clear();
+        AddFrame(type);
         CollectMembers();
-        EXPECT_EQ(g_DataSet.m_bTableValid, AllValidBut({2, 6})) << type;
+        EXPECT_EQ(results.valid, AllValidBut({2, 6})) << type;
         // Not searched: the records are as the load left them.
-        EXPECT_EQ(g_DataSet.m_Piers[0].m_ColumnDc.At(0, 0), CMaxRecord{}) << type;
-        EXPECT_EQ(g_DataSet.m_Piers[0].m_ColumnForces.At(0, 0, 0), CMaxRecord{}) << type;
+        EXPECT_EQ(results.piers[0].columnDc.At(0, 0), CMaxRecord{}) << type;
+        EXPECT_EQ(results.piers[0].columnForces.At(0, 0, 0), CMaxRecord{}) << type;
     }
     for (const int type : {0, 3, 4, 5, 7}) {
-        g_DataSet.Reset();
-        g_DataSet.m_Piers.push_back(Frame(type));
+        Clear();
+        AddFrame(type);
         CollectMembers();
-        EXPECT_EQ(g_DataSet.m_bTableValid, AllValidBut({})) << type;
-        EXPECT_EQ(g_DataSet.m_Piers[0].m_ColumnDc.At(0, 0), RecordAt(0, 0, 0, 1, kEndI)) << type;
+        EXPECT_EQ(results.valid, AllValidBut({})) << type;
+        EXPECT_EQ(results.piers[0].columnDc.At(0, 0), RecordAt(0, 0, 0, 1, kEndI)) << type;
     }
 }
 
 TEST_F(Collect, ABadNumberInAnyPierMakesTheFamilysTablesInvalid) {
-    for (int i = 0; i < 3; ++i) g_DataSet.m_Piers.push_back(Frame(4));
-    g_DataSet.m_Piers[1].m_bPileForcesFinite = false;
+    for (int i = 0; i < 3; ++i) AddFrame(4);
+    forces.Of(data.m_Piers[1]).finite.piles = false;
     CollectMembers();
-    EXPECT_EQ(g_DataSet.m_bTableValid, AllValidBut({1, 5}));
-    EXPECT_EQ(g_DataSet.m_Piers[2].m_PileDc.At(0, 0), RecordAt(0, 0, 0, 0, kEndI));  // searched all the same
-    g_DataSet.m_Piers[1].m_bPileHeadsFinite = false;
-    g_DataSet.m_Piers[2].m_bColumnForcesFinite = false;
-    g_DataSet.m_Piers[2].m_bXMemberForcesFinite = false;
+    EXPECT_EQ(results.valid, AllValidBut({1, 5}));
+    EXPECT_EQ(results.piers[2].pileDc.At(0, 0), RecordAt(0, 0, 0, 0, kEndI));  // searched all the same
+    forces.Of(data.m_Piers[1]).finite.pileHeads = false;
+    forces.Of(data.m_Piers[2]).finite.columns = false;
+    forces.Of(data.m_Piers[2]).finite.extraMembers = false;
     CollectMembers();
-    EXPECT_EQ(g_DataSet.m_bTableValid, AllValidBut({0, 1, 2, 5, 6, 7}));
+    EXPECT_EQ(results.valid, AllValidBut({0, 1, 2, 5, 6, 7}));
+}
+
+TEST_F(Collect, ThePileHeadTableGoesByTheHeadsAlone) {
+    AddFrame(kTypeWallA);
+    EXPECT_TRUE(IsValid(kTableMaxAxial));
+    forces.Of(data.m_Piers[0]).finite.piles = false;  // elsewhere along the piles
+    EXPECT_TRUE(IsValid(kTableMaxAxial));
+    forces.Of(data.m_Piers[0]).finite.pileHeads = false;
+    EXPECT_FALSE(IsValid(kTableMaxAxial));
+}
+
+TEST_F(Collect, ATableGoesByTheForcesOfItsOwnFamily) {
+    AddFrame(kTypeWallA);
+    forces.Of(data.m_Piers[0]).finite.piles = false;
+    EXPECT_FALSE(IsValid(kTablePileDc));
+    EXPECT_FALSE(IsValid(kTablePileForces));
+    EXPECT_TRUE(IsValid(kTableColumnDc));
+    EXPECT_TRUE(IsValid(kTableColumnForces));
+    EXPECT_TRUE(IsValid(kTableExtraMembers));
+    forces.Of(data.m_Piers[0]).finite.piles = true;
+    forces.Of(data.m_Piers[0]).finite.columns = false;
+    EXPECT_TRUE(IsValid(kTablePileForces));
+    EXPECT_FALSE(IsValid(kTableColumnDc));
+    EXPECT_FALSE(IsValid(kTableColumnForces));
+    forces.Of(data.m_Piers[0]).finite.columns = true;
+    forces.Of(data.m_Piers[0]).finite.extraMembers = false;
+    EXPECT_TRUE(IsValid(kTableColumnForces));
+    EXPECT_FALSE(IsValid(kTableExtraMembers));
 }
 
 TEST_F(Collect, AnInvalidTableStaysInvalid) {
-    g_DataSet.m_Piers.push_back(Frame(4));
-    g_DataSet.m_Piers[0].m_bPileForcesFinite = false;
+    AddFrame(4);
+    forces.Of(data.m_Piers[0]).finite.piles = false;
     CollectMembers();
-    g_DataSet.m_Piers[0].m_bPileForcesFinite = true;
+    forces.Of(data.m_Piers[0]).finite.piles = true;
     CollectMembers();
-    EXPECT_EQ(g_DataSet.m_bTableValid, AllValidBut({1, 5}));
+    EXPECT_EQ(results.valid, AllValidBut({1, 5}));
 }
 
 TEST_F(Collect, WithoutPiersNothingHappens) {
     CollectMembers();
-    CCollectData collect;
-    collect.CollectCapShear();
-    collect.CollectCapMoment();
-    EXPECT_EQ(g_DataSet.m_bTableValid, AllValidBut({}));
+    CollectTables({kTableCapShear, kTableCapMoment});
+    EXPECT_EQ(results.valid, AllValidBut({}));
 }
 
 }  // namespace

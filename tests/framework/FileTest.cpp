@@ -7,26 +7,23 @@
 #include <filesystem>
 #include <fstream>
 
+#include "support/ScratchFolder.h"
+
 namespace {
 
 namespace fs = std::filesystem;
 
 class FileTest : public testing::Test {
   protected:
-    FileTest() : m_folder(fs::temp_directory_path() / ("lumerin-file-" + std::to_string(getpid()))) {
-        fs::remove_all(m_folder);
-        fs::create_directories(m_folder / "Sub");
-    }
-    ~FileTest() override { fs::remove_all(m_folder); }
+    FileTest() { fs::create_directories(m_scratch.Path() / "Sub"); }
 
     std::string Write(const std::string& name, const std::string& content) {
-        const std::string path = (m_folder / name).string();
-        std::ofstream(path, std::ios::binary) << content;
-        return path;
+        m_scratch.Write(name, content);
+        return Path(name);
     }
-    std::string Path(const std::string& name) const { return (m_folder / name).string(); }
+    std::string Path(const std::string& name) const { return m_scratch.PathOf(name); }
 
-    fs::path m_folder;
+    const ScratchFolder m_scratch;
 };
 
 TEST_F(FileTest, IsFoundWhateverTheCaseOfItsName) {

@@ -1,7 +1,7 @@
-#include "app/Launch.h"
 #include "framework/WholeFilePlatform.h"
-#include "reliability/BrokenProject.h"
 #include "reliability/FaultyCalls.h"
+#include "session/Launch.h"
+#include "support/BrokenProject.h"
 
 // The Nth allocation fails, for N = 1, 2, 3 ... until a run passes clean: no run may end the process, and
 // the run behind it must be whole again.

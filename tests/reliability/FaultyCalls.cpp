@@ -12,7 +12,6 @@
 namespace faulty {
 
 std::atomic<long> g_allocationsLeft{-1};
-long g_callocsLeft = -1;
 long g_writesLeft = -1;
 long g_writesToDeath = -1;
 
@@ -66,13 +65,7 @@ void operator delete[](void* memory, std::size_t) noexcept {
 // The names that the linker's option --wrap asks for.
 extern "C" {
 
-void* __real_calloc(std::size_t count, std::size_t bytes);
 ssize_t __real_write(int file, const void* from, std::size_t bytes);
-
-void* __wrap_calloc(std::size_t count, std::size_t bytes) {
-    if (faulty::FailsNow(faulty::g_callocsLeft)) return nullptr;
-    return __real_calloc(count, bytes);
-}
 
 ssize_t __wrap_write(int file, const void* from, std::size_t bytes) {
     if (faulty::FailsNow(faulty::g_writesToDeath)) {

@@ -7,7 +7,6 @@ namespace faulty {
 
 // How many more calls succeed before one fails; below 0 all do. The one that fails sets it to -1.
 extern std::atomic<long> g_allocationsLeft;  // operator new
-extern long g_callocsLeft;                   // memory for forces
 extern long g_writesLeft;  // of files: the failing call stores half of its bytes, as a disk does that fills
 // At the write of that number the process is killed, with half of the bytes stored.
 extern long g_writesToDeath;

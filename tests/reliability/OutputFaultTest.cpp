@@ -4,12 +4,12 @@
 
 #include <map>
 
-#include "batch/DriveCommand.h"
-#include "batch/EmbedmentCommand.h"
+#include "cli/DriveCommand.h"
+#include "cli/EmbedmentCommand.h"
 #include "framework/ChildProcess.h"
 #include "framework/WholeFilePlatform.h"
-#include "reliability/BrokenProject.h"
 #include "reliability/FaultyCalls.h"
+#include "support/BrokenProject.h"
 
 // Files that can't be written: the program names each, ends with a status other than zero, and leaves the
 // earlier file as it was.

@@ -2,8 +2,8 @@
 
 #include <cstdlib>
 
-#include "batch/DriveCommand.h"
-#include "reliability/BrokenProject.h"
+#include "cli/DriveCommand.h"
+#include "support/BrokenProject.h"
 
 // One process opens the dialogs, presses every button and closes them, again and again, as the host does
 // through a long day. LUMERIN_SOAK_ROUNDS sets the number of rounds.

@@ -6,8 +6,8 @@
 #include <functional>
 #include <random>
 
-#include "batch/EmbedmentCommand.h"
-#include "reliability/BrokenProject.h"
+#include "cli/EmbedmentCommand.h"
+#include "support/BrokenProject.h"
 
 // Files that were cut, counts that lie, bytes that changed: the project loads, or one message says why not.
 

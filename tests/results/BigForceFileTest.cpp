@@ -6,11 +6,11 @@
 #include <limits>
 #include <vector>
 
-#include "model/DataSet.h"
 #include "results/ForcePlan.h"
+#include "results/LoadProject.h"
 #include "samples/Presets.h"
 #include "samples/Project.h"
-#include "session/Session.h"
+#include "support/ScratchFolder.h"
 
 // A force file of many pieces must come out as if it had been read in one.
 namespace {
@@ -21,7 +21,6 @@ constexpr std::size_t kRecordsOfACase = 1226;
 class BigForceFile : public testing::Test {
   protected:
     void SetUp() override {
-        m_folder = std::filesystem::temp_directory_path() / "lumerin-big-force-file";
         samples::SampleOptions options;
         options.rows = options.columns = 10;
         options.cases = kCases;
@@ -32,18 +31,14 @@ class BigForceFile : public testing::Test {
                   static_cast<std::streamsize>(m_words.size() * sizeof(float)));
         ASSERT_TRUE(file);
     }
-    void TearDown() override {
-        g_DataSet.FreePiers();
-        std::filesystem::remove_all(m_folder);
-    }
 
     std::filesystem::path Forces() const { return m_folder / "pier.vmd"; }
-    static bool Load(const std::filesystem::path& folder) {
-        g_DataSet.FreePiers();
-        g_DataSet.Reset();
-        g_InputFilePath = (folder / "pier.in").string();
-        DerivePaths();
-        return g_DataSet.LoadProject();
+    struct Silent : Messages {
+        void Show(const std::string& text) override { ADD_FAILURE() << text; }
+    };
+    static std::optional<Project> Load(const std::filesystem::path& folder) {
+        Silent messages;
+        return LoadProject((folder / "pier").string(), messages);
     }
     float Word(int loadCase, int element, std::size_t word) const {
         const std::size_t record =
@@ -51,25 +46,30 @@ class BigForceFile : public testing::Test {
         return m_words[record * kForceRecordWords + word];
     }
 
-    std::filesystem::path m_folder;
+    const ScratchFolder m_scratch;
+    const std::filesystem::path m_folder = m_scratch.Path();
     std::vector<float> m_words;
 };
 
 }  // namespace
 
 TEST_F(BigForceFile, EveryPileElementOfEveryCaseHasItsRecord) {
-    ASSERT_TRUE(Load(m_folder));
-    const CPier& pier = g_DataSet.FirstPier();
+    const std::optional<Project> project = Load(m_folder);
+    ASSERT_TRUE(project);
+    const CPier& pier = project->data.FirstPier();
     ASSERT_EQ(pier.m_nLoadCases, kCases);
-    for (int c = 0; c < kCases; ++c) {
+    int cases = 0;
+    const FiniteForces finite = project->forces[0]->ReadCases([&](int c, CaseForces forces) {
+        ASSERT_EQ(c, cases++);
         for (int e = 0; e < 1200; ++e) {  // the piles' records come first, in the order of the list
-            const ElementForces forces = pier.Forces(c, e);
-            ASSERT_EQ(forces[kAxial], Word(c, e, 13)) << c << ' ' << e;
-            ASSERT_EQ(forces[kComponents + kAxial], Word(c, e, 14)) << c << ' ' << e;
+            const ElementForces row = ForcesOf(forces, e);
+            ASSERT_EQ(row[kAxial], Word(c, e, 13)) << c << ' ' << e;
+            ASSERT_EQ(row[kComponents + kAxial], Word(c, e, 14)) << c << ' ' << e;
         }
-    }
-    EXPECT_TRUE(pier.m_bPileForcesFinite);
-    EXPECT_TRUE(pier.m_bColumnForcesFinite);
+    });
+    EXPECT_EQ(cases, kCases);
+    EXPECT_TRUE(finite.piles);
+    EXPECT_TRUE(finite.columns);
 }
 
 TEST_F(BigForceFile, ANumberThatIsNotFiniteIsNoticedAnywhereInTheFile) {
@@ -85,9 +85,11 @@ TEST_F(BigForceFile, ANumberThatIsNotFiniteIsNoticedAnywhereInTheFile) {
             file.write(reinterpret_cast<const char*>(&value), sizeof value);
         };
         put(infinite);
-        ASSERT_TRUE(Load(m_folder));
-        EXPECT_FALSE(g_DataSet.FirstPier().m_bPileForcesFinite) << loadCase;
-        EXPECT_TRUE(g_DataSet.FirstPier().m_bColumnForcesFinite) << loadCase;
+        const std::optional<Project> project = Load(m_folder);
+        ASSERT_TRUE(project);
+        const FiniteForces finite = project->forces[0]->ReadCases([](int, CaseForces) {});
+        EXPECT_FALSE(finite.piles) << loadCase;
+        EXPECT_TRUE(finite.columns) << loadCase;
         put(before);
     }
 }

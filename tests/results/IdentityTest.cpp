@@ -1,11 +1,11 @@
-#include "ResultProject.h"
+#include "support/ResultProject.h"
 
 // Element numbers, node numbers and sections of a substructure, worked out on the drawing of MakePier.
 
 namespace {
 
-void ExpectElement(int element, int number, int nodeI, int nodeJ, int section) {
-    const CElement& found = g_DataSet.FirstPier().Element(element);
+void ExpectElement(const ResultProject& project, int element, int number, int nodeI, int nodeJ, int section) {
+    const CElement& found = project.Pier().Element(element);
     EXPECT_EQ(found.m_nElementNumber, number);
     EXPECT_EQ(found.m_nNodeI, nodeI) << "element " << number;
     EXPECT_EQ(found.m_nNodeJ, nodeJ) << "element " << number;
@@ -36,12 +36,12 @@ TEST(Identity, PilesAreNumberedBehindTheFrame) {
     project.substructures[0] = MakePier();
     project.Write();
     ASSERT_TRUE(project.Load());
-    const CPier& pier = g_DataSet.FirstPier();
+    const CPier& pier = project.Pier();
     // 13 nodes and 18 element rows stand before the piles; heads carry the pile's number.
-    ExpectElement(pier.PileElement(0, 0), 19, 14, 1, 1);
-    ExpectElement(pier.PileElement(0, 1), 20, 15, 14, 2);
-    ExpectElement(pier.PileElement(1, 0), 21, 16, 2, 1);
-    ExpectElement(pier.PileElement(1, 1), 22, 17, 16, 1);
+    ExpectElement(project, pier.PileElement(0, 0), 19, 14, 1, 1);
+    ExpectElement(project, pier.PileElement(0, 1), 20, 15, 14, 2);
+    ExpectElement(project, pier.PileElement(1, 0), 21, 16, 2, 1);
+    ExpectElement(project, pier.PileElement(1, 1), 22, 17, 16, 1);
 }
 
 TEST(Identity, APiersFrameIsNumberedColumnByColumn) {
@@ -49,18 +49,18 @@ TEST(Identity, APiersFrameIsNumberedColumnByColumn) {
     project.substructures[0] = MakePier();
     project.Write();
     ASSERT_TRUE(project.Load());
-    const CPier& pier = g_DataSet.FirstPier();
+    const CPier& pier = project.Pier();
     const CFrame& frame = pier.m_Frame;
-    ExpectElement(pier.ColumnElement(0, 0), 9, 3, 4, 2);
-    ExpectElement(pier.ColumnElement(0, 1), 10, 4, 5, 3);
-    ExpectElement(frame.m_Cantilevers[0].m_nFirstElement, 11, 6, 7, 4);
-    ExpectElement(frame.m_Cantilevers[0].m_nFirstElement + 1, 12, 7, 5, 4);
-    ExpectElement(frame.m_Beam.m_nFirstElement, 13, 5, 8, 4);
-    ExpectElement(frame.m_Beam.m_nFirstElement + 1, 14, 8, 11, 4);
-    ExpectElement(pier.ColumnElement(1, 0), 15, 9, 10, 2);
-    ExpectElement(pier.ColumnElement(1, 1), 16, 10, 11, 3);
-    ExpectElement(frame.m_Cantilevers[1].m_nFirstElement, 17, 11, 12, 4);
-    ExpectElement(frame.m_Cantilevers[1].m_nFirstElement + 1, 18, 12, 13, 4);
+    ExpectElement(project, pier.ColumnElement(0, 0), 9, 3, 4, 2);
+    ExpectElement(project, pier.ColumnElement(0, 1), 10, 4, 5, 3);
+    ExpectElement(project, frame.m_Cantilevers[0].m_nFirstElement, 11, 6, 7, 4);
+    ExpectElement(project, frame.m_Cantilevers[0].m_nFirstElement + 1, 12, 7, 5, 4);
+    ExpectElement(project, frame.m_Beam.m_nFirstElement, 13, 5, 8, 4);
+    ExpectElement(project, frame.m_Beam.m_nFirstElement + 1, 14, 8, 11, 4);
+    ExpectElement(project, pier.ColumnElement(1, 0), 15, 9, 10, 2);
+    ExpectElement(project, pier.ColumnElement(1, 1), 16, 10, 11, 3);
+    ExpectElement(project, frame.m_Cantilevers[1].m_nFirstElement, 17, 11, 12, 4);
+    ExpectElement(project, frame.m_Cantilevers[1].m_nFirstElement + 1, 18, 12, 13, 4);
 }
 
 TEST(Identity, ABentsCapRestsOnItsPileHeads) {
@@ -68,13 +68,13 @@ TEST(Identity, ABentsCapRestsOnItsPileHeads) {
     project.substructures[0] = MakeBent();
     project.Write();
     ASSERT_TRUE(project.Load());
-    const CFrame& frame = g_DataSet.FirstPier().m_Frame;
-    ExpectElement(frame.m_Cantilevers[0].m_nFirstElement, 1, 4, 1, 3);
-    ExpectElement(frame.m_Beam.m_nFirstElement, 2, 1, 5, 3);
-    ExpectElement(frame.m_Beam.m_nFirstElement + 1, 3, 5, 2, 3);
-    ExpectElement(frame.m_Beam.m_nFirstElement + 2, 4, 2, 6, 3);
-    ExpectElement(frame.m_Beam.m_nFirstElement + 3, 5, 6, 3, 3);
-    ExpectElement(frame.m_Cantilevers[1].m_nFirstElement, 6, 3, 7, 3);
+    const CFrame& frame = project.Pier().m_Frame;
+    ExpectElement(project, frame.m_Cantilevers[0].m_nFirstElement, 1, 4, 1, 3);
+    ExpectElement(project, frame.m_Beam.m_nFirstElement, 2, 1, 5, 3);
+    ExpectElement(project, frame.m_Beam.m_nFirstElement + 1, 3, 5, 2, 3);
+    ExpectElement(project, frame.m_Beam.m_nFirstElement + 2, 4, 2, 6, 3);
+    ExpectElement(project, frame.m_Beam.m_nFirstElement + 3, 5, 6, 3, 3);
+    ExpectElement(project, frame.m_Cantilevers[1].m_nFirstElement, 6, 3, 7, 3);
 }
 
 TEST(Identity, ABentReadsItsCapFromTheRowsInOrder) {
@@ -82,14 +82,14 @@ TEST(Identity, ABentReadsItsCapFromTheRowsInOrder) {
     project.substructures[0] = MakeBent();
     project.Write();
     ASSERT_TRUE(project.Load());
-    const CPier& pier = g_DataSet.FirstPier();
+    const CPier& pier = project.Pier();
     const CFrame& frame = pier.m_Frame;
     const int order[] = {frame.m_Cantilevers[0].m_nFirstElement, frame.m_Beam.m_nFirstElement,
                          frame.m_Beam.m_nFirstElement + 1,       frame.m_Beam.m_nFirstElement + 2,
                          frame.m_Beam.m_nFirstElement + 3,       frame.m_Cantilevers[1].m_nFirstElement};
     for (int i = 0; i < 6; ++i) {
         // Six pile records come first.
-        EXPECT_EQ(GetForce(pier.Forces(0, order[i]), kEndI, kAxial), (6 + i + 1) * 100 + 13);
+        EXPECT_EQ(GetForce(project.Forces(0, order[i]), kEndI, kAxial), (6 + i + 1) * 100 + 13);
     }
 }
 
@@ -109,11 +109,11 @@ TEST(Identity, AColumnWithoutInteriorNodesHasOneElementAndACountOfNone) {
     }
     project.Write();
     ASSERT_TRUE(project.Load());
-    const CPier& pier = g_DataSet.FirstPier();
+    const CPier& pier = project.Pier();
     const CFrame& frame = pier.m_Frame;
     EXPECT_EQ(pier.m_Frame.m_Columns[0].m_nElements, 0);
-    ExpectElement(pier.ColumnElement(0, 0), 9, 3, 4, 3);
-    ExpectElement(pier.ColumnElement(1, 0), 14, 8, 9, 3);
+    ExpectElement(project, pier.ColumnElement(0, 0), 9, 3, 4, 3);
+    ExpectElement(project, pier.ColumnElement(1, 0), 14, 8, 9, 3);
     for (int e = 0; e < 2; ++e) {
         EXPECT_EQ(pier.Element(frame.m_Cantilevers[0].m_nFirstElement + e).m_nSection, 10 + e);
         EXPECT_EQ(pier.Element(frame.m_Beam.m_nFirstElement + e).m_nSection, 12 + e);
@@ -132,7 +132,7 @@ TEST(Identity, AMastsAndWallsSectionsStandInTheFirstColumnAlone) {
     sub.cantileverNodes = -1;
     project.Write();
     ASSERT_TRUE(project.Load());
-    const CPier& pier = g_DataSet.FirstPier();
+    const CPier& pier = project.Pier();
     EXPECT_EQ(pier.Element(pier.ColumnElement(0, 0)).m_nSection, 2);
     EXPECT_EQ(pier.Element(pier.ColumnElement(1, 0)).m_nSection, 0);
     EXPECT_EQ(pier.Element(pier.ColumnElement(0, 0)).m_nElementNumber, 9);

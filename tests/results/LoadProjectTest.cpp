@@ -1,9 +1,9 @@
-#include "ResultProject.h"
+#include "support/ResultProject.h"
 
 namespace {
 
 // The load must end in a file exception whose text names the file and holds the words.
-void ExpectFault(const ResultProject& project, const std::string& file, const std::string& words) {
+void ExpectFault(ResultProject& project, const std::string& file, const std::string& words) {
     try {
         project.Load();
         FAIL() << "loaded in spite of " << words;
@@ -22,10 +22,10 @@ TEST(LoadProject, LaterSubstructuresCarryTheirNumbers) {
     project.Write();
     EXPECT_TRUE(std::filesystem::exists(project.Path(".PLF2")));
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_Piers.size(), 3U);
-    EXPECT_EQ(g_DataSet.m_Piers[0].Element(0).m_nSection, 1);
-    EXPECT_EQ(g_DataSet.m_Piers[1].Element(0).m_nSection, 2);
-    EXPECT_EQ(g_DataSet.m_Piers[2].Element(0).m_nSection, 1);
+    EXPECT_EQ(project.Data().m_Piers.size(), 3U);
+    EXPECT_EQ(project.Data().m_Piers[0].Element(0).m_nSection, 1);
+    EXPECT_EQ(project.Data().m_Piers[1].Element(0).m_nSection, 2);
+    EXPECT_EQ(project.Data().m_Piers[2].Element(0).m_nSection, 1);
 }
 
 TEST(LoadProject, FilesAreFoundWhateverTheCaseOfTheirNames) {
@@ -45,29 +45,20 @@ TEST(LoadProject, EveryCaseIsSelectedAtFirst) {
     ResultProject project;
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_THAT(g_DataSet.FirstPier().m_CaseSelected, testing::ElementsAre(1, 1));
+    const CaseSelection selection(project.Data());
+    EXPECT_EQ(selection.CaseCount(), 2);
+    EXPECT_TRUE(selection.IsCaseSelected(0));
+    EXPECT_TRUE(selection.IsCaseSelected(1));
 }
 
 TEST(LoadProject, WithoutColumnsThereIsNoFrame) {
     ResultProject project;
     project.Write();
     ASSERT_TRUE(project.Load());
-    const CFrame& frame = g_DataSet.FirstPier().m_Frame;
+    const CFrame& frame = project.Pier().m_Frame;
     EXPECT_TRUE(frame.m_Columns.empty());
     EXPECT_EQ(frame.m_Beam.m_nElements, 0);
     EXPECT_EQ(frame.m_Cantilevers[0].m_nElements, 0);
-}
-
-TEST(LoadProject, OnlyAFirstCapKeepsTheShearTableValid) {
-    ResultProject project;
-    project.substructures[0] = MakePier();
-    project.Write();
-    ASSERT_TRUE(project.Load());
-    EXPECT_TRUE(g_DataSet.m_bTableValid[3]);
-    project.substructures = {ResultSubstructure{}, MakePier()};
-    project.Write();
-    ASSERT_TRUE(project.Load());
-    EXPECT_FALSE(g_DataSet.m_bTableValid[3]);
 }
 
 TEST(LoadProject, MissingFilesAreNamed) {
@@ -89,11 +80,10 @@ TEST(LoadProject, ATextFileThatCannotBeReadIsAsOneThatIsMissing) {
         project.WriteFile(".CMB", "[Comb. 1]\nfirst\n[Comb. 2]\nsecond\n");
         project.WriteFile(".LIM", "x\nA= 1\nx\nx\n101 1 2\n:\n");
         const auto loaded = [&project] {
-            const MessageLog log;
             EXPECT_TRUE(project.Load());
-            EXPECT_TRUE(log.texts.empty());
-            const CLoadCase& second = g_DataSet.FirstPier().m_LoadCases[1];
-            return g_DataSet.m_sProjectN + "|" + second.m_sName + "|" + second.m_sLimitState;
+            EXPECT_TRUE(project.messages.texts.empty());
+            const CLoadCase& second = project.Pier().m_LoadCases[1];
+            return project.Data().m_sProjectN + "|" + second.m_sName + "|" + second.m_sLimitState;
         };
         EXPECT_EQ(loaded(), "a bri|second|STRENGTH-I");
         project.Remove(suffix);
@@ -164,9 +154,9 @@ TEST(LoadProject, AForceFileIsTooShortBeyondThreeTimesItsLengthAnd32Megabytes) {
     project.WriteFile(".vmd", "");
     project.WriteFile(".ncv", ResultProject::Convergence(most - 100).End());
     {
-        const MessageLog log;
         EXPECT_TRUE(project.Load());
-        EXPECT_THAT(log.texts, testing::ElementsAre(testing::HasSubstr(" force records are missing")));
+        EXPECT_THAT(project.messages.texts,
+                    testing::ElementsAre(testing::HasSubstr(" force records are missing")));
     }
     project.WriteFile(".ncv", ResultProject::Convergence(most + 1).End());
     ExpectFault(project, "p.vmd",
@@ -174,7 +164,6 @@ TEST(LoadProject, AForceFileIsTooShortBeyondThreeTimesItsLengthAnd32Megabytes) {
                     " load cases, whose records take " + std::to_string(272LL * (most + 1)));
     // 68,000 bytes make room for 204,000 more.
     project.WriteFile(".vmd", std::string(68000, '\0'));
-    const MessageLog log;
     EXPECT_TRUE(project.Load());
 }
 
@@ -210,7 +199,6 @@ TEST(LoadProject, EveryTruncationOfEverySequentialFileLoadsOrIsNamed) {
         for (std::uintmax_t cut = 0; cut < size; ++cut) {
             project.Write();
             std::filesystem::resize_file(project.Path(suffix), cut);
-            const MessageLog log;
             try {
                 project.Load();
             } catch (const CFileException& error) {

@@ -1,8 +1,7 @@
 #include <climits>
 #include <cstring>
 
-#include "ResultProject.h"
-#include "results/CollectData.h"
+#include "support/ResultProject.h"
 
 // What the pile file, the pile model file and the convergence file make of a substructure.
 
@@ -11,9 +10,9 @@ TEST(PierHeader, AConvergenceFileOfFiveRequestsLeavesTheOptionalValues) {
     project.mode = 1;
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_nAnalysisMode, 1);
-    EXPECT_EQ(g_DataSet.m_dNcvReal, 0.0);
-    EXPECT_EQ(g_DataSet.m_nNcvInteger, 0);
+    EXPECT_EQ(project.Data().m_nAnalysisMode, 1);
+    EXPECT_EQ(project.Data().m_dNcvReal, 0.0);
+    EXPECT_EQ(project.Data().m_nNcvInteger, 0);
 }
 
 TEST(PierHeader, AConvergenceFileMayCarryARealAndAnInteger) {
@@ -21,8 +20,8 @@ TEST(PierHeader, AConvergenceFileMayCarryARealAndAnInteger) {
     project.Write();
     project.WriteFile(".ncv", ResultProject::Convergence(2).Ints({0}).Doubles({1.5}).Ints({8}).End());
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_dNcvReal, 1.5);
-    EXPECT_EQ(g_DataSet.m_nNcvInteger, 8);
+    EXPECT_EQ(project.Data().m_dNcvReal, 1.5);
+    EXPECT_EQ(project.Data().m_nNcvInteger, 8);
 }
 
 TEST(PierHeader, TheConvergedCountReplacesTheAnalysedCount) {
@@ -30,8 +29,8 @@ TEST(PierHeader, TheConvergedCountReplacesTheAnalysedCount) {
     project.cases = 2;
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_nLoadCases, 2);
-    EXPECT_EQ(g_DataSet.FirstPier().m_LoadCases.size(), 2U);
+    EXPECT_EQ(project.Data().m_nLoadCases, 2);
+    EXPECT_EQ(project.Pier().m_LoadCases.size(), 2U);
 }
 
 TEST(PierHeader, AnEmptyConvergenceFileLeavesTheAnalysedCount) {
@@ -40,25 +39,25 @@ TEST(PierHeader, AnEmptyConvergenceFileLeavesTheAnalysedCount) {
     project.Write();
     project.WriteFile(".ncv", SeqBytes().End());
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_nLoadCases, 3);
+    EXPECT_EQ(project.Data().m_nLoadCases, 3);
 }
 
 TEST(PierHeader, NothingAnalysedEndsTheLoadWithItsMessage) {
     ResultProject project;
     project.Write();
     project.WriteFile(".PIL", ResultProject::PileModel(project.substructures[0], 0));
-    const MessageLog log;
     EXPECT_FALSE(project.Load());
-    EXPECT_THAT(log.texts, testing::ElementsAre("No load cases converged.  There are no results to view."));
+    EXPECT_THAT(project.messages.texts,
+                testing::ElementsAre("No load cases converged.  There are no results to view."));
 }
 
 TEST(PierHeader, NothingConvergedEndsTheLoadWithItsMessage) {
     ResultProject project;
     project.Write();
     project.WriteFile(".ncv", ResultProject::Convergence(0).End());
-    const MessageLog log;
     EXPECT_FALSE(project.Load());
-    EXPECT_THAT(log.texts, testing::ElementsAre("No load cases converged. Results cannot be viewed."));
+    EXPECT_THAT(project.messages.texts,
+                testing::ElementsAre("No load cases converged. Results cannot be viewed."));
 }
 
 TEST(PierHeader, ADerivedTypeGoesByTheRowsOfPiles) {
@@ -67,11 +66,11 @@ TEST(PierHeader, ADerivedTypeGoesByTheRowsOfPiles) {
     sub.type = -1;
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_nStructureType, 1);
+    EXPECT_EQ(project.Data().m_nStructureType, 1);
     sub.rowsB = 1;
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_nStructureType, 2);
+    EXPECT_EQ(project.Data().m_nStructureType, 2);
 }
 
 TEST(PierHeader, TheLastSubstructuresUnitsHeadAllTables) {
@@ -81,9 +80,9 @@ TEST(PierHeader, TheLastSubstructuresUnitsHeadAllTables) {
     project.substructures[1].units = 0;
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_nUnits, 0);
-    EXPECT_EQ(g_DataSet.m_sForceUnit, "kips");
-    EXPECT_EQ(g_DataSet.FirstPier().m_nUnits, 1);
+    EXPECT_EQ(project.Data().m_nUnits, 0);
+    EXPECT_EQ(project.Data().m_sForceUnit, "kips");
+    EXPECT_EQ(project.Pier().m_nUnits, 1);
 }
 
 TEST(PierHeader, UnitsThreeStandForUsUnits) {
@@ -95,10 +94,10 @@ TEST(PierHeader, UnitsThreeStandForUsUnits) {
         project.substructures[0].units = word;
         project.Write();
         ASSERT_TRUE(project.Load());
-        EXPECT_EQ(g_DataSet.m_nUnits, units);
-        EXPECT_EQ(g_DataSet.FirstPier().m_nUnits, units);
-        EXPECT_EQ(g_DataSet.m_sForceUnit, force);
-        EXPECT_EQ(g_DataSet.m_sMomentUnit, moment);
+        EXPECT_EQ(project.Data().m_nUnits, units);
+        EXPECT_EQ(project.Pier().m_nUnits, units);
+        EXPECT_EQ(project.Data().m_sForceUnit, force);
+        EXPECT_EQ(project.Data().m_sMomentUnit, moment);
     }
 }
 
@@ -108,16 +107,16 @@ TEST(PierHeader, APilesWidthComesFromItsFirstElementsRecord) {
     project.substructures[0].pileSections = {{2, 1}, {1, 2}};
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.FirstPier().m_Piles[0].m_dDimension, 16.0);
-    EXPECT_EQ(g_DataSet.FirstPier().m_Piles[1].m_dDimension, 12.0);
+    EXPECT_EQ(project.Pier().m_Piles[0].m_dDimension, 16.0);
+    EXPECT_EQ(project.Pier().m_Piles[1].m_dDimension, 12.0);
 }
 
 TEST(PierHeader, NoColumnSectionsStandAsOne) {
     ResultProject project;
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_nColumnSections, 0);
-    EXPECT_EQ(g_DataSet.FirstPier().m_nColumnSections, 1);
+    EXPECT_EQ(project.Data().m_nColumnSections, 0);
+    EXPECT_EQ(project.Pier().m_nColumnSections, 1);
 }
 
 // The words of the model header that describe a frame: columns, cantilevers, their nodes, nodes of a column
@@ -147,7 +146,7 @@ TEST(PierHeader, WhereNoFrameIsReadItsWordsMayHoldAnything) {
             for (const int value : {INT_MIN, -7, -1, 3, 1000000, INT_MAX}) {
                 project.WriteFile(".PLF", WithHeaderWord(project.substructures[0], word, value));
                 ASSERT_TRUE(project.Load()) << "type " << type << " word " << word << " of " << value;
-                EXPECT_EQ(g_DataSet.FirstPier().Forces(1, 3)[kAxial], 10413.0F);
+                EXPECT_EQ(project.Forces(1, 3)[kAxial], 10413.0F);
             }
         }
     }
@@ -161,8 +160,8 @@ TEST(PierHeader, AllWordsOfAnUnreadFrameTogetherTakeNoMemory) {
         sub.columnSections = value;
         project.Write();
         ASSERT_TRUE(project.Load()) << value;
-        EXPECT_LE(g_DataSet.FirstPier().ElementCount(), 5);
-        EXPECT_EQ(g_DataSet.FirstPier().m_nColumnSections, 1);
+        EXPECT_LE(project.Pier().ElementCount(), 5);
+        EXPECT_EQ(project.Pier().m_nColumnSections, 1);
     }
 }
 
@@ -171,8 +170,8 @@ TEST(PierHeader, APierBehindAGroupKeepsItsFrameAndALieLeavesItOut) {
     project.substructures = {ResultSubstructure{}, MakePier()};
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_Piers[1].m_Frame.m_Columns.size(), 2U);
-    EXPECT_EQ(g_DataSet.m_Piers[1].m_CapPointX.size(), 7U);
+    EXPECT_EQ(project.Data().m_Piers[1].m_Frame.m_Columns.size(), 2U);
+    EXPECT_EQ(project.Data().m_Piers[1].m_CapPointX.size(), 7U);
     for (const std::size_t word : kFrameWords) {
         for (const int value : {INT_MIN, -7, 1000000, INT_MAX}) {
             project.WriteFile(".PLF2", WithHeaderWord(project.substructures[1], word, value));
@@ -182,7 +181,7 @@ TEST(PierHeader, APierBehindAGroupKeepsItsFrameAndALieLeavesItOut) {
     project.substructures[1].columns = project.substructures[1].columnNodes = 1000000;
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_TRUE(g_DataSet.m_Piers[1].m_Frame.m_Columns.empty());
+    EXPECT_TRUE(project.Data().m_Piers[1].m_Frame.m_Columns.empty());
 }
 
 TEST(PierHeader, WhereAFrameIsReadItsWordsAreJudged) {
@@ -213,7 +212,7 @@ TEST(PierHeader, MinusOneNodesAreNoElements) {
     sub.rows.resize(8);
     project.Write();
     ASSERT_TRUE(project.Load());
-    const CPier& pier = g_DataSet.FirstPier();
+    const CPier& pier = project.Pier();
     EXPECT_EQ(pier.m_nPierNodes, 1);    // one a column, less one for a span of -1
     EXPECT_EQ(pier.ElementCount(), 4);  // those of the piles
     EXPECT_EQ(pier.m_Frame.m_Columns.size(), 2U);
@@ -231,7 +230,7 @@ TEST(PierHeader, ColumnsOfMinusOneNodesTakeNoRowOfTheElementTable) {
     for (int i = 0; i < 6; ++i) sub.rows.push_back({9 + i, 0, 0, 11 + i});
     project.Write();
     ASSERT_TRUE(project.Load());
-    const CPier& pier = g_DataSet.FirstPier();
+    const CPier& pier = project.Pier();
     const CFrame& frame = pier.m_Frame;
     const CElement& left = pier.Element(frame.m_Cantilevers[0].m_nFirstElement);
     EXPECT_EQ(left.m_nElementNumber, 9);
@@ -250,7 +249,7 @@ TEST(PierHeader, ColumnsOfMinusOneNodesTakeNoRowOfTheElementTable) {
     EXPECT_EQ(right.m_nNodeI, 7);
     EXPECT_EQ(right.m_nNodeJ, 8);
     // Forces go by the element number: record 4 + 9 of each case, piles first.
-    EXPECT_EQ(pier.Forces(0, frame.m_Cantilevers[0].m_nFirstElement)[kAxial], 1313.0F);
+    EXPECT_EQ(project.Forces(0, frame.m_Cantilevers[0].m_nFirstElement)[kAxial], 1313.0F);
 }
 
 TEST(PierHeader, ColumnSectionsBelowOneCountAsOne) {
@@ -260,8 +259,7 @@ TEST(PierHeader, ColumnSectionsBelowOneCountAsOne) {
         project.substructures[0].columnSections = sections;
         project.Write();
         ASSERT_TRUE(project.Load()) << sections;
-        EXPECT_EQ(g_DataSet.FirstPier().m_nColumnSections, 1);
-        EXPECT_EQ(g_DataSet.FirstPier().m_ColumnForces.Sections(), 1);
+        EXPECT_EQ(project.Pier().m_nColumnSections, 1);
     }
 }
 
@@ -271,11 +269,10 @@ TEST(PierHeader, NegativeExtraMembersAndTheirSectionsCountAsNone) {
         project.substructures[0].extraMembers = project.substructures[0].xMemberSections = count;
         project.Write();
         ASSERT_TRUE(project.Load()) << count;
-        const CPier& pier = g_DataSet.FirstPier();
+        const CPier& pier = project.Pier();
         EXPECT_EQ(pier.m_nExtraMembers, 0);
         EXPECT_EQ(pier.m_nXMemberSections, 0);
-        EXPECT_EQ(pier.m_XMemberForces.Sections(), 0);
-        EXPECT_FALSE(g_DataSet.HasExtraMembers());
+        EXPECT_FALSE(project.Data().HasExtraMembers());
     }
 }
 
@@ -293,8 +290,8 @@ TEST(PierHeader, WhatNothingUsesAtTheEndOfAFileMayBeAbsent) {
         for (const std::string& bytes : {file.End(), file.WithoutEnd()}) {
             project.WriteFile(".ncv", bytes);
             ASSERT_TRUE(project.Load()) << records;
-            EXPECT_EQ(g_DataSet.m_nLoadCases, 2);
-            EXPECT_EQ(g_DataSet.m_nAnalysisMode, 0);
+            EXPECT_EQ(project.Data().m_nLoadCases, 2);
+            EXPECT_EQ(project.Data().m_nAnalysisMode, 0);
         }
     }
     project.Write();
@@ -303,7 +300,7 @@ TEST(PierHeader, WhatNothingUsesAtTheEndOfAFileMayBeAbsent) {
     for (const std::size_t cut : {1U, 2U, 10U, 11U}) {
         project.WriteFile(".PLF", pileFile.substr(0, pileFile.size() - cut));
         ASSERT_TRUE(project.Load()) << cut;
-        EXPECT_EQ(g_DataSet.m_nPlfExtraCount, 0);
+        EXPECT_EQ(project.Data().m_nPlfExtraCount, 0);
     }
     project.Write();
     // So are the flags of two piles in the pile model file.
@@ -325,8 +322,8 @@ TEST(PierHeader, GapsInTheElementNumbersAreMasked) {
     sub.rows = {{1, 1, 1, 1}, {2, 1, 1, 1}, {5, 1, 1, 1}};
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_nElementGaps, 2);
-    EXPECT_THAT(g_DataSet.FirstPier().m_ElementMask, testing::ElementsAre(0, 0, 1, 1, 0));
+    EXPECT_EQ(project.Data().m_nElementGaps, 2);
+    EXPECT_THAT(project.Pier().m_ElementMask, testing::ElementsAre(0, 0, 1, 1, 0));
 }
 
 TEST(PierHeader, AGroupHasNoMask) {
@@ -334,8 +331,8 @@ TEST(PierHeader, AGroupHasNoMask) {
     project.substructures[0].rows = {{1, 1, 1, 1}, {4, 1, 1, 1}};
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_TRUE(g_DataSet.FirstPier().m_ElementMask.empty());
-    EXPECT_EQ(g_DataSet.m_nElementGaps, 2);
+    EXPECT_TRUE(project.Pier().m_ElementMask.empty());
+    EXPECT_EQ(project.Data().m_nElementGaps, 2);
 }
 
 TEST(PierHeader, APiersOwnNodesStandWithoutItsFoundations) {
@@ -343,7 +340,7 @@ TEST(PierHeader, APiersOwnNodesStandWithoutItsFoundations) {
     project.substructures[0] = MakePier();
     project.Write();
     ASSERT_TRUE(project.Load());
-    const CPier& pier = g_DataSet.FirstPier();
+    const CPier& pier = project.Pier();
     // One span node, two columns of three nodes, two cantilevers of two.
     EXPECT_EQ(pier.m_nPierNodes, 11);
     EXPECT_EQ(pier.m_nFoundationNodes, 2);
@@ -361,7 +358,7 @@ TEST(Bearings, SevenLeftAndSixRightGiveTwoRowsOfThree) {
     sub.rightBearingNodes = {7, 8, 9, 10, 11};
     project.Write();
     ASSERT_TRUE(project.Load());
-    const CPier& pier = g_DataSet.FirstPier();
+    const CPier& pier = project.Pier();
     ASSERT_EQ(pier.m_nBearingRows, 2);
     ASSERT_EQ(pier.m_BearingRows[0].m_Bearings.size(), 3U);
     ASSERT_EQ(pier.m_BearingRows[1].m_Bearings.size(), 3U);
@@ -383,7 +380,7 @@ TEST(Bearings, RowsExactlyTheLimitApartAreOne) {
             sub.rightBearingNodes = {6, 7, 5};
             project.Write();
             ASSERT_TRUE(project.Load());
-            EXPECT_EQ(g_DataSet.FirstPier().m_nBearingRows, rows) << distance;
+            EXPECT_EQ(project.Pier().m_nBearingRows, rows) << distance;
         }
     }
 }
@@ -399,7 +396,7 @@ TEST(Bearings, ARightRowOnTheOtherSideCountsAsTheSameRow) {
     sub.rightBearingNodes = {6, 7, 5};
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.FirstPier().m_nBearingRows, 1);
+    EXPECT_EQ(project.Pier().m_nBearingRows, 1);
 }
 
 TEST(Bearings, EntriesOfARowMayShareARecord) {
@@ -416,7 +413,7 @@ TEST(Bearings, EntriesOfARowMayShareARecord) {
     project.WriteFile(".pls",
                       SeqBytes().Ints(counts).Doubles(left).Doubles(right).Ints(nodes).Ints(nodes).End());
     ASSERT_TRUE(project.Load());
-    const CPier& pier = g_DataSet.FirstPier();
+    const CPier& pier = project.Pier();
     ASSERT_EQ(pier.m_nBearingRows, 1);
     ASSERT_EQ(pier.m_BearingRows[0].m_Bearings.size(), 3U);
     EXPECT_EQ(pier.m_BearingRows[0].m_Bearings[0].m_nNode, 6);
@@ -429,6 +426,6 @@ TEST(Bearings, NoEntriesGiveTwoRowsOfNone) {
     project.substructures[0] = MakePier();
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.FirstPier().m_nBearingRows, 2);
-    EXPECT_TRUE(g_DataSet.FirstPier().m_BearingRows[1].m_Bearings.empty());
+    EXPECT_EQ(project.Pier().m_nBearingRows, 2);
+    EXPECT_TRUE(project.Pier().m_BearingRows[1].m_Bearings.empty());
 }

@@ -1,17 +1,17 @@
 #include <string>
 
-#include "ResultProject.h"
+#include "support/ResultProject.h"
 
 // The sections of the keyed text file, with the widths that the cap faces are worked out from.
 
 namespace {
 
-double Width(int element) {
-    return g_DataSet.FirstPier().SectionData(element).m_dWidth;
+double Width(const ResultProject& project, int element) {
+    return project.Pier().SectionData(element).m_dWidth;
 }
 
-const CFrame& Frame() {
-    return g_DataSet.FirstPier().m_Frame;
+const CFrame& Frame(const ResultProject& project) {
+    return project.Pier().m_Frame;
 }
 
 bool LoadPier(ResultProject& project, const std::string& text) {
@@ -28,18 +28,18 @@ TEST(PierSections, EachElementMayHaveALineOfItsOwn) {
     ASSERT_TRUE(LoadPier(project,
                          "PIERXSEC\nP= 1 L= 0\nskipped\nN= 9\nC= 1 B= 1 R= 1\n"
                          "S= 3 D= 7 W= 1 Z= 8 G= 9\nW= 2\nW= 3\nW= 4\nW= 5\nW= 6\nW= 7\nW= 8\n:\n"));
-    const CPier& pier = g_DataSet.FirstPier();
-    EXPECT_EQ(Width(pier.ColumnElement(0, 0)), 1.0);
-    EXPECT_EQ(Width(pier.ColumnElement(0, 1)), 2.0);
-    EXPECT_EQ(Width(pier.ColumnElement(1, 0)), 1.0);
-    EXPECT_EQ(Width(pier.ColumnElement(1, 1)), 2.0);
-    EXPECT_EQ(Width(Frame().m_Beam.m_nFirstElement), 3.0);
-    EXPECT_EQ(Width(Frame().m_Beam.m_nFirstElement + 1), 4.0);
+    const CPier& pier = project.Pier();
+    EXPECT_EQ(Width(project, pier.ColumnElement(0, 0)), 1.0);
+    EXPECT_EQ(Width(project, pier.ColumnElement(0, 1)), 2.0);
+    EXPECT_EQ(Width(project, pier.ColumnElement(1, 0)), 1.0);
+    EXPECT_EQ(Width(project, pier.ColumnElement(1, 1)), 2.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Beam.m_nFirstElement), 3.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Beam.m_nFirstElement + 1), 4.0);
     // The left cantilever is described from its last element to its first.
-    EXPECT_EQ(Width(Frame().m_Cantilevers[0].m_nFirstElement + 1), 5.0);
-    EXPECT_EQ(Width(Frame().m_Cantilevers[0].m_nFirstElement), 6.0);
-    EXPECT_EQ(Width(Frame().m_Cantilevers[1].m_nFirstElement), 7.0);
-    EXPECT_EQ(Width(Frame().m_Cantilevers[1].m_nFirstElement + 1), 8.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Cantilevers[0].m_nFirstElement + 1), 5.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Cantilevers[0].m_nFirstElement), 6.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Cantilevers[1].m_nFirstElement), 7.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Cantilevers[1].m_nFirstElement + 1), 8.0);
     const CSectionData& section = pier.SectionData(pier.ColumnElement(0, 0));
     EXPECT_EQ(section.m_nShape, 3);
     EXPECT_EQ(section.m_dD, 7.0);
@@ -51,26 +51,26 @@ TEST(PierSections, OneLineMayServeAWholeMember) {
     ResultProject project;
     ASSERT_TRUE(
         LoadPier(project, "PIERXSEC\nP= 1 L= 0\nskipped\nN= 3\nC= 0 B= 0 R= 0\nW= 1\nW= 2\nW= 3\nW= 4\n:\n"));
-    const CPier& pier = g_DataSet.FirstPier();
-    EXPECT_EQ(Width(pier.ColumnElement(1, 1)), 1.0);
-    EXPECT_EQ(Width(Frame().m_Beam.m_nFirstElement + 1), 2.0);
-    EXPECT_EQ(Width(Frame().m_Cantilevers[0].m_nFirstElement), 3.0);
-    EXPECT_EQ(Width(Frame().m_Cantilevers[1].m_nFirstElement + 1), 3.0);
+    const CPier& pier = project.Pier();
+    EXPECT_EQ(Width(project, pier.ColumnElement(1, 1)), 1.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Beam.m_nFirstElement + 1), 2.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Cantilevers[0].m_nFirstElement), 3.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Cantilevers[1].m_nFirstElement + 1), 3.0);
 }
 
 TEST(PierSections, AFirstBlockWithoutFlagsHasOneLineForEachMember) {
     ResultProject project;
     ASSERT_TRUE(
         LoadPier(project, "PIERXSEC\nP= 1 L= 0\nskipped\nN= 3\nno flags\nW= 1\nW= 2\nW= 3\nW= 4\nW= 5\n:\n"));
-    const CPier& pier = g_DataSet.FirstPier();
-    EXPECT_EQ(Width(pier.ColumnElement(0, 0)), 1.0);
-    EXPECT_EQ(Width(pier.ColumnElement(0, 1)), 1.0);
-    EXPECT_EQ(Width(Frame().m_Beam.m_nFirstElement), 2.0);
-    EXPECT_EQ(Width(Frame().m_Beam.m_nFirstElement + 1), 2.0);
+    const CPier& pier = project.Pier();
+    EXPECT_EQ(Width(project, pier.ColumnElement(0, 0)), 1.0);
+    EXPECT_EQ(Width(project, pier.ColumnElement(0, 1)), 1.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Beam.m_nFirstElement), 2.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Beam.m_nFirstElement + 1), 2.0);
     // The same line serves both cantilevers.
-    for (const CCantilever& cantilever : Frame().m_Cantilevers) {
-        EXPECT_EQ(Width(cantilever.m_nFirstElement), 3.0);
-        EXPECT_EQ(Width(cantilever.m_nFirstElement + 1), 3.0);
+    for (const CCantilever& cantilever : Frame(project).m_Cantilevers) {
+        EXPECT_EQ(Width(project, cantilever.m_nFirstElement), 3.0);
+        EXPECT_EQ(Width(project, cantilever.m_nFirstElement + 1), 3.0);
     }
 }
 
@@ -85,11 +85,11 @@ TEST(PierSections, AColumnWithoutInteriorNodesTakesNoWidth) {
     project.Write();
     project.WriteFile(".MIS", "PIERXSEC\nP= 1 L= 0\nskipped\nN= 3\nC= 0 B= 0 R= 0\nW= 9\nW= 2\nW= 3\n:\n");
     ASSERT_TRUE(project.Load());
-    const CPier& pier = g_DataSet.FirstPier();
+    const CPier& pier = project.Pier();
     // The column's line is passed over: both faces of a support lie on its centre.
-    EXPECT_EQ(Width(pier.ColumnElement(0, 0)), 0.0);
+    EXPECT_EQ(Width(project, pier.ColumnElement(0, 0)), 0.0);
     EXPECT_EQ(pier.GetSupportWidth(0), 0.0);
-    EXPECT_EQ(Width(Frame().m_Beam.m_nFirstElement), 2.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Beam.m_nFirstElement), 2.0);
 }
 
 TEST(PierSections, ATaperedColumnGoesOnHalfAStep) {
@@ -97,7 +97,7 @@ TEST(PierSections, ATaperedColumnGoesOnHalfAStep) {
     ASSERT_TRUE(LoadPier(project,
                          "PIERXSEC\nP= 1 L= 0\nskipped\nN= 3\nC= 2 B= 0 R= 0\n"
                          "D= 10 W= 20 Z= 30 G= 1\nD= 12 W= 26 Z= 31 G= 2\nW= 3\n:\n"));
-    const CSectionData& last = g_DataSet.FirstPier().SectionData(g_DataSet.FirstPier().ColumnElement(0, 1));
+    const CSectionData& last = project.Pier().SectionData(project.Pier().ColumnElement(0, 1));
     EXPECT_EQ(last.m_dD, 13.0);
     EXPECT_EQ(last.m_dWidth, 29.0);
     EXPECT_EQ(last.m_dZ, 31.5);
@@ -109,11 +109,11 @@ TEST(PierSections, SquaredWidthsBecomeTheirRootsWhereAZStandsOnTheLine) {
     ASSERT_TRUE(LoadPier(project,
                          "PIERXSEC\nP= 1 L= 1\nskipped\nN= 3\nC= 0 B= 0 R= 0\nW= 1296.0 Z= 16.0 G= 4\n"
                          "W= 49.0\nW= 1.0\n:\n"));
-    const CPier& pier = g_DataSet.FirstPier();
-    EXPECT_EQ(Width(pier.ColumnElement(0, 0)), 36.0);
+    const CPier& pier = project.Pier();
+    EXPECT_EQ(Width(project, pier.ColumnElement(0, 0)), 36.0);
     // What is copied from it is rooted too.
-    EXPECT_EQ(Width(pier.ColumnElement(1, 0)), 36.0);
-    EXPECT_EQ(Width(Frame().m_Beam.m_nFirstElement), 49.0);
+    EXPECT_EQ(Width(project, pier.ColumnElement(1, 0)), 36.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Beam.m_nFirstElement), 49.0);
 }
 
 TEST(PierSections, ALineMayGoOnBehindABackslashAndKeysMayBeSmall) {
@@ -121,19 +121,19 @@ TEST(PierSections, ALineMayGoOnBehindABackslashAndKeysMayBeSmall) {
     ASSERT_TRUE(LoadPier(project,
                          "PIERXSEC\nP= 1 L= 0\nskipped\nN= 3\nc= 0 B= 0 R= 0\n s= 3 d= 48.0 \\ dropped\n"
                          " w= 24.0\nW= 2\nW= 3\n:\n"));
-    const CSectionData& column = g_DataSet.FirstPier().SectionData(g_DataSet.FirstPier().ColumnElement(0, 0));
+    const CSectionData& column = project.Pier().SectionData(project.Pier().ColumnElement(0, 0));
     EXPECT_EQ(column.m_nShape, 3);
     EXPECT_EQ(column.m_dD, 48.0);
     EXPECT_EQ(column.m_dWidth, 24.0);
-    EXPECT_EQ(Width(Frame().m_Beam.m_nFirstElement), 2.0);
+    EXPECT_EQ(Width(project, Frame(project).m_Beam.m_nFirstElement), 2.0);
 }
 
 TEST(PierSections, AValueThatIsNoNumberLeavesTheField) {
     ResultProject project;
     ASSERT_TRUE(LoadPier(
         project, "PIERXSEC\nP= 1 L= 0\nskipped\nN= 3\nC= 1 B= 0 R= 0\nW= 7\nW= wide\nW= 2\nW= 3\n:\n"));
-    EXPECT_EQ(Width(g_DataSet.FirstPier().ColumnElement(0, 0)), 7.0);
-    EXPECT_EQ(Width(g_DataSet.FirstPier().ColumnElement(0, 1)), 0.0);
+    EXPECT_EQ(Width(project, project.Pier().ColumnElement(0, 0)), 7.0);
+    EXPECT_EQ(Width(project, project.Pier().ColumnElement(0, 1)), 0.0);
 }
 
 TEST(PierSections, ABentsBlockHasItsOneColumnLineAndFlagsStand) {
@@ -145,7 +145,7 @@ TEST(PierSections, ABentsBlockHasItsOneColumnLineAndFlagsStand) {
                       "PIERXSEC\nP= 2 L= 0\nskipped\nN= 3\nC= 0 B= 1 R= 0\nW= 1\nW= 2\nW= 3\nW= 4\n"
                       "skipped\nN= 3\nno flags\nW= 5\nW= 6\nW= 7\nW= 8\n:\n");
     ASSERT_TRUE(project.Load());
-    const CPier& second = g_DataSet.m_Piers[1];
+    const CPier& second = project.Data().m_Piers[1];
     EXPECT_EQ(second.SectionData(second.m_Frame.m_Beam.m_nFirstElement).m_dWidth, 6.0);
     EXPECT_EQ(second.SectionData(second.m_Frame.m_Beam.m_nFirstElement + 1).m_dWidth, 7.0);
     EXPECT_EQ(second.SectionData(second.m_Frame.m_Cantilevers[1].m_nFirstElement).m_dWidth, 8.0);
@@ -154,7 +154,7 @@ TEST(PierSections, ABentsBlockHasItsOneColumnLineAndFlagsStand) {
 TEST(PierSections, KeywordsAreMatchedInTheirLetterCase) {
     ResultProject project;
     ASSERT_TRUE(LoadPier(project, "pierxsec\nP= 1 L= 0\ns\nN= 3\nC= 0 B= 0 R= 0\nW= 1\nW= 2\nW= 3\n:\n"));
-    EXPECT_EQ(Width(g_DataSet.FirstPier().ColumnElement(0, 0)), 0.0);
+    EXPECT_EQ(Width(project, project.Pier().ColumnElement(0, 0)), 0.0);
 }
 
 TEST(PierSections, AGroupHasNone) {
@@ -172,10 +172,10 @@ TEST(ProjectData, TextsAreCutToTheirLength) {
         "PROJECTDATA\nL= 5 N= a bridge of 1901\nL= 40 D=   short one \nT= same length as the line "
         "before it, cut there\nL= 3 X= none\n:\n");
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_sProjectN, "a bri");
-    EXPECT_EQ(g_DataSet.m_sProjectD, "short one");
-    EXPECT_EQ(g_DataSet.m_sProjectT, "same length as the line before it, cut t");
-    EXPECT_EQ(g_DataSet.m_sProjectC, "");
+    EXPECT_EQ(project.Data().m_sProjectN, "a bri");
+    EXPECT_EQ(project.Data().m_sProjectD, "short one");
+    EXPECT_EQ(project.Data().m_sProjectT, "same length as the line before it, cut t");
+    EXPECT_EQ(project.Data().m_sProjectC, "");
 }
 
 TEST(PierData, LocationsGoBySubstructureNumber) {
@@ -185,9 +185,9 @@ TEST(PierData, LocationsGoBySubstructureNumber) {
     // The second line names no location, the third no number; 9 and 0 name no substructure.
     project.WriteFile(".MIS", "PIERDATA\nN= 5\nP= 2 X= 12.5\nP= 3\nX= 7.0\nP= 9 X= 1\nP= 0 X= 1\n:\n");
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_Piers[0].m_dLocationX, 0.0);
-    EXPECT_EQ(g_DataSet.m_Piers[1].m_dLocationX, 12.5);
-    EXPECT_EQ(g_DataSet.m_Piers[2].m_dLocationX, 7.0);
+    EXPECT_EQ(project.Data().m_Piers[0].m_dLocationX, 0.0);
+    EXPECT_EQ(project.Data().m_Piers[1].m_dLocationX, 12.5);
+    EXPECT_EQ(project.Data().m_Piers[2].m_dLocationX, 7.0);
 }
 
 TEST(PierData, AFirstLineWithoutANumberNamesNoSubstructure) {
@@ -196,15 +196,15 @@ TEST(PierData, AFirstLineWithoutANumberNamesNoSubstructure) {
     project.Write();
     project.WriteFile(".MIS", "PIERDATA\nN= 2\nX= 7.0\nP= 2\n:\n");
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_Piers[0].m_dLocationX, 0.0);
-    EXPECT_EQ(g_DataSet.m_Piers[1].m_dLocationX, 7.0);  // that of the line before
+    EXPECT_EQ(project.Data().m_Piers[0].m_dLocationX, 0.0);
+    EXPECT_EQ(project.Data().m_Piers[1].m_dLocationX, 7.0);  // that of the line before
 }
 
 TEST(KeyedText, AMissingFileSetsNothing) {
     ResultProject project;
     project.Write();
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_sProjectN, "");
+    EXPECT_EQ(project.Data().m_sProjectN, "");
 }
 
 TEST(KeyedText, ALineThatIsTooLongEndsTheScan) {
@@ -212,8 +212,8 @@ TEST(KeyedText, ALineThatIsTooLongEndsTheScan) {
     project.Write();
     project.WriteFile(".MIS", std::string(128, 'x') + "\nPROJECTDATA\nL= 5 N= never\n");
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_sProjectN, "");
+    EXPECT_EQ(project.Data().m_sProjectN, "");
     project.WriteFile(".MIS", std::string(127, 'x') + "\r\nPROJECTDATA\nL= 5 N= legal\n");
     ASSERT_TRUE(project.Load());
-    EXPECT_EQ(g_DataSet.m_sProjectN, "legal");
+    EXPECT_EQ(project.Data().m_sProjectN, "legal");
 }

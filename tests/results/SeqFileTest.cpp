@@ -2,7 +2,7 @@
 
 #include <numeric>
 
-#include "ResultProject.h"
+#include "support/ResultProject.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "ProjectReader.h"
-#include "SampleFolder.h"
+#include "support/SampleFolder.h"
 
 namespace {
 

@@ -5,9 +5,9 @@
 #include <cmath>
 
 #include "ProjectReader.h"
-#include "SampleFolder.h"
 #include "samples/CapForces.h"
 #include "samples/Geometry.h"
+#include "support/SampleFolder.h"
 
 namespace {
 

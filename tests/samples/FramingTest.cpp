@@ -2,9 +2,9 @@
 #include <gtest/gtest.h>
 
 #include "ProjectReader.h"
-#include "SampleFolder.h"
 #include "samples/OutputFile.h"
 #include "samples/ResultFiles.h"
+#include "support/SampleFolder.h"
 
 using samples::Record;
 using samples::SequentialFile;

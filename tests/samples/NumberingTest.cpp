@@ -5,7 +5,7 @@
 #include <map>
 
 #include "ProjectReader.h"
-#include "SampleFolder.h"
+#include "support/SampleFolder.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <sstream>
 
 #include "ProjectReader.h"
-#include "SampleFolder.h"
 #include "samples/CommandLine.h"
+#include "support/SampleFolder.h"
 
 namespace {
 

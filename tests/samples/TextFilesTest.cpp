@@ -6,8 +6,8 @@
 #include <set>
 
 #include "ProjectReader.h"
-#include "SampleFolder.h"
 #include "samples/LoadCases.h"
+#include "support/SampleFolder.h"
 
 using samples::CodeFamily;
 using samples::DistributeLimitStates;

@@ -11,6 +11,10 @@
 #include "framework/headless/Headless.h"
 #include "session/Constants.h"
 #include "session/Session.h"
+#include "session/TableRun.h"
+#include "support/Forces.h"
+#include "support/ScratchFolder.h"
+#include "writers/PdfExport.h"
 
 namespace {
 
@@ -110,15 +114,85 @@ TEST_F(OutputFiles, OthersOpenInTheProgramOfTheirType) {
     }
 }
 
+TEST_F(OutputFiles, WorkbooksOfGridsOpenInTheSpreadsheetProgram) {
+    OpenInSpreadsheet("C:\\my jobs\\pier_Name.xml");
+    ASSERT_EQ(m_sink.starts.size(), 1U);
+    EXPECT_EQ(m_sink.starts[0].verb, "open");
+    EXPECT_EQ(m_sink.starts[0].file, "Excel");
+    EXPECT_EQ(m_sink.starts[0].parameters, "\"C:\\my jobs\\pier_Name.xml\"");
+    EXPECT_EQ(Messages(), Texts{});
+}
+
+TEST_F(OutputFiles, AWorkbookThatDoesNotOpenIsToldInTheWordsOfTheStart) {
+    headless::State().shellCode = 2;
+    OpenInSpreadsheet("C:\\jobs\\pier_Name.xml");
+    EXPECT_EQ(Messages(), Texts{"The application specified to open the file was not found on this machine."});
+}
+
+// A grid of one cell and the description that goes to the table image builder.
+class TableBuilder : public OutputFiles {
+  protected:
+    void SetUp() override {
+        OutputFiles::SetUp();
+        headless::State().programPath = "/opt/host/Tarnsway.exe";
+        m_grid.SetRowCount(1);
+        m_grid.SetColumnCount(1);
+    }
+    void Start() {
+        CPdfExport table(m_grid, m_scratch.PathOf("PdfTemp.txt"), "C:\\p\\MPTE.pdf");
+        StartTableBuilder(table);
+    }
+
+    const ScratchFolder m_scratch;
+    CGridCtrl m_grid;
+};
+
+TEST_F(TableBuilder, BesideTheHostIsStartedWithTheQuotedDescription) {
+    Start();
+    ASSERT_EQ(m_sink.starts.size(), 1U);
+    EXPECT_EQ(m_sink.starts[0].verb, "");
+    EXPECT_EQ(m_sink.starts[0].file, "/opt/host/Jarlimex.exe");
+    EXPECT_EQ(m_sink.starts[0].parameters, '"' + m_scratch.PathOf("PdfTemp.txt") + '"');
+    EXPECT_TRUE(m_scratch.Has("PdfTemp.txt"));
+}
+
+TEST_F(TableBuilder, ThatIsMissingIsNotNoticed) {
+    headless::State().shellCode = 2;
+    Start();
+    EXPECT_EQ(Messages(), Texts{});
+}
+
+TEST_F(TableBuilder, IsNotStartedForAnEmptyGrid) {
+    m_grid.SetColumnCount(0);
+    Start();
+    EXPECT_EQ(Messages(), Texts{"Error: Empty Grid - Either the number of rows or columns is 0."});
+    EXPECT_TRUE(m_sink.starts.empty());
+}
+
+TEST_F(OutputFiles, AnEnvelopeFileThatCannotBeOpenedIsSilent) {
+    const ScratchFolder scratch;
+    g_ProjectBasePath = scratch.PathOf("no such folder/pier");
+    g_DataSet.m_Piers.emplace_back();
+    ReportState state;
+    state.selection = CaseSelection(g_DataSet);
+    state.forces.push_back(std::make_unique<MemoryForces>(g_DataSet.FirstPier()));
+    state.results = ResultTables(g_DataSet);
+    state.enabled = kAllTables;
+    RunEnvelopeFile(state);
+    g_DataSet.Reset();
+    EXPECT_EQ(g_OutputFilePath, scratch.PathOf("no such folder/pier_Envelopes.txt"));
+    EXPECT_EQ(Messages(), Texts{});
+    EXPECT_FALSE(scratch.Has("no such folder"));
+}
+
 TEST_F(OutputFiles, StayWhenTheSpreadsheetProgramIsMissing) {
-    const std::filesystem::path file = std::filesystem::path(testing::TempDir()) / "stays_table.xml";
-    std::ofstream(file) << "a table";
-    g_OutputFilePath = file.string();
+    const ScratchFolder scratch;
+    scratch.Write("table.xml", "a table");
+    g_OutputFilePath = scratch.PathOf("table.xml");
     headless::State().shellCode = 2;
     ShowOutputFile(kFormatSpreadsheet);
     EXPECT_EQ(Messages(), Texts{"The application specified to open the file was not found on this machine."});
-    EXPECT_TRUE(std::filesystem::exists(file));
-    std::filesystem::remove(file);
+    EXPECT_TRUE(scratch.Has("table.xml"));
 }
 
 TEST_F(OutputFiles, FailedStartsAreToldInTheirWords) {
@@ -203,37 +277,18 @@ TEST_F(OutputFiles, AViewerValueIsDecimalText) {
     EXPECT_EQ(ReadViewerValue("iPointSize"), "");
 }
 
+// The setting is in tenths of a point.
+TEST_F(OutputFiles, TheViewersFontSizeIsInWholePoints) {
+    EXPECT_EQ(ViewerFontSize(), 0);
+    headless::State().viewerNumbers["iPointSize"] = 109;
+    EXPECT_EQ(ViewerFontSize(), 10);
+    headless::State().viewerNumbers["iPointSize"] = 140;
+    EXPECT_EQ(ViewerFontSize(), 14);
+}
+
 TEST_F(OutputFiles, OnlyTwoModesTurnThePrinter) {
     for (const int mode : {0, 1, 2, -1}) SetDefaultPrinterOrientation(mode);
     EXPECT_EQ(m_sink.orientations, (std::vector{false, true}));
-}
-
-std::vector<int> Split(const std::vector<int>& weights, int total) {
-    std::vector<int> out(weights.size(), -1);
-    SplitWidth(weights, out, total);
-    return out;
-}
-
-TEST(SplitWidths, GiveWhatIsLeftToTheFirstColumns) {
-    EXPECT_EQ(Split({1, 1, 1}, 100), (std::vector{34, 33, 33}));
-    EXPECT_EQ(Split({1, 1, 1}, 101), (std::vector{34, 34, 33}));
-    EXPECT_EQ(Split({5, 3, 2}, 17), (std::vector{9, 5, 3}));  // 8.5, 5.1, 3.4
-    EXPECT_EQ(Split({3, 1}, 8), (std::vector{6, 2}));
-    EXPECT_EQ(Split({0, 1}, 7), (std::vector{0, 7}));
-    EXPECT_EQ(Split({1, 2}, 0), (std::vector{0, 0}));
-}
-
-TEST(SplitWidths, AddUpToTheTotal) {
-    const std::vector<int> weights{7, 11, 2, 2, 13, 1};
-    for (int total = 0; total < 500; ++total) {
-        const std::vector<int> widths = Split(weights, total);
-        ASSERT_EQ(std::accumulate(widths.begin(), widths.end(), 0), total);
-    }
-}
-
-TEST(SplitWidths, WithoutWeightsLeaveTheColumnsAlone) {
-    EXPECT_EQ(Split({}, 10), std::vector<int>{});
-    EXPECT_EQ(Split({0, 0}, 10), (std::vector{-1, -1}));
 }
 
 }  // namespace

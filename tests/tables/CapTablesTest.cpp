@@ -1,4 +1,4 @@
-#include "tables/ReportModel.h"
+#include "support/ReportFixture.h"
 
 // Tables 3 and 4, on result tables filled by hand.
 namespace {
@@ -24,33 +24,35 @@ const std::string kColumnWord = "    Col = Column                               
 
 class CapTables : public ReportTest {
   protected:
-    static void AddShearSection(CPier& pier, double x, int support, int kind) {
-        pier.m_ShearSupportX.push_back(x);
-        pier.m_ShearSupportList.push_back({support, kind});
-        pier.m_nCapShearSupports = static_cast<int>(pier.m_ShearSupportX.size());
-        CountRows(pier);
+    // All of these add to the first substructure.
+    void AddShearSection(double x, int support, int kind) {
+        Results().shearSupportX.push_back(x);
+        Results().shearSupportList.push_back({support, kind});
+        Pier().m_nCapShearSupports = static_cast<int>(Results().shearSupportX.size());
+        CountRows();
     }
-    static void AddMomentSection(CPier& pier, double x, int support, int kind) {
-        pier.m_MomentSupportX.push_back(x);
-        pier.m_MomentSupportList.push_back({support, kind});
-        pier.m_nCapMomentSupports = static_cast<int>(pier.m_MomentSupportX.size());
-        CountRows(pier);
+    void AddMomentSection(double x, int support, int kind) {
+        Results().momentSupportX.push_back(x);
+        Results().momentSupportList.push_back({support, kind});
+        Pier().m_nCapMomentSupports = static_cast<int>(Results().momentSupportX.size());
+        CountRows();
     }
-    static void AddBearing(CPier& pier, double x, const CBearingLocation& location) {
-        pier.m_BearingX.push_back(x);
-        pier.m_BearingList.push_back(location);
-        pier.m_nCapBearings = static_cast<int>(pier.m_BearingX.size());
-        CountRows(pier);
+    void AddBearing(double x, const CBearingLocation& location) {
+        Pier().m_BearingX.push_back(x);
+        Pier().m_BearingList.push_back(location);
+        Pier().m_nCapBearings = static_cast<int>(Pier().m_BearingX.size());
+        CountRows();
     }
-    static void CountRows(CPier& pier) {
+    void CountRows() {
+        CPier& pier = Pier();
         pier.m_nCapShearPoints = pier.m_nCapShearSupports + 2 * pier.m_nCapBearings;
         pier.m_nCapMomentPoints = pier.m_nCapMomentSupports + pier.m_nCapBearings;
     }
-    static void AllocateCap(CPier& pier, int slots) {
-        pier.m_ShearSupports.Allocate(4, slots, 4);
-        pier.m_MomentSupports.Allocate(4, slots, 3);
-        pier.m_ShearBearings.Allocate(4, slots, 4);
-        pier.m_MomentBearings.Allocate(4, slots, 2);
+    void AllocateCap(int slots) {
+        Results().shearSupports.Allocate(4, slots, 4);
+        Results().momentSupports.Allocate(4, slots, 3);
+        Results().shearBearings.Allocate(4, slots, 4);
+        Results().momentBearings.Allocate(4, slots, 2);
     }
     static void Set(CCapEntry& entry, int loadCase, int element, int section, int end, int node,
                     int second = 0) {
@@ -76,22 +78,22 @@ class CapTables : public ReportTest {
 TEST_F(CapTables, ShearOfAPierInFull) {
     AddPiers(1);
     Fill(Pier(), 0, 1, 0, 2);
-    AllocateCap(Pier(), 1);
-    AddShearSection(Pier(), 1.0, 0, 0);
-    AddShearSection(Pier(), 3.0, 0, 3);
-    AddBearing(Pier(), 1.0, {0, 2, true, true});  // on the left face: the face comes first
-    Set(Pier().m_ShearSupports.At(0, 0, 0, 0), 0, 7, 2, kInsideElement, 11, 12);
-    Set(Pier().m_ShearSupports.At(0, 0, 3, 0), 1, 8, 2, kEndI, 13);
-    Set(Pier().m_ShearBearings.At(0, 0, 0, 0), 1, 9, 3, kEndJ, 14);
-    Set(Pier().m_ShearBearings.At(0, 0, 1, 0), 0, 10, 3, kEndI, 14);
-    Set(Pier().m_ShearSupports.At(0, 0, 0, 1), -1, 7, 2, kEndI, 11);
-    SetMissing(Pier().m_ShearSupports.At(0, 0, 3, 1));
-    Set(Pier().m_ShearBearings.At(0, 0, 0, 1), 1, 9, 3, kEndJ, 14);
-    Set(Pier().m_ShearBearings.At(0, 0, 1, 1), 0, 10, 3, kEndI, 14);
+    AllocateCap(1);
+    AddShearSection(1.0, 0, 0);
+    AddShearSection(3.0, 0, 3);
+    AddBearing(1.0, {0, 2, true, true});  // on the left face: the face comes first
+    Set(Results().shearSupports.At(0, 0, 0, 0), 0, 7, 2, kInsideElement, 11, 12);
+    Set(Results().shearSupports.At(0, 0, 3, 0), 1, 8, 2, kEndI, 13);
+    Set(Results().shearBearings.At(0, 0, 0, 0), 1, 9, 3, kEndJ, 14);
+    Set(Results().shearBearings.At(0, 0, 1, 0), 0, 10, 3, kEndI, 14);
+    Set(Results().shearSupports.At(0, 0, 0, 1), -1, 7, 2, kEndI, 11);
+    SetMissing(Results().shearSupports.At(0, 0, 3, 1));
+    Set(Results().shearBearings.At(0, 0, 0, 1), 1, 9, 3, kEndJ, 14);
+    Set(Results().shearBearings.At(0, 0, 1, 1), 0, 10, 3, kEndI, 14);
     const std::string values =
         "        1.00       -2.50        3.00        4.00    -1234.50        6.00     0.75\n";
     EXPECT_EQ(
-        Text(&CWriteData::WriteCapShearText),
+        Text(kTableCapShear),
         "\t                                        Pier Cap Shear F22 Design\n\n\n"
         "Pier Cap Shear F22 Design, Substructure  1:\n"
         "Maximum (+) Shear Forces at the Left and Right of the Bearings and at the Left Face, Right Face and"
@@ -123,14 +125,14 @@ TEST_F(CapTables, ShearOfAPierInFull) {
 TEST_F(CapTables, MomentOfAPierInFull) {
     AddPiers(1);
     Fill(Pier(), 0, 1, 0, 1);
-    AllocateCap(Pier(), 1);
-    AddMomentSection(Pier(), 2.0, 0, 1);
-    AddBearing(Pier(), 1.0, {0, 0, false, false});  // flags play no part in this table
-    AddBearing(Pier(), 3.0, {2, 1, false, false});
+    AllocateCap(1);
+    AddMomentSection(2.0, 0, 1);
+    AddBearing(1.0, {0, 0, false, false});  // flags play no part in this table
+    AddBearing(3.0, {2, 1, false, false});
     for (int extreme = 0; extreme < 2; ++extreme) {
-        Set(Pier().m_MomentSupports.At(0, 0, 1, extreme), 0, 7, 2, kEndI, 11);
-        Set(Pier().m_MomentBearings.At(0, 0, 0, extreme), 0, 9, 3, kEndJ, 14);
-        Set(Pier().m_MomentBearings.At(2, 0, 1, extreme), 0, 10, 3, -1, 15);
+        Set(Results().momentSupports.At(0, 0, 1, extreme), 0, 7, 2, kEndI, 11);
+        Set(Results().momentBearings.At(0, 0, 0, extreme), 0, 9, 3, kEndJ, 14);
+        Set(Results().momentBearings.At(2, 0, 1, extreme), 0, 10, 3, -1, 15);
     }
     const std::string values = "        1.00        4.00    -1234.50     0.75\n";
     const std::string rows = kMomentHead +  //
@@ -138,7 +140,7 @@ TEST_F(CapTables, MomentOfAPierInFull) {
                              "    Col 1 CL     7     2         11     1    I" + values +
                              "    Brg 3 RR    10     3         15     1  ***" + values;
     EXPECT_EQ(
-        Text(&CWriteData::WriteCapMomentText),
+        Text(kTableCapMoment),
         Blanks(32) +
             "Pier Cap M33 Moment Design\n\n\n"
             "Pier Cap M33 Moment Design, Substructure  1:\n"
@@ -160,15 +162,15 @@ TEST_F(CapTables, MomentOfAPierInFull) {
 TEST_F(CapTables, ABearingSideWithoutItsFlagNamesItsElementAndNothingElse) {
     AddPiers(1);
     Fill(Pier(), 0, 1, 0, 1);
-    AllocateCap(Pier(), 1);
-    AddBearing(Pier(), 1.0, {0, 0, false, true});
-    AddBearing(Pier(), 2.0, {0, 1, true, false});
-    for (int kind = 0; kind < 4; ++kind) Set(Pier().m_ShearBearings.At(0, 0, kind, 0), 0, 9, 3, kEndJ, 14);
+    AllocateCap(1);
+    AddBearing(1.0, {0, 0, false, true});
+    AddBearing(2.0, {0, 1, true, false});
+    for (int kind = 0; kind < 4; ++kind) Set(Results().shearBearings.At(0, 0, kind, 0), 0, 9, 3, kEndJ, 14);
     const std::string fillers =
         "         ***         ***         ***         ***         ***         ***      ***\n";
     const std::string values =
         "        1.00       -2.50        3.00        4.00    -1234.50        6.00     0.75\n";
-    EXPECT_EQ(RowsBehind(Text(&CWriteData::WriteCapShearText), kShearHead),
+    EXPECT_EQ(RowsBehind(Text(kTableCapShear), kShearHead),
               "  Brg 1 L LR     9     3         14   *** none" + fillers +  //
                   "  Brg 1 R LR     9     3         14     1    J" + values +
                   "  Brg 1 L RR     9     3         14     1    J" + values +
@@ -180,16 +182,16 @@ TEST_F(CapTables, FillersOfCombinationsHaveTheLimitStateGap) {
     Fill(Pier(), 0, 1, 0, 1);
     MakeCombinations(Pier(), kFamilyLfd, {});
     Pier().m_LoadCases[0].m_sLimitState = "GROUP-IA";
-    AllocateCap(Pier(), 1);
-    AddShearSection(Pier(), 1.0, 0, 1);
-    AddShearSection(Pier(), 1.0, 0, 2);
-    AddShearSection(Pier(), 2.0, 1, 9);  // no such kind
-    AddBearing(Pier(), 3.0, {0, 3, false, true});
-    SetMissing(Pier().m_ShearSupports.At(0, 0, 1, 0));
-    Set(Pier().m_ShearSupports.At(0, 0, 2, 0), 0, 7, 2, kEndI, 11);
-    Set(Pier().m_ShearBearings.At(0, 0, 0, 0), 0, 9, 3, kEndJ, 14);
-    Set(Pier().m_ShearBearings.At(0, 0, 1, 0), -1, 10, 3, kEndI, 14);
-    const std::string text = Text(&CWriteData::WriteCapShearText);
+    AllocateCap(1);
+    AddShearSection(1.0, 0, 1);
+    AddShearSection(1.0, 0, 2);
+    AddShearSection(2.0, 1, 9);  // no such kind
+    AddBearing(3.0, {0, 3, false, true});
+    SetMissing(Results().shearSupports.At(0, 0, 1, 0));
+    Set(Results().shearSupports.At(0, 0, 2, 0), 0, 7, 2, kEndI, 11);
+    Set(Results().shearBearings.At(0, 0, 0, 0), 0, 9, 3, kEndJ, 14);
+    Set(Results().shearBearings.At(0, 0, 1, 0), -1, 10, 3, kEndI, 14);
+    const std::string text = Text(kTableCapShear);
     const std::string fillers =
         "         ***         ***         ***         ***         ***         ***      ***\n";
     EXPECT_NE(text.find("   Col 1 LCL  miss   ***        ***   ***            ***  ***" + fillers),
@@ -209,11 +211,11 @@ TEST_F(CapTables, FatigueAloneHasItsBlockInTheMomentTable) {
     AddPiers(1);
     Fill(Pier(), 0, 1, 0, 1);
     MakeCombinations(Pier(), kFamilyLrfd, {3});
-    AllocateCap(Pier(), 4);
-    AddMomentSection(Pier(), 1.0, 0, 0);
-    SetMissing(Pier().m_MomentSupports.At(0, 3, 0, 0));
-    SetMissing(Pier().m_MomentSupports.At(0, 3, 0, 1));
-    const std::string text = Text(&CWriteData::WriteCapMomentText);
+    AllocateCap(4);
+    AddMomentSection(1.0, 0, 0);
+    SetMissing(Results().momentSupports.At(0, 3, 0, 0));
+    SetMissing(Results().momentSupports.At(0, 3, 0, 1));
+    const std::string text = Text(kTableCapMoment);
     const std::string row =
         "    Col 1 LF  miss   ***        ***   ***            ***  ***         ***         ***         ***"
         "      ***\n";
@@ -223,7 +225,7 @@ TEST_F(CapTables, FatigueAloneHasItsBlockInTheMomentTable) {
               std::string::npos);
     EXPECT_EQ(m_nLines, 3 + (5 + 2 + 3 + 1) + 3 + (4 + 2 + 3 + 1) + 4 + 4);
     // The shear table has headings and no block at all.
-    Text(&CWriteData::WriteCapShearText);
+    Text(kTableCapShear);
     EXPECT_EQ(m_nLines, 3 + 4 + 3 + 4 + 4 + 5);
 }
 
@@ -231,10 +233,10 @@ TEST_F(CapTables, ASectionIsFollowedByItsGapThoughTheNextOneIsAbsent) {
     AddPiers(1);
     Fill(Pier(), 0, 1, 0, 1);
     MakeCombinations(Pier(), kFamilyLrfd, {0, 2});
-    AllocateCap(Pier(), 4);
-    AddShearSection(Pier(), 1.0, 0, 0);
-    for (int slot = 0; slot < 4; ++slot) SetMissing(Pier().m_ShearSupports.At(0, slot, 0, 0));
-    const std::string text = Text(&CWriteData::WriteCapShearText);
+    AllocateCap(4);
+    AddShearSection(1.0, 0, 0);
+    for (int slot = 0; slot < 4; ++slot) SetMissing(Results().shearSupports.At(0, slot, 0, 0));
+    const std::string text = Text(kTableCapShear);
     EXPECT_NE(text.find("      ***\n\n\n EXTREME CASE DATA\n\n"), std::string::npos);
     // The extreme block has its two empty lines too, before the three that end the extreme.
     EXPECT_NE(text.find("      ***\n\n\n\n\n\nPier Cap Shear F22 Design, Substructure  1:\nMinimum"),
@@ -245,10 +247,10 @@ TEST_F(CapTables, ASectionIsFollowedByItsGapThoughTheNextOneIsAbsent) {
 TEST_F(CapTables, AMastHasItsWordInLabelsAndKey) {
     AddPiers(1, kTypeMast);
     Fill(Pier(), 0, 1, 0, 1);
-    AllocateCap(Pier(), 1);
-    AddShearSection(Pier(), 1.0, 0, 0);
-    Set(Pier().m_ShearSupports.At(0, 0, 0, 0), 0, 7, 2, kEndI, 11);
-    const std::string text = Text(&CWriteData::WriteCapShearText);
+    AllocateCap(1);
+    AddShearSection(1.0, 0, 0);
+    Set(Results().shearSupports.At(0, 0, 0, 0), 0, 7, 2, kEndI, 11);
+    const std::string text = Text(kTableCapShear);
     EXPECT_NE(text.find("\n    Mst 1 LF     7     2         11     1    I"), std::string::npos);
     EXPECT_NE(text.find("\n    Mst = Mast                                 Brg = Bearing\n"
                         "    LF  = Left Face of Mast                    L   = Left Side of Bearing\n"),
@@ -259,12 +261,12 @@ TEST_F(CapTables, TheKeyOfSeveralSubstructuresNamesPiersAndBents) {
     AddPiers(3);
     Pier(1).m_nStructureType = kTypePileBent;
     Pier(2).m_nStructureType = kTypePileGroup;
-    for (CPier& pier : g_DataSet.m_Piers) Fill(pier, 1, 0, 0, 1);
+    for (CPier& pier : data.m_Piers) Fill(pier, 1, 0, 0, 1);
     const std::string tail =
         "    LF  = Left Face of Support                 LR  = Bearing Is In The Left Row\n"
         "    RF  = Right Face of Support                RR  = Bearing Is In The Right Row\n"
         "    CL  = Centerline of Support\n";
-    std::string text = Text(&CWriteData::WriteCapMomentText);
+    std::string text = Text(kTableCapMoment);
     EXPECT_EQ(text.substr(text.find("Key:")),
               "Key:\n\n    Col = Column" + Blanks(31) +
                   "\n"
@@ -274,21 +276,21 @@ TEST_F(CapTables, TheKeyOfSeveralSubstructuresNamesPiersAndBents) {
     EXPECT_NE(text.find("\n\n\nBent Cap Moment Design, Substructure  2:\n"), std::string::npos);
     EXPECT_NE(text.find("\n\n\n, Substructure  3:\n"), std::string::npos);
     Pier(1).m_nStructureType = kTypeWallA;
-    text = Text(&CWriteData::WriteCapMomentText);
+    text = Text(kTableCapMoment);
     EXPECT_EQ(text.substr(text.find("Key:")), "Key:\n\n" + kColumnWord + tail);
     Pier(0).m_nStructureType = kTypeMast;
-    text = Text(&CWriteData::WriteCapMomentText);
+    text = Text(kTableCapMoment);
     EXPECT_EQ(text.substr(text.find("Key:")), "Key:\n\n" + tail);
 }
 
 TEST_F(CapTables, AnEmptyHeadLeavesTwoEmptyLinesAndCountsThree) {
     AddPiers(1);
     Fill(Pier(), 0, 1, 0, 1);
-    AllocateCap(Pier(), 1);
-    AddShearSection(Pier(), 1.0, 0, 0);
-    SetMissing(Pier().m_ShearSupports.At(0, 0, 0, 0));
-    g_DataSet.m_nAnalysisMode = 3;
-    const std::string text = Text(&CWriteData::WriteCapShearText);
+    AllocateCap(1);
+    AddShearSection(1.0, 0, 0);
+    SetMissing(Results().shearSupports.At(0, 0, 0, 0));
+    data.m_nAnalysisMode = 3;
+    const std::string text = Text(kTableCapShear);
     EXPECT_NE(text.find("Supports\n\n\n\n\n    Col 1 LF  miss"), std::string::npos);
     EXPECT_EQ(m_nLines, 3 + (4 + 3 + 1) + 3 + (4 + 3 + 1) + 4 + 5);
 }

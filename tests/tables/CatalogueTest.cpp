@@ -1,30 +1,39 @@
 #include "tables/Catalogue.h"
 
-#include "session/Constants.h"
-#include "tables/ReportModel.h"
+#include "support/ReportFixture.h"
+#include "tables/Words.h"
 
-using Catalogue = ReportTest;
+class Catalogue : public ReportTest {
+  protected:
+    // The line feeds that fill a page of 61 lines.
+    std::int64_t LinesToPageEnd(int used) const {
+        StoredStream out(Path());
+        PadToPageEnd(61, used, out);
+        out.Close();
+        return out.Position() / 2;
+    }
+};
 
 TEST_F(Catalogue, TitlesGoByTheFirstPiersType) {
     AddPiers(1, kTypeWallA);
-    EXPECT_EQ(TableHeadTitle(kTableColumnDc),
+    EXPECT_EQ(TableHeadTitle(kTableColumnDc, data),
               "Maximum Demand/Capacity Ratio For All Wall Properties (Cross Sections)");
-    EXPECT_EQ(TableHeadTitle(kTableExtraMembers), "Maximum Forces for All Extra Member Properties ");
+    EXPECT_EQ(TableHeadTitle(kTableExtraMembers, data), "Maximum Forces for All Extra Member Properties ");
 }
 
 TEST_F(Catalogue, ColumnTablesOfSeveralPiersTakeThePiersTitle) {
     AddPiers(2, kTypePileBent);
-    EXPECT_EQ(TableHeadTitle(kTableColumnDc),
+    EXPECT_EQ(TableHeadTitle(kTableColumnDc, data),
               "Maximum Demand/Capacity Ratio For All Column Properties (Cross Sections)");
-    EXPECT_EQ(TableHeadTitle(kTableColumnForces),
+    EXPECT_EQ(TableHeadTitle(kTableColumnForces, data),
               "Maximum Forces for All Column Properties (Cross Sections)");
-    EXPECT_EQ(TableHeadTitle(kTableCapShear), "Bent Cap Shear Design");
+    EXPECT_EQ(TableHeadTitle(kTableCapShear, data), "Bent Cap Shear Design");
 }
 
 TEST_F(Catalogue, AProjectWithoutSubstructuresHasNoTitleAndNoSection) {
     std::string heading = "stale";
-    EXPECT_EQ(TableHeadTitle(kTableMaxAxial), "");
-    EXPECT_FALSE(SectionHeading(kTableMaxAxial, 0, heading));
+    EXPECT_EQ(TableHeadTitle(kTableMaxAxial, data), "");
+    EXPECT_FALSE(SectionHeading(MakeReport(), kTableMaxAxial, LimitClass{0}, heading));
     EXPECT_EQ(heading, "");
 }
 
@@ -32,10 +41,10 @@ TEST_F(Catalogue, LrfdSectionsNeedTheirClass) {
     AddPiers(1);
     MakeCombinations(Pier(), kFamilyLrfd, {0, 2, 3});
     std::string heading;
-    EXPECT_TRUE(SectionHeading(kTableColumnDc, 0, heading));
+    EXPECT_TRUE(SectionHeading(MakeReport(), kTableColumnDc, LimitClass{0}, heading));
     EXPECT_EQ(heading, " MAXIMUM STRENGTH CASE DATA");
-    EXPECT_FALSE(SectionHeading(kTableColumnDc, 1, heading));
-    EXPECT_TRUE(SectionHeading(kTablePileForces, 2, heading));
+    EXPECT_FALSE(SectionHeading(MakeReport(), kTableColumnDc, LimitClass{1}, heading));
+    EXPECT_TRUE(SectionHeading(MakeReport(), kTablePileForces, LimitClass{2}, heading));
     EXPECT_EQ(heading, " EXTREME CASE DATA");
 }
 
@@ -44,9 +53,11 @@ TEST_F(Catalogue, FatigueHasASectionInTheCapMomentTableAlone) {
     MakeCombinations(Pier(), kFamilyLrfd, {3});
     std::string heading;
     for (int table = kTableMaxAxial; table <= kTableExtraMembers; ++table) {
-        EXPECT_EQ(SectionHeading(table, 3, heading), table == kTableCapMoment) << table;
+        EXPECT_EQ(SectionHeading(MakeReport(), TableId{table}, LimitClass{3}, heading),
+                  table == kTableCapMoment)
+            << table;
     }
-    EXPECT_TRUE(SectionHeading(kTableCapMoment, 3, heading));
+    EXPECT_TRUE(SectionHeading(MakeReport(), kTableCapMoment, LimitClass{3}, heading));
     EXPECT_EQ(heading, " FATIGUE CASE DATA");
 }
 
@@ -54,9 +65,9 @@ TEST_F(Catalogue, LfdHasItsSectionWithoutAnyClass) {
     AddPiers(1);
     MakeCombinations(Pier(), kFamilyLfd, {});
     std::string heading;
-    EXPECT_TRUE(SectionHeading(kTablePileDc, 0, heading));
+    EXPECT_TRUE(SectionHeading(MakeReport(), kTablePileDc, LimitClass{0}, heading));
     EXPECT_EQ(heading, " MAXIMUM LOAD FACTOR DESIGN DATA");
-    EXPECT_TRUE(SectionHeading(kTableCapShear, 0, heading));
+    EXPECT_TRUE(SectionHeading(MakeReport(), kTableCapShear, LimitClass{0}, heading));
     EXPECT_EQ(heading, " LOAD FACTOR DESIGN DATA");
 }
 
@@ -64,34 +75,34 @@ TEST_F(Catalogue, AremaHasTwoSections) {
     AddPiers(1);
     MakeCombinations(Pier(), kFamilyArema, {0, 1});
     std::string heading;
-    EXPECT_TRUE(SectionHeading(kTableMaxAxial, 1, heading));
+    EXPECT_TRUE(SectionHeading(MakeReport(), kTableMaxAxial, LimitClass{1}, heading));
     EXPECT_EQ(heading, " MAXIMUM SERVICE LOAD DESIGN DATA");
-    EXPECT_TRUE(SectionHeading(kTableExtraMembers, 0, heading));
+    EXPECT_TRUE(SectionHeading(MakeReport(), kTableExtraMembers, LimitClass{0}, heading));
     EXPECT_EQ(heading, " LOAD FACTOR DESIGN DATA");
 }
 
 TEST_F(Catalogue, PlainCasesAndUnnamedFamiliesHaveABlockWithoutHeading) {
     AddPiers(1);
     std::string heading;
-    EXPECT_TRUE(SectionHeading(kTablePileDc, 0, heading));
+    EXPECT_TRUE(SectionHeading(MakeReport(), kTablePileDc, LimitClass{0}, heading));
     EXPECT_EQ(heading, "");
-    MakeCombinations(Pier(), 5, {});
-    EXPECT_TRUE(SectionHeading(kTablePileDc, 0, heading));
+    MakeCombinations(Pier(), CodeFamily{5}, {});
+    EXPECT_TRUE(SectionHeading(MakeReport(), kTablePileDc, LimitClass{0}, heading));
     EXPECT_EQ(heading, "");
 }
 
 TEST_F(Catalogue, ZeroWithTwoDecimalsBecomesABareZero) {
-    EXPECT_EQ(FormatCellText("-0.00", 11), "          0");
-    EXPECT_EQ(FormatCellText("0.00", 11), "          0");
-    EXPECT_EQ(FormatCellText("-0.01", 11), "      -0.01");
-    EXPECT_EQ(FormatCellText("123456789012", 11), "123456789012");
+    EXPECT_EQ(FormatCellText("-0.00", 11, options.format), "          0");
+    EXPECT_EQ(FormatCellText("0.00", 11, options.format), "          0");
+    EXPECT_EQ(FormatCellText("-0.01", 11, options.format), "      -0.01");
+    EXPECT_EQ(FormatCellText("123456789012", 11, options.format), "123456789012");
 }
 
 TEST_F(Catalogue, SpreadsheetCellsEndInATabUnlessTheyHoldALineFeed) {
-    g_ReportFormat = kFormatSpreadsheet;
-    EXPECT_EQ(FormatCellText("-0.00", 11), "0\t");
-    EXPECT_EQ(FormatCellText("Max f22", 11), "Max f22\t");
-    EXPECT_EQ(FormatCellText("two\nlines", 11), "two\nlines");
+    options.format = kFormatSpreadsheet;
+    EXPECT_EQ(FormatCellText("-0.00", 11, options.format), "0\t");
+    EXPECT_EQ(FormatCellText("Max f22", 11, options.format), "Max f22\t");
+    EXPECT_EQ(FormatCellText("two\nlines", 11, options.format), "two\nlines");
 }
 
 TEST_F(Catalogue, MissingColumnsSayNoneUnderTheForceConcerned) {
@@ -111,16 +122,12 @@ TEST_F(Catalogue, LimitStateNamesTakeFifteenCharacters) {
 }
 
 TEST_F(Catalogue, PagesGoByTheViewersFontSize) {
-    EXPECT_EQ(LinesPerPage(), 61);
-    EXPECT_EQ(CharsPerLine(ViewerFontSize()), 142);
-    headless::State().viewerNumbers["iPointSize"] = 109;
-    EXPECT_EQ(ViewerFontSize(), 10);
-    EXPECT_EQ(LinesPerPage(), 48);
+    EXPECT_EQ(LinesPerPage(0), 61);
+    EXPECT_EQ(CharsPerLine(0), 142);
+    EXPECT_EQ(LinesPerPage(10), 48);
     EXPECT_EQ(CharsPerLine(10), 114);
-    headless::State().viewerNumbers["iPointSize"] = 140;
-    EXPECT_EQ(LinesPerPage(), 34);
-    headless::State().viewerNumbers["iPointSize"] = 130;
-    EXPECT_EQ(LinesPerPage(), 61);
+    EXPECT_EQ(LinesPerPage(14), 34);
+    EXPECT_EQ(LinesPerPage(13), 61);
 }
 
 TEST_F(Catalogue, AFullPageNeedsNoPaddingAndAnOverrunAsksForTheRestOfItsLastPage) {
@@ -148,15 +155,13 @@ TEST_F(Catalogue, CentredTextHasHalfTheRestBeforeIt) {
 }
 
 TEST_F(Catalogue, TheTitlePageStandsInTheMiddleOfAPage) {
-    CWriteData writer;
     StoredStream out(Path());
-    writer.WriteTitlePageText(out);
+    WriteTitlePageText(options, out);
     out.Close();
     // 61 lines: 30.5 + 1 cut to 31, less 2; 142 characters.
-    EXPECT_EQ(ReplaceAll(StoredBytes(), "\r\n", "\n"),
-              std::string(29, '\n') + Blanks(67) + "Lumerin\n" +     // 135 / 2
-                  Blanks(71) + "\n" +                                //
-                  Blanks(61) + "Results generated by\n" +            // 122 / 2
-                  Blanks(60) + "Tarnsway Version 5.2.1\n" +          // 120 / 2
-                  Blanks(56) + "on Saturday, November 14, 2026\n");  // 112 / 2
+    EXPECT_EQ(StoredText(), std::string(29, '\n') + Blanks(67) + "Lumerin\n" +     // 135 / 2
+                                Blanks(71) + "\n" +                                //
+                                Blanks(61) + "Results generated by\n" +            // 122 / 2
+                                Blanks(60) + "Tarnsway Version 5.2.1\n" +          // 120 / 2
+                                Blanks(56) + "on Saturday, November 14, 2026\n");  // 112 / 2
 }

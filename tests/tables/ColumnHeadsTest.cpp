@@ -1,24 +1,22 @@
-#include "tables/ReportModel.h"
+#include "support/ReportFixture.h"
 #include "tables/TableLayout.h"
 
 class ColumnHeads : public ReportTest {
   protected:
-    void SetUp() override {
-        ReportTest::SetUp();
-        AddPiers(1);
-    }
-    static std::string Lines(int table) {
-        const ColumnHead head = BuildColumnHead(LayoutOf(table));
+    ColumnHeads() { AddPiers(1); }
+
+    std::string Lines(TableId table) const {
+        const ColumnHead head = BuildColumnHead(data, LayoutOf(table));
         std::string text;
         for (const std::string& line : head.lines) text += line + "\n";
         return text;
     }
-    static int Counted(int table) { return BuildColumnHead(LayoutOf(table)).counted; }
+    int Counted(TableId table) const { return BuildColumnHead(data, LayoutOf(table)).counted; }
 };
 
 TEST_F(ColumnHeads, TimeStepsReadTimeOverStep) {
-    g_DataSet.m_nAnalysisMode = 1;
-    g_DataSet.m_nUnits = 1;
+    data.m_nAnalysisMode = 1;
+    data.m_nUnits = 1;
     EXPECT_EQ(Lines(kTableMaxAxial),
               "   SUBSTRUCTURE   PILE  TIME  MAX TENSION      D/C  TIME     MAX COMP      D/C\n"
               "                        STEP         (kN)  (ratio)  STEP         (kN)  (ratio)\n");
@@ -74,8 +72,8 @@ TEST_F(ColumnHeads, PilesThatAreColumnsAreCalledSo) {
 }
 
 TEST_F(ColumnHeads, ModeTwoIsATimeStepInTheCapShearTableAlone) {
-    g_DataSet.m_nAnalysisMode = 2;
-    g_DataSet.m_nUnits = 1;
+    data.m_nAnalysisMode = 2;
+    data.m_nUnits = 1;
     EXPECT_EQ(Lines(kTableCapShear),
               "    LOCATION  ELEM  PROP       NODE  TIME  I/J         FAX         F22         F33         M22"
               "         M33      TORQUE      D/C\n"
@@ -89,7 +87,7 @@ TEST_F(ColumnHeads, ModeTwoIsATimeStepInTheCapShearTableAlone) {
 }
 
 TEST_F(ColumnHeads, AnUnnamedFamilyHasNoUpperLineButAnEmptyOneInTheCapTables) {
-    MakeCombinations(Pier(), 7, {});
+    MakeCombinations(Pier(), CodeFamily{7}, {});
     EXPECT_EQ(Lines(kTablePileForces),
               "  NO.   NO.   NO.   NO.  COMB                          FORCE     (Kips)     (Kips)     (Kips)"
               "   (Kip-ft)   (Kip-ft)   (Kip-ft)   (Ratio)\n");
@@ -101,7 +99,7 @@ TEST_F(ColumnHeads, AnUnnamedFamilyHasNoUpperLineButAnEmptyOneInTheCapTables) {
 }
 
 TEST_F(ColumnHeads, OtherModesHaveNoHeadButCountItsLines) {
-    g_DataSet.m_nAnalysisMode = 3;
+    data.m_nAnalysisMode = 3;
     EXPECT_EQ(Lines(kTableMaxAxial), "");
     EXPECT_EQ(Lines(kTableColumnDc), "");
     EXPECT_EQ(Lines(kTableCapShear), "\n");
@@ -114,9 +112,9 @@ TEST_F(ColumnHeads, LimitStatesComeFromTheFirstSubstructure) {
     AddPiers(2);
     Fill(Pier(0), 1, 0, 0, 2);
     Pier(0).m_LoadCases[1].m_sLimitState = "SERVICE-I";
-    EXPECT_EQ(LimitStateOf(1), "SERVICE-I");
-    EXPECT_EQ(LimitStateOf(0), "none");
+    EXPECT_EQ(LimitStateOf(data, 1), "SERVICE-I");
+    EXPECT_EQ(LimitStateOf(data, 0), "none");
     // A later substructure may have more cases than the first one names.
-    EXPECT_EQ(LimitStateOf(2), "none");
-    EXPECT_EQ(LimitStateOf(-1), "none");
+    EXPECT_EQ(LimitStateOf(data, 2), "none");
+    EXPECT_EQ(LimitStateOf(data, -1), "none");
 }

@@ -1,12 +1,9 @@
+#include "tables/EnvelopeFile.h"
+
 #include <gmock/gmock.h>
 
-#include <fstream>
-#include <iterator>
-
-#include "envelopes/CapModel.h"
-#include "model/DataSet.h"
-#include "session/Session.h"
-#include "tables/WriteData.h"
+#include "support/ReportFixture.h"
+#include "support/Searches.h"
 
 using testing::AllOf;
 using testing::Contains;
@@ -16,38 +13,24 @@ using testing::Not;
 
 namespace {
 
-class EnvelopeFile : public testing::Test {
+class EnvelopeFile : public ReportTest {
   protected:
-    void SetUp() override {
-        g_DataSet.Reset();
-        g_DataSet.FreePiers();
-        g_OutputFilePath = testing::TempDir() + "envelope_file_test.txt";
-        g_DataSet.m_bTableEnabled[3] = g_DataSet.m_bTableEnabled[4] = true;
-    }
-    void TearDown() override {
-        g_DataSet.FreePiers();
-        g_DataSet.Reset();
-    }
-
-    static void Add(CapModel& model) {
+    // Searches the model's cap tables and takes the substructure over with them.
+    void Add(SearchedCap& model) {
         model.ComputeShear();
         model.ComputeMoment();
-        g_DataSet.m_Piers.push_back(std::move(model.pier));
-        g_DataSet.m_nPiers = static_cast<int>(g_DataSet.m_Piers.size());
-        // The first selected case of each class, as the loader finds it.
-        CPier& first = g_DataSet.FirstPier();
-        for (int c = first.m_nLoadCases - 1; c >= 0 && first.m_bCombinations && first.m_nCodeFamily != 1;
-             --c) {
-            const int limitClass = first.m_LoadCases[static_cast<std::size_t>(c)].m_nLimitClass;
-            first.m_nFirstOfClass[static_cast<std::size_t>(limitClass)] = c;
-        }
+        data.m_Piers.push_back(std::move(model.pier));
+        data.m_nPiers = static_cast<int>(data.m_Piers.size());
+        results.piers.push_back(std::move(model.results));
+        selection = CaseSelection(data);
     }
-    static std::string Write() {
-        CWriteData().WriteEnvelopeFile();
-        std::ifstream in(g_OutputFilePath, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    std::string Write() {
+        StoredStream out(Path());
+        WriteEnvelopeFile(MakeReport(), out);
+        out.Close();
+        return StoredBytes();
     }
-    static std::vector<std::string> Lines() {
+    std::vector<std::string> Lines() {
         const std::string text = Write();
         std::vector<std::string> lines;
         std::size_t begin = 0;
@@ -58,7 +41,7 @@ class EnvelopeFile : public testing::Test {
         return lines;
     }
     // The lines of the block of that name, without its name and its end.
-    static std::vector<std::string> Block(const std::string& name) {
+    std::vector<std::string> Block(const std::string& name) {
         const std::vector<std::string> lines = Lines();
         std::vector<std::string> block;
         bool inside = false;
@@ -69,7 +52,7 @@ class EnvelopeFile : public testing::Test {
         }
         return block;
     }
-    static std::vector<std::string> BlockNames() {
+    std::vector<std::string> BlockNames() {
         std::vector<std::string> names;
         for (const std::string& line : Lines()) {
             if (line.find("_PIER") != std::string::npos) names.push_back(line);
@@ -80,26 +63,32 @@ class EnvelopeFile : public testing::Test {
 
 // Columns at 10 and 30, substructure at 4, a bearing over the first column. Element 21 runs from 10 to 20, 22
 // on to 30. The second case has no forces.
-CapModel TwoCaseModel() {
-    CapShape shape = TwoColumnsWithoutCantilevers();
-    shape.cases = 2;
-    shape.bearingNodes = {{5}};
-    CapModel model(shape);
-    model.Set(0, 0, kF22, 100, 50);
-    model.Set(0, 1, kF22, -20, -30);
-    model.Set(0, 0, kM33, 7, 0);
-    model.pier.m_dLocationX = 4;
-    return model;
-}
+class TwoCaseModel : public SearchedCap {
+  public:
+    TwoCaseModel() : SearchedCap(Shape()) {
+        Set(0, 0, kF22, 100, 50);
+        Set(0, 1, kF22, -20, -30);
+        Set(0, 0, kM33, 7, 0);
+        pier.m_dLocationX = 4;
+    }
+
+  private:
+    static CapShape Shape() {
+        CapShape shape = TwoColumnsWithoutCantilevers();
+        shape.cases = 2;
+        shape.bearingNodes = {{5}};
+        return shape;
+    }
+};
 
 }  // namespace
 
 TEST_F(EnvelopeFile, PlainCasesInUsUnits) {
-    CapModel model = TwoCaseModel();
+    TwoCaseModel model;
     Add(model);
-    g_DataSet.m_sProjectN = "Bridge & <1>";
-    g_DataSet.m_sProjectD = "Department";
-    g_DataSet.m_sProjectC = "Checker";
+    data.m_sProjectN = "Bridge & <1>";
+    data.m_sProjectD = "Department";
+    data.m_sProjectC = "Checker";
     // (10 - 4) / 12 = 0.5, (12 - 4) / 12 = 0.667, (28 - 4) / 12 = 2, (30 - 4) / 12 = 2.167. Shear at 12 is
     // 100 - 50 / 5 = 90, at 28 it is -20 - 10 * 4 / 5 = -28; the moment at 12 is 7 - 7 / 5 = 5.6. No element
     // ends at the first column, so the centreline's left side is missing; the bearing there passes the left
@@ -144,9 +133,9 @@ TEST_F(EnvelopeFile, PlainCasesInUsUnits) {
 }
 
 TEST_F(EnvelopeFile, MetricPositionsAreThePlainX) {
-    CapModel model = TwoCaseModel();
+    TwoCaseModel model;
     Add(model);
-    g_DataSet.m_nUnits = 1;
+    data.m_nUnits = 1;
     EXPECT_THAT(Lines(), Contains("U= 1"));
     EXPECT_EQ(Block("SHEAR_MAX_PIER0").front(),
               "L=  1 LCL      C=            10.00 E= 0            F=             0.00");
@@ -154,9 +143,9 @@ TEST_F(EnvelopeFile, MetricPositionsAreThePlainX) {
 
 TEST_F(EnvelopeFile, LfdNamesItsBlocksLikePlainCases) {
     CapShape shape = TwoColumns();
-    shape.family = 1;
-    shape.limitClasses = {0};
-    CapModel model(shape);
+    shape.family = kFamilyLfd;
+    shape.limitClasses = {kStrength};
+    SearchedCap model(shape);
     Add(model);
     const std::string text = Write();
     EXPECT_THAT(text, HasSubstr("A= 1\r\n"));
@@ -167,10 +156,10 @@ TEST_F(EnvelopeFile, LfdNamesItsBlocksLikePlainCases) {
 
 TEST_F(EnvelopeFile, LrfdHasTheBlocksOfItsPresentClasses) {
     CapShape shape = TwoColumns();
-    shape.family = 0;
+    shape.family = kFamilyLrfd;
     shape.cases = 3;
-    shape.limitClasses = {0, 2, 3};
-    CapModel model(shape);
+    shape.limitClasses = {kStrength, kExtreme, kFatigue};
+    SearchedCap model(shape);
     Add(model);
     EXPECT_THAT(Write(), HasSubstr("AASHTO_LIMITSTATE_STATUS\r\nD= 0\r\nSHSTR= 1\r\nSHEXT= 1\r\nSHSER= 0\r\n"
                                    "MOSTR= 1\r\nMOEXT= 1\r\nMOSER= 0\r\nMOFAT= 1\r\n:\r\n\r\n"));
@@ -183,10 +172,10 @@ TEST_F(EnvelopeFile, LrfdHasTheBlocksOfItsPresentClasses) {
 
 TEST_F(EnvelopeFile, AremaNamesBothItsDesigns) {
     CapShape shape = TwoColumns();
-    shape.family = 2;
+    shape.family = kFamilyArema;
     shape.cases = 2;
-    shape.limitClasses = {1, 0};
-    CapModel model(shape);
+    shape.limitClasses = {kService, kStrength};
+    SearchedCap model(shape);
     Add(model);
     EXPECT_THAT(Write(),
                 HasSubstr("STATUS\r\nD= 2\r\nSHLFD= 1\r\nSHSLD= 1\r\nMOLFD= 1\r\nMOSLD= 1\r\n:\r\n\r\n"));
@@ -201,7 +190,7 @@ TEST_F(EnvelopeFile, AremaNamesBothItsDesigns) {
 TEST_F(EnvelopeFile, TwoRowsOfBearings) {
     CapShape shape = TwoColumns();
     shape.bearingNodes = {{7, 8}, {8, 12}};  // 5 and 20, 20 and 35
-    CapModel model(shape);
+    SearchedCap model(shape);
     Add(model);
     std::vector<std::string> labels;
     for (const std::string& line : Block("SHEAR_MAX_PIER0")) {
@@ -219,7 +208,7 @@ TEST_F(EnvelopeFile, TwoRowsOfBearings) {
 TEST_F(EnvelopeFile, BothRowsOfABearingShowItsPlace) {
     CapShape shape = TwoColumns();
     shape.bearingNodes = {{7, 8}, {8, 12}};  // 5 and 20, 20 and 35; the faces around 20 are at 12 and 28
-    CapModel model(shape);
+    SearchedCap model(shape);
     Add(model);
     std::vector<std::string> places;
     for (const std::string& line : Block("SHEAR_MAX_PIER0")) {
@@ -235,7 +224,7 @@ TEST_F(EnvelopeFile, BothRowsOfABearingShowItsPlace) {
 TEST_F(EnvelopeFile, BearingOffTheCapIsMissingBeforeItsFlagsAreAsked) {
     CapShape shape = TwoColumns();
     shape.bearingNodes = {{99}};
-    CapModel model(shape);
+    SearchedCap model(shape);
     Add(model);
     EXPECT_EQ(Block("SHEAR_MAX_PIER0")[0],
               "L= Brg 1 L     C=             0.00 E= 0            F=             0.00");
@@ -246,8 +235,8 @@ TEST_F(EnvelopeFile, BearingOffTheCapIsMissingBeforeItsFlagsAreAsked) {
 }
 
 TEST_F(EnvelopeFile, NoSelectedCaseReadsNone) {
-    CapModel model(TwoColumns());
-    model.pier.SetCaseSelected(0, false);
+    SearchedCap model(TwoColumns());
+    model.selection.SetCaseSelected(0, false);
     Add(model);
     EXPECT_EQ(Block("SHEAR_MAX_PIER0")[0], "L=  1 LF       C=             0.67none");
     EXPECT_EQ(Block("MOMENT_MIN_PIER0")[0], "L=  1 LF       C=             0.67none");
@@ -256,7 +245,7 @@ TEST_F(EnvelopeFile, NoSelectedCaseReadsNone) {
 TEST_F(EnvelopeFile, UnusedListEntriesReadAsTheFirstLeftFace) {
     CapShape shape = TwoColumns();
     shape.width = 22;  // neither outer face lies on the cap
-    CapModel model(shape);
+    SearchedCap model(shape);
     Add(model);
     // The entry is support 1, left face, at 0; its record was never written: case 0 and no force.
     EXPECT_EQ(Block("MOMENT_MAX_PIER0").back(),
@@ -264,11 +253,11 @@ TEST_F(EnvelopeFile, UnusedListEntriesReadAsTheFirstLeftFace) {
 }
 
 TEST_F(EnvelopeFile, SubstructuresCountFromZeroAndOneWithoutCapHasEmptyBlocks) {
-    CapModel model(TwoColumns());
+    SearchedCap model(TwoColumns());
     Add(model);
     CapShape group = TwoColumns();
-    group.type = 1;
-    CapModel second(group);
+    group.type = kTypePileGroup;
+    SearchedCap second(group);
     Add(second);
     EXPECT_THAT(Write(), HasSubstr("P= 2\r\n"));
     EXPECT_THAT(Write(), HasSubstr("S= 0 N= 8 M= 6 B= 0\r\nS= 1 N= 0 M= 0 B= 0\r\n:\r\n"));
@@ -277,12 +266,12 @@ TEST_F(EnvelopeFile, SubstructuresCountFromZeroAndOneWithoutCapHasEmptyBlocks) {
 
 TEST_F(EnvelopeFile, InvalidOrDisabledTablesHaveNoBlocks) {
     CapShape shape = TwoColumns();
-    shape.family = 1;
-    shape.limitClasses = {0};
-    CapModel model(shape);
+    shape.family = kFamilyLfd;
+    shape.limitClasses = {kStrength};
+    SearchedCap model(shape);
     Add(model);
-    g_DataSet.m_bTableValid[3] = false;
-    g_DataSet.m_bTableEnabled[4] = false;
+    results.valid[kTableCapShear] = false;
+    enabled[kTableCapMoment] = false;
     const std::string text = Write();
     const std::string end = "AASHTO_LIMITSTATE_STATUS\r\nD= 1\r\n:\r\n\r\n";
     ASSERT_GT(text.size(), end.size());
@@ -290,17 +279,17 @@ TEST_F(EnvelopeFile, InvalidOrDisabledTablesHaveNoBlocks) {
 }
 
 TEST_F(EnvelopeFile, TimeStepsAndPlainCasesHaveNoStatus) {
-    CapModel model(TwoColumns());
+    SearchedCap model(TwoColumns());
     Add(model);
-    g_DataSet.m_nAnalysisMode = 1;
+    data.m_nAnalysisMode = 1;
     EXPECT_THAT(Write(), AllOf(HasSubstr("A= 0\r\nT= 1\r\n"), Not(HasSubstr("STATUS"))));
 }
 
-TEST_F(EnvelopeFile, PathThatCannotBeOpenedIsSilent) {
-    CapModel model(TwoColumns());
+TEST_F(EnvelopeFile, StreamThatCannotBeOpenedTakesNothing) {
+    SearchedCap model(TwoColumns());
     Add(model);
-    const CapMessages messages;
-    g_OutputFilePath = testing::TempDir() + "no such folder/envelopes.txt";
-    EXPECT_EQ(Write(), "");
-    EXPECT_TRUE(messages.Texts().empty());
+    StoredStream out(scratch.PathOf("no such folder/envelopes.txt"));
+    WriteEnvelopeFile(MakeReport(), out);
+    EXPECT_FALSE(out.IsOpen());
+    EXPECT_FALSE(scratch.Has("no such folder"));
 }

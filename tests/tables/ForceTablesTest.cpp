@@ -1,4 +1,4 @@
-#include "tables/ReportModel.h"
+#include "support/ReportFixture.h"
 
 // Tables 5, 6 and 7: the extremes of the six forces of each property.
 namespace {
@@ -41,11 +41,11 @@ TEST_F(ForceTables, PileForcesPrintTwelveRowsAPropertyAndAnEmptyLineBetween) {
     AddPiers(1);
     Fill(Pier(), 1, 0, 0, 3);
     Pier().m_nPileSections = 2;
-    Pier().m_PileForces = NotFound(2);
-    Pier().m_PileForces.At(0, 0, 0) = {2, 0, 0, 5, kEndJ, 6};
-    Pier().m_PileForces.At(0, 0, 11) = {0, 0, 0, 5, kEndI, 0};
+    Results().pileForces = NotFound(2);
+    Results().pileForces.At(0, 0, 0) = {2, 0, 0, 5, kEndJ, 6};
+    Results().pileForces.At(0, 0, 11) = {0, 0, 0, 5, kEndI, 0};
     // The greatest ratio has a record of its own, which no form of the table prints.
-    Pier().m_PileForces.At(0, 0, 12) = {1, 0, 0, 99, kEndI, 99};
+    Results().pileForces.At(0, 0, 12) = {1, 0, 0, 99, kEndI, 99};
     // An exact half, such as 0.125, rounds to the even digit.
     SetForces(Pier(), 2, 0, kEndJ, {1.5F, -2.25F, 3.0F, -4.0F, 5.0F, -6.0F, 0.125F});
     SetForces(Pier(), 0, 0, kEndI, {10.0F, 20.0F, 30.0F, 40.0F, 50.0F, -60.0F, 7.0F});
@@ -54,7 +54,7 @@ TEST_F(ForceTables, PileForcesPrintTwelveRowsAPropertyAndAnEmptyLineBetween) {
     const std::size_t row = missing.find('\n') + 1;
     const std::string middle = missing.substr(row, 10 * row);
     EXPECT_EQ(
-        Text(&CWriteData::WritePileForcesText),
+        Text(kTablePileForces),
         "\t                                 Maximum Forces for All Pile Properties (Cross Sections)\n\n\n"
         "Pile Properties Data for Substructure 1\n\n"
         " PROP  PILE  ELEM  NODE  LOAD" +
@@ -77,8 +77,8 @@ TEST_F(ForceTables, MissingRowsOfCombinationsHaveTheLimitStateGap) {
     Fill(Pier(), 1, 0, 0, 1);
     MakeCombinations(Pier(), kFamilyArema, {1});
     Pier().m_nPileSections = 1;
-    Pier().m_PileForces = NotFound(1, 2);
-    const std::string text = Text(&CWriteData::WritePileForcesText);
+    Results().pileForces = NotFound(1, 2);
+    const std::string text = Text(kTablePileForces);
     EXPECT_NE(text.find(" SERVICE LOAD DESIGN DATA\n\n"), std::string::npos);
     EXPECT_NE(text.find(MissingRows("    1 ", "  ***   ***   ***   ***            ***  ***")),
               std::string::npos);
@@ -91,10 +91,10 @@ TEST_F(ForceTables, ColumnForcesHaveAWiderMemberColumn) {
     AddPiers(1);
     Fill(Pier(), 0, 1, 0, 1);
     Pier().m_nColumnSections = 1;
-    Pier().m_ColumnForces = NotFound(1);
-    Pier().m_ColumnForces.At(0, 0, 0) = {0, 0, 0, 31, kEndJ, 9};
+    Results().columnForces = NotFound(1);
+    Results().columnForces.At(0, 0, 0) = {0, 0, 0, 31, kEndJ, 9};
     const std::string missing = MissingRows("    2 ", "    ***   ***   ***   ***  ***");
-    EXPECT_EQ(Text(&CWriteData::WriteColumnForcesText),
+    EXPECT_EQ(Text(kTableColumnForces),
               Blanks(46) +
                   "Maximum Forces for All Column Properties (Cross Sections)\n\n\n"
                   "Column Properties Data for Substructure 1\n\n"
@@ -115,13 +115,13 @@ TEST_F(ForceTables, SubstructuresWithoutExtraMembersAreNotNamed) {
     pier.m_nXMemberSections = 3;  // 4, 5, 6, of which 5 is not an extra member's
     pier.Element(0).m_nSection = 4;
     pier.Element(1).m_nSection = 6;
-    pier.m_XMemberForces = NotFound(3);
-    pier.m_XMemberForces.At(2, 0, 0) = {0, 1, 0, 17, kEndI, 3};
+    Results(1).extraMemberForces = NotFound(3);
+    Results(1).extraMemberForces.At(2, 0, 0) = {0, 1, 0, 17, kEndI, 3};
     SetForces(pier, 0, 1, kEndI, {2.0F, 0, 0, 0, 0, 0, 0});
     const std::string filler = "     ***   ***   ***   ***  ***";
     const std::string last = MissingRows("    6 ", filler);
     EXPECT_EQ(
-        Text(&CWriteData::WriteExtraMemberForcesText),
+        Text(kTableExtraMembers),
         "\t                                        Maximum Forces for All Extra Member Properties \n\n\n"
         "Extra Member Properties Data for Substructure 2\n\n"
         " PROP  XMEMBR  ELEM  NODE  LOAD" +
@@ -139,18 +139,18 @@ TEST_F(ForceTables, AnEmptyLineFollowsAPropertyThatIsNotTheLastOfTheRange) {
     Pier().m_nXMemberFirstSection = 2;
     Pier().m_nXMemberSections = 2;  // the last one is in no member, so an empty line ends the block's rows
     Pier().Element(0).m_nSection = 2;
-    Pier().m_XMemberForces = NotFound(2);
-    Text(&CWriteData::WriteExtraMemberForcesText);
+    Results().extraMemberForces = NotFound(2);
+    Text(kTableExtraMembers);
     EXPECT_EQ(m_nLines, 3 + 2 + 3 + 12 + 1 + 2);
 }
 
 TEST_F(ForceTables, AnEmptyHeadCountsThreeLinesAndWritesNone) {
     AddPiers(1);
     Fill(Pier(), 1, 0, 0, 1);
-    g_DataSet.m_nAnalysisMode = 4;
+    data.m_nAnalysisMode = 4;
     Pier().m_nPileSections = 1;
-    Pier().m_PileForces = NotFound(1);
-    const std::string text = Text(&CWriteData::WritePileForcesText);
+    Results().pileForces = NotFound(1);
+    const std::string text = Text(kTablePileForces);
     EXPECT_NE(text.find("Pile Properties Data for Substructure 1\n\n    1   ***"), std::string::npos);
     EXPECT_EQ(m_nLines, 3 + 2 + 3 + 12 + 2);
 }
@@ -160,7 +160,7 @@ TEST_F(ForceTables, ResultTablesThatAreTooSmallPrintNone) {
     Fill(Pier(), 1, 0, 0, 1);
     MakeCombinations(Pier(), kFamilyArema, {0, 1});
     Pier().m_nPileSections = 2;
-    Pier().m_PileForces = NotFound(1, 1);
-    Text(&CWriteData::WritePileForcesText);
+    Results().pileForces = NotFound(1, 1);
+    Text(kTablePileForces);
     EXPECT_EQ(m_nLines, 3 + 2 + 2 * (2 + 3 + 12 + 1 + 12 + 2));
 }

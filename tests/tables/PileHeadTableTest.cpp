@@ -1,18 +1,18 @@
-#include "tables/ReportModel.h"
+#include "support/ReportFixture.h"
 
 class PileHeadTable : public ReportTest {
   protected:
-    static void SetHead(CPier& pier, int loadCase, int pile, float axial, float ratio) {
+    void SetHead(CPier& pier, int loadCase, int pile, float axial, float ratio) {
         SetForces(pier, loadCase, pier.PileElement(pile, 0), kEndJ, {axial, 0, 0, 0, 0, 0, ratio});
     }
-    std::string Write() { return Text(&CWriteData::WriteMaxAxialText); }
+    std::string Write() { return Text(kTableMaxAxial); }
 };
 
 TEST_F(PileHeadTable, PlainCasesInUsUnits) {
     AddPiers(1);
     Fill(Pier(), 2, 0, 0, 2);
-    Pier().m_ppMaxTension = {{1, -1}};
-    Pier().m_ppMaxCompression = {{-1, 0}};
+    Results().maxTension = {{1, -1}};
+    Results().maxCompression = {{-1, 0}};
     SetHead(Pier(), 1, 0, 12.345F, 0.5F);
     SetHead(Pier(), 0, 1, -1234.5F, 0.875F);
     EXPECT_EQ(Write(),
@@ -35,11 +35,11 @@ TEST_F(PileHeadTable, SectionsOfCombinationsAreParted) {
     MakeCombinations(Pier(), kFamilyLrfd, {0, 2});
     Pier().m_LoadCases[0].m_sLimitState = "STRENGTH-IV";
     Pier().m_LoadCases[1].m_sLimitState = "EXTREME-II";
-    Pier().m_ppMaxTension = {{-1}, {-1}, {1}, {0}};
-    Pier().m_ppMaxCompression = {{0}, {-1}, {-1}, {0}};
+    Results().maxTension = {{-1}, {-1}, {1}, {0}};
+    Results().maxCompression = {{0}, {-1}, {-1}, {0}};
     SetHead(Pier(), 0, 0, -7.0F, 0.25F);
     SetHead(Pier(), 1, 0, 7.0F, 1.25F);
-    g_DataSet.m_nUnits = 1;
+    data.m_nUnits = 1;
     const std::string head =
         "   SUBSTRUCTURE   PILE  LOAD    AASHTO-LRFD  MAX TENSION      D/C    LOAD    AASHTO-LRFD     MAX "
         "COMP"
@@ -68,8 +68,8 @@ TEST_F(PileHeadTable, EverySubstructureEndsInTwoEmptyLines) {
     AddPiers(2);
     for (int i = 0; i < 2; ++i) {
         Fill(Pier(static_cast<std::size_t>(i)), 1, 0, 0, 1);
-        Pier(static_cast<std::size_t>(i)).m_ppMaxTension = {{-1}};
-        Pier(static_cast<std::size_t>(i)).m_ppMaxCompression = {{-1}};
+        Results(static_cast<std::size_t>(i)).maxTension = {{-1}};
+        Results(static_cast<std::size_t>(i)).maxCompression = {{-1}};
     }
     const std::string text = Write();
     EXPECT_NE(text.find("              1      1   ***         none      ***   ***         none      ***\n\n\n"
@@ -84,8 +84,8 @@ TEST_F(PileHeadTable, EverySubstructureEndsInTwoEmptyLines) {
 TEST_F(PileHeadTable, ACaseThatDoesNotExistPrintsNone) {
     AddPiers(1);
     Fill(Pier(), 1, 0, 0, 1);
-    Pier().m_ppMaxTension = {{7}};
-    Pier().m_ppMaxCompression.clear();
+    Results().maxTension = {{7}};
+    Results().maxCompression.clear();
     EXPECT_NE(Write().find("   ***         none      ***   ***         none      ***\n"), std::string::npos);
 }
 
@@ -93,7 +93,7 @@ TEST_F(PileHeadTable, ADisabledTableAndAnEmptyProjectWriteNothing) {
     EXPECT_EQ(Write(), "");
     EXPECT_EQ(m_nLines, 0);
     AddPiers(1);
-    g_DataSet.m_bTableEnabled[kTableMaxAxial] = false;
+    enabled[kTableMaxAxial] = false;
     EXPECT_EQ(Write(), "");
     EXPECT_EQ(m_nLines, 0);
 }

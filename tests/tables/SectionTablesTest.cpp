@@ -1,4 +1,4 @@
-#include "tables/ReportModel.h"
+#include "support/ReportFixture.h"
 
 // Tables 1 and 2: the greatest ratio of each property.
 namespace {
@@ -20,14 +20,15 @@ const std::string kNoColumnRatio =
 
 class SectionTables : public ReportTest {
   protected:
-    static void AllocateRatios(CPier& pier, int pileSections, int columnSections, int slots = 1) {
-        pier.m_nPileSections = pileSections;
-        pier.m_nColumnSections = columnSections;
-        pier.m_PileDc.Allocate(pileSections, slots, 1);
-        pier.m_ColumnDc.Allocate(columnSections, slots, 1);
+    void AllocateRatios(std::size_t pier, int pileSections, int columnSections, int slots = 1) {
+        Pier(pier).m_nPileSections = pileSections;
+        Pier(pier).m_nColumnSections = columnSections;
+        CRecordTable &piles = Results(pier).pileDc, &columns = Results(pier).columnDc;
+        piles.Allocate(pileSections, slots, 1);
+        columns.Allocate(columnSections, slots, 1);
         for (int slot = 0; slot < slots; ++slot) {
-            for (int s = 0; s < pileSections; ++s) pier.m_PileDc.At(s, slot) = kNotFoundRecord;
-            for (int s = 0; s < columnSections; ++s) pier.m_ColumnDc.At(s, slot) = kNotFoundRecord;
+            for (int s = 0; s < pileSections; ++s) piles.At(s, slot) = kNotFoundRecord;
+            for (int s = 0; s < columnSections; ++s) columns.At(s, slot) = kNotFoundRecord;
         }
     }
 };
@@ -35,11 +36,11 @@ class SectionTables : public ReportTest {
 TEST_F(SectionTables, PileRatiosOfPlainCases) {
     AddPiers(1);
     Fill(Pier(), 1, 0, 0, 2);
-    AllocateRatios(Pier(), 2, 0);
-    Pier().m_PileDc.At(0, 0) = {1, 0, 0, 7, kEndJ, 12};
+    AllocateRatios(0, 2, 0);
+    Results().pileDc.At(0, 0) = {1, 0, 0, 7, kEndJ, 12};
     SetForces(Pier(), 1, 0, kEndJ, {-12.5F, 3.25F, 0.0F, 100.75F, -0.001F, 1000000.5F, 0.987F});
     EXPECT_EQ(
-        Text(&CWriteData::WritePileDcText),
+        Text(kTablePileDc),
         "\t                     Maximum Demand/Capacity Ratio For All Pile Properties (Cross Sections)\n\n\n"
         "Pile Properties Data for Substructure 1\n\n" +
             kPileHead +
@@ -57,11 +58,11 @@ TEST_F(SectionTables, TheIEndAndTheLimitStateColumn) {
     AddPiers(1);
     Fill(Pier(), 1, 0, 0, 1);
     MakeCombinations(Pier(), kFamilyLfd, {});
-    AllocateRatios(Pier(), 1, 0);
+    AllocateRatios(0, 1, 0);
     Pier().m_LoadCases[0].m_sLimitState = "GROUP-VESSEL";
-    Pier().m_PileDc.At(0, 0) = {0, 0, 0, 3, kEndI, 4};
+    Results().pileDc.At(0, 0) = {0, 0, 0, 3, kEndI, 4};
     SetForces(Pier(), 0, 0, kEndI, {1.0F, 2.0F, 3.0F, 4.0F, 5.0F, 6.0F, 0.5F});
-    EXPECT_EQ(Text(&CWriteData::WritePileDcText),
+    EXPECT_EQ(Text(kTablePileDc),
               Blanks(36) +
                   "Maximum Demand/Capacity Ratio For All Pile Properties (Cross Sections)\n\n\n"
                   "Pile Properties Data for Substructure 1\n\n"
@@ -78,11 +79,11 @@ TEST_F(SectionTables, TheIEndAndTheLimitStateColumn) {
 TEST_F(SectionTables, ColumnPropertiesCountFromTwo) {
     AddPiers(1);
     Fill(Pier(), 0, 1, 0, 1);
-    AllocateRatios(Pier(), 0, 2);
-    Pier().m_ColumnDc.At(0, 0) = {0, 0, 0, 21, kEndI, 8};
+    AllocateRatios(0, 0, 2);
+    Results().columnDc.At(0, 0) = {0, 0, 0, 21, kEndI, 8};
     SetForces(Pier(), 0, 0, kEndI, {-1.0F, 0, 0, 0, 0, 0, 0.25F});
     // The title of one substructure stands without a tab, limit states or not.
-    EXPECT_EQ(Text(&CWriteData::WriteColumnDcText),
+    EXPECT_EQ(Text(kTableColumnDc),
               Blanks(36) +
                   "Maximum Demand/Capacity Ratio For All Column Properties (Cross Sections)\n\n\n"
                   "Column Properties Data for Substructure 1\n\n" +
@@ -98,9 +99,9 @@ TEST_F(SectionTables, AMissingColumnRatioOfCombinationsHasTheLimitStateGap) {
     AddPiers(1);
     Fill(Pier(), 0, 1, 0, 1);
     MakeCombinations(Pier(), kFamilyLfd, {});
-    AllocateRatios(Pier(), 0, 1);
+    AllocateRatios(0, 0, 1);
     EXPECT_NE(
-        Text(&CWriteData::WriteColumnDcText)
+        Text(kTableColumnDc)
             .find("    2            -1    -1  none            ***  ***          ***          ***          ***"
                   "          ***          ***          ***       ***\n"),
         std::string::npos);
@@ -111,9 +112,9 @@ TEST_F(SectionTables, ABentBeforeAPierHasItsRemarkAndNoBlock) {
     Pier(0).m_nStructureType = kTypePileBent;
     Fill(Pier(0), 1, 0, 0, 1);
     Fill(Pier(1), 0, 1, 0, 1);
-    AllocateRatios(Pier(0), 1, 1);
-    AllocateRatios(Pier(1), 0, 1);
-    EXPECT_EQ(Text(&CWriteData::WriteColumnDcText),
+    AllocateRatios(0, 1, 1);
+    AllocateRatios(1, 0, 1);
+    EXPECT_EQ(Text(kTableColumnDc),
               "\t                     Maximum Demand/Capacity Ratio For All Column Properties (Cross "
               "Sections)\n\n\n"
               "Column Properties Data for Substructure 1 (Not applicable for Pile Bent)\n\n"
@@ -125,14 +126,13 @@ TEST_F(SectionTables, ABentBeforeAPierHasItsRemarkAndNoBlock) {
 TEST_F(SectionTables, ARecordWithoutItsMemberPrintsAsOneWithoutAResult) {
     AddPiers(1);
     Fill(Pier(), 0, 0, 0, 1);  // no columns at all
-    AllocateRatios(Pier(), 0, 1);
-    Pier().m_ColumnDc.At(0, 0) = CMaxRecord{};
-    EXPECT_NE(Text(&CWriteData::WriteColumnDcText).find("    2            -1    -1 " + kNoColumnRatio),
-              std::string::npos);
+    AllocateRatios(0, 0, 1);
+    Results().columnDc.At(0, 0) = CMaxRecord{};
+    EXPECT_NE(Text(kTableColumnDc).find("    2            -1    -1 " + kNoColumnRatio), std::string::npos);
     Fill(Pier(), 1, 0, 0, 1);
-    AllocateRatios(Pier(), 1, 0);
-    Pier().m_PileDc.At(0, 0) = {4, 0, 0, 1, kEndI, 1};  // a case past the last one
-    EXPECT_NE(Text(&CWriteData::WritePileDcText).find("    1          -1    -1      No valid load case\n"),
+    AllocateRatios(0, 1, 0);
+    Results().pileDc.At(0, 0) = {4, 0, 0, 1, kEndI, 1};  // a case past the last one
+    EXPECT_NE(Text(kTablePileDc).find("    1          -1    -1      No valid load case\n"),
               std::string::npos);
 }
 
@@ -140,8 +140,8 @@ TEST_F(SectionTables, FatigueIsSkippedWithoutHeadingOrHead) {
     AddPiers(1);
     Fill(Pier(), 1, 0, 0, 1);
     MakeCombinations(Pier(), kFamilyLrfd, {1, 3});
-    AllocateRatios(Pier(), 1, 0, 4);
-    const std::string text = Text(&CWriteData::WritePileDcText);
+    AllocateRatios(0, 1, 0, 4);
+    const std::string text = Text(kTablePileDc);
     EXPECT_NE(text.find(" MAXIMUM SERVICE CASE DATA\n\n"), std::string::npos);
     EXPECT_EQ(text.find("FATIGUE"), std::string::npos);
     EXPECT_EQ(text.find(" PROP "), text.rfind(" PROP "));
@@ -153,22 +153,22 @@ TEST_F(SectionTables, MembersInThePileArraysAreCalledColumns) {
     Pier(0).m_nStructureType = kTypeNoPileTables;
     for (std::size_t i = 0; i < 2; ++i) {
         Fill(Pier(i), 1, 0, 0, 1);
-        AllocateRatios(Pier(i), 1, 0);
+        AllocateRatios(i, 1, 0);
     }
-    const std::string piles = Text(&CWriteData::WritePileDcText);
+    const std::string piles = Text(kTablePileDc);
     // Headings go by each substructure's own type, the word in the head by the first one's.
     EXPECT_NE(piles.find("\nColumn Properties Data for Substructure 1\n\n PROP COLMN  ELEM"),
               std::string::npos);
     EXPECT_NE(piles.find("\nPile Properties Data for Substructure 2\n\n PROP COLMN  ELEM"),
               std::string::npos);
     const int lines = m_nLines;
-    EXPECT_EQ(Text(&CWriteData::WriteColumnDcText), piles);
+    EXPECT_EQ(Text(kTableColumnDc), piles);
     EXPECT_EQ(m_nLines, lines);
     // The table that stands in must be enabled itself.
-    g_DataSet.m_bTableEnabled[kTablePileDc] = false;
-    EXPECT_EQ(Text(&CWriteData::WriteColumnDcText), "");
+    enabled[kTablePileDc] = false;
+    EXPECT_EQ(Text(kTableColumnDc), "");
     EXPECT_EQ(m_nLines, 0);
-    g_DataSet.m_bTableEnabled[kTablePileDc] = true;
-    g_DataSet.m_bTableEnabled[kTableColumnDc] = false;
-    EXPECT_EQ(Text(&CWriteData::WriteColumnDcText), "");
+    enabled[kTablePileDc] = true;
+    enabled[kTableColumnDc] = false;
+    EXPECT_EQ(Text(kTableColumnDc), "");
 }

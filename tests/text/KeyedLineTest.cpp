@@ -6,23 +6,17 @@
 #include <filesystem>
 #include <vector>
 
+#include "support/ScratchFolder.h"
+
 namespace {
 
 constexpr int kLimit = 128;
 
 class KeyedFile : public testing::Test {
   protected:
-    void SetUp() override {
-        m_folder = std::filesystem::path(testing::TempDir()) /
-                   ("keyed-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
-        std::filesystem::create_directories(m_folder);
-    }
-    void TearDown() override { std::filesystem::remove_all(m_folder); }
-
     std::string FileOf(const std::string& text) const {
-        const std::string path = (m_folder / "bridge.MIS").string();
-        std::ofstream(path, std::ios::binary) << text;
-        return path;
+        m_scratch.Write("bridge.MIS", text);
+        return m_scratch.PathOf("bridge.MIS");
     }
     // All lines until one can't be read.
     std::vector<std::string> LinesOf(const std::string& text, int maxLength = kLimit) const {
@@ -35,7 +29,7 @@ class KeyedFile : public testing::Test {
         return lines;
     }
 
-    std::filesystem::path m_folder;
+    const ScratchFolder m_scratch;
 };
 
 using Lines = std::vector<std::string>;
@@ -99,7 +93,7 @@ TEST_F(KeyedFile, ALongerLimitTakesLongerLines) {
 }
 
 TEST_F(KeyedFile, AMissingFileIsAFailedStream) {
-    ifstreamex in((m_folder / "missing.MIS").string());
+    ifstreamex in(m_scratch.PathOf("missing.MIS"));
     EXPECT_TRUE(in.fail());
     std::string line = "old";
     EXPECT_FALSE(in.GetLineEx(line, kLimit));
@@ -107,8 +101,8 @@ TEST_F(KeyedFile, AMissingFileIsAFailedStream) {
 }
 
 TEST_F(KeyedFile, AFolderInItsPlaceIsAFailedStream) {
-    std::filesystem::create_directory(m_folder / "bridge.MIS");
-    ifstreamex in((m_folder / "bridge.MIS").string());
+    std::filesystem::create_directory(m_scratch.Path() / "bridge.MIS");
+    ifstreamex in(m_scratch.PathOf("bridge.MIS"));
     EXPECT_TRUE(in.fail());
     EXPECT_FALSE(in.is_open());
     std::string line = "old";
@@ -118,8 +112,8 @@ TEST_F(KeyedFile, AFolderInItsPlaceIsAFailedStream) {
 
 // The memory of a process opens as a file whose first bytes can't be read.
 TEST_F(KeyedFile, AReadErrorIsABadStream) {
-    std::filesystem::create_symlink("/proc/self/mem", m_folder / "bridge.MIS");
-    ifstreamex in((m_folder / "bridge.MIS").string());
+    std::filesystem::create_symlink("/proc/self/mem", m_scratch.Path() / "bridge.MIS");
+    ifstreamex in(m_scratch.PathOf("bridge.MIS"));
     ASSERT_TRUE(in.is_open());
     std::string line = "old";
     EXPECT_FALSE(in.GetLineEx(line, kLimit));
@@ -130,7 +124,7 @@ TEST_F(KeyedFile, AReadErrorIsABadStream) {
 
 TEST_F(KeyedFile, TheFileIsFoundWhateverTheCaseOfItsName) {
     FileOf("here\n");
-    ifstreamex in((m_folder / "BRIDGE.mis").string());
+    ifstreamex in(m_scratch.PathOf("BRIDGE.mis"));
     std::string line;
     EXPECT_TRUE(in.GetLineEx(line, kLimit));
     EXPECT_EQ(line, "here");

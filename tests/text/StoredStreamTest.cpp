@@ -4,29 +4,19 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <random>
 #include <stdexcept>
 
 #include "framework/ChildProcess.h"
 
+#include "support/ScratchFolder.h"
+
 namespace {
 
 class StoredText : public testing::Test {
   protected:
-    void SetUp() override {
-        m_folder = std::filesystem::path(testing::TempDir()) /
-                   ("stored-" + std::string(testing::UnitTest::GetInstance()->current_test_info()->name()));
-        std::filesystem::create_directories(m_folder);
-    }
-    void TearDown() override { std::filesystem::remove_all(m_folder); }
-
-    std::string Path() const { return (m_folder / "table.txt").string(); }
-    std::string Stored() const {
-        std::ifstream file(Path(), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
+    std::string Path() const { return m_scratch.PathOf("table.txt"); }
+    std::string Stored() const { return m_scratch.Read("table.txt"); }
     static std::string Expanded(const std::string& text) {
         std::string out;
         for (const char c : text) {
@@ -36,7 +26,7 @@ class StoredText : public testing::Test {
         return out;
     }
 
-    std::filesystem::path m_folder;
+    const ScratchFolder m_scratch;
 };
 
 TEST_F(StoredText, ALineFeedTakesTwoBytes) {
@@ -132,7 +122,7 @@ TEST_F(StoredText, AnExceptionLeavesNoFile) {
         throw std::runtime_error("the writer's");
     } catch (const std::runtime_error&) {
     }
-    EXPECT_TRUE(std::filesystem::is_empty(m_folder));
+    EXPECT_TRUE(std::filesystem::is_empty(m_scratch.Path()));
 }
 
 TEST_F(StoredText, AStreamThatOnlyWasOpenIsAnEmptyFile) {
@@ -147,7 +137,7 @@ TEST_F(StoredText, AStreamThatOnlyWasOpenIsAnEmptyFile) {
 }
 
 TEST_F(StoredText, AStreamThatCannotOpenSwallowsTheText) {
-    const std::filesystem::path missing = m_folder / "missing" / "table.txt";
+    const std::filesystem::path missing = m_scratch.Path() / "missing" / "table.txt";
     StoredStream out(missing.string());
     EXPECT_TRUE(out.Failed());
     EXPECT_FALSE(out.IsOpen());
@@ -178,7 +168,7 @@ TEST_F(StoredText, AFullDiskFailsAtTheCloseAndTheStateCanBeCleared) {
         out.ClearState();
         EXPECT_FALSE(out.Failed());
     });
-    EXPECT_TRUE(std::filesystem::is_empty(m_folder));
+    EXPECT_TRUE(std::filesystem::is_empty(m_scratch.Path()));
 }
 
 TEST_F(StoredText, AFullDiskFailsWhenTheBufferIsFullToo) {
@@ -191,7 +181,7 @@ TEST_F(StoredText, AFullDiskFailsWhenTheBufferIsFullToo) {
         out.Close();
         EXPECT_TRUE(out.Failed());
     });
-    EXPECT_TRUE(std::filesystem::is_empty(m_folder));
+    EXPECT_TRUE(std::filesystem::is_empty(m_scratch.Path()));
 }
 
 // Cleared or not, a document with a gap is none.
@@ -206,7 +196,7 @@ TEST_F(StoredText, AClearedStateHealsNoDocument) {
         out.Close();
         EXPECT_TRUE(out.Failed());
     });
-    EXPECT_TRUE(std::filesystem::is_empty(m_folder));
+    EXPECT_TRUE(std::filesystem::is_empty(m_scratch.Path()));
 }
 
 }  // namespace

@@ -3,55 +3,32 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 #include <array>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 
-#include "framework/headless/Headless.h"
 #include "grid/GridCtrl.h"
-#include "session/Session.h"
+#include "support/Messages.h"
+#include "support/ScratchFolder.h"
 #include "writers/PdfExport.h"
 
 namespace {
 
-namespace fs = std::filesystem;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-// A grid, a folder of its own for what it writes, and a sink that keeps what is told and started.
 class GridExport : public testing::Test {
   protected:
-    GridExport() : m_folder(fs::temp_directory_path() / ("grid-export-" + std::to_string(getpid()))) {
-        headless::ResetState();
-        headless::SetSink(&sink);
-        fs::create_directories(m_folder);
-        g_InputFilePath = (m_folder / "job.in").string();
-    }
-    ~GridExport() override {
-        headless::ResetState();
-        fs::remove_all(m_folder);
-        g_InputFilePath = "";
-    }
-
     void Build(int rows, int columns) {
         m_grid.SetRowCount(rows);
         m_grid.SetColumnCount(columns);
         for (int column = 0; column < columns; ++column) m_grid.SetColumnWidth(column, 50 + column);
     }
     std::string Export(std::span<const int> types, int headerRows = 0, const std::string& name = "Name") {
-        ExportGrid(name, name, headerRows, 0, types, m_grid, 2.0);
+        ExportGrid(m_inputFile, {name, headerRows, types, 2.0}, m_grid);
         std::string file = name;
         std::erase(file, ' ');
-        return Read("job_" + file + ".xml");
-    }
-    std::string Read(const std::string& file) const {
-        std::ifstream in(m_folder / file, std::ios::binary);
-        return {std::istreambuf_iterator<char>(in), {}};
+        return scratch.Read("job_" + file + ".xml");
     }
     // A cell of one text in a column of one type, without the line end.
     std::string Cell(int type, const std::string& text) {
@@ -67,15 +44,16 @@ class GridExport : public testing::Test {
         return "<Cell ss:StyleID=\"" + style + "\"><Data ss:Type=\"Number\">" + value + "</Data></Cell>";
     }
 
-    fs::path m_folder;
+    const ScratchFolder scratch;
+    std::string m_inputFile = scratch.PathOf("job.in");
     CGridCtrl m_grid;
-    headless::RecordingSink sink;
+    RecordedMessages m_messages;
 };
 
 TEST_F(GridExport, BlanksLeaveTheFileAndSheetNameButNotTheTitle) {
     Build(1, 1);
-    ExportGrid("Included Load Cases", "Included Load Cases", 1, 0, {}, m_grid, 2.0);
-    const std::string book = Read("job_IncludedLoadCases.xml");
+    ExportGrid(m_inputFile, {"Included Load Cases", 1, {}, 2.0}, m_grid);
+    const std::string book = scratch.Read("job_IncludedLoadCases.xml");
     EXPECT_THAT(book, HasSubstr("<Worksheet ss:Name=\"IncludedLoadCases\">\r\n"));
     EXPECT_THAT(book, HasSubstr("ss:StyleID=\"s87\"><Data ss:Type=\"String\">Included Load Cases</Data>"));
 }
@@ -95,12 +73,10 @@ TEST_F(GridExport, ANameOf31CharactersStays) {
 
 TEST_F(GridExport, TheInputPathIsCutAtItsLastDot) {
     Build(1, 1);
-    g_InputFilePath = (m_folder / "job.old.in").string();
-    ExportGrid("N", "N", 0, 0, {}, m_grid, 2.0);
-    EXPECT_TRUE(fs::exists(m_folder / "job.old_N.xml"));
-    g_InputFilePath = (m_folder / "plain").string();
-    ExportGrid("N", "N", 0, 0, {}, m_grid, 2.0);
-    EXPECT_TRUE(fs::exists(m_folder / "plain_N.xml"));
+    ExportGrid(scratch.PathOf("job.old.in"), {"N", 0, {}, 2.0}, m_grid);
+    EXPECT_TRUE(scratch.Has("job.old_N.xml"));
+    ExportGrid(scratch.PathOf("plain"), {"N", 0, {}, 2.0}, m_grid);
+    EXPECT_TRUE(scratch.Has("plain_N.xml"));
 }
 
 TEST_F(GridExport, AnIntegerColumnReadsLeadingDigits) {
@@ -167,7 +143,6 @@ TEST_F(GridExport, TheWorksheetHasAMarginColumnATitleRowAndAnEmptyRow) {
 
 TEST_F(GridExport, TheFixedFooterStaysInTheFile) {
     Build(1, 1);
-    g_FooterOn = 0;
     EXPECT_THAT(Export({}), HasSubstr("x:Data=\"&amp;L Need Footer &amp;RPage &amp;P of &amp;N\"/>"));
 }
 
@@ -180,56 +155,41 @@ TEST_F(GridExport, TheHeadHasTheLongerStyleListAndTheBookEnds) {
     EXPECT_THAT(book, EndsWith("</Worksheet>\r\n</Workbook>\r\n"));
 }
 
-TEST_F(GridExport, TheSpreadsheetProgramOpensTheQuotedPath) {
+TEST_F(GridExport, TheBooksPathIsReturned) {
     Build(1, 1);
-    Export({});
-    ASSERT_EQ(sink.starts.size(), 1u);
-    EXPECT_EQ(sink.starts[0].verb, "open");
-    EXPECT_EQ(sink.starts[0].file, "Excel");
-    EXPECT_EQ(sink.starts[0].parameters, '"' + (m_folder / "job_Name.xml").string() + '"');
-    EXPECT_TRUE(sink.messages.empty());
+    EXPECT_EQ(ExportGrid(m_inputFile, {"Name", 0, {}, 2.0}, m_grid), scratch.PathOf("job_Name.xml"));
 }
 
-TEST_F(GridExport, AFailedStartIsToldInItsWords) {
+TEST_F(GridExport, AnUnopenableFileWritesNothingAndItsPathIsReturnedAllTheSame) {
     Build(1, 1);
-    headless::State().shellCode = 2;
-    Export({});
-    ASSERT_EQ(sink.messages.size(), 1u);
-    EXPECT_EQ(sink.messages[0].text,
-              "The application specified to open the file was not found on this machine.");
-}
-
-TEST_F(GridExport, AnUnopenableFileWritesNothingAndTheProgramIsStartedAllTheSame) {
-    Build(1, 1);
-    g_InputFilePath = (m_folder / "missing" / "job.in").string();
-    ExportGrid("N", "N", 0, 0, {}, m_grid, 2.0);
-    EXPECT_FALSE(fs::exists(m_folder / "missing"));
-    EXPECT_EQ(sink.starts.size(), 1u);
+    EXPECT_EQ(ExportGrid(scratch.PathOf("missing/job.in"), {"N", 0, {}, 2.0}, m_grid),
+              scratch.PathOf("missing/job_N.xml"));
+    EXPECT_FALSE(scratch.Has("missing"));
 }
 
 class GridImage : public GridExport {
   protected:
     std::string Write(CPdfExport& pdf) {
-        pdf.WriteAndStart();
-        return Read("PdfTemp.txt");
+        EXPECT_TRUE(pdf.Write(m_messages));
+        EXPECT_TRUE(m_messages.texts.empty());
+        return scratch.Read("PdfTemp.txt");
     }
-    CPdfExport Make() { return {m_grid, (m_folder / "PdfTemp.txt").string(), "C:\\p\\MPTE.pdf"}; }
+    CPdfExport Make() { return {m_grid, scratch.PathOf("PdfTemp.txt"), "C:\\p\\MPTE.pdf"}; }
 };
 
 TEST_F(GridImage, AGridWithoutColumnsIsRefusedAndWritesNoFile) {
     Build(3, 0);
     CPdfExport pdf = Make();
-    pdf.WriteAndStart();
-    ASSERT_EQ(sink.messages.size(), 1u);
-    EXPECT_EQ(sink.messages[0].text, "Error: Empty Grid - Either the number of rows or columns is 0.");
-    EXPECT_FALSE(fs::exists(m_folder / "PdfTemp.txt"));
-    EXPECT_TRUE(sink.starts.empty());
+    EXPECT_FALSE(pdf.Write(m_messages));
+    ASSERT_EQ(m_messages.texts.size(), 1u);
+    EXPECT_EQ(m_messages.texts[0], "Error: Empty Grid - Either the number of rows or columns is 0.");
+    EXPECT_FALSE(scratch.Has("PdfTemp.txt"));
 }
 
 TEST_F(GridImage, AGridWithoutRowsAndColumnsIsToldTwice) {
     CPdfExport pdf = Make();
-    pdf.WriteAndStart();
-    EXPECT_EQ(sink.messages.size(), 2u);
+    EXPECT_FALSE(pdf.Write(m_messages));
+    EXPECT_EQ(m_messages.texts.size(), 2u);
 }
 
 TEST_F(GridImage, TheDescriptionListsItsKeysInOrder) {
@@ -270,7 +230,7 @@ TEST_F(GridImage, TheDescriptionListsItsKeysInOrder) {
 TEST_F(GridImage, PathsAreWrittenInTheCodePage) {
     Build(1, 1);
     m_grid.SetCellText(0, 0, "5 \xB1 1");
-    CPdfExport pdf(m_grid, (m_folder / "PdfTemp.txt").string(),
+    CPdfExport pdf(m_grid, scratch.PathOf("PdfTemp.txt"),
                    "/p/Br\xC3\xBC"
                    "cke/MPTE.pdf");
     pdf.m_sImagePath =
@@ -318,31 +278,6 @@ TEST_F(GridImage, ExtraLinesFollowTheRowsAsManyAsTheNumberSays) {
     pdf.m_ExtraLines = {"one", "two"};
     pdf.m_nExtraLines = 1;
     EXPECT_THAT(Write(pdf), EndsWith("\r\naone\r\n"));
-}
-
-TEST_F(GridImage, TheBuilderBesideTheHostIsStartedWithTheQuotedDescription) {
-    Build(1, 1);
-    headless::State().programPath = "/opt/host/Tarnsway.exe";
-    CPdfExport pdf = Make();
-    Write(pdf);
-    ASSERT_EQ(sink.starts.size(), 1u);
-    EXPECT_EQ(sink.starts[0].verb, "");
-    EXPECT_EQ(sink.starts[0].file, "/opt/host/Jarlimex.exe");
-    EXPECT_EQ(sink.starts[0].parameters, '"' + (m_folder / "PdfTemp.txt").string() + '"');
-}
-
-TEST_F(GridImage, AMissingBuilderIsNotNoticed) {
-    Build(1, 1);
-    headless::State().shellCode = 2;
-    CPdfExport pdf = Make();
-    Write(pdf);
-    EXPECT_TRUE(sink.messages.empty());
-}
-
-TEST(FolderOf, EndsWithTheLastSeparator) {
-    EXPECT_EQ(FolderOf("/a/b.in"), "/a/");
-    EXPECT_EQ(FolderOf("b.in"), "");
-    EXPECT_EQ(FolderOf(""), "");
 }
 
 }  // namespace

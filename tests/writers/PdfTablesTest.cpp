@@ -7,33 +7,30 @@
 #include <string>
 #include <vector>
 
-#include "tables/ReportModel.h"
+#include "support/ReportFixture.h"
 #include "writers/PdfFile.h"
 #include "writers/PdfSink.h"
+#include "writers/TablePdf.h"
 
 class PdfTables : public ReportTest {
   protected:
-    using PdfMember = int (CWriteData::*)(StoredStream&, CPdfWriter&);
-    using TextMember = int (CWriteData::*)(StoredStream&);
-
-    PdfFile Write(PdfMember write, bool landscape = true) {
-        CWriteData writer;
+    PdfFile Write(TableId table, bool landscape = true) {
         StoredStream out(Path());
         CPdfWriter pdf(landscape);
         pdf.WriteHeader(out);
-        m_nLines = (writer.*write)(out, pdf);
+        m_nLines = WriteTablePdf(MakeReport(), table, out, pdf);
         pdf.Finish(out);
         out.Close();
         return PdfFile(StoredBytes());
     }
     // A table of pile ratios with as many rows as it has properties, none of which has a result.
-    static void MakePileRatios(std::size_t piers, int properties) {
+    void MakePileRatios(std::size_t piers, int properties) {
         AddPiers(piers);
-        for (CPier& pier : g_DataSet.m_Piers) {
-            Fill(pier, 1, 0, 0, 1);
-            pier.m_nPileSections = properties;
-            pier.m_PileDc.Allocate(properties, 1, 1);
-            for (int p = 0; p < properties; ++p) pier.m_PileDc.At(p, 0) = kNotFoundRecord;
+        for (std::size_t i = 0; i < piers; ++i) {
+            Fill(Pier(i), 1, 0, 0, 1);
+            Pier(i).m_nPileSections = properties;
+            Results(i).pileDc.Allocate(properties, 1, 1);
+            for (int p = 0; p < properties; ++p) Results(i).pileDc.At(p, 0) = kNotFoundRecord;
         }
     }
     static std::vector<std::string> SplitText(const std::string& text) {
@@ -53,9 +50,9 @@ class PdfTables : public ReportTest {
         return words;
     }
     // Every line of every page equals the text form's, but for the margin of titles and table 0's gaps.
-    void ExpectTextLines(PdfMember writePdf, TextMember writeText, std::size_t titleLines, bool keyed) {
-        const PdfFile file = Write(writePdf);
-        std::vector<std::string> text = SplitText(Text(writeText));
+    void ExpectTextLines(TableId table, std::size_t titleLines, bool keyed) {
+        const PdfFile file = Write(table);
+        std::vector<std::string> text = SplitText(Text(table));
         if (keyed) text.emplace_back();  // the key is not cut at its end
         ASSERT_EQ(file.pages.size(), 1U);
         const std::vector<std::string>& lines = file.pages[0].lines;
@@ -73,51 +70,47 @@ class PdfTables : public ReportTest {
 
 TEST_F(PdfTables, OnePageShowsTheLinesOfTheText) {
     MakePileRatios(2, 3);
-    for (CPier& pier : g_DataSet.m_Piers) {
-        pier.m_ppMaxTension = {{0}};
-        pier.m_ppMaxCompression = {{-1}};
-        pier.m_nColumnSections = 1;
-        pier.m_ColumnDc.Allocate(1, 1, 1);
+    for (std::size_t i = 0; i < 2; ++i) {
+        Results(i).maxTension = {{0}};
+        Results(i).maxCompression = {{-1}};
+        Pier(i).m_nColumnSections = 1;
+        Results(i).columnDc.Allocate(1, 1, 1);
     }
-    ExpectTextLines(&CWriteData::WriteMaxAxialPdf, &CWriteData::WriteMaxAxialText, 3, false);
-    ExpectTextLines(&CWriteData::WritePileDcPdf, &CWriteData::WritePileDcText, 1, false);
-    ExpectTextLines(&CWriteData::WriteColumnDcPdf, &CWriteData::WriteColumnDcText, 1, false);
+    ExpectTextLines(kTableMaxAxial, 3, false);
+    ExpectTextLines(kTablePileDc, 1, false);
+    ExpectTextLines(kTableColumnDc, 1, false);
     Pier(1).m_nStructureType = kTypePileBent;
-    ExpectTextLines(&CWriteData::WriteColumnDcPdf, &CWriteData::WriteColumnDcText, 1, false);
+    ExpectTextLines(kTableColumnDc, 1, false);
 }
 
 TEST_F(PdfTables, TheKeyOfACapTableEndsInAnEmptyLine) {
     AddPiers(1);
     Fill(Pier(), 0, 1, 0, 1);
-    ExpectTextLines(&CWriteData::WriteCapShearPdf, &CWriteData::WriteCapShearText, 1, true);
-    ExpectTextLines(&CWriteData::WriteCapMomentPdf, &CWriteData::WriteCapMomentText, 1, true);
-    const std::vector<std::string> lines = Write(&CWriteData::WriteCapMomentPdf).pages.at(0).lines;
+    ExpectTextLines(kTableCapShear, 1, true);
+    ExpectTextLines(kTableCapMoment, 1, true);
+    const std::vector<std::string> lines = Write(kTableCapMoment).pages.at(0).lines;
     EXPECT_NE(std::find(lines.begin(), lines.end(), "(+M33 = Tension at Bottom)"), lines.end());
 }
 
 TEST_F(PdfTables, TitlesHaveTheMarginsOfTheNarrowerFont) {
     struct Case {
-        PdfMember write;
+        TableId table;
         const char* margin;
         std::size_t blanks, blanksOfCombinations;
     };
     const Case cases[] = {
-        {&CWriteData::WriteMaxAxialPdf, "\t", 19, 38},
-        {&CWriteData::WritePileDcPdf, "\t", 21, 36},
-        {&CWriteData::WriteColumnDcPdf, "\t", 34, 36},
-        {&CWriteData::WriteCapShearPdf, "\t", 50, 53},
-        {&CWriteData::WriteCapMomentPdf, "", 38, 45},
-        {&CWriteData::WritePileForcesPdf, "\t", 33, 46},
-        {&CWriteData::WriteColumnForcesPdf, "\t", 33, 46},
-        {&CWriteData::WriteExtraMemberForcesPdf, "\t", 40, 53},
+        {kTableMaxAxial, "\t", 19, 38},     {kTablePileDc, "\t", 21, 36},
+        {kTableColumnDc, "\t", 34, 36},     {kTableCapShear, "\t", 50, 53},
+        {kTableCapMoment, "", 38, 45},      {kTablePileForces, "\t", 33, 46},
+        {kTableColumnForces, "\t", 33, 46}, {kTableExtraMembers, "\t", 40, 53},
     };
     for (const Case& c : cases) {
         AddPiers(1);
         Fill(Pier(), 1, 0, 0, 1);
-        const std::string plain = Write(c.write).pages.at(0).lines.at(0);
+        const std::string plain = Write(c.table).pages.at(0).lines.at(0);
         EXPECT_EQ(plain.substr(0, plain.find_first_not_of(" \t")), c.margin + Blanks(c.blanks));
         MakeCombinations(Pier(), kFamilyLfd, {});
-        const std::string wide = Write(c.write).pages.at(0).lines.at(0);
+        const std::string wide = Write(c.table).pages.at(0).lines.at(0);
         EXPECT_EQ(wide.substr(0, wide.find_first_not_of(" \t")), Blanks(c.blanksOfCombinations));
     }
 }
@@ -126,8 +119,8 @@ TEST_F(PdfTables, GapsOfTheAxialTableHoldLineFeedsAndBlanks) {
     AddPiers(1);
     Fill(Pier(), 1, 0, 0, 1);
     MakeCombinations(Pier(), kFamilyArema, {0, 1});
-    Pier().m_ppMaxTension = Pier().m_ppMaxCompression = {{-1}, {-1}};
-    const PdfFile file = Write(&CWriteData::WriteMaxAxialPdf, false);
+    Results().maxTension = Results().maxCompression = {{-1}, {-1}};
+    const PdfFile file = Write(kTableMaxAxial, false);
     const std::vector<std::string>& lines = file.pages.at(0).lines;
     EXPECT_EQ(lines.at(0), Blanks(38) + "Maximum Axial Forces at All Pile Heads");
     EXPECT_EQ(lines.at(1), Blanks(37) + "(USE TO COMPARE TO PILE DRIVE CAPACITY)");
@@ -146,7 +139,7 @@ TEST_F(PdfTables, GapsOfTheAxialTableHoldLineFeedsAndBlanks) {
 TEST_F(PdfTables, ATableOfOnePageHasNoContinuation) {
     // Title 3, heading 2, head 3: 43 rows bring the page to line 51, and no further row asks for more.
     MakePileRatios(1, 43);
-    const PdfFile file = Write(&CWriteData::WritePileDcPdf);
+    const PdfFile file = Write(kTablePileDc);
     EXPECT_EQ(file.pages.size(), 1U);
     EXPECT_EQ(file.Bytes().find("cont..."), std::string::npos);
     EXPECT_EQ(m_nLines, 51 + 2 + 2);
@@ -154,7 +147,7 @@ TEST_F(PdfTables, ATableOfOnePageHasNoContinuation) {
 
 TEST_F(PdfTables, ARowAtLine51GoesToTheNextPageBehindTheHead) {
     MakePileRatios(1, 44);
-    const PdfFile file = Write(&CWriteData::WritePileDcPdf);
+    const PdfFile file = Write(kTablePileDc);
     ASSERT_EQ(file.pages.size(), 2U);
     const std::vector<std::string>& first = file.pages[0].lines;
     ASSERT_EQ(first.size(), 53U);
@@ -175,16 +168,16 @@ TEST_F(PdfTables, ARowAtLine51GoesToTheNextPageBehindTheHead) {
 
 TEST_F(PdfTables, FurtherPagesHoldFortySixRows) {
     MakePileRatios(1, 43 + 46 + 46);
-    EXPECT_EQ(Write(&CWriteData::WritePileDcPdf).pages.size(), 3U);
+    EXPECT_EQ(Write(kTablePileDc).pages.size(), 3U);
     MakePileRatios(1, 43 + 46 + 46 + 1);
-    EXPECT_EQ(Write(&CWriteData::WritePileDcPdf).pages.size(), 4U);
+    EXPECT_EQ(Write(kTablePileDc).pages.size(), 4U);
 }
 
 TEST_F(PdfTables, TheAxialTableContinuesFurtherLeftAndUpright) {
     AddPiers(1);
     Fill(Pier(), 61, 0, 0, 1);  // title 5, head 4: 60 rows bring the upright page to line 69 of 71
-    Pier().m_ppMaxTension = Pier().m_ppMaxCompression = {std::vector<int>(61, -1)};
-    const PdfFile file = Write(&CWriteData::WriteMaxAxialPdf, false);
+    Results().maxTension = Results().maxCompression = {std::vector<int>(61, -1)};
+    const PdfFile file = Write(kTableMaxAxial, false);
     ASSERT_EQ(file.pages.size(), 2U);
     EXPECT_EQ(file.pages[0].lines.size(), 71U);
     EXPECT_EQ(file.pages[0].lines.back(), Blanks(57 + 52) + "cont...");
@@ -200,13 +193,13 @@ TEST_F(PdfTables, CapHeadsAreContinuedWithOneEmptyLine) {
     Fill(Pier(), 0, 1, 0, 1);
     CPier& pier = Pier();
     const int rows = 60;
-    pier.m_ShearSupports.Allocate(rows, 1, 4);
+    Results().shearSupports.Allocate(rows, 1, 4);
     for (int i = 0; i < rows; ++i) {
-        pier.m_ShearSupportX.push_back(i);
-        pier.m_ShearSupportList.push_back({i, 0});
+        Results().shearSupportX.push_back(i);
+        Results().shearSupportList.push_back({i, 0});
     }
     pier.m_nCapShearSupports = pier.m_nCapShearPoints = rows;
-    const PdfFile file = Write(&CWriteData::WriteCapShearPdf);
+    const PdfFile file = Write(kTableCapShear);
     ASSERT_GE(file.pages.size(), 3U);
     // Title 3, heading 4, head 3: 41 rows up to line 51.
     EXPECT_EQ(file.pages[0].lines.at(9), "");
@@ -236,7 +229,7 @@ TEST_F(PdfTables, AHeadingNeedsFifteenLinesAndABlockSix) {
         StoredStream out(Path());
         CPdfWriter pdf(true);
         pdf.WriteHeader(out);
-        CPdfSink sink(out, pdf, false);
+        CPdfSink sink(out, pdf, "", false);
         for (int i = 0; i < c.lines; ++i) sink.Line("line");
         sink.MayBreak(c.point);
         sink.Line("next");
@@ -254,8 +247,8 @@ TEST_F(PdfTables, AHeadingNeedsFifteenLinesAndABlockSix) {
 
 TEST_F(PdfTables, AnEmptyHeadShowsNothingOnEitherPage) {
     MakePileRatios(1, 44);
-    g_DataSet.m_nAnalysisMode = 3;
-    const PdfFile file = Write(&CWriteData::WritePileDcPdf);
+    data.m_nAnalysisMode = 3;
+    const PdfFile file = Write(kTablePileDc);
     ASSERT_EQ(file.pages.size(), 2U);
     // Three lines are counted for it all the same, so the page has three lines fewer.
     EXPECT_EQ(file.pages[0].lines.size(), 50U);
@@ -265,9 +258,9 @@ TEST_F(PdfTables, AnEmptyHeadShowsNothingOnEitherPage) {
 
 TEST_F(PdfTables, FootersShowTheirBackslashes) {
     MakePileRatios(1, 50);
-    g_FooterOn = g_FooterFileName = 1;
-    g_ProjectBasePath = "\\\\server\\jobs\\p";
-    const PdfFile file = Write(&CWriteData::WritePileDcPdf);
+    options.footer.on = options.footer.fileName = true;
+    options.projectBasePath = "\\\\server\\jobs\\p";
+    const PdfFile file = Write(kTablePileDc);
     ASSERT_EQ(file.pages.size(), 2U);
     for (const PdfPage& page : file.pages) EXPECT_EQ(page.footer, "\\\\\\\\server\\\\jobs\\\\p.in");
 }
@@ -276,7 +269,7 @@ TEST_F(PdfTables, FatigueAloneGivesOneMomentBlockAnExtreme) {
     AddPiers(1);
     Fill(Pier(), 0, 1, 0, 1);
     MakeCombinations(Pier(), kFamilyLrfd, {3});
-    const std::vector<std::string> lines = Write(&CWriteData::WriteCapMomentPdf).pages.at(0).lines;
+    const std::vector<std::string> lines = Write(kTableCapMoment).pages.at(0).lines;
     EXPECT_EQ(std::count(lines.begin(), lines.end(), " FATIGUE CASE DATA"), 2);
     const auto heads = std::count_if(
         lines.begin(), lines.end(), [](const std::string& line) { return line.starts_with("    LOCATION"); });
@@ -284,23 +277,22 @@ TEST_F(PdfTables, FatigueAloneGivesOneMomentBlockAnExtreme) {
 }
 
 TEST_F(PdfTables, TablesThatAreNotEnabledLeaveTheDocumentAlone) {
-    EXPECT_TRUE(Write(&CWriteData::WriteCapShearPdf).pages.empty());
+    EXPECT_TRUE(Write(kTableCapShear).pages.empty());
     EXPECT_EQ(m_nLines, 0);
     AddPiers(1);
-    g_DataSet.m_bTableEnabled.fill(false);
-    EXPECT_TRUE(Write(&CWriteData::WritePileForcesPdf).pages.empty());
+    enabled = {};
+    EXPECT_TRUE(Write(kTablePileForces).pages.empty());
     EXPECT_EQ(m_nLines, 0);
 }
 
 TEST_F(PdfTables, EachTableOfAReportHasItsOwnPages) {
     MakePileRatios(1, 2);
-    Pier().m_ppMaxTension = Pier().m_ppMaxCompression = {{-1}};
-    CWriteData writer;
+    Results().maxTension = Results().maxCompression = {{-1}};
     StoredStream out(Path());
     CPdfWriter pdf(true);
     pdf.WriteHeader(out);
-    EXPECT_GT(writer.WriteMaxAxialPdf(out, pdf), 0);
-    EXPECT_GT(writer.WritePileDcPdf(out, pdf), 0);
+    EXPECT_GT(WriteTablePdf(MakeReport(), kTableMaxAxial, out, pdf), 0);
+    EXPECT_GT(WriteTablePdf(MakeReport(), kTablePileDc, out, pdf), 0);
     pdf.Finish(out);
     out.Close();
     const PdfFile file(StoredBytes());
@@ -314,8 +306,8 @@ TEST_F(PdfTables, EachTableOfAReportHasItsOwnPages) {
 TEST_F(PdfTables, AViewerShowsTheWordsOfTheTextLineByLine) {
     if (std::system("pdftotext -v >/dev/null 2>&1") != 0) GTEST_SKIP() << "pdftotext is not installed";
     MakePileRatios(1, 60);
-    g_FooterOn = g_FooterVersion = 1;
-    const std::size_t pages = Write(&CWriteData::WritePileDcPdf).pages.size();
+    options.footer.on = options.footer.version = true;
+    const std::size_t pages = Write(kTablePileDc).pages.size();
     ASSERT_EQ(pages, 2U);
     const std::string shownPath = Path() + ".shown";
     const std::string command = "pdftotext -layout '" + Path() + "' '" + shownPath + "' 2>/dev/null";
@@ -331,7 +323,7 @@ TEST_F(PdfTables, AViewerShowsTheWordsOfTheTextLineByLine) {
     shown.close();
     std::remove(shownPath.c_str());
     std::vector<std::string> expected;
-    for (const std::string& line : SplitText(Text(&CWriteData::WritePileDcText))) {
+    for (const std::string& line : SplitText(Text(kTablePileDc))) {
         if (!Words(line).empty()) expected.push_back(Words(line));
     }
     // The second page repeats the head: title, heading, two lines of head and 43 rows stand before it.
@@ -341,12 +333,11 @@ TEST_F(PdfTables, AViewerShowsTheWordsOfTheTextLineByLine) {
 }
 
 TEST_F(PdfTables, TheTitlePageIsADocumentOfItsOwn) {
-    headless::State().viewerNumbers["iPointSize"] = 140;  // 34 lines a page: 18 less 2
-    g_FooterOn = g_FooterDate = 1;
-    CWriteData writer;
+    options.viewerFontSize = 14;  // 34 lines a page: 18 less 2
+    options.footer.on = options.footer.date = true;
     StoredStream out(Path());
-    writer.WriteTitlePagePdf(out);
-    EXPECT_FALSE(out.IsOpen());
+    WriteTitlePagePdf(options, out);
+    out.Close();
     const PdfFile file(StoredBytes());
     ASSERT_EQ(file.pages.size(), 1U);
     const std::vector<std::string>& lines = file.pages[0].lines;

@@ -2,27 +2,16 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <string>
 
+#include "support/ScratchFolder.h"
 #include "writers/PdfFile.h"
 
 class PdfWriter : public ::testing::Test {
   protected:
-    void TearDown() override { std::remove(Path().c_str()); }
-    static std::string Path() {
-        const auto* test = ::testing::UnitTest::GetInstance()->current_test_info();
-        return ::testing::TempDir() + test->test_suite_name() + "." + test->name() + ".pdf";
-    }
-    static std::string StoredBytes() {
-        std::ifstream file(Path(), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    }
     // A document of pages that show one line each.
-    static PdfFile Write(bool landscape, int pages, const std::string& header, const std::string& footer) {
-        StoredStream out(Path());
+    PdfFile Write(bool landscape, int pages, const std::string& header, const std::string& footer) const {
+        StoredStream out(scratch.PathOf("pages.pdf"));
         CPdfWriter pdf(landscape);
         pdf.WriteHeader(out);
         for (int page = 0; page < pages; ++page) {
@@ -33,7 +22,7 @@ class PdfWriter : public ::testing::Test {
         pdf.Finish(out);
         out.Close();
         EXPECT_EQ(pdf.PageCount(), pages);
-        return PdfFile(StoredBytes());
+        return PdfFile(scratch.Read("pages.pdf"));
     }
     // The text as the store keeps it.
     static std::string Stored(const std::string& text) {
@@ -41,6 +30,8 @@ class PdfWriter : public ::testing::Test {
         for (const char c : text) stored += c == '\n' ? std::string("\r\n") : std::string(1, c);
         return stored;
     }
+
+    const ScratchFolder scratch;
 };
 
 TEST_F(PdfWriter, OnePageInFull) {

@@ -1,7 +1,8 @@
 #include <gmock/gmock.h>
 
-#include "SheetProject.h"
 #include "WellFormed.h"
+#include "Worksheets.h"
+#include "writers/WorkbookFrame.h"
 
 namespace {
 
@@ -10,46 +11,48 @@ using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 
-// Gives a substructure one support location and one bearing, both with results of load case 1.
-void GiveCap(CPier& pier, int slots, int rowCode = 2) {
-    const int row = rowCode == 1 ? 1 : 0;
-    pier.m_ShearSupports.Allocate(1, slots, 4);
-    pier.m_MomentSupports.Allocate(1, slots, 3);
-    pier.m_ShearBearings.Allocate(1, slots, 4);
-    pier.m_MomentBearings.Allocate(1, slots, 2);
-    pier.m_ShearSupportList = pier.m_MomentSupportList = {{0, 0}};
-    pier.m_ShearSupportX = pier.m_MomentSupportX = {10.0};
-    pier.m_BearingList = {{0, rowCode, true, true}};
-    pier.m_BearingX = {20.0};
-    pier.m_nCapShearSupports = pier.m_nCapMomentSupports = pier.m_nCapBearings = 1;
-    pier.m_nCapShearPoints = 3;
-    pier.m_nCapMomentPoints = 2;
-    pier.m_ShearPointX = {10.0, 20.0, 20.0};
-    pier.m_MomentPointX = {10.0, 20.0};
-    CCapEntry entry;
-    entry.record = {0, 5, 0, 17, kEndJ, 23, kCapSpan, 0, 0, 0};
-    entry.values = {1.0, 2.0, 3.0, 4.0, 5.0, 6.0, 0.75};
-    for (int slot = 0; slot < slots; ++slot) {
-        for (int extreme = 0; extreme < 2; ++extreme) {
-            pier.m_ShearSupports.At(0, slot, 0, extreme) = entry;
-            pier.m_MomentSupports.At(0, slot, 0, extreme) = entry;
-            pier.m_ShearBearings.At(0, slot, row * 2, extreme) = entry;
-            pier.m_ShearBearings.At(0, slot, row * 2 + 1, extreme) = entry;
-            pier.m_MomentBearings.At(0, slot, row, extreme) = entry;
-        }
-    }
-}
-
 class SheetCaps : public SheetTest {
   protected:
-    void Make(int family = kFamilyNone, int type = kTypePier) {
+    // Gives a substructure one support location and one bearing, both with results of load case 1.
+    void GiveCap(std::size_t index, int slots, int rowCode = 2) {
+        CPier& pier = Pier(index);
+        PierResults& found = Results(index);
+        const int row = rowCode == 1 ? 1 : 0;
+        found.shearSupports.Allocate(1, slots, 4);
+        found.momentSupports.Allocate(1, slots, 3);
+        found.shearBearings.Allocate(1, slots, 4);
+        found.momentBearings.Allocate(1, slots, 2);
+        found.shearSupportList = found.momentSupportList = {{0, 0}};
+        found.shearSupportX = found.momentSupportX = {10.0};
+        pier.m_BearingList = {{0, rowCode, true, true}};
+        pier.m_BearingX = {20.0};
+        pier.m_nCapShearSupports = pier.m_nCapMomentSupports = pier.m_nCapBearings = 1;
+        pier.m_nCapShearPoints = 3;
+        pier.m_nCapMomentPoints = 2;
+        found.shearPointX = {10.0, 20.0, 20.0};
+        found.momentPointX = {10.0, 20.0};
+        CCapEntry entry;
+        entry.record = {0, 5, 0, 17, kEndJ, 23, kCapSpan, 0, 0, 0};
+        entry.values = {1.0, 2.0, 3.0, 4.0, 5.0, 6.0, 0.75};
+        for (int slot = 0; slot < slots; ++slot) {
+            for (int extreme = 0; extreme < 2; ++extreme) {
+                found.shearSupports.At(0, slot, 0, extreme) = entry;
+                found.momentSupports.At(0, slot, 0, extreme) = entry;
+                found.shearBearings.At(0, slot, row * 2, extreme) = entry;
+                found.shearBearings.At(0, slot, row * 2 + 1, extreme) = entry;
+                found.momentBearings.At(0, slot, row, extreme) = entry;
+            }
+        }
+    }
+    void Make(CodeFamily family = kFamilyNone, StructureType type = kTypePier) {
         MakePiers({{.type = type, .family = family}});
         if (family == kFamilyLrfd) PresentClasses({kStrength});
         Pier().m_LoadCases[0].m_sLimitState = "STRENGTH-I";
-        GiveCap(Pier(), Pier().SlotCount());
+        GiveCap(0, Pier().SlotCount());
     }
-    static CCapEntry& Support(int table, int kind = 0) {
-        return (table == kTableCapShear ? Pier().m_ShearSupports : Pier().m_MomentSupports).At(0, 0, kind, 0);
+    CCapEntry& Support(int table, int kind = 0) {
+        return (table == kTableCapShear ? Results().shearSupports : Results().momentSupports)
+            .At(0, 0, kind, 0);
     }
 };
 
@@ -57,7 +60,7 @@ std::string Label(const std::string& label) {
     return " <Row>   <Cell ss:Index=\"2\" ss:StyleID=\"s60\"><Data ss:Type=\"String\">" + label +
            "</Data></Cell>\n";
 }
-std::string Text(const std::string& text) {
+std::string TextCell(const std::string& text) {
     return "    <Cell  ss:StyleID=\"s60\"><Data ss:Type=\"String\">" + text + "</Data></Cell>\n";
 }
 std::string Whole(const std::string& number) {
@@ -72,7 +75,7 @@ std::string Values(const std::vector<std::string>& numbers) {
 }
 std::string Stars(int count, int none = -1) {
     std::string out;
-    for (int i = 0; i < count; ++i) out += Text(i == none ? "none" : "***");
+    for (int i = 0; i < count; ++i) out += TextCell(i == none ? "none" : "***");
     return out;
 }
 
@@ -93,7 +96,7 @@ TEST_F(SheetCaps, ShearTableWithoutCombinations) {
         " Shear Forces at the Left and Right of the Bearings and at the Left Face, Right Face and Centerline "
         "of "
         "Supports";
-    const std::string row = kPlace + Whole("23") + Whole("1") + Text("J") + kShear;
+    const std::string row = kPlace + Whole("23") + Whole("1") + TextCell("J") + kShear;
     const std::string rows = Label("Col 1 LF") + row + Label("Brg 1 L") + row + Label("Brg 1 R") + row;
     EXPECT_THAT(sheet,
                 HasSubstr("Pier Cap Shear F22 Design</Data></Cell>\n  </Row>\n<Row></Row>\n<Row></Row>\n" +
@@ -116,7 +119,7 @@ TEST_F(SheetCaps, MomentTableWithoutCombinations) {
     };
     const std::string place =
         " Moment Forces at the Bearings and at the Left Face, Right Face and Centerline of Supports";
-    const std::string row = kPlace + Whole("23") + Whole("1") + Text("J") + kMoment;
+    const std::string row = kPlace + Whole("23") + Whole("1") + TextCell("J") + kMoment;
     const std::string rows = Label("Pil 1 LF") + row + Label("Brg 1") + row + "<Row></Row>\n";
     EXPECT_THAT(sheet, HasSubstr(heading("Bent Cap Moment Design, Substructure  1:") +
                                  heading("Maximum (+)" + place) + heading("(+M33 = Tension at Bottom)\n") +
@@ -130,7 +133,7 @@ TEST_F(SheetCaps, MomentTableWithoutCombinations) {
 
 TEST_F(SheetCaps, LimitStateStandsBehindTheLoadCase) {
     Make(kFamilyLrfd);
-    const std::string row = kPlace + Whole("23") + Whole("1") + Text("     STRENGTH-I") + Text("J");
+    const std::string row = kPlace + Whole("23") + Whole("1") + TextCell("     STRENGTH-I") + TextCell("J");
     EXPECT_THAT(Written(kTableCapShear), HasSubstr(Label("Col 1 LF") + row + kShear));
     EXPECT_THAT(Written(kTableCapMoment), HasSubstr(Label("Brg 1") + row + kMoment));
 }
@@ -142,16 +145,16 @@ TEST_F(SheetCaps, InsideAnElementBothNodesAreShown) {
         Make();
         Support(table).record.m_nEnd = kInsideElement;
         Support(table).record.m_nSecondNode = 24;
-        EXPECT_THAT(Written(table), HasSubstr(Label("Col 1 LF") + kPlace + Text("23, 24") + Whole("1") +
-                                              Text("I,J") + Values({"1.00"})));
+        EXPECT_THAT(Written(table), HasSubstr(Label("Col 1 LF") + kPlace + TextCell("23, 24") + Whole("1") +
+                                              TextCell("I,J") + Values({"1.00"})));
     }
 }
 
 TEST_F(SheetCaps, UnsetEndHasStars) {
     Make();
     Support(kTableCapShear).record.m_nEnd = -1;
-    EXPECT_THAT(Written(kTableCapShear),
-                HasSubstr(Label("Col 1 LF") + kPlace + Text("***") + Whole("1") + Text("***") + kShear));
+    EXPECT_THAT(Written(kTableCapShear), HasSubstr(Label("Col 1 LF") + kPlace + TextCell("***") + Whole("1") +
+                                                   TextCell("***") + kShear));
 }
 
 TEST_F(SheetCaps, MissingSection) {
@@ -160,11 +163,11 @@ TEST_F(SheetCaps, MissingSection) {
         Make();
         Support(table).record.m_nMissing = 1;
         EXPECT_THAT(Written(table),
-                    HasSubstr(Label("Col 1 LF") + Text("miss") + Stars(count, 2) + "\t</Row>\n"));
+                    HasSubstr(Label("Col 1 LF") + TextCell("miss") + Stars(count, 2) + "\t</Row>\n"));
         Make(kFamilyLfd);
         Support(table).record.m_nMissing = 1;
         EXPECT_THAT(Written(table),
-                    HasSubstr(Label("Col 1 LF") + Text("miss") + Stars(count + 1, 2) + "\t</Row>\n"));
+                    HasSubstr(Label("Col 1 LF") + TextCell("miss") + Stars(count + 1, 2) + "\t</Row>\n"));
     }
 }
 
@@ -172,18 +175,18 @@ TEST_F(SheetCaps, NoLoadCase) {
     for (const int table : {kTableCapShear, kTableCapMoment}) {
         Make();
         Support(table).record.m_nLoadCase = -1;
-        EXPECT_THAT(Written(table), HasSubstr(Label("Col 1 LF") + kPlace + Whole("23") + Text("none") +
+        EXPECT_THAT(Written(table), HasSubstr(Label("Col 1 LF") + kPlace + Whole("23") + TextCell("none") +
                                               Stars(8) + "\t</Row>\n"));
         Make(kFamilyLfd);
         Support(table).record.m_nLoadCase = -1;
-        EXPECT_THAT(Written(table), HasSubstr(Label("Col 1 LF") + kPlace + Whole("23") + Text("none") +
+        EXPECT_THAT(Written(table), HasSubstr(Label("Col 1 LF") + kPlace + Whole("23") + TextCell("none") +
                                               Stars(9) + "\t</Row>\n"));
     }
 }
 
 // The left side goes by the first flag (an element starts at the bearing), the right side by the second.
 TEST_F(SheetCaps, SideOfABearingWithoutResult) {
-    const std::string normal = kPlace + Whole("23") + Whole("1") + Text("J") + kShear;
+    const std::string normal = kPlace + Whole("23") + Whole("1") + TextCell("J") + kShear;
     const auto none = [](int count) { return kPlace + Whole("23") + Stars(count, 2) + "\t</Row>\n"; };
     Make();
     Pier().m_BearingList[0].m_bElementStarts = false;
@@ -201,9 +204,9 @@ TEST_F(SheetCaps, SideOfABearingWithoutResult) {
 TEST_F(SheetCaps, MissingFlagComesBeforeTheSide) {
     Make();
     Pier().m_BearingList[0].m_bElementStarts = false;
-    Pier().m_ShearBearings.At(0, 0, 0, 0).record.m_nMissing = 1;
+    Results().shearBearings.At(0, 0, 0, 0).record.m_nMissing = 1;
     EXPECT_THAT(Written(kTableCapShear),
-                HasSubstr(Label("Brg 1 L") + Text("miss") + Stars(11, 2) + "\t</Row>\n"));
+                HasSubstr(Label("Brg 1 L") + TextCell("miss") + Stars(11, 2) + "\t</Row>\n"));
 }
 
 // ---- labels and order
@@ -217,7 +220,7 @@ TEST_F(SheetCaps, LabelsOfBearingRows) {
     };
     for (const auto& [code, labels] : rows) {
         Make();
-        GiveCap(Pier(), 1, code);
+        GiveCap(0, 1, code);
         const std::string shear = Written(kTableCapShear);
         EXPECT_THAT(shear, HasSubstr(Label(labels[0]) + kPlace));
         EXPECT_THAT(shear, HasSubstr(Label(labels[1]) + kPlace));
@@ -230,10 +233,10 @@ TEST_F(SheetCaps, LabelsOfSupportKinds) {
     const char* moment[] = {"Mst 1 LF", "Mst 1 CL", "Mst 1 RF"};
     for (int kind = 0; kind < 4; ++kind) {
         Make(kFamilyNone, kTypeMast);
-        Pier().m_ShearSupportList[0].m_nKind = kind;
+        Results().shearSupportList[0].m_nKind = kind;
         EXPECT_THAT(Written(kTableCapShear), HasSubstr(Label(shear[kind])));
         if (kind == 3) continue;
-        Pier().m_MomentSupportList[0].m_nKind = kind;
+        Results().momentSupportList[0].m_nKind = kind;
         EXPECT_THAT(Written(kTableCapMoment), HasSubstr(Label(moment[kind])));
     }
 }
@@ -253,7 +256,7 @@ TEST_F(SheetCaps, RowsStandInOrderOfPosition) {
 
 TEST_F(SheetCaps, SecondSubstructureBringsTheSlipInTheShearTable) {
     MakePiers({{.type = kTypePier}, {.type = kTypeWallA}});
-    GiveCap(Pier(0), 1);
+    GiveCap(0, 1);
     const std::string shear = Written(kTableCapShear);
     EXPECT_THAT(shear, HasSubstr("  </Row>\n<Row></Row>/n<Row>\n    <Cell ss:Index=\"2\" ss:StyleID=\"s58\">"
                                  "<Data ss:Type=\"String\">, Substructure  2:</Data></Cell>  </Row>\n"));
@@ -266,11 +269,12 @@ TEST_F(SheetCaps, SecondSubstructureBringsTheSlipInTheShearTable) {
 
 TEST_F(SheetCaps, CoordsAccompanyATableThatStandsAlone) {
     Make();
-    const std::pair<int, std::string> coords[] = {{kTableCapShear, CWriteData().CoordsSheetShear()},
-                                                  {kTableCapMoment, CWriteData().CoordsSheetMoment()}};
+    const std::pair<int, std::string> coords[] = {
+        {kTableCapShear, ::CoordsSheet(MakeReport(), kTableCapShear)},
+        {kTableCapMoment, ::CoordsSheet(MakeReport(), kTableCapMoment)}};
     for (const auto& [table, sheet] : coords) {
         const std::string embedded = Written(table, true);
-        EXPECT_EQ(Written(table, false), CWriteData::WorkbookHeader() + embedded + sheet + "</Workbook>\n");
+        EXPECT_EQ(Written(table, false), WorkbookHead(false, clock) + embedded + sheet + "</Workbook>\n");
         EXPECT_THAT(embedded, Not(HasSubstr("Coords")));
     }
 }
@@ -278,21 +282,19 @@ TEST_F(SheetCaps, CoordsAccompanyATableThatStandsAlone) {
 // A full report: one head, the tables that are valid in their order, no coordinates.
 TEST_F(SheetCaps, TablesOfAFullReportStandInOrderWithoutCoords) {
     MakePiers({{.type = kTypePier, .piles = 1, .columns = 1, .extraMembers = 1}});
-    Pier().AllocateResultTables();
-    GiveCap(Pier(), 1);
-    g_DataSet.m_bTableValid[kTableColumnDc] = false;
+    AllocateResults();
+    GiveCap(0, 1);
+    results.valid[kTableColumnDc] = false;
     {
         StoredStream out(Path());
-        CWriteData writer;
-        out << CWriteData::WorkbookHeader();
+        out << WorkbookHead(false, clock);
         for (int table = 0; table <= kTableExtraMembers; ++table) {
-            if (g_DataSet.m_bTableValid[static_cast<std::size_t>(table)])
-                (writer.*WriterOf(table))(out, true);
+            if (results.valid[TableId{table}]) WriteTableSheet(MakeReport(), TableId{table}, out, true);
         }
         out << "</Workbook>\n";
         out.Close();
     }
-    const std::string workbook = Stored();
+    const std::string workbook = StoredText();
     std::vector<std::string> names;
     for (const std::string& sheet : Worksheets(workbook)) names.push_back(Attribute(sheet, "ss:Name"));
     EXPECT_THAT(names, testing::ElementsAre("Max_Axial_Forces_Pile_Heads", "Max_DC_For_Pile_Sections",
@@ -306,7 +308,7 @@ TEST_F(SheetCaps, TablesOfAFullReportStandInOrderWithoutCoords) {
 // with combinations; without, each block's room for a heading comes on top in the shear table.
 TEST_F(SheetCaps, AnnouncedRowsReachTheLastRow) {
     const int beyond[][2] = {{4, 1}, {2, 1}, {2, 1}};
-    const int families[] = {kFamilyNone, kFamilyLrfd, kFamilyLfd};
+    const CodeFamily families[] = {kFamilyNone, kFamilyLrfd, kFamilyLfd};
     for (std::size_t i = 0; i < std::size(families); ++i) {
         Make(families[i]);
         const std::string shear = Written(kTableCapShear), moment = Written(kTableCapMoment);
@@ -336,7 +338,7 @@ class SheetCapKey : public SheetCaps {
         return out + "    </Row>\n";
     }
     static std::string Row(const Entry& left, const Entry& right) { return Row(left, &right); }
-    static std::string Key(int table) {
+    std::string Key(int table) {
         const std::string sheet = Written(table);
         const std::size_t at = sheet.find("<Row></Row><Row>\n");
         return sheet.substr(at, sheet.find("</Table>") - at);

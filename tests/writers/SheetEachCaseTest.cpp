@@ -2,8 +2,8 @@
 
 #include <ctime>
 
-#include "SheetProject.h"
 #include "WellFormed.h"
+#include "Worksheets.h"
 
 namespace {
 
@@ -69,8 +69,8 @@ TEST_F(SheetEachCase, PlainTableWhole) {
 TEST_F(SheetEachCase, UnselectedCasesAreLeftOut) {
     MakePiers({{.piles = 1, .cases = 3, .family = kFamilyLrfd}});
     Pier().m_LoadCases[2].m_sLimitState = "FATIGUE-I";
-    Pier().SetCaseSelected(0, false);
-    Pier().SetCaseSelected(1, false);
+    selection.SetCaseSelected(0, false);
+    selection.SetCaseSelected(1, false);
     const std::string sheet = Written(kTablePileHeads);
     EXPECT_THAT(sheet, HasSubstr(Head("LOAD", "COMB", "(kips)", "(kip-ft)")));
     EXPECT_THAT(sheet, HasSubstr("    <Cell ss:StyleID=\"s60\"><Data ss:Type=\"Number\">3</Data></Cell>\n"
@@ -123,8 +123,7 @@ TEST_F(SheetEachCase, ManyRowsTakeNoMemory) {
     std::int64_t bytes = 0;
     {
         StoredStream out(Path());
-        CWriteData writer;
-        EXPECT_EQ(writer.WritePileHeadForcesSheet(out, true), 1);
+        EXPECT_EQ(WriteTableSheet(MakeReport(), kTablePileHeads, out, true), 1);
         bytes = out.Position();
         out.Close();
         EXPECT_FALSE(out.Failed());

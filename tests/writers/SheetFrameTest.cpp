@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
-#include "SheetProject.h"
 #include "WellFormed.h"
+#include "Worksheets.h"
 #include "writers/WorkbookFrame.h"
 
 namespace {
@@ -170,17 +170,17 @@ std::string SheetEnd(const std::string& footer) {
 }
 
 TEST_F(SheetFrame, HeadOfAReport) {
-    EXPECT_EQ(CWriteData::WorkbookHeader(), kHeadTop + kHeadBottom);
+    EXPECT_EQ(WorkbookHead(false, clock), kHeadTop + kHeadBottom);
 }
 
 TEST_F(SheetFrame, HeadOfAGridHasEightMoreStyles) {
-    EXPECT_EQ(WorkbookHead(true), kHeadTop + kGridStyles + kHeadBottom);
+    EXPECT_EQ(WorkbookHead(true, clock), kHeadTop + kGridStyles + kHeadBottom);
 }
 
 TEST_F(SheetFrame, YearLaterOnlyTheCreationTimeDiffers) {
-    const std::string before = CWriteData::WorkbookHeader();
-    headless::State().clock = LocalTime{2027, 1, 2, 6, 23, 4, 59};
-    std::string later = CWriteData::WorkbookHeader();
+    const std::string before = WorkbookHead(false, clock);
+    clock = LocalTime{2027, 1, 2, 6, 23, 4, 59};
+    std::string later = WorkbookHead(false, clock);
     EXPECT_THAT(later, HasSubstr("  <Created>01/02/27 23:04:59</Created>\n"));
     EXPECT_THAT(later, HasSubstr("  <LastSaved>2008-10-02T13:20:01Z</LastSaved>\n"));
     later.replace(later.find("01/02/27 23:04:59"), 17, "11/14/26 08:30:05");
@@ -188,15 +188,15 @@ TEST_F(SheetFrame, YearLaterOnlyTheCreationTimeDiffers) {
 }
 
 TEST_F(SheetFrame, EndWithoutFooterHasNothingBetweenTheCodes) {
-    g_FooterOn = 0;
-    g_FooterVersion = 1;
-    EXPECT_EQ(CWriteData::WorksheetEnd(), SheetEnd("&amp;L&amp;RPage &amp;P of &amp;N"));
+    options.footer.on = false;
+    options.footer.version = true;
+    EXPECT_EQ(WorksheetEnd(options), SheetEnd("&amp;L&amp;RPage &amp;P of &amp;N"));
 }
 
 TEST_F(SheetFrame, EndWithFooterHasItOnTheLeft) {
-    g_FooterOn = g_FooterDate = g_FooterTime = g_FooterVersion = 1;
-    g_VersionLabel = "v5.2.1";
-    EXPECT_EQ(CWriteData::WorksheetEnd(),
+    options.footer.on = options.footer.date = options.footer.time = options.footer.version = true;
+    options.versionLabel = "v5.2.1";
+    EXPECT_EQ(WorksheetEnd(options),
               SheetEnd("&amp;LSaturday, November 14, 2026 8:30:05 AM, v5.2.1&amp;RPage &amp;P of &amp;N"));
 }
 
@@ -207,22 +207,20 @@ TEST_F(SheetFrame, EndWithAFixedFooter) {
 // A path goes out as it is, so an ampersand in it costs the workbook its well-formedness.
 TEST_F(SheetFrame, AmpersandInThePathIsNotEscaped) {
     MakePiers({{.piles = 1}});
-    Pier().AllocateResultTables();
-    g_FooterOn = g_FooterFileName = 1;
-    g_ProjectBasePath = "A & B/pier";
+    AllocateResults();
+    options.footer.on = options.footer.fileName = true;
+    options.projectBasePath = "A & B/pier";
     const std::string text = Written(kTablePileHeads, false);
     EXPECT_THAT(text, HasSubstr("x:Data=\"&amp;LA & B/pier.in&amp;RPage &amp;P of &amp;N\"/>\n"));
     EXPECT_THAT(xml::Fault(text), StartsWith("bare ampersand"));
-    g_ProjectBasePath.clear();
 }
 
 TEST_F(SheetFrame, TableThatDoesNotApplyWritesNothing) {
     MakePiers({{.piles = 1}});
-    g_DataSet.m_bTableEnabled.fill(false);
+    enabled = {};
     for (int table = 0; table <= kTablePileHeads; ++table) {
         StoredStream out(Path());
-        CWriteData writer;
-        EXPECT_EQ((writer.*WriterOf(table))(out, false), -1);
+        EXPECT_EQ(WriteTableSheet(MakeReport(), TableId{table}, out, false), -1);
         EXPECT_EQ(out.Position(), 0);
         EXPECT_TRUE(out.IsOpen());
     }
@@ -230,11 +228,11 @@ TEST_F(SheetFrame, TableThatDoesNotApplyWritesNothing) {
 
 TEST_F(SheetFrame, EmbeddedTableIsTheWorkbookWithoutItsFrame) {
     MakePiers({{.piles = 2}});
-    Pier().AllocateResultTables();
+    AllocateResults();
     for (const int table :
          {kTableMaxAxial, kTablePileDc, kTableColumnDc, kTablePileForces, kTablePileHeads}) {
         const std::string alone = Written(table, false);
-        EXPECT_EQ(alone, CWriteData::WorkbookHeader() + Written(table, true) + "</Workbook>\n");
+        EXPECT_EQ(alone, WorkbookHead(false, clock) + Written(table, true) + "</Workbook>\n");
         EXPECT_EQ(xml::Fault(alone), "");
     }
 }
@@ -257,11 +255,11 @@ TEST_F(SheetFrame, StepWordsTestCombinationsFirst) {
     };
     MakePiers({{.piles = 1}});
     EXPECT_EQ(words(), "LOAD CASE");
-    g_DataSet.m_nAnalysisMode = 1;
+    data.m_nAnalysisMode = 1;
     EXPECT_EQ(words(), "TIME STEP");
-    g_DataSet.m_nAnalysisMode = 2;
+    data.m_nAnalysisMode = 2;
     EXPECT_EQ(words(), "LOAD CASE");
-    g_DataSet.m_nAnalysisMode = 1;
+    data.m_nAnalysisMode = 1;
     Pier().m_bCombinations = true;
     EXPECT_EQ(words(), "LOAD COMB");
 }
@@ -299,32 +297,35 @@ class CoordsSheet : public SheetTest {
 TEST_F(CoordsSheet, FeetCountFromTheCapsStart) {
     MakePiers({{.type = kTypePier}});
     Pier().m_dLocationX = 6.0;
-    Pier().m_ShearPointX = {36.0, 66.0};
+    Results().shearPointX = {36.0, 66.0};
     const std::vector<std::string> block = {Text("PierCap X Coordinates"), Text("(ft)"), "", Number("2.50"),
                                             Number("5.00")};
-    EXPECT_EQ(CWriteData().CoordsSheetShear(), Sheet("12", Rows(block) + Rows({"", ""}) + Rows(block)));
+    EXPECT_EQ(::CoordsSheet(MakeReport(), kTableCapShear),
+              Sheet("12", Rows(block) + Rows({"", ""}) + Rows(block)));
 }
 
 TEST_F(CoordsSheet, MetresGoOutAsStored) {
     MakePiers({{.type = kTypePileBent}});
-    g_DataSet.m_nUnits = 1;
+    data.m_nUnits = 1;
     Pier().m_dLocationX = 6.0;
-    Pier().m_MomentPointX = {36.0};
+    Results().momentPointX = {36.0};
     const std::vector<std::string> block = {Text("BentCap X Coordinates"), Text("(m)"), "", Number("36.00")};
-    EXPECT_EQ(CWriteData().CoordsSheetMoment(), Sheet("10", Rows(block) + Rows({"", ""}) + Rows(block)));
+    EXPECT_EQ(::CoordsSheet(MakeReport(), kTableCapMoment),
+              Sheet("10", Rows(block) + Rows({"", ""}) + Rows(block)));
 }
 
 TEST_F(CoordsSheet, OneMastHasATitleRowWithoutCell) {
     MakePiers({{.type = kTypeMast}});
     const std::vector<std::string> block = {"", Text("(ft)"), ""};
-    EXPECT_EQ(CWriteData().CoordsSheetMoment(), Sheet("8", Rows(block) + Rows({"", ""}) + Rows(block)));
+    EXPECT_EQ(::CoordsSheet(MakeReport(), kTableCapMoment),
+              Sheet("8", Rows(block) + Rows({"", ""}) + Rows(block)));
 }
 
 TEST_F(CoordsSheet, TwoMastsHaveTitleCellsWithoutText) {
     MakePiers({{.type = kTypeMast}, {.type = kTypeMast}});
     const std::vector<std::string> block = {Text(""), Text("(ft)"), ""};
     const std::string pier = Rows(block) + Rows({"", ""}) + Rows(block);
-    EXPECT_EQ(CWriteData().CoordsSheetMoment(), Sheet("18", pier + Rows({"", ""}) + pier));
+    EXPECT_EQ(::CoordsSheet(MakeReport(), kTableCapMoment), Sheet("18", pier + Rows({"", ""}) + pier));
 }
 
 TEST_F(CoordsSheet, PierWithoutCapShowsTheTitleOfThePierBefore) {
@@ -333,7 +334,7 @@ TEST_F(CoordsSheet, PierWithoutCapShowsTheTitleOfThePierBefore) {
         const std::vector<std::string> block = {Text(title), Text("(ft)"), ""};
         return Rows(block) + Rows({"", ""}) + Rows(block);
     };
-    EXPECT_EQ(CWriteData().CoordsSheetShear(),
+    EXPECT_EQ(::CoordsSheet(MakeReport(), kTableCapShear),
               Sheet("28", pier("BentCap X Coordinates: Pier 1") + Rows({"", ""}) +
                               pier("BentCap X Coordinates: Pier 1") + Rows({"", ""}) +
                               pier("PierCap X Coordinates: Pier 3")));

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "SheetProject.h"
+#include "Worksheets.h"
 
 namespace {
 
@@ -12,10 +12,10 @@ using testing::Not;
 
 class SheetHeads : public SheetTest {
   protected:
-    void Make(int family) {
+    void Make(CodeFamily family) {
         MakePiers({{.type = kTypePier, .piles = 1, .columns = 1, .extraMembers = 1, .family = family}});
         Pier().m_nPileSections = Pier().m_nColumnSections = Pier().m_nXMemberSections = 1;
-        Pier().AllocateResultTables();
+        AllocateResults();
         Pier().m_nCapShearPoints = Pier().m_nCapMomentPoints = 0;
         if (family == kFamilyLrfd) PresentClasses({kStrength, kService, kExtreme, kFatigue});
         if (family == kFamilyArema) PresentClasses({kStrength, kService});
@@ -276,8 +276,8 @@ const char* SubstructureEnd(int table) {
 }
 
 TEST_F(SheetHeads, SectionHeadingsOfEachFamily) {
-    const std::pair<int, int> families[] = {{kFamilyLrfd, 0}, {kFamilyLrfd, 1},  {kFamilyLrfd, 2},
-                                            {kFamilyLfd, 0},  {kFamilyArema, 0}, {kFamilyArema, 1}};
+    const std::pair<CodeFamily, int> families[] = {{kFamilyLrfd, 0}, {kFamilyLrfd, 1},  {kFamilyLrfd, 2},
+                                                   {kFamilyLfd, 0},  {kFamilyArema, 0}, {kFamilyArema, 1}};
     for (std::size_t i = 0; i < std::size(families); ++i) {
         Make(families[i].first);
         if (families[i].first != kFamilyLfd) PresentClasses({families[i].second});
@@ -324,7 +324,7 @@ struct ColumnCase {
 
 TEST_F(SheetHeads, ColumnHeadsWithoutCombinations) {
     Make(kFamilyNone);
-    g_DataSet.m_nAnalysisMode = 1;
+    data.m_nAnalysisMode = 1;
     const std::string k = "(kips)", m = "(kip-ft)";
     const ColumnCase cases[] = {
         {1,
@@ -379,10 +379,12 @@ TEST_F(SheetHeads, ColumnHeadsWithoutCombinations) {
 // With combinations the family's word stands over an empty cell; a family without a word keeps the empty
 // cell.
 TEST_F(SheetHeads, ColumnHeadsNameTheDesignFamily) {
-    const std::pair<int, const char*> families[] = {
-        {kFamilyLrfd, "AASHTO-LRFD"}, {kFamilyLfd, "AASHTO-LFD"}, {kFamilyArema, "AREMA"}, {3, nullptr}};
-    g_DataSet.m_sForceUnit = "kN";
-    g_DataSet.m_sMomentUnit = "kN-m";
+    const std::pair<CodeFamily, const char*> families[] = {{kFamilyLrfd, "AASHTO-LRFD"},
+                                                           {kFamilyLfd, "AASHTO-LFD"},
+                                                           {kFamilyArema, "AREMA"},
+                                                           {CodeFamily{3}, nullptr}};
+    data.m_sForceUnit = "kN";
+    data.m_sMomentUnit = "kN-m";
     for (const auto& [family, word] : families) {
         Make(family);
         std::vector<std::string> upper = {"LOCATION", "ELEM", "PROP", "NODE ", "LOAD "};

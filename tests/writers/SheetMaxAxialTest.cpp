@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
-#include "SheetProject.h"
 #include "WellFormed.h"
+#include "Worksheets.h"
 
 namespace {
 
@@ -15,9 +15,9 @@ class SheetMaxAxial : public SheetTest {
     static std::string TableBody(const std::string& text) {
         return Body(text, "MAXIMUM COMPRESSION AND MAXIMUM TENSION FORCES");
     }
-    void Make(std::size_t piers, int family, int cases = 1) {
+    void Make(std::size_t piers, CodeFamily family, int cases = 1) {
         MakePiers(std::vector<PierShape>(piers, {.piles = 1, .cases = cases, .family = family}));
-        for (CPier& pier : g_DataSet.m_Piers) pier.AllocateResultTables();
+        AllocateResults();
     }
 };
 
@@ -57,9 +57,9 @@ std::string EmptyCombinationRow(int pier) {
 TEST_F(SheetMaxAxial, PlainTableWhole) {
     MakePiers({{.piles = 2, .cases = 2}});
     CPier& pier = Pier();
-    pier.AllocateResultTables();
-    pier.m_ppMaxTension = {{1, -1}};
-    pier.m_ppMaxCompression = {{-1, 0}};
+    AllocateResults();
+    Results().maxTension = {{1, -1}};
+    Results().maxCompression = {{-1, 0}};
     SetForces(pier, 1, 0, kEndJ, {12.345F, 0, 0, 0, 0, 0, 0.5F});
     SetForces(pier, 0, 1, kEndJ, {-7.5F, 0, 0, 0, 0, 0, 1.25F});
     const std::string expected =
@@ -98,7 +98,7 @@ TEST_F(SheetMaxAxial, PlainTableWhole) {
 TEST_F(SheetMaxAxial, RatiosOfCombinations) {
     MakePiers({{.piles = 1, .cases = 1, .family = kFamilyLrfd}});
     CPier& pier = Pier();
-    pier.AllocateResultTables();
+    AllocateResults();
     PresentClasses({kStrength, kService, kExtreme});
     pier.m_LoadCases[0].m_sLimitState = "STRENGTH-III";
     SetForces(pier, 0, 0, kEndJ, {100.0F, 0, 0, 0, 0, 0, 0.123456F});
@@ -135,9 +135,9 @@ TEST_F(SheetMaxAxial, RatiosOfCombinations) {
 
 TEST_F(SheetMaxAxial, CombinationsAreHeadedInKipsInMetricProjectsToo) {
     MakePiers({{.piles = 1, .cases = 1, .family = kFamilyLrfd}});
-    g_DataSet.m_nUnits = 1;
-    g_DataSet.m_sForceUnit = "kN";
-    Pier().AllocateResultTables();
+    data.m_nUnits = 1;
+    data.m_sForceUnit = "kN";
+    AllocateResults();
     PresentClasses({kStrength});
     const std::string sheet = Written(kTableMaxAxial);
     EXPECT_NE(sheet.find(CombinationHead(Cell("AASHTO-LRFD"))), std::string::npos);
@@ -147,11 +147,11 @@ TEST_F(SheetMaxAxial, CombinationsAreHeadedInKipsInMetricProjectsToo) {
 class SheetMaxAxialHeadings : public SheetMaxAxial {
   protected:
     // Body of three substructures without results.
-    std::string ThreePiers(int family, std::initializer_list<int> classes) {
+    std::string ThreePiers(CodeFamily family, std::initializer_list<int> classes) {
         Make(3, family);
         if (family != kFamilyLfd) PresentClasses(classes);
-        for (CPier& pier : g_DataSet.m_Piers) {
-            for (auto* table : {&pier.m_ppMaxTension, &pier.m_ppMaxCompression}) {
+        for (PierResults& pier : results.piers) {
+            for (auto* table : {&pier.maxTension, &pier.maxCompression}) {
                 for (auto& slot : *table) slot.assign(1, -1);
             }
         }
@@ -211,7 +211,7 @@ TEST_F(SheetMaxAxialHeadings, AbsentStrengthLeavesNoIndexedHeading) {
 
 TEST_F(SheetMaxAxialHeadings, UnknownFamilyHasOneBlockWithoutHeading) {
     const std::string head = CombinationHead("");
-    EXPECT_EQ(ThreePiers(3, {}),
+    EXPECT_EQ(ThreePiers(CodeFamily{3}, {}),
               head + EmptyCombinationRow(1) + head + EmptyCombinationRow(2) + head + EmptyCombinationRow(3));
 }
 

@@ -1,4 +1,4 @@
-#include "SheetProject.h"
+#include "Worksheets.h"
 #include "writers/SheetRows.h"
 
 // The announced rows are formulas of their own. They reach at least the rows that are written, except:
@@ -11,20 +11,24 @@ using namespace sheets;
 class SheetRowCounts : public SheetTest {
   protected:
     // Two substructures of two piles; sections by family of member.
-    void Make(int family, std::initializer_list<int> classes, std::size_t piers = 2, int type = kTypePier) {
+    void Make(CodeFamily family, std::initializer_list<int> classes, std::size_t piers = 2,
+              StructureType type = kTypePier) {
         MakePiers(std::vector<PierShape>(
             piers,
             {.type = type, .piles = 2, .columns = 1, .extraMembers = 1, .cases = 1, .family = family}));
         PresentClasses(classes);
-        for (CPier& pier : g_DataSet.m_Piers) {
+        for (CPier& pier : data.m_Piers) {
             pier.m_nPileSections = 2;
             pier.m_nColumnSections = 3;
             pier.m_nXMemberSections = 1;
-            pier.AllocateResultTables();
+        }
+        AllocateResults();
+        for (CPier& pier : data.m_Piers) {
             pier.m_nCapShearPoints = 10;
             pier.m_nCapMomentPoints = 7;
         }
     }
+    long long RowsOf(int table) { return ExpandedRows(MakeReport(), TableId{table}); }
 };
 
 // One block each. Worked from the formulas: table 0: 3 + 2 * (2 + 4); 1: 1 + 2 * (2 + 3 + 3);
@@ -33,7 +37,7 @@ class SheetRowCounts : public SheetTest {
 TEST_F(SheetRowCounts, WithoutCombinations) {
     Make(kFamilyNone, {});
     const long long expected[] = {15, 17, 19, 80, 69, 63, 89, 37, 7};
-    for (int table = 0; table < 9; ++table) EXPECT_EQ(ExpandedRows(table), expected[table]) << table;
+    for (int table = 0; table < 9; ++table) EXPECT_EQ(RowsOf(table), expected[table]) << table;
 }
 
 // Two classes, fatigue only in table 4 a third: 0: 3 + 2 * (2 + 6) * 2; 1: 1 + 2 * (8 * 2 + 2);
@@ -42,41 +46,41 @@ TEST_F(SheetRowCounts, WithoutCombinations) {
 TEST_F(SheetRowCounts, LrfdCountsTheClassesThatArePresent) {
     Make(kFamilyLrfd, {kStrength, kExtreme, kFatigue});
     const long long expected[] = {35, 37, 41, 152, 181, 129, 181, 77};
-    for (int table = 0; table < 8; ++table) EXPECT_EQ(ExpandedRows(table), expected[table]) << table;
+    for (int table = 0; table < 8; ++table) EXPECT_EQ(RowsOf(table), expected[table]) << table;
 }
 
 // One block, whatever the classes say: 3 + 2 * (2 + 6), 1 + 2 * (8 + 2).
 TEST_F(SheetRowCounts, LfdAndUnknownFamiliesHaveOneBlock) {
-    for (const int family : {static_cast<int>(kFamilyLfd), 3}) {
+    for (const CodeFamily family : {kFamilyLfd, CodeFamily{3}}) {
         Make(family, {});
-        EXPECT_EQ(ExpandedRows(kTableMaxAxial), 19);
-        EXPECT_EQ(ExpandedRows(kTablePileDc), 21);
+        EXPECT_EQ(RowsOf(kTableMaxAxial), 19);
+        EXPECT_EQ(RowsOf(kTablePileDc), 21);
     }
 }
 
 TEST_F(SheetRowCounts, AremaCountsTwoClasses) {
     Make(kFamilyArema, {kStrength, kService}, 1);
-    EXPECT_EQ(ExpandedRows(kTableMaxAxial), 19);
+    EXPECT_EQ(RowsOf(kTableMaxAxial), 19);
     PresentClasses({kService});
-    EXPECT_EQ(ExpandedRows(kTableMaxAxial), 11);
+    EXPECT_EQ(RowsOf(kTableMaxAxial), 11);
 }
 
 TEST_F(SheetRowCounts, PileBentIsItsHeadingInTheColumnRatios) {
     Make(kFamilyNone, {}, 1, kTypePileBent);
-    EXPECT_EQ(ExpandedRows(kTableColumnDc), 4);
+    EXPECT_EQ(RowsOf(kTableColumnDc), 4);
     Make(kFamilyLfd, {}, 1, kTypePileBent);
-    EXPECT_EQ(ExpandedRows(kTableColumnDc), 3);
+    EXPECT_EQ(RowsOf(kTableColumnDc), 3);
 }
 
 TEST_F(SheetRowCounts, KeyRowsGoByTheTypes) {
-    const auto keyRows = [](int table) {
-        return ExpandedRows(table) - 2 - (table == kTableCapShear ? 14 : 15);
+    const auto keyRows = [this](int table) {
+        return RowsOf(table) - 2 - (table == kTableCapShear ? 14 : 15);
     };
     MakePiers({{.type = kTypeMast}});
     EXPECT_EQ(keyRows(kTableCapShear), 9);
     EXPECT_EQ(keyRows(kTableCapMoment), 8);
-    const auto several = [](int table) {
-        return ExpandedRows(table) - 2 - 2 * (table == kTableCapShear ? 14 : 15) - 1;
+    const auto several = [this](int table) {
+        return RowsOf(table) - 2 - 2 * (table == kTableCapShear ? 14 : 15) - 1;
     };
     MakePiers({{.type = kTypePier}, {.type = kTypePileBent}});
     EXPECT_EQ(several(kTableCapShear), 10);
@@ -90,10 +94,10 @@ TEST_F(SheetRowCounts, KeyRowsGoByTheTypes) {
 
 TEST_F(SheetRowCounts, WrittenRowsStayWithinTheAnnouncedOnes) {
     for (const std::size_t piers : {std::size_t{1}, std::size_t{3}}) {
-        for (const int family : {-1, 0, 1, 2, 3}) {
-            for (const int type : {kTypePier, kTypePileBent, kTypeWallA}) {
+        for (const CodeFamily family : {kFamilyNone, kFamilyLrfd, kFamilyLfd, kFamilyArema, CodeFamily{3}}) {
+            for (const StructureType type : {kTypePier, kTypePileBent, kTypeWallA}) {
                 Make(family, {kStrength, kService}, piers, type);
-                for (CPier& pier : g_DataSet.m_Piers) pier.m_nCapShearPoints = pier.m_nCapMomentPoints = 0;
+                for (CPier& pier : data.m_Piers) pier.m_nCapShearPoints = pier.m_nCapMomentPoints = 0;
                 for (int table = 0; table < 9; ++table) {
                     for (const std::string& sheet : Worksheets(Written(table))) {
                         EXPECT_LE(CountedRows(sheet), AnnouncedRows(sheet))
@@ -109,7 +113,7 @@ TEST_F(SheetRowCounts, WrittenRowsStayWithinTheAnnouncedOnes) {
 TEST_F(SheetRowCounts, SubstructureWithoutColumnsOverrunsTheColumnForces) {
     MakePiers({{.type = kTypePier}});
     Pier().m_nColumnSections = 1;
-    Pier().AllocateResultTables();
+    AllocateResults();
     const std::string sheet = Written(kTableColumnForces);
     EXPECT_EQ(AnnouncedRows(sheet), 3);
     EXPECT_EQ(CountedRows(sheet), 3 + 4 + 12);

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
-#include "SheetProject.h"
 #include "WellFormed.h"
+#include "Worksheets.h"
 
 namespace {
 
@@ -14,25 +14,25 @@ class SheetSections : public SheetTest {
   protected:
     // One substructure with a pile, a column and an extra member, each of one element; the forces of load
     // case 2 are 1 to 7 at I and 11 to 17 at J, all with a quarter behind the point.
-    void Make(int family = kFamilyNone, int type = kTypePier) {
+    void Make(CodeFamily family = kFamilyNone, StructureType type = kTypePier) {
         MakePiers(
             {{.type = type, .piles = 1, .columns = 1, .extraMembers = 1, .cases = 2, .family = family}});
         CPier& pier = Pier();
         pier.m_nPileSections = pier.m_nColumnSections = pier.m_nXMemberSections = 1;
         pier.m_nXMemberFirstSection = 4;
         pier.Element(2).m_nSection = 4;
-        pier.AllocateResultTables();
+        AllocateResults();
         if (family == kFamilyLrfd) PresentClasses({kStrength});
         for (int element = 0; element < 3; ++element) {
             SetForces(pier, 1, element, kEndI, {1.25F, 2.25F, 3.25F, 4.25F, 5.25F, 6.25F, 7.25F});
             SetForces(pier, 1, element, kEndJ, {11.25F, 12.25F, 13.25F, 14.25F, 15.25F, 16.25F, 17.25F});
         }
         pier.m_LoadCases[1].m_sLimitState = "SERVICE-I";
-        Fill(pier.m_PileDc, kNotFoundRecord);
-        Fill(pier.m_ColumnDc, kNotFoundRecord);
-        Fill(pier.m_PileForces, kNotFoundRecord);
-        Fill(pier.m_ColumnForces, kNotFoundRecord);
-        Fill(pier.m_XMemberForces, kNotFoundRecord);
+        Fill(Results().pileDc, kNotFoundRecord);
+        Fill(Results().columnDc, kNotFoundRecord);
+        Fill(Results().pileForces, kNotFoundRecord);
+        Fill(Results().columnForces, kNotFoundRecord);
+        Fill(Results().extraMemberForces, kNotFoundRecord);
     }
     static void Fill(CRecordTable& table, const CMaxRecord& record) {
         for (int section = 0; section < table.Sections(); ++section) {
@@ -72,7 +72,7 @@ std::string Missing(int count) {
 
 TEST_F(SheetSections, PileRatioRow) {
     Make();
-    Pier().m_PileDc.At(0, 0) = Found(kEndJ, 0);
+    Results().pileDc.At(0, 0) = Found(kEndJ, 0);
     EXPECT_EQ(Rows(Written(kTablePileDc), "  </Row>\n<Row></Row>\n"),
               R"(  <Row ss:Height="21">
     <Cell ss:Index="2" ss:StyleID="s60"><Data ss:Type="Number">1</Data></Cell>
@@ -94,7 +94,7 @@ TEST_F(SheetSections, PileRatioRow) {
 // Column properties count from 2; the limit state's cell has one blank.
 TEST_F(SheetSections, ColumnRatioRowWithCombinations) {
     Make(kFamilyLfd);
-    Pier().m_ColumnDc.At(0, 0) = Found(kEndI, 1);
+    Results().columnDc.At(0, 0) = Found(kEndI, 1);
     EXPECT_EQ(Rows(Written(kTableColumnDc), "  </Row>\n<Row></Row>"),
               R"(<Row ss:Height="21">
     <Cell ss:Index="2" ss:StyleID="s60"><Data ss:Type="Number">2</Data></Cell>
@@ -137,11 +137,11 @@ TEST_F(SheetSections, RecordOfNoExistingMemberPrintsLikeNoResult) {
     for (const CMaxRecord& record :
          {CMaxRecord{1, 1, 0, 5, 0, 50}, CMaxRecord{1, 0, 1, 5, 0, 50}, CMaxRecord{2, 0, 0, 5, 0, 50},
           CMaxRecord{1, -1, 0, 5, 0, 50}, CMaxRecord{1, 0, -1, 5, 0, 50}}) {
-        Pier().m_PileDc.At(0, 0) = record;
+        Results().pileDc.At(0, 0) = record;
         EXPECT_EQ(Written(kTablePileDc), none);
     }
     const std::string noForces = Written(kTablePileForces);
-    Pier().m_PileForces.At(0, 0, 3) = {1, 7, 0, 5, 0, 50};
+    Results().pileForces.At(0, 0, 3) = {1, 7, 0, 5, 0, 50};
     EXPECT_EQ(Written(kTablePileForces), noForces);
 }
 
@@ -181,7 +181,7 @@ std::string MissingForceRow(const std::string& property, int numberCells, const 
 
 TEST_F(SheetSections, ExtraMemberForcesWithAndWithoutResult) {
     Make(kFamilyLfd);
-    Pier().m_XMemberForces.At(0, 0, 0) = Found(kEndI, 2);
+    Results().extraMemberForces.At(0, 0, 0) = Found(kEndI, 2);
     const std::string state =
         "    <Cell  ss:StyleID=\"s60\"><Data ss:Type=\"String\">      SERVICE-I</Data></Cell>\n";
     const char* words[] = {"Min Axial", "Max f22", "Min f22", "Max f33",    "Min f33",   "Max m22",
@@ -193,7 +193,7 @@ TEST_F(SheetSections, ExtraMemberForcesWithAndWithoutResult) {
 
 TEST_F(SheetSections, PlainForceRowsHaveNoLimitState) {
     Make();
-    Pier().m_XMemberForces.At(0, 0, 11) = Found(kEndI, 2);
+    Results().extraMemberForces.At(0, 0, 11) = Found(kEndI, 2);
     const std::string rows = Rows(Written(kTableExtraMembers), "  </Row>\n<Row></Row>\n");
     EXPECT_THAT(rows, HasSubstr(MissingForceRow("4", 5, "Max m33", 4)));
     EXPECT_THAT(rows, EndsWith(ForceRow("4", "", "Min Torque")));
@@ -203,8 +203,8 @@ TEST_F(SheetSections, PlainForceRowsHaveNoLimitState) {
 TEST_F(SheetSections, EmptyRowBetweenSections) {
     Make();
     Pier().m_nPileSections = 3;
-    Pier().AllocateResultTables();
-    Fill(Pier().m_PileForces, kNotFoundRecord);
+    AllocateResults();
+    Fill(Results().pileForces, kNotFoundRecord);
     const std::string rows = Rows(Written(kTablePileForces), "  </Row>\n<Row></Row>\n");
     EXPECT_EQ(Count(rows, "<Row></Row>\n"), 2);
     EXPECT_THAT(rows, HasSubstr(MissingForceRow("1", 5, "Min Torque", 5) + "<Row></Row>\n" +
@@ -220,8 +220,8 @@ TEST_F(SheetSections, ExtraMemberSectionsWithoutMemberAreLeftOut) {
     pier.m_nXMemberFirstSection = 4;
     pier.Element(0).m_nSection = 6;
     pier.Element(1).m_nSection = 4;
-    pier.AllocateResultTables();
-    Fill(pier.m_XMemberForces, kNotFoundRecord);
+    AllocateResults();
+    Fill(Results().extraMemberForces, kNotFoundRecord);
     const std::string sheet = Written(kTableExtraMembers);
     const std::string rows = Rows(sheet, "  </Row>\n<Row></Row>\n");
     EXPECT_EQ(Count(rows, "<Row></Row>\n"), 1);
@@ -232,7 +232,7 @@ TEST_F(SheetSections, ExtraMemberSectionsWithoutMemberAreLeftOut) {
 
 TEST_F(SheetSections, SubstructureWithoutExtraMembersHasNoHeading) {
     MakePiers({{.piles = 1}, {.extraMembers = 1}});
-    for (CPier& pier : g_DataSet.m_Piers) pier.AllocateResultTables();
+    AllocateResults();
     const std::string sheet = Written(kTableExtraMembers);
     EXPECT_THAT(sheet, Not(HasSubstr("Substructure 1<")));
     EXPECT_THAT(sheet, HasSubstr("Extra Member Properties Data for Substructure 2</Data>"));
@@ -275,10 +275,10 @@ TEST_F(SheetSections, WordsOfTypeEightStayFixed) {
 // A pile bent has its heading, with the remark, and nothing else; the next substructure has its rows.
 TEST_F(SheetSections, PileBentHasOnlyItsHeadingInColumnTables) {
     MakePiers({{.type = kTypePileBent, .piles = 1}, {.type = kTypePier, .columns = 1}});
-    for (CPier& pier : g_DataSet.m_Piers) {
-        pier.m_nColumnSections = 1;
-        pier.m_ColumnDc.Allocate(1, 1, 1);
-        pier.m_ColumnForces.Allocate(1, 1, kExtremes);
+    for (std::size_t p = 0; p < 2; ++p) {
+        Pier(p).m_nColumnSections = 1;
+        Results(p).columnDc.Allocate(1, 1, 1);
+        Results(p).columnForces.Allocate(1, 1, kExtremes);
     }
     EXPECT_THAT(Written(kTableColumnDc),
                 HasSubstr("Column Properties Data for Substructure 1 (Not applicable for Pile Bent)"

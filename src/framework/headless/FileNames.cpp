@@ -1,4 +1,5 @@
 #include <dirent.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <memory>
@@ -58,6 +59,14 @@ std::string FindFileAnyCase(const std::string& path) {
         found = std::move(next);
     }
     return found.string();
+}
+
+FileStamp StampOf(const std::string& path) {
+    struct stat found {};
+    if (stat(FindFileAnyCase(path).c_str(), &found) != 0) return {};
+    constexpr std::int64_t kTicksPerSecond = 1000000000;
+    return {found.st_size, found.st_mtim.tv_sec * kTicksPerSecond + found.st_mtim.tv_nsec,
+            static_cast<std::uint64_t>(found.st_dev), static_cast<std::uint64_t>(found.st_ino)};
 }
 
 bool IsFolder(const std::string& path) {

@@ -136,12 +136,4 @@ char FolderSeparator() {
     return '/';
 }
 
-void PreferLargePages(void* memory, std::size_t bytes) {
-    // The advice goes to whole pages; those at the two ends are left out.
-    const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
-    const std::size_t before = (page - reinterpret_cast<std::uintptr_t>(memory) % page) % page;
-    if (bytes < before + page) return;
-    madvise(static_cast<char*>(memory) + before, (bytes - before) / page * page, MADV_HUGEPAGE);
-}
-
 }  // namespace services

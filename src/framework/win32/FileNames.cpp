@@ -12,3 +12,19 @@ bool IsFolder(const std::string& path) {
     const DWORD attributes = GetFileAttributesA(path.c_str());
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
+
+FileStamp StampOf(const std::string& path) {
+    const HANDLE file = CreateFileA(path.c_str(), FILE_READ_ATTRIBUTES,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return {};
+    BY_HANDLE_FILE_INFORMATION found{};
+    const bool known = GetFileInformationByHandle(file, &found) != FALSE;
+    CloseHandle(file);
+    if (!known) return {};
+    const auto join = [](DWORD high, DWORD low) { return std::uint64_t{high} << 32 | low; };
+    return {static_cast<std::int64_t>(join(found.nFileSizeHigh, found.nFileSizeLow)),
+            static_cast<std::int64_t>(
+                join(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime)),
+            found.dwVolumeSerialNumber, join(found.nFileIndexHigh, found.nFileIndexLow)};
+}

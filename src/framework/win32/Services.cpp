@@ -112,7 +112,4 @@ char FolderSeparator() {
     return '\\';
 }
 
-// Large pages need a privilege here that users do not have.
-void PreferLargePages(void*, std::size_t) {}
-
 }  // namespace services

@@ -33,8 +33,8 @@ namespace win32 {
 // The module that this code lives in, whatever program loaded it; its resources are looked up here.
 HINSTANCE ModuleInstance();
 
-// Initialises OLE on this thread until the call of the export ends. False: the platform refuses it; the next try is
-// a new one.
+// Initialises OLE on this thread until the call of the export ends. False: the platform refuses it; the next
+// try is a new one.
 bool UseOle() noexcept;
 
 // No wait cursor is held and no handler runs.

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstddef>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "framework/headless/Headless.h"
+#include "script/JsonLines.h"
+#include "script/Script.h"
+
+// Plays a script on the dialogs of one call and tells every event as a JSON line. The action at hand goes to
+// the front dialog; a dialog that a press opens takes the actions that follow, until it is closed.
+class ScriptDriver : public headless::Sink {
+  public:
+    ScriptDriver(std::vector<ScriptAction> actions, std::ostream& out);
+
+    // Plays until the dialog is closed or the script ends.
+    void Drive(headless::HeadlessDialog& dialog);
+    // The action that opens the dialog once more behind a call; null when another one is next, or none.
+    const ScriptAction* TakeAgain();
+    // Without the plot module a press that wants it fails as on a machine that lacks it.
+    void SetHasPlotModule(bool has) { m_bHasPlotModule = has; }
+    // The action that found no open dialog any more; null when all were played.
+    const ScriptAction* FirstLeftOver() const;
+
+    // Files that could not be written whole, in order.
+    const std::vector<std::string>& FailedOutputs() const { return m_FailedOutputs; }
+
+    void OnDialogOpened(headless::HeadlessDialog& dialog) override;
+    MessageAnswer OnMessage(const headless::Message& message) override;
+    void OnOutputFailed(const std::string& path) override { m_FailedOutputs.push_back(path); }
+    int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters) override;
+    services::PlotModuleResult OnPlotModule(const std::string& module, const services::PlotModuleCall& call,
+                                            std::string& systemText) override;
+
+  private:
+    void Play(const ScriptAction& action, headless::HeadlessDialog& dialog);
+    bool PressKey(const ScriptAction& action, headless::HeadlessDialog& dialog);
+    bool Type(const std::string& text, headless::HeadlessDialog& dialog);
+    void TellFocus(const headless::HeadlessDialog& dialog);
+    void Dump(headless::HeadlessDialog& dialog);
+
+    std::vector<ScriptAction> m_actions;
+    std::size_t m_nNext = 0;
+    JsonLines m_lines;
+    std::vector<std::string> m_FailedOutputs;
+    int m_nMessages = 0;
+    bool m_bHasPlotModule = true;
+};
+
+// The document of a viewer start, without its quotes.
+std::string OpenedDocument(const std::string& file, const std::string& parameters);
+bool IsDocumentThere(const std::string& path);
+// The shell's code for a viewer start without a screen: success when the document is there or is a page of
+// the help, otherwise the code for a missing file. The shell does not look at the document that a program is
+// started with: the program does.
+int ShellCodeOfDocument(const std::string& file, const std::string& parameters);

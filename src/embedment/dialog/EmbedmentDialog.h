@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "model/CaseSelection.h"
+#include "model/DataSet.h"
+
+// What the study's dialog is opened on. The caller keeps all of it for the call.
+struct EmbedmentInput {
+    const std::string& inputFile;  // of the project
+    const CDataSet& data;
+    const CaseSelection& selection;
+    bool allCases;  // the envelopes go over every case, whatever the selection
+};
+
+// Opens the dialog of the embedment study over the project, with the report dialog's format, and returns when
+// it was closed.
+void RunEmbedmentDialog(const EmbedmentInput& input, int format);

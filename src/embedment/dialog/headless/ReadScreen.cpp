@@ -1,0 +1,10 @@
+#include "embedment/dialog/CaptureEx.h"
+
+namespace graphplatform {
+
+// Without a screen there is nothing to take.
+bool ReadScreen(const ScreenRect&, std::vector<std::uint8_t>&) {
+    return false;
+}
+
+}  // namespace graphplatform

@@ -1,0 +1,119 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+#include "model/Element.h"
+
+// Where an extreme lies, never its value: a table prints all forces that act at that place in that case.
+// All six are -1 for nothing found.
+struct CMaxRecord {
+    int m_nLoadCase = 0;
+    int m_nMember = 0;
+    int m_nElement = 0;  // index inside the member
+    int m_nElementNumber = 0;
+    int m_nEnd = 0;  // 0 I, 1 J
+    int m_nNode = 0;
+
+    bool operator==(const CMaxRecord&) const = default;
+};
+inline constexpr CMaxRecord kNotFoundRecord{-1, -1, -1, -1, -1, -1};
+
+inline constexpr int kExtremes = 13;  // the last is "Max D/C"
+inline constexpr int kPrintedExtremes = 12;
+
+// Records by section, slot and extreme (one extreme in the D/C tables), in one block.
+class CRecordTable {
+  public:
+    void Allocate(int sections, int slots, int extremes) {
+        m_nSections = sections;
+        m_nSlots = slots;
+        m_nExtremes = extremes;
+        m_records.assign(static_cast<std::size_t>(sections) * static_cast<std::size_t>(slots) *
+                             static_cast<std::size_t>(extremes),
+                         CMaxRecord{});
+    }
+    CMaxRecord& At(int section, int slot, int extreme = 0) {
+        return m_records.at(Index(section, slot, extreme));
+    }
+    const CMaxRecord& At(int section, int slot, int extreme = 0) const {
+        return m_records.at(Index(section, slot, extreme));
+    }
+    int Sections() const { return m_nSections; }
+    int Slots() const { return m_nSlots; }
+    int Extremes() const { return m_nExtremes; }
+
+  private:
+    std::size_t Index(int section, int slot, int extreme) const {
+        return (static_cast<std::size_t>(section) * static_cast<std::size_t>(m_nSlots) +
+                static_cast<std::size_t>(slot)) *
+                   static_cast<std::size_t>(m_nExtremes) +
+               static_cast<std::size_t>(extreme);
+    }
+    int m_nSections = 0, m_nSlots = 0, m_nExtremes = 0;
+    std::vector<CMaxRecord> m_records;
+};
+
+// The result of a cap section for one slot and extreme.
+struct CCapRecord {
+    int m_nLoadCase = 0;       // -1: none
+    int m_nSection = 0;        // PROP number
+    int m_nElement = 0;        // index inside its member
+    int m_nElementNumber = 0;  // ELEM number
+    int m_nEnd = 0;            // 0 I, 1 J, 2 inside the element, -1 unset
+    int m_nNode = 0;
+    int m_nKind = 0;        // member kind of the place
+    int m_nIndex = 0;       // member index of the place
+    int m_nSecondNode = 0;  // for end 2 only
+    int m_nMissing = 0;     // 1: the section has no result
+
+    bool operator==(const CCapRecord&) const = default;
+};
+using CapValues = std::array<double, 7>;  // components 0 to 6
+
+struct CCapEntry {
+    CCapRecord record;
+    CapValues values{};
+};
+
+// Cap results by position, slot, kind (or row and side) and extreme (0 maximum, 1 minimum), in one block.
+class CCapTable {
+  public:
+    void Allocate(int positions, int slots, int kinds) {
+        m_nPositions = positions;
+        m_nSlots = slots;
+        m_nKinds = kinds;
+        m_entries.assign(static_cast<std::size_t>(positions) * static_cast<std::size_t>(slots) *
+                             static_cast<std::size_t>(kinds) * 2,
+                         CCapEntry{});
+    }
+    CCapEntry& At(int position, int slot, int kind, int extreme) {
+        return m_entries.at(Index(position, slot, kind, extreme));
+    }
+    const CCapEntry& At(int position, int slot, int kind, int extreme) const {
+        return m_entries.at(Index(position, slot, kind, extreme));
+    }
+    const std::vector<CCapEntry>& Entries() const { return m_entries; }
+    int Positions() const { return m_nPositions; }
+    int Slots() const { return m_nSlots; }
+    int Kinds() const { return m_nKinds; }
+
+  private:
+    std::size_t Index(int position, int slot, int kind, int extreme) const {
+        return ((static_cast<std::size_t>(position) * static_cast<std::size_t>(m_nSlots) +
+                 static_cast<std::size_t>(slot)) *
+                    static_cast<std::size_t>(m_nKinds) +
+                static_cast<std::size_t>(kind)) *
+                   2 +
+               static_cast<std::size_t>(extreme);
+    }
+    int m_nPositions = 0, m_nSlots = 0, m_nKinds = 0;
+    std::vector<CCapEntry> m_entries;
+};
+
+// One design section on a support: the support's index and its location kind.
+struct CSupportLocation {
+    int m_nSupport = 0;
+    int m_nKind = 0;
+};

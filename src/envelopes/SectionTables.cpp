@@ -1,0 +1,94 @@
+#include <algorithm>
+
+#include "envelopes/SectionSearch.h"
+#include "envelopes/TableSearch.h"
+
+namespace {
+
+// What the section tables differ in. The section numbers of piles count from 1; those of columns from 2, as
+// number 1 is neither column nor cap; those of extra members from the least one in use.
+struct SectionTableForm {
+    TableId table;
+    MemberFamily family;
+    int firstSection;
+    CRecordTable PierResults::*records;
+};
+constexpr SectionTableForm kForms[] = {
+    {kTablePileDc, kPileFamily, 1, &PierResults::pileDc},
+    {kTableColumnDc, kColumnFamily, 2, &PierResults::columnDc},
+    {kTablePileForces, kPileFamily, 1, &PierResults::pileForces},
+    {kTableColumnForces, kColumnFamily, 2, &PierResults::columnForces},
+    {kTableExtraMembers, kXMemberFamily, 0, &PierResults::extraMemberForces},
+};
+
+CMaxRecord MakeRecord(const CPier& pier, const CSectionWalk& walk, const FoundEnd& found) {
+    if (found.m_nLoadCase < 0) return kNotFoundRecord;
+    const ElementPlace& place = walk.Place(found.m_nPlace);
+    const CElement& element = pier.Element(place.m_nListElement);
+    return {found.m_nLoadCase,        place.m_nMember, place.m_nElement,
+            element.m_nElementNumber, found.m_nEnd,    element.Node(found.m_nEnd)};
+}
+
+// The searches of a table by section and slot. Without combinations all slots hold the same, so one does.
+template <class Search>
+class SectionTableSearch : public TableSearch {
+  public:
+    SectionTableSearch(const SectionTableForm& form, const PierInput& input, const CRecordTable& table)
+        : m_form(form),
+          m_input(input),
+          m_walk(input.pier, form.family,
+                 form.family == kXMemberFamily ? input.pier.m_nXMemberFirstSection : form.firstSection,
+                 table.Sections()),
+          m_nSlots(input.pier.m_bCombinations ? table.Slots() : std::min(table.Slots(), 1)),
+          m_searches(static_cast<std::size_t>(table.Sections()) * static_cast<std::size_t>(m_nSlots)) {}
+
+    void Take(int loadCase, CaseForces forces) override {
+        if (!m_input.selection.IsCaseSelected(loadCase)) return;
+        const int slot = m_input.pier.SlotOf(loadCase);
+        if (slot < 0 || slot >= m_nSlots) return;
+        for (const SectionRun& run : m_walk.Runs()) {
+            m_searches[Index(run.m_nEntry, slot)].Examine(
+                forces.data() + static_cast<std::size_t>(run.m_nFirstElement) * kForcesPerElement,
+                run.m_nElements, loadCase, run.m_nFirstPlace);
+        }
+    }
+
+    void Finish(PierResults& results) const override {
+        CRecordTable& table = results.*m_form.records;
+        if (m_nSlots < 1) return;
+        for (int section = 0; section < table.Sections(); ++section) {
+            for (int slot = 0; slot < table.Slots(); ++slot) {
+                const Search& search = m_searches[Index(section, std::min(slot, m_nSlots - 1))];
+                for (int extreme = 0; extreme < Search::kExtremeCount; ++extreme) {
+                    table.At(section, slot, extreme) =
+                        MakeRecord(m_input.pier, m_walk, search.Found(extreme));
+                }
+            }
+        }
+    }
+
+  private:
+    std::size_t Index(int section, int slot) const {
+        return static_cast<std::size_t>(section) * static_cast<std::size_t>(m_nSlots) +
+               static_cast<std::size_t>(slot);
+    }
+
+    const SectionTableForm& m_form;
+    PierInput m_input;
+    CSectionWalk m_walk;
+    int m_nSlots;
+    std::vector<Search> m_searches;
+};
+
+}  // namespace
+
+std::unique_ptr<TableSearch> BeginSectionSearch(TableId table, const PierInput& input,
+                                                const PierResults& results) {
+    const auto form = std::ranges::find(kForms, table, &SectionTableForm::table);
+    if (form == std::end(kForms)) return nullptr;
+    const CRecordTable& records = results.*form->records;
+    if (records.Extremes() == kExtremes) {
+        return std::make_unique<SectionTableSearch<CForceSearch>>(*form, input, records);
+    }
+    return std::make_unique<SectionTableSearch<CDcSearch>>(*form, input, records);
+}

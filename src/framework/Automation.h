@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+#include <variant>
+#include <vector>
+
+// What a control takes by dispatch id, as calls that can be recorded and read back by a driver.
+
+using GraphValue = std::variant<bool, int, double, std::string>;
+
+struct GraphCall {
+    bool isMethod = false;  // a method with its arguments; otherwise a property, set to the one value
+    int dispatchId = 0;
+    std::vector<GraphValue> values;
+};
+
+// A plot control as a driver of its dialog sees it: it remembers the properties and methods of its last drawing.
+class GraphPeer {
+  public:
+    virtual ~GraphPeer() = default;
+
+    // Everything that the dialog set and called for the drawing that is shown, in order.
+    virtual std::vector<GraphCall> LastDrawing() const = 0;
+    // A click at that x, with the dialog's notice.
+    virtual void Click(double x) = 0;
+};

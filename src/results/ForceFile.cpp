@@ -1,0 +1,223 @@
+#include "results/ForceFile.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+// Records of a piece: a quarter of a megabyte stays in the second-level cache beside the case that it fills.
+constexpr std::size_t kPieceRecords = (std::size_t{256} << 10) / kForceRecordBytes;
+
+using Record = std::array<float, kForceRecordWords>;
+
+// The rows of a file that the load has judged.
+class FileRows : public ForceRows {
+  public:
+    FileRows(const ForceFile& source, const std::string& path) : m_source(source) {
+        CFileException failure(CFileException::none, path, "");
+        if (!m_file.Open(path, kForceRecordBytes, &failure)) throw failure;
+    }
+
+    ForceRow At(int loadCase, int element) override {
+        ForceRow row{};
+        const ForceFile::Source source = m_source.SourceOf(loadCase, element);
+        if (source.record == 0) return row;
+        Record record{};
+        if (m_file.Read(record.data(), source.record) != kForceRecordBytes) {
+            throw CFileException(CFileException::endOfFile, m_file.Path(), "was cut while it was read");
+        }
+        StoreForceRecord(source.kind, record.data(), row.data());
+        return row;
+    }
+
+  private:
+    const ForceFile& m_source;
+    CDirFile m_file;
+};
+
+// The rows of a substructure none of whose elements has a record.
+class ZeroRows : public ForceRows {
+  public:
+    ForceRow At(int, int) override { return {}; }
+};
+
+}  // namespace
+
+// One reading of the whole file.
+class ForceFile::Pass {
+  public:
+    Pass(const ForceFile& source, const CaseTaker& take)
+        : m_source(source),
+          m_take(take),
+          m_forces(static_cast<std::size_t>(source.m_elements) * kForcesPerElement, 0.0F) {}
+
+    FiniteForces Run() {
+        if (m_source.m_reads.empty()) {
+            for (int c = 0; c < m_source.m_cases; ++c) m_take(c, m_forces);
+            return m_finite;
+        }
+        CFileException failure(CFileException::none, m_source.m_path, "");
+        if (!m_file.Open(m_source.m_path, kForceRecordBytes, &failure)) throw failure;
+        ReadWholeCases();
+        for (int c = m_source.m_wholeCases; c < m_source.m_cases; ++c) ReadCaseByRecord(c);
+        return m_finite;
+    }
+
+  private:
+    void ReadWholeCases() {
+        std::vector<float> piece(kPieceRecords * kForceRecordWords);
+        const std::size_t block = m_source.m_targets.size();
+        const std::size_t total = static_cast<std::size_t>(m_source.m_wholeCases) * block;
+        m_file.Seek(0);
+        std::size_t inBlock = 0;
+        int loadCase = 0;
+        for (std::size_t done = 0; done < total;) {
+            const std::size_t records = std::min(kPieceRecords, total - done);
+            const unsigned bytes = static_cast<unsigned>(records * kForceRecordBytes);
+            if (m_file.ReadBytes(piece.data(), bytes) != bytes) {
+                throw CFileException(CFileException::endOfFile, m_file.Path(), "was cut while it was read");
+            }
+            for (std::size_t r = 0; r < records;) {
+                const std::size_t here = std::min(block - inBlock, records - r);
+                StoreRun(inBlock, here, piece.data() + r * kForceRecordWords);
+                r += here;
+                inBlock += here;
+                if (inBlock < block) continue;
+                m_take(loadCase++, m_forces);
+                inBlock = 0;
+            }
+            done += records;
+        }
+    }
+
+    // Stores consecutive records of one case's block.
+    void StoreRun(std::size_t inBlock, std::size_t count, const float* words) {
+        for (std::size_t i = 0; i < count; ++i, words += kForceRecordWords) {
+            const Target& target = m_source.m_targets[inBlock + i];
+            if (target.element >= 0) Store(target, words);
+        }
+    }
+
+    void ReadCaseByRecord(int loadCase) {
+        // What the record before the first one of the case left.
+        const long long last =
+            m_source.m_lastBefore[static_cast<std::size_t>(loadCase - m_source.m_wholeCases)];
+        Record record{};
+        if (last > 0) m_file.Read(record.data(), last);
+        const long long before = loadCase * m_source.m_block;
+        for (const CForceRead& read : m_source.m_reads) {
+            if (before + read.record <= m_source.m_whole) m_file.Read(record.data(), before + read.record);
+            Store({read.element, read.kind}, record.data());
+        }
+        m_take(loadCase, m_forces);
+    }
+
+    void Store(const Target& target, const float* words) {
+        float* to = m_forces.data() + static_cast<std::size_t>(target.element) * kForcesPerElement;
+        if (!StoreForceRecord(target.kind, words, to)) Note(target, to);
+    }
+
+    // The forces of the element are not all finite.
+    void Note(const Target& target, const float* forces) {
+        if (target.kind == ForceKind::pile) {
+            m_finite.piles = false;
+            const bool head = m_source.m_isHead[static_cast<std::size_t>(target.element)] != 0;
+            if (head && !std::isfinite(forces[kComponents + kAxial])) m_finite.pileHeads = false;
+        }
+        if (target.kind == ForceKind::extraMember) m_finite.extraMembers = false;
+        // Cap elements are watched by the cap tables' own check, on the values that these show.
+        const bool column =
+            target.element >= m_source.m_firstColumnElement && target.element < m_source.m_endOfColumns;
+        if (target.kind == ForceKind::frame && column) m_finite.columns = false;
+    }
+
+    const ForceFile& m_source;
+    const CaseTaker& m_take;
+    std::vector<float> m_forces;  // of the case that is read
+    CDirFile m_file;
+    FiniteForces m_finite;
+};
+
+ForceFile::ForceFile(const CPier& pier, const PierCounts& counts, std::vector<CForceRead> reads,
+                     CDirFile& file)
+    : m_path(file.Path()),
+      m_reads(std::move(reads)),
+      m_block(static_cast<long long>(counts.pileElements) + counts.elements),
+      m_cases(pier.m_nLoadCases),
+      m_elements(pier.ElementCount()),
+      m_readOf(static_cast<std::size_t>(m_elements), -1),
+      m_isHead(static_cast<std::size_t>(m_elements), 0) {
+    if (m_reads.empty()) return;
+    for (std::size_t i = 0; i < m_reads.size(); ++i) {
+        m_readOf[static_cast<std::size_t>(m_reads[i].element)] = static_cast<int>(i);
+    }
+    for (const CPile& pile : pier.m_Piles) {
+        if (pile.m_nElements > 0) m_isHead[static_cast<std::size_t>(pile.m_nFirstElement)] = 1;
+    }
+    const std::vector<CColumn>& columns = pier.m_Frame.m_Columns;
+    if (!columns.empty()) {
+        m_firstColumnElement = columns.front().m_nFirstElement;
+        m_endOfColumns = columns.back().m_nFirstElement + pier.ColumnElements();
+    }
+    file.Seek(0);  // a file that could not be opened says so here
+    m_whole = file.Length() / kForceRecordBytes;
+    m_stamp = StampOf(m_path);
+    MapBlock();
+    // The first record of the plan shows whether the file can be read at all.
+    Record record{};
+    if (m_reads.front().record <= m_whole) file.Read(record.data(), m_reads.front().record);
+    for (const CForceRead& read : m_reads) {
+        if (read.record < 1) file.Read(record.data(), read.record);  // reports the position
+    }
+    FollowMissingRecords();
+}
+
+void ForceFile::MapBlock() {
+    if (m_block <= 0) return;
+    m_targets.assign(static_cast<std::size_t>(m_block), Target{});
+    for (const CForceRead& read : m_reads) {
+        const bool inside = read.record >= 1 && read.record <= m_block;
+        if (!inside || m_targets[static_cast<std::size_t>(read.record - 1)].element != -1) {
+            m_targets.clear();
+            return;
+        }
+        m_targets[static_cast<std::size_t>(read.record - 1)] = {read.element, read.kind};
+    }
+    m_wholeCases = static_cast<int>(std::min<long long>(m_whole / m_block, m_cases));
+}
+
+void ForceFile::FollowMissingRecords() {
+    long long last = m_wholeCases > 0 ? (m_wholeCases - 1) * m_block + m_reads.back().record : 0;
+    for (int c = m_wholeCases; c < m_cases; ++c) {
+        m_lastBefore.push_back(last);
+        for (const CForceRead& read : m_reads) {
+            if (c * m_block + read.record <= m_whole) last = c * m_block + read.record;
+        }
+    }
+}
+
+long long ForceFile::MissingRecords() const {
+    return m_reads.empty() ? 0 : std::max(0LL, m_block * m_cases - m_whole);
+}
+
+FiniteForces ForceFile::ReadCases(const CaseTaker& take) const {
+    return Pass(*this, take).Run();
+}
+
+std::unique_ptr<ForceRows> ForceFile::OpenRows() const {
+    if (m_reads.empty()) return std::make_unique<ZeroRows>();
+    return std::make_unique<FileRows>(*this, m_path);
+}
+
+ForceFile::Source ForceFile::SourceOf(int loadCase, int element) const {
+    const int place = m_readOf.at(static_cast<std::size_t>(element));
+    if (place < 0) return {};
+    const ForceKind kind = m_reads[static_cast<std::size_t>(place)].kind;
+    const long long before = loadCase * m_block;
+    for (int i = place; i >= 0; --i) {
+        const long long record = before + m_reads[static_cast<std::size_t>(i)].record;
+        if (record <= m_whole) return {record, kind};
+    }
+    return {m_lastBefore.at(static_cast<std::size_t>(loadCase - m_wholeCases)), kind};
+}

@@ -1,0 +1,324 @@
+#include <algorithm>
+#include <climits>
+#include <cstring>
+#include <span>
+
+#include "results/PierModel.h"
+#include "results/PileFile.h"
+#include "results/ProjectFiles.h"
+
+// The read of one substructure's model: the pile file, the pile model file and the convergence file. Every
+// allocation of the load rests on what they say, so each count is held against its file before it is used.
+
+namespace {
+
+constexpr int kNodeBytes = 2 * 24;               // a node stands in the file twice
+constexpr int kUnitsUsByOtherName = 3;           // the host writes 3 for US units in older projects
+constexpr int kMaxPropertyNumbers = 1000;        // column or extra member sections; far above any model's
+constexpr int kMaxElementNumber = 2000000;       // the mask has one byte for each element number
+constexpr long long kMaxMaskBytes = 16LL << 20;  // of all substructures' masks
+constexpr int kMaxInteriorNodes = 1000000;
+
+// Pile rows in each direction.
+struct PileRows {
+    int a = 0, b = 0;
+};
+
+// The words of the model header that are used.
+enum HeaderWord : std::size_t {
+    kColumnsWord = 0,
+    kCantileversWord = 1,
+    kCantileverNodesWord = 2,
+    kExtraMembersWord = 3,
+    kExtraSectionsWord = 4,
+    kColumnNodesWord = 5,
+    kSpanNodesWord = 6,
+    kUnitsWord = 8,
+    kColumnSectionsWord = 11,
+    kHeaderWords = 13
+};
+using ModelHeader = std::array<int, kHeaderWords>;
+
+struct WordLimit {
+    HeaderWord word;
+    int low, high;
+    int none;  // what counts as nothing of it
+    const char* what;
+};
+constexpr WordLimit kFrameLimits[] = {
+    {kColumnsWord, 0, kMaxInteriorNodes, 0, "columns"},
+    {kCantileverNodesWord, -1, kMaxInteriorNodes, -1, "cantilever nodes"},
+    {kColumnNodesWord, -1, kMaxInteriorNodes, -1, "column nodes"},
+    {kSpanNodesWord, -1, kMaxInteriorNodes, -1, "span nodes"},
+    {kColumnSectionsWord, INT_MIN, kMaxPropertyNumbers, 1, "column sections"},
+};
+constexpr WordLimit kExtraLimits[] = {
+    {kExtraMembersWord, INT_MIN, kMaxInteriorNodes, 0, "extra members"},
+    {kExtraSectionsWord, INT_MIN, kMaxPropertyNumbers, 0, "extra member sections"},
+};
+
+bool IsWithin(const ModelHeader& words, const WordLimit& limit) {
+    return words[limit.word] >= limit.low && words[limit.word] <= limit.high;
+}
+
+void RequireWithin(const CSeqFile& file, const ModelHeader& words, std::span<const WordLimit> limits) {
+    for (const WordLimit& limit : limits) {
+        if (IsWithin(words, limit)) continue;
+        file.Fail(CFileException::badCount,
+                  "says " + std::to_string(words[limit.word]) + " " + limit.what + ", which can't be");
+    }
+}
+
+// In a project whose frames are not read the words on them may hold anything: what can't be counts as none.
+// Of a substructure that has no frame of its own a table shows, at most, whether a first column has an
+// element.
+void ClearUnreadFrame(ModelHeader& words, bool hasFrame) {
+    for (const WordLimit& limit : kFrameLimits) {
+        if (!IsWithin(words, limit)) words[limit.word] = limit.none;
+    }
+    if (hasFrame) return;
+    words[kColumnsWord] = std::min(words[kColumnsWord], 1);
+    words[kColumnNodesWord] = std::min(words[kColumnNodesWord], 0);
+    words[kCantileversWord] = 0;
+}
+
+void TakeModelHeader(const ModelHeader& words, PierCounts& counts) {
+    counts.columns = words[kColumnsWord];
+    counts.cantilevers = words[kCantileversWord];
+    counts.cantileverNodes = words[kCantileverNodesWord];
+    counts.extraMembers = std::max(words[kExtraMembersWord], 0);
+    counts.extraSections = std::max(words[kExtraSectionsWord], 0);
+    counts.columnNodes = words[kColumnNodesWord];
+    counts.spanNodes = words[kSpanNodesWord];
+    counts.units = words[kUnitsWord] == kUnitsUsByOtherName ? 0 : words[kUnitsWord];
+    counts.columnSections = words[kColumnSectionsWord];
+}
+
+// `fileType` is the substructure's type as its own file says it; a type that is derived is one without a
+// frame.
+void ReadModelHeader(CSeqFile& file, const PierRead& read, StructureType fileType, PierCounts& counts) {
+    ModelHeader words = file.ReadInts<kHeaderWords>("model header");
+    const bool hasFrame = fileType != kTypeDerived && !HasNoFrame(fileType);
+    const bool isFrameRead = read.firstType ? !HasNoFrame(*read.firstType) : hasFrame;
+    if (isFrameRead) {
+        RequireWithin(file, words, kFrameLimits);
+    } else {
+        ClearUnreadFrame(words, hasFrame);
+    }
+    RequireWithin(file, words, kExtraLimits);
+    TakeModelHeader(words, counts);
+}
+
+// The pile model file up to its counts. False: nothing converged, which was reported.
+bool ReadPileModelCounts(CSeqFile& file, Messages& messages, PierCounts& counts, PileRows& rows) {
+    const std::array<int, 9> words = file.ReadInts<9>("pile model counts");
+    if (words[1] < 1) {
+        messages.Show("No load cases converged.  There are no results to view.");
+        return false;
+    }
+    counts.pileNodesTotal = words[0];
+    counts.loadCases = words[1];
+    rows = {words[3], words[4]};
+    counts.pileTableSize = words[5];
+    counts.piles = words[6];
+    counts.pileNodes = words[8];
+    file.CheckCount(counts.pileTableSize, 8, "table entries");
+    file.CheckCount(counts.piles, 4, "piles");
+    file.CheckCount(std::max(rows.a, 0), 4, "pile rows");
+    file.CheckCount(std::max(rows.b, 0), 4, "pile rows");
+    if (counts.piles > 0) {
+        if (counts.pileNodes < 2) {
+            file.Fail(CFileException::badCount,
+                      "says " + std::to_string(counts.pileNodes) + " nodes of one pile, which can't be");
+        }
+        file.CheckCount(static_cast<long long>(counts.pileNodes - 1) * counts.piles, 4, "pile elements");
+    }
+    counts.pilesFromNodes = counts.pileNodes > 0 ? counts.pileNodesTotal / counts.pileNodes : 0;
+    counts.pileElements = counts.piles > 0 ? (counts.pileNodes - 1) * counts.piles : 0;
+    return true;
+}
+
+// The convergence file; each substructure reads the same one. False: nothing converged, which was reported.
+bool ReadConvergence(const std::string& basePath, Messages& messages, PierCounts& counts) {
+    CSeqFile file(ProjectFile(basePath, ".ncv"));
+    int cases = 0;
+    if (file.Read(&cases, 4) == 0) {
+        // Nothing but the mark: the count of the pile model file stays.
+        constexpr int kEmptyFile = 2;
+        if (file.Length() > kEmptyFile) file.Fail(CFileException::endOfFile, "ends before its case count");
+        return true;
+    }
+    if (cases == 0) {
+        messages.Show("No load cases converged. Results cannot be viewed.");
+        return false;
+    }
+    if (cases < 0) {
+        file.Fail(CFileException::badCount, "says " + std::to_string(cases) + " load cases, which can't be");
+    }
+    counts.loadCases = cases;
+    // Nothing uses these three, so they may be absent.
+    std::array<char, 16> unused{};
+    for (const unsigned bytes : {16U, 4U, 4U}) file.Read(unused.data(), bytes);
+    if (file.Read(&counts.analysisMode, 4) == 0) counts.analysisMode = 0;
+    if (file.Read(&counts.convergenceReal, 8) == 0) counts.convergenceReal = 0.0;
+    if (file.Read(&counts.convergenceInteger, 4) == 0) counts.convergenceInteger = 0;
+    return true;
+}
+
+// Splits the node list into the substructure's own nodes and its foundation's; returns how many of the
+// first nodes of the list are passed over.
+int SplitNodes(PierModel& model) {
+    const PierCounts& counts = model.counts;
+    const int m = counts.columnNodes, s = counts.spanNodes, c = counts.cantileverNodes;
+    const long long n = counts.columns;
+    const auto narrow = [](long long count) {
+        return static_cast<int>(std::clamp(count, -1000000000LL, 1000000000LL));
+    };
+    switch (counts.type) {
+        case kTypePier:
+            model.pierNodes = narrow((n - 1) * s + (m + 2) * n + (c + 1) * 2LL);
+            model.foundationNodes = counts.nodes - model.pierNodes;
+            return model.foundationNodes;
+        case kTypePileBent:
+            model.pierNodes = narrow((n - 1) * s + (counts.cantilevers < 1 ? 0 : 2LL * c + 2));
+            return 0;
+        case kTypeMast:
+            model.foundationNodes = 1;
+            return 1;
+        case kTypeWallA:
+        case kTypeWallB:
+            model.pierNodes = narrow((m + 2) * n);
+            model.foundationNodes = counts.nodes - model.pierNodes;
+            return model.foundationNodes;
+        case kTypePileGroup:
+            return counts.nodes;
+        default:
+            return 0;
+    }
+}
+
+void ReadNodes(CSeqFile& file, int skipped, PierModel& model) {
+    const int nodes = model.counts.nodes;
+    model.nodes.reserve(static_cast<std::size_t>(nodes - std::clamp(skipped, 0, nodes)));
+    std::array<double, 3> node{};
+    for (int i = 0; i < nodes; ++i) {
+        file.ReadRecord(node.data(), 24, "node");
+        if (i >= skipped) model.nodes.push_back(node);
+    }
+    for (int i = 0; i < nodes; ++i) file.ReadRecord(node.data(), 24, "second node set");
+}
+
+std::vector<CElementRow> ReadElementTable(CSeqFile& file) {
+    const int elements = file.ReadInts<2>("element count")[1];
+    file.CheckCount(elements, 28, "elements");
+    std::vector<CElementRow> table;
+    table.reserve(static_cast<std::size_t>(elements));
+    for (int i = 0; i < elements; ++i) {
+        const std::array<int, 7> words = file.ReadInts<7>("element row");
+        // A node number of the smallest int can't be counted from 0.
+        const auto fromZero = [](int node) { return node > -kMaxElementNumber ? node - 1 : node; };
+        table.push_back(
+            {words[0], fromZero(words[2]), fromZero(words[3]), fromZero(words[4]), words[5], words[6]});
+    }
+    return table;
+}
+
+long long CountGaps(const std::vector<CElementRow>& table) {
+    long long gaps = 0;
+    for (std::size_t i = 0; i + 1 < table.size(); ++i) {
+        gaps += static_cast<long long>(table[i + 1].number) - table[i].number - 1;
+    }
+    return gaps;
+}
+
+// Marks the element numbers that have no row. Assumes, as the host writes them, that the first number is 1.
+std::vector<std::uint8_t> BuildElementMask(const CSeqFile& file, const std::vector<CElementRow>& table,
+                                           long long maskBytes) {
+    const long long size = static_cast<long long>(table.size()) + CountGaps(table);
+    if (size < 0 || size > kMaxElementNumber || maskBytes + size > kMaxMaskBytes) {
+        file.Fail(CFileException::badCount,
+                  "numbers its elements up to " + std::to_string(size) + ", which can't be");
+    }
+    std::vector<std::uint8_t> mask(static_cast<std::size_t>(size), 1);
+    for (const CElementRow& row : table) {
+        if (row.number < 1 || row.number > size) {
+            file.Fail(CFileException::badFormat, "has the element number " + std::to_string(row.number) +
+                                                     " outside its table of " + std::to_string(size));
+        }
+        mask[static_cast<std::size_t>(row.number - 1)] = 0;
+    }
+    return mask;
+}
+
+// The rest of the pile model file: the section number of each pile element.
+std::vector<std::vector<int>> ReadPileSections(CSeqFile& file, const PierCounts& counts,
+                                               const PileRows& rows) {
+    std::array<int, 2> pair{};
+    for (int i = 0; i < counts.pileTableSize; ++i) file.ReadRecord(pair.data(), 8, "table entry");
+    for (const int count : {rows.a, rows.b}) {
+        std::vector<int> spacing(static_cast<std::size_t>(std::max(count, 1) - 1));
+        file.ReadRecord(spacing.data(), static_cast<unsigned>(spacing.size() * 4), "pile row spacing");
+    }
+    // The flags of the piles come last. Nothing uses them, so they may be absent and are not read.
+    std::vector<std::vector<int>> piles(static_cast<std::size_t>(counts.piles));
+    for (std::vector<int>& sections : piles) {
+        sections.resize(static_cast<std::size_t>(counts.pileNodes - 1));
+        file.ReadRecord(sections.data(), static_cast<unsigned>(sections.size() * 4), "pile sections");
+    }
+    return piles;
+}
+
+StructureType StructureTypeOf(const CSeqFile& file, StructureType fileType, const PileRows& rows) {
+    if (fileType == kTypeDerived) return rows.a == 1 && rows.b == 1 ? kTypeSinglePile : kTypePileGroup;
+    if (fileType < 0 || fileType >= kStructureTypes) {
+        file.Fail(CFileException::badFormat,
+                  "has the structure type " + std::to_string(fileType) + ", which is none");
+    }
+    return fileType;
+}
+
+}  // namespace
+
+std::optional<PierModel> ReadPierModel(const PierRead& read, Messages& messages) {
+    PierModel model;
+    PierCounts& counts = model.counts;
+    CSeqFile pileFile(SubstructureFile(read.basePath, ".PLF", read.index + 1));
+    const CPileFileHead head = ReadPileFileHead(pileFile);
+    counts.sectionBlocks = head.blocks;
+    counts.sectionRecords = static_cast<int>(head.sections.size());
+    const std::array<int, 3> kind = pileFile.ReadInts<3>("node count and structure type");
+    counts.nodes = kind[0];
+    const auto fileType = static_cast<StructureType>(kind[2]);
+    ReadModelHeader(pileFile, read, fileType, counts);
+    pileFile.ReadInts<10>("model data");
+
+    CSeqFile modelFile(SubstructureFile(read.basePath, ".PIL", read.index + 1));
+    PileRows rows;
+    if (!ReadPileModelCounts(modelFile, messages, counts, rows)) return std::nullopt;
+    if (!ReadConvergence(read.basePath, messages, counts)) return std::nullopt;
+    counts.type = StructureTypeOf(pileFile, fileType, rows);
+    pileFile.CheckCount(counts.nodes, kNodeBytes, "nodes");
+    ReadNodes(pileFile, SplitNodes(model), model);
+    model.elementTable = ReadElementTable(pileFile);
+    counts.elements = static_cast<int>(model.elementTable.size());
+    counts.elementGaps = static_cast<int>(std::clamp(CountGaps(model.elementTable), -1LL << 30, 1LL << 30));
+    if (!HasNoFrame(read.firstType.value_or(counts.type))) {
+        model.elementMask = BuildElementMask(pileFile, model.elementTable, read.maskBytes);
+    }
+    // Nothing uses the closing count, so its record may be absent.
+    std::array<int, 2> closing{};
+    if (fileType != kTypePileBent && pileFile.Read(closing.data(), sizeof(closing)) == 0) closing.fill(0);
+    counts.closingCount = closing[1];
+    model.pileSections = ReadPileSections(modelFile, counts, rows);
+    return model;
+}
+
+void ReadPileDimensions(const std::string& basePath, int number, CPier& pier) {
+    CSeqFile file(SubstructureFile(basePath, ".plf", number));
+    const CPileFileHead head = ReadPileFileHead(file);
+    for (CPile& pile : pier.m_Piles) {
+        const int section = pile.m_nElements > 0 ? pier.Element(pile.m_nFirstElement).m_nSection : 0;
+        const bool known = section >= 1 && section <= static_cast<int>(head.sections.size());
+        pile.m_dDimension = known ? head.sections[static_cast<std::size_t>(section - 1)].Dimension() : 0.0;
+    }
+}

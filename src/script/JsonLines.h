@@ -1,0 +1,54 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "framework/Automation.h"
+#include "framework/Backend.h"
+#include "framework/ControlList.h"
+#include "framework/GridView.h"
+
+// The events and states of driven dialogs as JSON, one object a line, in fixed key order. The same lines come
+// from every face of the product, so that two outputs can be compared byte for byte.
+
+// What a control shows.
+struct ControlState {
+    int id = 0;
+    ControlKind kind = ControlKind::button;
+    std::string text;
+    bool enabled = true, visible = true, checked = false;  // checked: radio and check boxes alone
+    int selection = -1;                                    // combo boxes alone
+};
+
+// Where the keyboard is: the control that has the focus, and what the keys act on in it.
+struct FocusState {
+    int id = 0;
+    ControlKind kind = ControlKind::button;
+    std::string text;        // of an edit control
+    int start = 0, end = 0;  // its selection, in characters
+    GridView grid;           // of a grid
+};
+
+class JsonLines {
+  public:
+    explicit JsonLines(std::ostream& out) : m_out(out) {}
+
+    void Dialog(std::string_view title);
+    void Control(const ControlState& state);
+    void Message(std::string_view text, std::string_view title, MessageIcon icon);
+    // A viewer start as the shell is asked for it: a document, or a program with a document as its parameter.
+    // Quotes around the document and the program's folder are left out.
+    void Open(const std::string& file, const std::string& parameters);
+    void Module(std::string_view module, const services::PlotModuleCall& call);
+    void Row(int row, const std::vector<std::string>& cells);
+    void Focus(const FocusState& state);
+    void Plot(const std::vector<GraphCall>& calls);
+    void Result(unsigned result);
+    // The one line that is no JSON: an action that a user could not have done.
+    void Refused(std::string_view what);
+
+  private:
+    std::ostream& m_out;
+};

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "model/CaseSelection.h"
+#include "model/DataSet.h"
+
+// The two words that the plot module opens on, from the first substructure; empty without one.
+
+// "Shear" or "Moment": a project of nothing but fatigue has no shear table. Empty: no class has a case.
+std::string FirstPlotWord(const CDataSet& data, const CaseSelection& selection);
+// The limit family of the first class that has a case.
+std::string LimitFamilyWord(const CDataSet& data, const CaseSelection& selection);

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "session/OutputFiles.h"
+#include "session/ReportState.h"
+
+// The run of a table from the press of its button to the start of its viewer: name the file, collect, write,
+// show. The options are in the session by then. Each run returns whether the file system took all of the
+// output; the run goes to its end either way.
+
+// What the eight buttons of tables 0 to 7 differ in.
+struct TableRun {
+    int button;
+    TableId table;
+    bool landscapePdf;
+    bool setsPrinter;  // the text form sets the application's printer to landscape
+    const char* noResults;
+};
+
+// Null when no table belongs to the button.
+const TableRun* FindTableRun(int button);
+
+bool RunTable(const TableRun& run, int format, ReportState& state, ViewerSettings& viewer);
+bool RunPileHeadForces(int format, ReportState& state, ViewerSettings& viewer);
+bool RunFullReport(int format, ReportState& state, ViewerSettings& viewer);
+bool RunTitlePage(int format);  // format 1 or 2
+// Writes the data file of the envelope plotter; g_OutputFilePath names it then. False: the forces were
+// replaced since the project was opened, and nothing was written.
+bool RunEnvelopeFile(ReportState& state);

@@ -1,0 +1,7 @@
+#pragma once
+
+#include "tables/Report.h"
+#include "text/StoredStream.h"
+
+// Writes the data file of the envelope plotter, from the cap tables of both forms.
+void WriteEnvelopeFile(const Report& report, StoredStream& out);

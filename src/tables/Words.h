@@ -1,0 +1,35 @@
+#pragma once
+
+#include <array>
+
+#include "model/Types.h"
+
+// The words of the reports: titles and file names of the tables, names of extremes and members, words of
+// dates.
+
+using TextList11 = std::array<const char*, kTableCount>;
+using TextByType = std::array<const char*, kStructureTypes>;
+
+extern const TextList11 g_TableFileNames;
+extern const std::array<TextByType, kTableCount> g_TableTitles;
+extern const TextByType g_MemberShortNames;
+extern const TextByType g_MemberNames;
+extern const std::array<const char*, 13> g_ExtremeNames;
+extern const std::array<const char*, 12> g_MonthNames;
+extern const std::array<const char*, 7> g_DayNames;
+extern const std::array<const char*, 5> g_TitleLines;
+
+inline constexpr const char* g_ExtensionPdf = ".pdf";
+inline constexpr const char* g_ExtensionText = ".txt";
+inline constexpr const char* g_ExtensionSpreadsheet = ".xml";
+inline constexpr const char* g_ExtensionInput = ".in";
+inline constexpr const char* g_EnvelopesName = "Envelopes";
+inline constexpr const char* g_PierCap = "Pier Cap";
+inline constexpr const char* g_BentCap = "Bent Cap";
+inline constexpr const char* g_NameSeparator = "_";
+
+// The title of a table for a structure type; empty where the type is outside 0 to 8.
+const char* TableTitle(TableId table, StructureType structureType);
+// The words for the vertical members of a structure type; empty where the type is outside 0 to 8.
+const char* MemberShortName(StructureType structureType);
+const char* MemberName(StructureType structureType);

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+// What a reader or a search has to say to the engineer while it runs, in the words of a message box. The
+// dialog shows a box; a program without a screen prints a line. The caller of a load or a search owns the
+// sink.
+class Messages {
+  public:
+    Messages() = default;
+    Messages(const Messages&) = delete;
+    Messages& operator=(const Messages&) = delete;
+    virtual ~Messages() = default;
+
+    virtual void Show(const std::string& text) = 0;
+};

@@ -1,0 +1,144 @@
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+#include "cli/EmbedmentCommand.h"
+#include "support/SampleFolder.h"
+
+// The study of the sample pier: eight trials of which the fifth is missing and the seventh is unfinished.
+
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+class EmbedmentCommandTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        headless::ResetState();
+        base = folder.Write("pier");
+        options.project = base + ".in";
+    }
+    void TearDown() override { headless::ResetState(); }
+
+    ExitStatus Run() {
+        out.str("");
+        err.str("");
+        return RunEmbedment(options, out, err);
+    }
+    // The words of a line of the output, from 0.
+    std::vector<std::string> Words(int line) const {
+        std::istringstream all(out.str());
+        std::string text;
+        for (int i = 0; i <= line; ++i) std::getline(all, text);
+        std::istringstream words(text);
+        return {std::istream_iterator<std::string>(words), {}};
+    }
+
+    SampleFolder folder;
+    std::string base;
+    EmbedmentOptions options;
+    std::ostringstream out, err;
+};
+
+}  // namespace
+
+TEST_F(EmbedmentCommandTest, PrintsTheTableOfTheFirstCase) {
+    ASSERT_EQ(Run(), kExitDone) << err.str();
+    std::ifstream study(base + ".PEL");
+    double substructure = 0, trials = 0, unused = 0, cases = 0, length = 0;
+    study >> substructure >> trials >> unused >> cases >> length;
+    std::string number, value, pile;
+    study >> number >> value >> pile;
+    EXPECT_THAT(out.str(), testing::StartsWith("Load Comb 1 - Embedment vs Lateral Displacement\n"));
+    EXPECT_THAT(Words(1), ElementsAre("Trial", "Load", "Comb", "Pile", "Embedment", "Displacement"));
+    EXPECT_THAT(Words(2), ElementsAre("(ft)", "(in)"));
+    EXPECT_THAT(Words(3), ElementsAre("1", number, pile, "60.00", value));
+    EXPECT_THAT(Words(7), ElementsAre("5", "NA", "NA", "NA", "NA"));
+    EXPECT_THAT(Words(9), ElementsAre("7", "NA", "NA", "NA", "NA"));
+    EXPECT_TRUE(err.str().empty());
+}
+
+TEST_F(EmbedmentCommandTest, AnEnvelopeIsNamedForWhatItIs) {
+    options.envelope = ReadEnvelope("min");
+    options.quantity = 4;
+    ASSERT_EQ(Run(), kExitDone) << err.str();
+    EXPECT_THAT(out.str(), testing::StartsWith("Min Envelope - Embedment vs Min Axial Force\n"));
+    EXPECT_THAT(Words(2), ElementsAre("(ft)", "(kips)"));
+    EXPECT_THROW(ReadEnvelope("mean"), std::invalid_argument);
+}
+
+TEST_F(EmbedmentCommandTest, WritesPictureAndWorkbookAndTellsTheirPaths) {
+    options.picture = folder.Base("curve.svg");
+    options.workbook = true;
+    options.loadCase = 2;
+    ASSERT_EQ(Run(), kExitDone) << err.str();
+    const std::string workbook = base + "_LoadComb2-EmbedmentvsLateralDisplacement.xml";
+    EXPECT_THAT(out.str(), testing::EndsWith("\n\n" + options.picture + "\n" + workbook + "\n"));
+    EXPECT_TRUE(std::filesystem::exists(workbook));
+    std::ifstream file(options.picture);
+    const std::string picture(std::istreambuf_iterator<char>(file), {});
+    EXPECT_THAT(picture, HasSubstr("Load Comb 2 - Embedment vs Lateral Displacement</text>"));
+}
+
+TEST_F(EmbedmentCommandTest, ThePictureLeavesAGapAtAnUnfinishedTrial) {
+    options.picture = folder.Base("curve.svg");
+    const auto count = [this](const std::string& what) {
+        std::ifstream file(options.picture);
+        const std::string picture(std::istreambuf_iterator<char>(file), {});
+        std::size_t hits = 0;
+        for (std::size_t at = picture.find(what); at != std::string::npos; at = picture.find(what, at + 1))
+            ++hits;
+        return hits;
+    };
+    ASSERT_EQ(Run(), kExitDone) << err.str();
+    EXPECT_EQ(count("<circle"), 6U);
+    EXPECT_EQ(count("<polyline"), 1U);  // trials 1 to 4; 6 and 8 are alone
+    // With the seventh finished 6 to 8 are a second line.
+    std::ofstream(folder.Base("MPTE7/pier_MPTE7.PEL"), std::ios::app) << "EOF\n";
+    ASSERT_EQ(Run(), kExitDone) << err.str();
+    EXPECT_EQ(count("<circle"), 7U);
+    EXPECT_EQ(count("<polyline"), 2U);
+}
+
+TEST_F(EmbedmentCommandTest, NamesInUtf8StayThoseOfTheFiles) {
+    samples::SampleOptions sample;
+    sample.name =
+        "Gr\xC3\xB6\xC3\x9F"
+        "e";
+    base = folder.Write(sample);
+    options.project = base + ".in";
+    options.picture = folder.Base("\xE6\xA9\x8B.svg");
+    options.workbook = true;
+    ASSERT_EQ(Run(), kExitDone) << err.str();
+    const std::string workbook = base + "_LoadComb1-EmbedmentvsLateralDisplacement.xml";
+    EXPECT_THAT(out.str(), testing::EndsWith("\n\n" + options.picture + "\n" + workbook + "\n"));
+    EXPECT_TRUE(std::filesystem::exists(workbook));
+    EXPECT_THAT(Words(4), ElementsAre("2", testing::_, testing::_, "56.00", testing::_));
+}
+
+TEST_F(EmbedmentCommandTest, ACaseThatTheStudyDoesNotHaveIsWrongUse) {
+    options.loadCase = 9999;
+    EXPECT_EQ(Run(), kExitUsage);
+    EXPECT_THAT(err.str(), HasSubstr("Invalid load case."));
+    EXPECT_TRUE(out.str().empty());
+}
+
+TEST_F(EmbedmentCommandTest, APictureThatCannotBeWrittenIsTold) {
+    options.picture = folder.Base("nowhere/curve.svg");
+    EXPECT_EQ(Run(), kExitIncomplete);
+    EXPECT_THAT(err.str(), HasSubstr("curve.svg could not be written"));
+    EXPECT_THAT(out.str(), Not(HasSubstr("curve.svg")));
+}
+
+TEST_F(EmbedmentCommandTest, AProjectWithoutAStudyIsTold) {
+    std::filesystem::remove(base + ".PEL");
+    EXPECT_EQ(Run(), kExitIncomplete);
+    EXPECT_THAT(err.str(), HasSubstr("no embedment study"));
+    options.project = folder.Base("nothing.in");
+    EXPECT_EQ(Run(), kExitNotLoaded);
+}

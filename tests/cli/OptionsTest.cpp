@@ -1,0 +1,78 @@
+#include "cli/Options.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+#include "framework/headless/Headless.h"
+
+namespace {
+
+TEST(Options, CasesAreNumbersAndRanges) {
+    const CaseRanges cases = ReadCases("1,3,5-9");
+    EXPECT_TRUE(HoldsCase(cases, 1));
+    EXPECT_FALSE(HoldsCase(cases, 2));
+    EXPECT_TRUE(HoldsCase(cases, 3));
+    EXPECT_FALSE(HoldsCase(cases, 4));
+    EXPECT_TRUE(HoldsCase(cases, 5));
+    EXPECT_TRUE(HoldsCase(cases, 9));
+    EXPECT_FALSE(HoldsCase(cases, 10));
+    EXPECT_EQ(LastCase(cases), 9);
+    EXPECT_EQ(LastCase(ReadCases("7-7,2")), 7);
+    for (const char* text : {"", "0", "a", "1,", ",1", "3-2", "1-", "-1", "1 2", "99999999999", "1-2-3"}) {
+        EXPECT_THROW(ReadCases(text), std::invalid_argument) << text;
+    }
+}
+
+TEST(Options, FooterPartsAreAListOrNone) {
+    const FooterChoice some = ReadFooter("time,filename");
+    EXPECT_FALSE(some.date);
+    EXPECT_TRUE(some.time);
+    EXPECT_FALSE(some.version);
+    EXPECT_TRUE(some.fileName);
+    const FooterChoice none = ReadFooter("none");
+    EXPECT_FALSE(none.date || none.time || none.version || none.fileName);
+    EXPECT_THROW(ReadFooter("date,page"), std::invalid_argument);
+    EXPECT_THROW(ReadFooter("none,date"), std::invalid_argument);
+}
+
+TEST(Options, FormatsAndTablesGoByTheirNames) {
+    EXPECT_EQ(ReadFormat("excel"), 0);
+    EXPECT_EQ(ReadFormat("pdf"), 1);
+    EXPECT_EQ(ReadFormat("text"), 2);
+    EXPECT_THROW(ReadFormat("xml"), std::invalid_argument);
+    EXPECT_EQ(TableButton("axial"), 1004);
+    EXPECT_EQ(TableButton("envelopes"), 1009);
+    EXPECT_EQ(TableButton("extra-members"), 1012);
+    EXPECT_EQ(TableButton("pile-heads"), 1013);
+    EXPECT_EQ(TableButton("full"), 1001);
+    EXPECT_EQ(TableButton("title"), 1002);
+    EXPECT_EQ(TableButton("heads"), 0);
+}
+
+TEST(Options, FontSizeAndClockReachTheServices) {
+    headless::ResetState();
+    CommonOptions options;
+    ApplyOptions(options);
+    int tenths = 0;
+    EXPECT_FALSE(services::ReadViewerNumber("iPointSize", tenths));
+    options.fontSize = 12;
+    options.clock = "2026-11-14T08:30:05";
+    ApplyOptions(options);
+    EXPECT_TRUE(services::ReadViewerNumber("iPointSize", tenths));
+    EXPECT_EQ(tenths, 120);
+    EXPECT_EQ(services::Now().minute, 30);
+    options.clock = "yesterday";
+    EXPECT_THROW(ApplyOptions(options), std::invalid_argument);
+    headless::ResetState();
+}
+
+// A host may pass any number; the dialog then selects no format.
+TEST(Options, AStartFormatMayBeAnyNumber) {
+    EXPECT_EQ(ReadStartFormat("pdf"), 1);
+    EXPECT_EQ(ReadStartFormat("7"), 7);
+    EXPECT_EQ(ReadStartFormat("-1"), -1);
+    EXPECT_THROW(ReadStartFormat("7x"), std::invalid_argument);
+}
+
+}  // namespace

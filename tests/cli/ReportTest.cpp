@@ -1,0 +1,210 @@
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "cli/ReportDriver.h"
+#include "support/SampleFolder.h"
+
+namespace {
+
+using testing::HasSubstr;
+namespace fs = std::filesystem;
+
+class ReportTest : public testing::Test {
+  protected:
+    ReportTest() {
+        headless::ResetState();
+        options.common.version = "5.2.1";
+        options.common.clock = "2026-11-14T08:30:05";
+        options.formats = {2};
+    }
+    ~ReportTest() override { headless::ResetState(); }
+
+    ExitStatus Report(std::vector<std::string> projects, std::vector<std::string> tables) {
+        options.projects = std::move(projects);
+        options.tables = std::move(tables);
+        ApplyOptions(options.common);
+        out.str("");
+        err.str("");
+        return RunReports(options, out, err);
+    }
+    static std::string Content(const std::string& path) {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    SampleFolder folder;
+    ReportRequest options;
+    std::ostringstream out, err;
+};
+
+TEST_F(ReportTest, PrintsEachWrittenPath) {
+    const std::string base = folder.Write("pier");
+    EXPECT_EQ(Report({base + ".in"}, {"axial", "title"}), kExitDone);
+    EXPECT_EQ(out.str(), base + "_Max_Axial_Forces_Pile_Heads.txt\n" + base + "_Title Page.txt\n");
+    EXPECT_EQ(err.str(), "");
+    EXPECT_GT(fs::file_size(base + "_Max_Axial_Forces_Pile_Heads.txt"), 0U);
+}
+
+TEST_F(ReportTest, EachFormatIsACallOfItsOwn) {
+    const std::string base = folder.Write("pier");
+    options.formats = {2, 1, 0};
+    EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitDone);
+    const std::string stem = base + "_Max_Axial_Forces_Pile_Heads";
+    EXPECT_EQ(out.str(), stem + ".txt\n" + stem + ".pdf\n" + stem + ".xml\n");
+    // The text format has not taken the footer of the PDF away.
+    EXPECT_THAT(Content(stem + ".pdf"), HasSubstr("v5.2.1"));
+}
+
+TEST_F(ReportTest, TheFooterShowsTheChosenParts) {
+    const std::string base = folder.Write("pier");
+    const std::string path = base + "_Max_Axial_Forces_Pile_Heads.pdf";
+    options.formats = {1};
+    options.footer = ReadFooter("date,version");
+    Report({base + ".in"}, {"axial"});
+    EXPECT_THAT(Content(path), HasSubstr("(Saturday, November 14, 2026, v5.2.1) Tj"));
+    options.footer = ReadFooter("none");
+    Report({base + ".in"}, {"axial"});
+    EXPECT_EQ(Content(path).find("2026"), std::string::npos);
+}
+
+// "Gr\xC3\xB6\xC3\x9F" "e" in UTF-8 is "Gr\xF6\xDF" "e" in the code page.
+TEST_F(ReportTest, ANameInUtf8StaysThatOfItsFilesAndIsShownInTheCodePage) {
+    samples::SampleOptions sample;
+    sample.name =
+        "Gr\xC3\xB6\xC3\x9F"
+        "e";
+    const std::string base = folder.Write(sample);
+    options.formats = {1, 0};
+    options.footer = ReadFooter("filename");
+    EXPECT_EQ(Report({base + ".in"}, {"axial", "column-dc"}), kExitDone);
+    const std::string axial = base + "_Max_Axial_Forces_Pile_Heads",
+                      ratios = base + "_Max_DC_For_Column_Sections";
+    EXPECT_EQ(out.str(), axial + ".pdf\n" + ratios + ".pdf\n" + axial + ".xml\n" + ratios + ".xml\n");
+    const std::string shown = folder.Path().string() +
+                              "/Gr\xF6\xDF"
+                              "e.in";
+    EXPECT_THAT(Content(axial + ".pdf"), HasSubstr("(" + shown + ") Tj"));
+    EXPECT_THAT(Content(axial + ".xml"), HasSubstr(shown));
+    EXPECT_EQ(Content(axial + ".xml").find("\xC3"), std::string::npos);
+}
+
+TEST_F(ReportTest, MessagesAreUtf8WhateverThePathIs) {
+    samples::SampleOptions sample;
+    sample.name =
+        "Gr\xC3\xB6\xC3\x9F"
+        "e";
+    std::string base = folder.Write(sample);
+    fs::remove(base + ".PLF");
+    EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitNotLoaded);
+    EXPECT_EQ(err.str(), base + ".in: " + base + ".PLF: the file was not found\n");
+    // A name that is no UTF-8 is one of the code page.
+    const std::string utf8 = base;
+    sample.name =
+        "Gr\xF6\xDF"
+        "e";
+    base = folder.Write(sample);
+    fs::remove(base + ".PLF");
+    EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitNotLoaded);
+    EXPECT_EQ(err.str(), utf8 + ".in: " + utf8 + ".PLF: the file was not found\n");
+    // Both in one path.
+    EXPECT_EQ(Report({"/nowhere/\xE9t\xE9/\xC3\xB6.in"}, {"axial"}), kExitNotLoaded);
+    EXPECT_THAT(err.str(), testing::StartsWith("/nowhere/\xC3\xA9t\xC3\xA9/\xC3\xB6.in: "));
+}
+
+TEST_F(ReportTest, ATableThatDoesNotApplyIsNamedAndNotWritten) {
+    const std::string base = folder.Write("bent");
+    EXPECT_EQ(Report({base + ".in"}, {"column-dc", "axial"}), kExitIncomplete);
+    EXPECT_EQ(err.str(), base + ".in: the table column-dc does not apply to this project\n");
+    EXPECT_EQ(out.str(), base + "_Max_Axial_Forces_Pile_Heads.txt\n");
+    EXPECT_FALSE(fs::exists(base + "_Max_DC_For_Column_Sections.txt"));
+}
+
+TEST_F(ReportTest, TheTitlePageAsASpreadsheetIsRefusedAloud) {
+    const std::string base = folder.Write("pier");
+    options.formats = {0};
+    EXPECT_EQ(Report({base + ".in"}, {"title"}), kExitIncomplete);
+    EXPECT_THAT(err.str(), HasSubstr("The Title Page can only be created in the Text and PDF formats."));
+    EXPECT_EQ(out.str(), "");
+}
+
+TEST_F(ReportTest, ThePileHeadsMoveToTheSpreadsheetAndTheTablesBehindThemDoNot) {
+    const std::string base = folder.Write("pier");
+    EXPECT_EQ(Report({base + ".in"}, {"pile-heads", "axial"}), kExitDone);
+    EXPECT_EQ(out.str(),
+              base + "_Axial_Pile_Heads_EachLoadCase.xml\n" + base + "_Max_Axial_Forces_Pile_Heads.txt\n");
+    EXPECT_EQ(err.str(), "");
+}
+
+TEST_F(ReportTest, EnvelopesWriteTheirFileAndStartNothing) {
+    const std::string base = folder.Write("pier");
+    EXPECT_EQ(Report({base + ".in"}, {"envelopes"}), kExitDone);
+    EXPECT_EQ(out.str(), base + "_Envelopes.txt\n");
+    EXPECT_TRUE(fs::exists(base + "_Envelopes.txt"));
+}
+
+TEST_F(ReportTest, TenProjectsOfWhichTwoAreBrokenGiveEight) {
+    std::vector<std::string> projects;
+    std::string written;
+    for (int i = 0; i < 10; ++i) {
+        samples::SampleOptions sample;
+        sample.preset = i % 2 == 0 ? "pier" : "bent";
+        sample.name = "p" + std::to_string(i);
+        const std::string base = folder.Write(sample);
+        if (i == 2) fs::remove(base + ".TWR");
+        if (i == 7) fs::resize_file(base + ".PIL", 6);
+        if (i != 2 && i != 7) written += base + "_Max_Axial_Forces_Pile_Heads.txt\n";
+        projects.push_back(base + ".in");
+    }
+    EXPECT_EQ(Report(projects, {"axial"}), kExitNotLoaded);
+    EXPECT_EQ(out.str(), written);
+    EXPECT_THAT(err.str(), HasSubstr("p2.TWR: the file was not found"));
+    EXPECT_THAT(err.str(), HasSubstr("p7.PIL: "));
+}
+
+TEST_F(ReportTest, ABrokenProjectIsToldOnceForAllFormats) {
+    const std::string base = folder.Write("pier");
+    fs::remove(base + ".PLF");
+    options.formats = {2, 1, 0};
+    EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitNotLoaded);
+    EXPECT_EQ(err.str(), base + ".in: " + base + ".PLF: the file was not found\n");
+}
+
+TEST_F(ReportTest, AForceFileThatIsTooShortIsToldAndTheReportGoesOn) {
+    const std::string base = folder.Write("pier");
+    const std::string forces = base + ".vmd";
+    fs::resize_file(forces, fs::file_size(forces) - 3 * 68);
+    EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitIncomplete);
+    EXPECT_THAT(err.str(), HasSubstr("pier.vmd: 3 "));
+    EXPECT_EQ(out.str(), base + "_Max_Axial_Forces_Pile_Heads.txt\n");
+}
+
+TEST_F(ReportTest, ChosenCasesGoTheRoadOfTheDialog) {
+    const std::string base = folder.Write("history");
+    const std::string path = base + "_Max_Axial_Forces_Pile_Heads.txt";
+    Report({base + ".in"}, {"axial"});
+    const std::string all = Content(path);
+    options.cases = ReadCases("1-2");
+    EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitDone);
+    EXPECT_NE(Content(path), all);
+}
+
+TEST_F(ReportTest, ACaseThatTheProjectDoesNotHaveIsWrongUsage) {
+    const std::string base = folder.Write("pier");
+    options.cases = ReadCases("1,5000");
+    EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitUsage);
+    EXPECT_THAT(err.str(), HasSubstr("there is no case 5000"));
+    EXPECT_EQ(out.str(), "");
+}
+
+TEST_F(ReportTest, AFileThatCannotBeWrittenIsNotReportedAsWritten) {
+    const std::string base = folder.Write("pier");
+    fs::create_directory(base + "_Max_Axial_Forces_Pile_Heads.txt");  // a folder stands in its place
+    EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitIncomplete);
+    EXPECT_EQ(out.str(), "");
+    EXPECT_THAT(err.str(), HasSubstr("the table axial could not be written whole"));
+}
+
+}  // namespace

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "text/Messages.h"
+
+// Keeps what a reader or a search has to say, in the order of the calls.
+class RecordedMessages : public Messages {
+  public:
+    void Show(const std::string& text) override { texts.push_back(text); }
+
+    std::vector<std::string> texts;
+};
