@@ -14,7 +14,8 @@ struct GraphCall {
     std::vector<GraphValue> values;
 };
 
-// A plot control as a driver of its dialog sees it: it remembers the properties and methods of its last drawing.
+// A plot control as a driver of its dialog sees it: it remembers the properties and methods of its last
+// drawing.
 class GraphPeer {
   public:
     virtual ~GraphPeer() = default;

@@ -86,8 +86,8 @@ ModelNeed NeedOf(const PierCounts& counts) {
     need.cases = counts.loadCases;
     need.fixedBytes = 2 * static_cast<long long>(sizeof(CElement) + sizeof(CSectionData)) * need.elements +
                       TableBytes(counts);
-    need.bytesPerCase = need.elements * static_cast<long long>(kForcesPerElement * sizeof(float)) +
-                        kBytesOfACase;
+    need.bytesPerCase =
+        need.elements * static_cast<long long>(kForcesPerElement * sizeof(float)) + kBytesOfACase;
     return need;
 }
 

@@ -187,8 +187,7 @@ void CompareForces(SearchedPier& model, const CRecordTable& table, MemberFamily 
     }
 }
 
-void CompareRatios(SearchedPier& model, const CRecordTable& table, MemberFamily family,
-                   int firstSection) {
+void CompareRatios(SearchedPier& model, const CRecordTable& table, MemberFamily family, int firstSection) {
     for (int p = 0; p < table.Sections(); ++p) {
         for (int slot = 0; slot < table.Slots(); ++slot) {
             ASSERT_EQ(table.At(p, slot), HighestRatio(model, {family, firstSection + p, slot}))

@@ -28,8 +28,7 @@ class MemoryForces : public ForceSource {
         for (int c = 0; c < static_cast<int>(m_pier.m_LoadCases.size()); ++c) {
             std::ranges::fill(forces, 0.0F);
             for (int e = 0; e < m_pier.ElementCount(); ++e) {
-                std::ranges::copy(Row(c, e),
-                                  forces.data() + static_cast<std::size_t>(e) * kForcesPerElement);
+                std::ranges::copy(Row(c, e), forces.data() + static_cast<std::size_t>(e) * kForcesPerElement);
             }
             take(c, forces);
         }
