@@ -19,9 +19,13 @@ struct ReportTexts {
     std::string cases, footer;
 };
 
+// An option whose text the product shows or passes on.
+void AddText(CLI::App& command, const char* name, std::string& text, const char* help) {
+    command.add_option(name, text, help)->transform([](const std::string& given) { return FromUser(given); });
+}
+
 void AddCommonOptions(CLI::App& command, CommonOptions& options) {
-    command.add_option("--version-text", options.version, "The host's version, for title page and footers")
-        ->transform([](const std::string& text) { return FromUser(text); });
+    AddText(command, "--version-text", options.version, "The host's version, for title page and footers");
     command.add_option("--font-size", options.fontSize, "Font size of the text viewer in points")
         ->check(CLI::Range(1, 100));
     command.add_option("--clock", options.clock, "Date and time to print, YYYY-MM-DDTHH:MM:SS");
@@ -55,12 +59,9 @@ void AddDrive(CLI::App& program, DriveOptions& options, std::string& format) {
                        "Format that the dialog starts on: text, pdf, excel or a number (default text)");
     command.add_flag("!--without-plot-module", options.hasPlotModule,
                      "Behave as on a machine without the plot module");
-    command.add_option("--text-a", options.textA, "The fourth argument of the export; nothing shows it")
-        ->transform([](const std::string& text) { return FromUser(text); });
-    command.add_option("--text-b", options.textB, "The fifth argument; nothing shows it")
-        ->transform([](const std::string& text) { return FromUser(text); });
-    command.add_option("--plot-argument", options.plotArgument, "The sixth argument, for the plot module")
-        ->transform([](const std::string& text) { return FromUser(text); });
+    AddText(command, "--text-a", options.textA, "The fourth argument of the export; nothing shows it");
+    AddText(command, "--text-b", options.textB, "The fifth argument; nothing shows it");
+    AddText(command, "--plot-argument", options.plotArgument, "The sixth argument, for the plot module");
     AddCommonOptions(command, options.common);
     command.footer(
         "Actions: click ID, text ID TEXT, focus ID, select ID N, spin ID up|down, cell ROW COL TEXT,\n"

@@ -91,6 +91,17 @@ TEST(Program, TheVersionTextIsUtf8OnTheCommandLineAndInTheCodePageOnTheTitlePage
                                 "dition 4 \xB1 \x80 ? 17\r\n"));
 }
 
+// What the code page does not have is lost on the way in; the rest comes back as it was given.
+TEST(Program, ThePlotModulesArgumentIsInTheCodePage) {
+    const SampleFolder folder;
+    const std::string script = folder.Base("script");
+    const std::string base = folder.Write("pier");
+    std::ofstream(script) << "click 1009\n";
+    EXPECT_THAT(
+        RunProgram("drive " + base + ".in " + script + " --plot-argument '\xC3\xA9\xE6\xA9\x8B'").output,
+        HasSubstr(",\"\xC3\xA9?\"]}"));
+}
+
 TEST(Program, WhatIsSaidIsUtf8) {
     // "\xC3\xB6" is UTF-8, "\xF6" the same letter in the code page.
     for (const char* word : {"Gr\xC3\xB6\xC3\x9F"
