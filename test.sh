@@ -68,6 +68,7 @@ step "install what the tests need" install
 step "layers of the sources" tools/check-layers
 step "formatter" format
 step "native build" build native
+step "layers of the libraries" tools/check-layers build/native
 step "native tests" run_tests native
 step "speed ratios" bench/check-ratios
 start_windows
