@@ -21,13 +21,14 @@ class FileRows : public ForceRows {
 
     ForceRow At(int loadCase, int element) override {
         ForceRow row{};
-        const ForceFile::Source source = m_source.SourceOf(loadCase, element);
-        if (source.record == 0) return row;
+        const std::optional<ForceFile::Source> source = m_source.SourceOf(loadCase, element);
+        if (!source) return row;
+        // A record that nothing came before is one of zeros, whose turned signs are shown.
         Record record{};
-        if (m_file.Read(record.data(), source.record) != kForceRecordBytes) {
+        if (source->record > 0 && m_file.Read(record.data(), source->record) != kForceRecordBytes) {
             throw CFileException(CFileException::endOfFile, m_file.Path(), "was cut while it was read");
         }
-        StoreForceRecord(source.kind, record.data(), row.data());
+        StoreForceRecord(source->kind, record.data(), row.data());
         return row;
     }
 
@@ -210,14 +211,14 @@ std::unique_ptr<ForceRows> ForceFile::OpenRows() const {
     return std::make_unique<FileRows>(*this, m_path);
 }
 
-ForceFile::Source ForceFile::SourceOf(int loadCase, int element) const {
+std::optional<ForceFile::Source> ForceFile::SourceOf(int loadCase, int element) const {
     const int place = m_readOf.at(static_cast<std::size_t>(element));
     if (place < 0) return {};
     const ForceKind kind = m_reads[static_cast<std::size_t>(place)].kind;
     const long long before = loadCase * m_block;
     for (int i = place; i >= 0; --i) {
         const long long record = before + m_reads[static_cast<std::size_t>(i)].record;
-        if (record <= m_whole) return {record, kind};
+        if (record <= m_whole) return Source{record, kind};
     }
-    return {m_lastBefore.at(static_cast<std::size_t>(loadCase - m_wholeCases)), kind};
+    return Source{m_lastBefore.at(static_cast<std::size_t>(loadCase - m_wholeCases)), kind};
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,13 +30,13 @@ class ForceFile : public ForceSource {
     // Records that the file should hold and does not.
     long long MissingRecords() const;
 
-    // Which record feeds an element in a case, and how its words become forces. Record 0: none, the element
-    // has zeros.
+    // Which record feeds an element in a case, and how its words become forces. Record 0: all records before
+    // it are missing. Empty: the element has no record, its forces are zeros.
     struct Source {
         long long record = 0;
         ForceKind kind = ForceKind::pile;
     };
-    Source SourceOf(int loadCase, int element) const;
+    std::optional<Source> SourceOf(int loadCase, int element) const;
 
   private:
     struct Target {

@@ -244,3 +244,22 @@ TEST(MemberForces, ALongFileIsReadInPiecesWithoutASeam) {
         for (int e = 0; e < 4; ++e) EXPECT_EQ(Force(project, c, e, kEndI, kAxial), c * 4 + e + 1);
     }
 }
+
+// A pass and a single row see the same: zeros whose signs are turned, as the conversion of any record does.
+TEST(MemberForces, AForceFileWithoutRecordsGivesZerosWithTurnedSigns) {
+    ResultProject project;
+    project.Write(Ones);
+    project.WriteFile(".vmd", "");
+    ASSERT_TRUE(project.Load());
+    const bool negative[] = {false, true, true, false, false, true, false};
+    const ForceRow row = project.Forces(1, 0);
+    for (std::size_t component = 0; component < 7; ++component) {
+        EXPECT_EQ(row[component], 0.0F) << component;
+        EXPECT_EQ(std::signbit(row[component]), negative[component]) << component;
+    }
+    project.Loaded().forces[0]->ReadCases([&](int, CaseForces forces) {
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            EXPECT_EQ(std::signbit(forces[i]), std::signbit(row[i])) << i;
+        }
+    });
+}
