@@ -10,7 +10,8 @@ namespace {
 
 template <class Write>
 void MeasureWriter(benchmark::State& state, Write write) {
-    const Report report = SampleProject::Loaded().MakeReport();
+    RowReader rows(SampleProject::Loaded().Forces());
+    const Report report = SampleProject::Loaded().MakeReport(rows);
     std::int64_t bytes = 0;
     for (auto _ : state) {
         StoredStream out(SampleProject::Get().OutputFile());
