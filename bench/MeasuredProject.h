@@ -13,10 +13,12 @@ class MeasuredProject {
     explicit MeasuredProject(const std::string& basePath) : m_project(Load(basePath)) {}
 
     void Collect(TableId table) {
-        CollectTable(table, {m_project.data, m_project.forces, m_selection, m_messages}, m_results);
+        Complaints messages;
+        CollectTable(table, {m_project.data, m_project.forces, m_selection, messages}, m_results);
     }
     void CollectAll() {
-        const SearchPass pass({m_project.data, m_project.forces, m_selection, m_messages}, kSearchedTables);
+        Complaints messages;
+        const SearchPass pass({m_project.data, m_project.forces, m_selection, messages}, kSearchedTables);
         for (const TableId table : kSearchedTables) pass.Store(table, m_results);
     }
 
@@ -37,7 +39,6 @@ class MeasuredProject {
         return LoadProject(basePath, messages).value();
     }
 
-    Complaints m_messages;
     Project m_project;
     CaseSelection m_selection{m_project.data};
     ResultTables m_results{m_project.data};
