@@ -133,7 +133,7 @@ int CPlot::Integer(int id, int fallback) const {
 
 std::string CPlot::Text(int id) const {
     const GraphValue value = Get(id);
-    const std::string* text = std::get_if<std::string>(&value);
+    const std::string* text = std::get_if<GraphText>(&value);
     return text == nullptr ? std::string() : *text;
 }
 

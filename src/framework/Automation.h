@@ -1,12 +1,20 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <variant>
 #include <vector>
 
 // What a control takes by dispatch id, as calls that can be recorded and read back by a driver.
 
-using GraphValue = std::variant<bool, int, double, std::string>;
+// A type of its own: libstdc++ 12 takes a variant with std::string for one that always has a value, and reads
+// past it where a copy fails for lack of memory.
+struct GraphText : std::string {
+    GraphText(std::string text) : std::string(std::move(text)) {}
+    GraphText(const char* text) : std::string(text) {}
+};
+
+using GraphValue = std::variant<bool, int, double, GraphText>;
 
 struct GraphCall {
     bool isMethod = false;  // a method with its arguments; otherwise a property, set to the one value

@@ -52,7 +52,7 @@ class StudyTest : public testing::Test, public StudyFolder {
     }
     static std::string DrawnText(const CMPTEDlg& dialog, int id) {
         const std::vector<GraphValue> values = Drawn(dialog, id);
-        return values.empty() ? std::string() : std::get<std::string>(values.front());
+        return values.empty() ? std::string() : std::string(std::get<GraphText>(values.front()));
     }
     static std::vector<PlotPoint> DrawnPoints(const CMPTEDlg& dialog) {
         std::vector<PlotPoint> points;

@@ -45,7 +45,7 @@ class Variant {
         } else if (const double* real = std::get_if<double>(&value)) {
             V_VT(&m_value) = VT_R8;
             V_R8(&m_value) = *real;
-        } else if (const std::string* text = std::get_if<std::string>(&value)) {
+        } else if (const std::string* text = std::get_if<GraphText>(&value)) {
             V_VT(&m_value) = VT_BSTR;
             V_BSTR(&m_value) = MakeText(*text);
         }
