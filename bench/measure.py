@@ -28,17 +28,14 @@ class Run:
         return float(self.values[name])
 
 
-def rounds(commands, count, before=None):
+def rounds(commands, count):
     """Runs all commands in turn, `count` times behind one run that counts for nothing; a list for each.
 
-    In turn, so that a machine that slows down for a while slows down all of them. `before` is a command that
-    runs ahead of each of them and is not measured.
+    In turn, so that a machine that slows down for a while slows down all of them.
     """
     results = [[] for _ in commands]
     for turn in range(count + 1):
         for held, command in zip(results, commands):
-            if before:
-                Run(before)
             run = Run(command)
             if turn > 0:
                 held.append(run)

@@ -4,14 +4,12 @@
 //   sheet PROJECT.in FILE      the pile head sheet
 //   pdf LINES FILE             ready lines set on pages
 //   format                     numbers to text, against the C library
-//   touch BYTES                takes so much memory, writes to it and gives it back
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <memory>
-#include <new>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -188,15 +186,6 @@ void RunFormat() {
     }
 }
 
-// A virtual machine may have handed memory that lay idle back to its host; behind this it is at hand again.
-void RunTouch(std::size_t bytes) {
-    constexpr std::size_t kPage = 4096;
-    const std::unique_ptr<char, void (*)(void*)> memory(static_cast<char*>(std::calloc(bytes, 1)), std::free);
-    if (memory == nullptr) throw std::bad_alloc();
-    volatile char* const to = memory.get();
-    for (std::size_t at = 0; at < bytes; at += kPage) to[at] = 1;
-}
-
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -212,8 +201,6 @@ int main(int argc, char** argv) {
             RunPdf(std::strtol(argv[2], nullptr, 10), argv[3]);
         } else if (stage == "format" && argc == 2) {
             RunFormat();
-        } else if (stage == "touch" && argc == 3) {
-            RunTouch(std::strtoul(argv[2], nullptr, 10));
         } else {
             std::fprintf(stderr, "bench-stages: the head of bench/stages.cpp tells the use\n");
             return 2;

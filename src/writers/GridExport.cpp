@@ -71,7 +71,7 @@ std::string WorkbookPath(const std::string& inputFile, const std::string& name) 
 
 std::string ExportGrid(const std::string& inputFile, const GridSheet& sheet, const CGridCtrl& grid) {
     const std::string cleaned = RemoveBlanks(sheet.title);
-    const std::string path = WorkbookPath(inputFile, cleaned);
+    std::string path = WorkbookPath(inputFile, cleaned);
     StoredStream out(path);
     out << WorkbookHead(true, services::Now());
     WriteSheetHead(out, cleaned, sheet, grid);
