@@ -107,9 +107,10 @@ def main():
     build, folder = (pathlib.Path(word).resolve() for word in sys.argv[1:3])
     table = Table()
     times = {name: measure_project(table, build, folder, name) for name in PROJECTS}
-    for index, what in enumerate(("load + collect", "full report")):
-        growth = times[BIG][index] / times["cases-80"][index]
-        table.line(f"{what}, {BIG} : cases-80", f"{growth:.2f} x", "9 to 11 x", 9 <= growth <= 11)
+    collect, report = (times[BIG][index] / times["cases-80"][index] for index in (0, 1))
+    table.line(f"load + collect, {BIG} : cases-80", f"{collect:.2f} x", "9 to 11 x", 9 <= collect <= 11)
+    # The start of the process is a sixth of the smaller report.
+    table.at_most(f"full report, {BIG} : cases-80", report, 11)
     measure_writers(table, build, folder)
     measure_numbers(table, build)
     print("All targets are reached." if not table.missed else f"Missed: {'; '.join(table.missed)}")
