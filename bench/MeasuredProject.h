@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <stdexcept>
@@ -6,6 +7,8 @@
 #include "envelopes/Collect.h"
 #include "results/LoadProject.h"
 #include "tables/Report.h"
+
+namespace lumerin {
 
 // A project as the dialog holds it, for measurements. A message of the load or a search ends the measurement.
 class MeasuredProject {
@@ -45,3 +48,5 @@ class MeasuredProject {
     TableFlags m_enabled = ApplicableTables(m_project.data, m_selection);
     ReportOptions m_options;
 };
+
+}  // namespace lumerin

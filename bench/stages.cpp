@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // bench-stages: times single stages of the product in one process and prints "name value" lines.
 //   collect PROJECT.in         load and the eight collect steps
 //   plan PROJECT.in            what sections.py must know: records by family and section, classes by case
@@ -21,6 +22,8 @@
 #include "text/Format.h"
 #include "writers/PdfSink.h"
 #include "writers/TableSheets.h"
+
+using namespace lumerin;
 
 namespace {
 

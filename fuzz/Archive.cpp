@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "fuzz/Archive.h"
 
 #include <algorithm>
+
+namespace lumerin {
 
 namespace {
 
@@ -58,3 +61,5 @@ bool IsFileName(std::string_view name) {
                c == '_';
     });
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The record's length (one byte), the numbers of four records (four bytes each), then the file.
 
 #include <array>
@@ -6,6 +7,8 @@
 
 #include "fuzz/Playground.h"
 #include "results/SeqFile.h"
+
+using namespace lumerin;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::array<std::int32_t, 4> records{};

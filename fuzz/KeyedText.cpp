@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 // The keyed text file, by one of its three readers; the project behind it is loaded once.
 
 #include "fuzz/Playground.h"
 #include "results/LoadProject.h"
 #include "results/ReadData.h"
+
+using namespace lumerin;
 
 namespace {
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // make-seeds DIR: writes the first inputs of every fuzz target into folders of their names.
 
 #include <filesystem>
@@ -5,6 +6,8 @@
 #include <iostream>
 
 #include "fuzz/Playground.h"
+
+using namespace lumerin;
 
 namespace fs = std::filesystem;
 

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 // One file of a project comes from the fuzzer; the load and the full report follow.
 
 #include "fuzz/Playground.h"
+
+using namespace lumerin;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const Archive sample = SampleArchive(FUZZ_PRESET);

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "fuzz/Playground.h"
 
 #include <unistd.h>
@@ -12,6 +13,8 @@
 #include "script/Script.h"
 #include "session/DesignerDlg.h"
 #include "session/Launch.h"
+
+namespace lumerin {
 
 namespace fs = std::filesystem;
 
@@ -117,3 +120,5 @@ std::string EveryTableScript(std::uint8_t choice) {
         "1022\n";
     return script;
 }
+
+}  // namespace lumerin

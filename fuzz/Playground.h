@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstdint>
@@ -6,6 +7,8 @@
 #include <string_view>
 
 #include "fuzz/Archive.h"
+
+namespace lumerin {
 
 // The folder in memory in which a fuzz target keeps its project, and the plays on the dialogs. A target ends
 // (by abort) when a step fails with anything but a message of the file layer: such a failure is a check that
@@ -45,3 +48,5 @@ inline std::span<const std::uint8_t> Bytes(const std::uint8_t* data, std::size_t
 inline std::string_view Text(const std::uint8_t* data, std::size_t size) {
     return {reinterpret_cast<const char*>(data), size};
 }
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 // A whole project as an archive of its files: loaded, and every table made in every format.
 
 #include <random>
 
 #include "fuzz/Playground.h"
+
+using namespace lumerin;
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Random scripts on the dialogs of a whole project.
 
 #include <algorithm>
@@ -5,6 +6,8 @@
 
 #include "fuzz/Playground.h"
 #include "script/Script.h"
+
+using namespace lumerin;
 
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
 

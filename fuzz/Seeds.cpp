@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -5,6 +6,8 @@
 #include "fuzz/Playground.h"
 #include "samples/Presets.h"
 #include "samples/Project.h"
+
+namespace lumerin {
 
 namespace fs = std::filesystem;
 
@@ -30,3 +33,5 @@ Archive SampleArchive(const std::string& preset) {
     fs::remove_all(folder);
     return archive;
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // The first byte says how many bytes each read asks for; the rest is the file.
 
 #include <vector>
 
 #include "fuzz/Playground.h"
 #include "results/SeqFile.h"
+
+using namespace lumerin;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size < 1) return -1;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The text viewer's settings: five numbers of four bytes each, then header and trailer apart by a zero byte.
 // They steer the pages of the text tables.
 
@@ -6,6 +7,8 @@
 
 #include "framework/headless/Headless.h"
 #include "fuzz/Playground.h"
+
+using namespace lumerin;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const Archive sample = SampleArchive("pier");

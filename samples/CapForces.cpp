@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "samples/CapForces.h"
 
 #include <algorithm>
+
+namespace lumerin {
 
 namespace samples {
 
@@ -170,3 +173,5 @@ double CapModel::SupportMoment(const Plane& plane, std::size_t support, bool rig
 }
 
 }  // namespace samples
+
+}  // namespace lumerin

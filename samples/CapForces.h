@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // Statics of a cap: shears and moments along a chain of elements under point loads and its own weight.
 #pragma once
 
 #include <vector>
 
 #include "samples/Model.h"
+
+namespace lumerin {
 
 namespace samples {
 
@@ -80,3 +83,5 @@ class CapModel {
 };
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "samples/CommandLine.h"
 
 #include <CLI/CLI.hpp>
@@ -9,6 +10,8 @@
 #include "samples/OutputFile.h"
 #include "samples/Presets.h"
 #include "samples/Project.h"
+
+namespace lumerin {
 
 namespace samples {
 namespace {
@@ -93,3 +96,5 @@ int RunMakeSample(std::vector<std::string> arguments, std::ostream& out, std::os
 }
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // The program make-sample, apart from its streams.
 #pragma once
 
 #include <iosfwd>
 #include <string>
 #include <vector>
+
+namespace lumerin {
 
 namespace samples {
 
@@ -12,3 +15,5 @@ namespace samples {
 int RunMakeSample(std::vector<std::string> arguments, std::ostream& out, std::ostream& errors);
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "samples/Embedment.h"
 
 #include <cmath>
@@ -6,6 +7,8 @@
 
 #include "samples/Forces.h"
 #include "samples/TextLines.h"
+
+namespace lumerin {
 
 namespace samples {
 namespace {
@@ -130,3 +133,5 @@ void WriteEmbedmentStudy(const std::filesystem::path& folder, const Project& pro
 }
 
 }  // namespace samples
+
+}  // namespace lumerin

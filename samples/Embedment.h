@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // The files of an embedment study: the extremes at the pile heads for every trial length.
 #pragma once
 
 #include <filesystem>
 
 #include "samples/Model.h"
+
+namespace lumerin {
 
 namespace samples {
 
@@ -12,3 +15,5 @@ namespace samples {
 void WriteEmbedmentStudy(const std::filesystem::path& folder, const Project& project);
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "samples/Forces.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "samples/Random.h"
+
+namespace lumerin {
 
 namespace samples {
 namespace {
@@ -326,3 +329,5 @@ void ForceModel::AppendRecords(std::vector<float>& words) const {
 }
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Forces of every element of a substructure in every case, as records of the force file.
 #pragma once
 
@@ -9,6 +10,8 @@
 #include "samples/LoadCases.h"
 #include "samples/Model.h"
 #include "samples/Random.h"
+
+namespace lumerin {
 
 namespace samples {
 
@@ -102,3 +105,5 @@ class ForceModel {
 };
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "samples/Geometry.h"
 
 #include <algorithm>
 #include <string>
 
 #include "samples/OutputFile.h"
+
+namespace lumerin {
 
 namespace samples {
 namespace {
@@ -289,3 +292,5 @@ int ColumnNodePosition(const SubstructurePlan& plan, int column, int level) {
 }
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 // Nodes, elements and numbers of a substructure, in the order in which the host lists them.
 #pragma once
 
 #include "samples/Model.h"
+
+namespace lumerin {
 
 namespace samples {
 
@@ -12,3 +15,5 @@ Substructure BuildSubstructure(const SubstructurePlan& plan);
 int ColumnNodePosition(const SubstructurePlan& plan, int column, int level);
 
 }  // namespace samples
+
+}  // namespace lumerin

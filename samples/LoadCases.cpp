@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "samples/LoadCases.h"
 
 #include <algorithm>
@@ -5,6 +6,8 @@
 #include <span>
 
 #include "samples/Random.h"
+
+namespace lumerin {
 
 namespace samples {
 namespace {
@@ -167,3 +170,5 @@ CaseLoads LoadGenerator::TimeStepLoads(int index) const {
 }
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Which limit states the cases of a project stand for, and the load factors of each case.
 #pragma once
 
@@ -5,6 +6,8 @@
 #include <vector>
 
 #include "samples/Model.h"
+
+namespace lumerin {
 
 namespace samples {
 
@@ -58,3 +61,5 @@ class LoadGenerator {
 };
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // The model of a sample project: what a preset asks for, and what the files then hold.
 #pragma once
 
 #include <cstdint>
 #include <string>
 #include <vector>
+
+namespace lumerin {
 
 namespace samples {
 
@@ -173,3 +176,5 @@ inline double LengthFactor(Units units) {
 }
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "samples/OutputFile.h"
 
 #include <cerrno>
 #include <cstring>
+
+namespace lumerin {
 
 namespace samples {
 namespace {
@@ -50,3 +53,5 @@ void OutputFile::Fail() const {
 }
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A file that is written front to back in large blocks.
 #pragma once
 
@@ -9,6 +10,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+namespace lumerin {
 
 namespace samples {
 
@@ -51,3 +54,5 @@ class OutputFile {
 };
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "samples/Presets.h"
 
 #include <algorithm>
@@ -5,6 +6,8 @@
 
 #include "samples/Geometry.h"
 #include "samples/OutputFile.h"
+
+namespace lumerin {
 
 namespace samples {
 namespace {
@@ -314,3 +317,5 @@ Project MakeProject(const SampleOptions& options) {
 }
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The sample projects by name.
 #pragma once
 
@@ -8,6 +9,8 @@
 #include <string_view>
 
 #include "samples/Model.h"
+
+namespace lumerin {
 
 namespace samples {
 
@@ -32,3 +35,5 @@ std::span<const PresetInfo> Presets();
 Project MakeProject(const SampleOptions& options);
 
 }  // namespace samples
+
+}  // namespace lumerin

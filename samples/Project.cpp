@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "samples/Project.h"
 
 #include <string>
@@ -6,6 +7,8 @@
 #include "samples/OutputFile.h"
 #include "samples/ResultFiles.h"
 #include "samples/TextFiles.h"
+
+namespace lumerin {
 
 namespace samples {
 namespace {
@@ -44,3 +47,5 @@ void WriteProject(const std::filesystem::path& folder, const Project& project) {
 }
 
 }  // namespace samples
+
+}  // namespace lumerin

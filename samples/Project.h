@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // A whole project on disk.
 #pragma once
 
 #include <filesystem>
 
 #include "samples/Model.h"
+
+namespace lumerin {
 
 namespace samples {
 
@@ -12,3 +15,5 @@ namespace samples {
 void WriteProject(const std::filesystem::path& folder, const Project& project);
 
 }  // namespace samples
+
+}  // namespace lumerin

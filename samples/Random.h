@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 // A small generator whose numbers are the same on every machine.
 #pragma once
 
 #include <cstdint>
+
+namespace lumerin {
 
 namespace samples {
 
@@ -38,3 +41,5 @@ class Random {
 };
 
 }  // namespace samples
+
+}  // namespace lumerin

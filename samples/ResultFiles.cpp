@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "samples/ResultFiles.h"
 
 #include <algorithm>
@@ -5,6 +6,8 @@
 #include <vector>
 
 #include "samples/Forces.h"
+
+namespace lumerin {
 
 namespace samples {
 namespace {
@@ -233,3 +236,5 @@ void WriteResultFiles(const std::filesystem::path& base, const Project& project)
 }
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The host's binary result files: framed sequential files and the force file of fixed records.
 #pragma once
 
@@ -8,6 +9,8 @@
 
 #include "samples/Model.h"
 #include "samples/OutputFile.h"
+
+namespace lumerin {
 
 namespace samples {
 
@@ -45,3 +48,5 @@ std::string NumberedSuffix(std::string_view suffix, std::size_t substructure);
 void WriteResultFiles(const std::filesystem::path& base, const Project& project);
 
 }  // namespace samples
+
+}  // namespace lumerin

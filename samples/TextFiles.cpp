@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "samples/TextFiles.h"
 
 #include <string>
 
 #include "samples/LoadCases.h"
 #include "samples/TextLines.h"
+
+namespace lumerin {
 
 namespace samples {
 namespace {
@@ -149,3 +152,5 @@ void WriteTextFiles(const std::filesystem::path& base, const Project& project) {
 }
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // The host's text files: the input, the combinations and limit states, and the keyed file of the project.
 #pragma once
 
 #include <filesystem>
 
 #include "samples/Model.h"
+
+namespace lumerin {
 
 namespace samples {
 
@@ -12,3 +15,5 @@ namespace samples {
 void WriteTextFiles(const std::filesystem::path& base, const Project& project);
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Lines of text with numbers, the same on every machine.
 #pragma once
 
@@ -7,6 +8,8 @@
 #include <string_view>
 
 #include "samples/OutputFile.h"
+
+namespace lumerin {
 
 namespace samples {
 
@@ -38,3 +41,5 @@ class LineFile {
 };
 
 }  // namespace samples
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <benchmark/benchmark.h>
 
 #include <array>
@@ -5,6 +6,8 @@
 #include <string>
 
 #include "text/Format.h"
+
+namespace lumerin {
 
 // Numbers to text, and the C library beside it.
 namespace {
@@ -57,3 +60,5 @@ void Integers(benchmark::State& state) {
 BENCHMARK(Integers);
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <benchmark/benchmark.h>
 
 #include "parts/SampleProject.h"
+
+namespace lumerin {
 
 // The load of a project and each collect step, in bytes of the force file a second.
 namespace {
@@ -32,3 +35,5 @@ BENCHMARK_CAPTURE(CollectStep, ExtraMemberForces, kTableExtraMembers);
 }  // namespace
 
 BENCHMARK_MAIN();
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "parts/SampleProject.h"
 
 #include <unistd.h>
 
 #include "samples/Presets.h"
 #include "samples/Project.h"
+
+namespace lumerin {
 
 SampleProject::SampleProject()
     : m_folder(std::filesystem::temp_directory_path() / ("lumerin-bench-" + std::to_string(getpid()))) {
@@ -41,3 +44,5 @@ MeasuredProject& SampleProject::Loaded() {
 long long SampleProject::ForceBytes() const {
     return static_cast<long long>(std::filesystem::file_size(m_folder / "parts.vmd"));
 }
+
+}  // namespace lumerin

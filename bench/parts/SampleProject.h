@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <filesystem>
 #include <string>
 
 #include "MeasuredProject.h"
+
+namespace lumerin {
 
 // A project of 8 MB in a folder of its own, made once for all benchmarks and removed after them.
 class SampleProject {
@@ -24,3 +27,5 @@ class SampleProject {
     SampleProject();
     std::filesystem::path m_folder;
 };
+
+}  // namespace lumerin

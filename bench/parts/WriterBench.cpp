@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include <benchmark/benchmark.h>
 
 #include "parts/SampleProject.h"
 #include "tables/TableText.h"
 #include "writers/TablePdf.h"
 #include "writers/TableSheets.h"
+
+namespace lumerin {
 
 // Each writer of each table, in bytes of its file a second.
 namespace {
@@ -59,3 +62,5 @@ LUMERIN_BENCH_WRITERS(ExtraMemberForces, kTableExtraMembers);
 BENCHMARK_CAPTURE(Sheet, PileHeadForces, kTablePileHeads);
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // haru_lines LINES FILE: sets LINES ready lines on pages through libharu, without compression: the same text,
 // font and lines per page as bench-stages pdf.
 #include <hpdf.h>
@@ -7,6 +8,8 @@
 #include <cstdlib>
 
 #include "../ReadyLines.h"
+
+using namespace lumerin;
 
 int main(int argc, char** argv) {
     if (argc != 3) return 2;

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // sum_floats FILE...: reads the files once, in blocks, and sums every float. What reading the force files
 // costs a program that does next to nothing with them; the other times are told as multiples of this one.
 #include <chrono>

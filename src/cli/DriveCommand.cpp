@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/DriveCommand.h"
 
 #include <fstream>
@@ -8,6 +9,8 @@
 #include "script/Border.h"
 #include "session/DesignerDlg.h"
 #include "session/Launch.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -84,3 +87,5 @@ ExitStatus DriveScript(const DriveOptions& options, const std::string& script, s
     if (!allLoaded) return kExitNotLoaded;
     return driver.FailedOutputs().empty() ? kExitDone : kExitIncomplete;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <ostream>
@@ -5,6 +6,8 @@
 
 #include "cli/Options.h"
 #include "cli/ReportDriver.h"
+
+namespace lumerin {
 
 struct DriveOptions {
     std::string project;
@@ -21,3 +24,5 @@ ExitStatus RunDrive(const DriveOptions& options, std::ostream& out, std::ostream
 // The same with the script's text at hand.
 ExitStatus DriveScript(const DriveOptions& options, const std::string& script, std::ostream& out,
                        std::ostream& err);
+
+}  // namespace lumerin

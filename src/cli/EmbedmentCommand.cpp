@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/EmbedmentCommand.h"
 
 #include <algorithm>
@@ -15,6 +16,8 @@
 #include "session/DesignerDlg.h"
 #include "session/Launch.h"
 #include "session/ReportControls.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -175,3 +178,5 @@ ExitStatus RunEmbedment(const EmbedmentOptions& options, std::ostream& out, std:
     EmbedmentDriver driver(options, out, err);
     return driver.Run();
 }
+
+}  // namespace lumerin

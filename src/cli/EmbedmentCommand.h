@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <ostream>
@@ -7,6 +8,8 @@
 #include "cli/Options.h"
 #include "cli/ReportDriver.h"
 #include "framework/headless/Headless.h"
+
+namespace lumerin {
 
 class CMPTEDlg;
 
@@ -52,3 +55,5 @@ class EmbedmentDriver : public headless::Sink {
 
 int ReadEnvelope(std::string_view text);  // max or min: the entry of the dialog's list
 ExitStatus RunEmbedment(const EmbedmentOptions& options, std::ostream& out, std::ostream& err);
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <CLI/CLI.hpp>
 #include <fstream>
 #include <iostream>
@@ -9,6 +10,8 @@
 #include "cli/ReportDriver.h"
 #include "script/Border.h"
 #include "session/Launch.h"
+
+using namespace lumerin;
 
 // The program lumerin: report tables of a project without a screen.
 

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/Options.h"
 
 #include <algorithm>
@@ -8,6 +9,8 @@
 #include "framework/headless/Headless.h"
 #include "session/Constants.h"
 #include "session/ReportControls.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -138,3 +141,5 @@ std::string TableNames() {
     }
     return names;
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
+
+namespace lumerin {
 
 // The arguments of the program's commands, and how their texts are read. The readers throw
 // std::invalid_argument with a text for the user.
@@ -34,3 +37,5 @@ int ReadStartFormat(std::string_view text);
 // The report dialog's button of a table's short name; 0 when there is no such table.
 int TableButton(std::string_view name);
 std::string TableNames();  // for the help text
+
+}  // namespace lumerin

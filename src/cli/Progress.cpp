@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "cli/Progress.h"
 
 #include <unistd.h>
 
 #include <chrono>
 #include <utility>
+
+namespace lumerin {
 
 Progress::Progress(std::ostream& err, std::string text) : m_err(err) {
     if (isatty(STDERR_FILENO) == 0) return;
@@ -25,3 +28,5 @@ void Progress::End() {
     m_thread.join();
     if (m_bShown) m_err << "\r\033[K" << std::flush;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <condition_variable>
@@ -5,6 +6,8 @@
 #include <ostream>
 #include <string>
 #include <thread>
+
+namespace lumerin {
 
 // A line on the terminal while something takes longer than a second; it is wiped out at the end. Silent where
 // standard error is no terminal.
@@ -25,3 +28,5 @@ class Progress {
     bool m_bShown = false;
     std::thread m_thread;
 };
+
+}  // namespace lumerin

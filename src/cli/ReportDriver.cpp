@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/ReportDriver.h"
 
 #include <algorithm>
@@ -10,6 +11,8 @@
 #include "session/DesignerDlg.h"
 #include "session/Launch.h"
 #include "session/ReportControls.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -160,3 +163,5 @@ ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostr
     }
     return worst;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <ostream>
@@ -6,6 +7,8 @@
 
 #include "cli/Options.h"
 #include "framework/headless/Headless.h"
+
+namespace lumerin {
 
 class CDesignerDlg;
 
@@ -59,3 +62,5 @@ class ReportDriver : public headless::Sink {
 
 // All projects in all formats; the worst exit status of all. A project that can't be loaded is told once.
 ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostream& err);
+
+}  // namespace lumerin

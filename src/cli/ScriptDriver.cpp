@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "cli/ScriptDriver.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <utility>
+
+namespace lumerin {
 
 namespace {
 
@@ -190,3 +193,5 @@ services::PlotModuleResult ScriptDriver::OnPlotModule(const std::string& module,
     m_lines.Module(module, call);
     return services::PlotModuleResult::called;
 }
+
+}  // namespace lumerin

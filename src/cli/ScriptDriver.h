@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstddef>
@@ -8,6 +9,8 @@
 #include "framework/headless/Headless.h"
 #include "script/JsonLines.h"
 #include "script/Script.h"
+
+namespace lumerin {
 
 // Plays a script on the dialogs of one call and tells every event as a JSON line. The action at hand goes to
 // the front dialog; a dialog that a press opens takes the actions that follow, until it is closed.
@@ -56,3 +59,5 @@ bool IsDocumentThere(const std::string& path);
 // the help, otherwise the code for a missing file. The shell does not look at the document that a program is
 // started with: the program does.
 int ShellCodeOfDocument(const std::string& file, const std::string& parameters);
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "cli/Viewer.h"
 
 #include <spawn.h>
 #include <unistd.h>
+
+namespace lumerin {
 
 namespace {
 constexpr int kShellSuccess = 42;
@@ -16,3 +19,5 @@ int StartViewer(const std::string& path) {
     const int failure = posix_spawnp(&process, program.c_str(), nullptr, nullptr, arguments, environ);
     return failure == 0 ? kShellSuccess : kNoProgramForType;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/EmbedmentFiles.h"
 
 #include <fstream>
@@ -5,6 +6,8 @@
 #include "framework/Backend.h"
 #include "framework/File.h"
 #include "text/KeyedLine.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -72,3 +75,5 @@ bool IsEmbedmentRequested(const std::string& inputFile) {
     int requested = 0;
     return lines.Next() && ReadKeyedInt(lines.Line(), "M=", requested) && requested == 1;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/EmbedmentResults.h"
 
 #include <limits>
@@ -7,6 +8,8 @@
 #include "text/Format.h"
 #include "text/KeyedLine.h"
 #include "text/Paths.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -191,3 +194,5 @@ CEmbedmentResults::Order CEmbedmentResults::GetTrialOrder() const {
     if (second < 0) return kNoOrder;
     return GetEmbedment(first) <= GetEmbedment(second) ? kAscending : kDescending;
 }
+
+}  // namespace lumerin

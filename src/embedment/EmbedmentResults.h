@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
@@ -7,6 +8,8 @@
 
 #include "embedment/EmbedmentFiles.h"
 #include "text/Messages.h"
+
+namespace lumerin {
 
 // The five results of a load case in a trial of the embedment study, by their place in its file.
 enum EmbedmentQuantity {
@@ -78,3 +81,5 @@ class CEmbedmentResults {
     std::vector<double> m_pEmbedments;
     std::vector<std::uint8_t> m_pIncomplete;
 };
+
+}  // namespace lumerin

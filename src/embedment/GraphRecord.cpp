@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/GraphRecord.h"
 
 #include <charconv>
+
+namespace lumerin {
 
 namespace {
 
@@ -101,3 +104,5 @@ bool ReadGraphCalls(std::string_view text, std::vector<GraphCall>& calls) {
     }
     return true;
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/Plot.h"
 
 #include <algorithm>
 #include <cmath>
 
 #include "text/Format.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -292,3 +295,5 @@ double CPlot::PixelOf(double x, const PlotCanvas& canvas, double width, double h
     return layout.x.IsValid() ? layout.frame.left + layout.frame.Width() * layout.x.Share(x)
                               : layout.frame.left;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <map>
@@ -7,6 +8,8 @@
 
 #include "embedment/PlotCanvas.h"
 #include "framework/Automation.h"
+
+namespace lumerin {
 
 // The members of the graph control that the dialog uses, by dispatch id.
 enum GraphMember {
@@ -80,3 +83,5 @@ class CPlot {
     std::vector<Curve> m_Elements;
     double m_dMinX = 0.0, m_dMaxX = 1.0, m_dMinY = 0.0, m_dMaxY = 1.0;
 };
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstdint>
 #include <span>
 #include <string_view>
+
+namespace lumerin {
 
 // A surface for the plot. Coordinates are pixels from the upper left corner, y downwards, with fractions;
 // colours are 0xRRGGBB. Texts are of the Western code page.
@@ -39,3 +42,5 @@ class PlotCanvas {
                       bool turned, std::uint32_t colour) = 0;
     virtual double TextWidth(std::string_view text, const PlotFont& font) const = 0;
 };
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/ScaleAxis.h"
 
 #include <cmath>
+
+namespace lumerin {
 
 namespace {
 
@@ -125,3 +128,5 @@ AxisScale ScaleAxis(double lo, double hi) {
     const AxisScale scale = length >= 1.0 ? LongAxis(a, b) : ShortAxis(a, b);
     return scale.min < scale.max ? scale : plain;
 }
+
+}  // namespace lumerin

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #pragma once
+
+namespace lumerin {
 
 // A round axis for a range of data.
 struct AxisScale {
@@ -9,3 +12,5 @@ struct AxisScale {
 
 // Ends for any input, values that are not finite among them; the axis may then have no length.
 AxisScale ScaleAxis(double lo, double hi);
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/SvgCanvas.h"
 
 #include <cmath>
@@ -5,6 +6,8 @@
 #include "embedment/Plot.h"
 #include "text/Format.h"
 #include "text/Utf8.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -124,3 +127,5 @@ std::string PlotAsSvg(const CPlot& plot, double width, double height) {
     plot.Draw(canvas, width, height);
     return canvas.Document();
 }
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 
 #include "embedment/PlotCanvas.h"
+
+namespace lumerin {
 
 class CPlot;
 
@@ -28,3 +31,5 @@ class SvgCanvas : public PlotCanvas {
 };
 
 std::string PlotAsSvg(const CPlot& plot, double width, double height);
+
+}  // namespace lumerin

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "envelopes/CapSections.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -59,3 +62,5 @@ void StoreMomentAtBearings(const CPier& pier, const CapBearingSearch& search, CC
         }
     }
 }
+
+}  // namespace lumerin

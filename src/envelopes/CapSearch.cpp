@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "envelopes/CapSearch.h"
 
 #include <algorithm>
+
+namespace lumerin {
 
 double CapReading::Read(ElementForces forces, int component) const {
     if (!inside) return GetForce(forces, end, component);
@@ -103,3 +106,5 @@ CapSideResult CapSide::Result(CapComponent component, const CapPlaceList& places
     result.value = result.values[static_cast<std::size_t>(component.component)];
     return result;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
@@ -6,6 +7,8 @@
 
 #include "envelopes/PierInput.h"
 #include "envelopes/Records.h"
+
+namespace lumerin {
 
 // The search over load cases that cap shears and cap moments share. Each place on the cap takes the cases in
 // order and keeps the maximum and the minimum of every slot.
@@ -141,3 +144,5 @@ class CapSide {
     bool m_bFound = false;
     std::size_t m_search = kNoPlace, m_neighbourSearch = kNoPlace;
 };
+
+}  // namespace lumerin

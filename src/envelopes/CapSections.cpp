@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "envelopes/CapSections.h"
 
 #include <algorithm>
 
 #include "model/CapChain.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -188,3 +191,5 @@ CapBearingSearch::CapBearingSearch(const PierInput& input, const CapForm& form)
         ++row;
     }
 }
+
+}  // namespace lumerin

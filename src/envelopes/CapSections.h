@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <vector>
 
 #include "envelopes/CapSearch.h"
+
+namespace lumerin {
 
 // What shear and moment sections have in common: finding a section's two sides, and storing the result of the
 // side that was chosen. The two tables differ in the data of this description alone.
@@ -96,3 +99,5 @@ void StoreValues(const CapSideResult& result, CapValues& values);
 // Write the entries of all bearings.
 void StoreShearAtBearings(const CPier& pier, const CapBearingSearch& search, CCapTable& table);
 void StoreMomentAtBearings(const CPier& pier, const CapBearingSearch& search, CCapTable& table);
+
+}  // namespace lumerin

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "envelopes/CapSections.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -40,3 +43,5 @@ void StoreShearAtBearings(const CPier& pier, const CapBearingSearch& search, CCa
         }
     }
 }
+
+}  // namespace lumerin

@@ -1,5 +1,8 @@
+// SPDX-License-Identifier: MIT
 #include "envelopes/CapSections.h"
 #include "envelopes/TableSearch.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -80,3 +83,5 @@ class CapTableSearch : public TableSearch {
 std::unique_ptr<TableSearch> BeginCapSearch(TableId table, const PierInput& input) {
     return std::make_unique<CapTableSearch>(input, table == kTableCapShear ? kShear : kMoment);
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "envelopes/Collect.h"
 
 #include <algorithm>
 
 #include "envelopes/TableSearch.h"
 #include "text/Format.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -98,3 +101,5 @@ void CollectTable(TableId table, const SearchInput& input, ResultTables& results
     if (table < kTableMaxAxial || table > kTableExtraMembers) return;
     SearchPass(input, std::span(&table, 1)).Store(table, results);
 }
+
+}  // namespace lumerin

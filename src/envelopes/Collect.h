@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <memory>
@@ -10,6 +11,8 @@
 #include "model/DataSet.h"
 #include "results/ForceSource.h"
 #include "text/Messages.h"
+
+namespace lumerin {
 
 // What a search works on. The caller keeps the data and the messages for the life of the search, the rest for
 // the call.
@@ -53,3 +56,5 @@ class SearchPass {
 
 // The search of one table alone, with its check.
 void CollectTable(TableId table, const SearchInput& input, ResultTables& results);
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <cstddef>
 #include <vector>
 
 #include "envelopes/TableSearch.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -69,3 +72,5 @@ class PileHeadSearch : public TableSearch {
 std::unique_ptr<TableSearch> BeginPileHeadSearch(const PierInput& input, const PierResults& results) {
     return std::make_unique<PileHeadSearch>(input, results);
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
@@ -5,6 +6,8 @@
 #include <vector>
 
 #include "model/Element.h"
+
+namespace lumerin {
 
 // Where an extreme lies, never its value: a table prints all forces that act at that place in that case.
 // All six are -1 for nothing found.
@@ -117,3 +120,5 @@ struct CSupportLocation {
     int m_nSupport = 0;
     int m_nKind = 0;
 };
+
+}  // namespace lumerin

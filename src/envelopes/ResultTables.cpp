@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "envelopes/ResultTables.h"
 
 #include <algorithm>
 
 #include "model/CapChain.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -62,3 +65,5 @@ NextPoint NextCapPoint(const std::vector<double>& supportX, int supportCursor,
     // A support section comes before a bearing at the same x.
     return bearingX[bearing] < supportX[support] ? NextPoint::bearing : NextPoint::support;
 }
+
+}  // namespace lumerin

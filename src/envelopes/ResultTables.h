@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <vector>
@@ -5,6 +6,8 @@
 #include "envelopes/Records.h"
 #include "model/Applicability.h"
 #include "model/DataSet.h"
+
+namespace lumerin {
 
 // What the searches find, as places in the model and never as numbers but for the cap, whose values can lie
 // inside an element. The tables belong to whoever asks for the searches; a search writes the entries that it
@@ -42,3 +45,5 @@ struct ResultTables {
 enum class NextPoint { nothing, support, bearing };
 NextPoint NextCapPoint(const std::vector<double>& supportX, int supportCursor,
                        const std::vector<double>& bearingX, int bearingCursor);
+
+}  // namespace lumerin

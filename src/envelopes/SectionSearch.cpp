@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "envelopes/SectionSearch.h"
 
 #include <algorithm>
 #include <limits>
+
+namespace lumerin {
 
 namespace {
 
@@ -100,3 +103,5 @@ void CForceSearch::Take(int extreme, float value) {
         limits[at] = value;
     }
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
@@ -6,6 +7,8 @@
 
 #include "envelopes/Records.h"
 #include "model/Pier.h"
+
+namespace lumerin {
 
 // The search for the extremes of cross sections: one pass over the elements of the selected cases serves all
 // sections, slots and extremes of a table. It finds what a walk of its own for each of them would find: load
@@ -92,3 +95,5 @@ class CForceSearch {
     std::array<float, kPair> m_greatest{}, m_least{};
     std::array<FoundEnd, kExtremes> m_found{};
 };
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 
 #include "envelopes/SectionSearch.h"
 #include "envelopes/TableSearch.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -92,3 +95,5 @@ std::unique_ptr<TableSearch> BeginSectionSearch(TableId table, const PierInput& 
     }
     return std::make_unique<SectionTableSearch<CDcSearch>>(*form, input, records);
 }
+
+}  // namespace lumerin

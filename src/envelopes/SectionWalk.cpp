@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 
 #include "envelopes/SectionSearch.h"
+
+namespace lumerin {
 
 CSectionWalk::CSectionWalk(const CPier& pier, MemberFamily family, int firstSection, int entries)
     : m_nFirstSection(firstSection), m_nEntries(entries) {
@@ -51,3 +54,5 @@ void CSectionWalk::AddMember(const CPier& pier, int member, int firstElement, in
         m_runs.push_back({element, 1, static_cast<int>(entry), place});
     }
 }
+
+}  // namespace lumerin

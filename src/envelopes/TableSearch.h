@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <memory>
 
 #include "envelopes/PierInput.h"
 #include "envelopes/ResultTables.h"
+
+namespace lumerin {
 
 // The search of one table in one substructure. It takes the cases in order, each once, whether they are
 // selected or not, and keeps what it found; the forces of a case are its own for the call alone.
@@ -29,3 +32,5 @@ std::unique_ptr<TableSearch> BeginPileHeadSearch(const PierInput& input, const P
 std::unique_ptr<TableSearch> BeginSectionSearch(TableId table, const PierInput& input,
                                                 const PierResults& results);
 std::unique_ptr<TableSearch> BeginCapSearch(TableId table, const PierInput& input);
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 #include <utility>
 #include <variant>
 #include <vector>
+
+namespace lumerin {
 
 // What a control takes by dispatch id, as calls that can be recorded and read back by a driver.
 
@@ -33,3 +36,5 @@ class GraphPeer {
     // A click at that x, with the dialog's notice.
     virtual void Click(double x) = 0;
 };
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstddef>
 #include <string>
 #include <string_view>
+
+namespace lumerin {
 
 // What a backend offers to the framework's classes. Two exist and one is linked: win32/ maps these calls
 // to windows, headless/ keeps each control as plain state and hands events to a sink.
@@ -131,3 +134,5 @@ class CWaitCursor {
     CWaitCursor& operator=(const CWaitCursor&) = delete;
     ~CWaitCursor() { backend::EndWaitCursor(); }
 };
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "framework/Clock.h"
 
 #include <chrono>
 #include <cstdlib>
+
+namespace lumerin {
 
 namespace {
 
@@ -47,3 +50,5 @@ bool ReadClockFromEnvironment(LocalTime& time) {
     const char* text = std::getenv("LUMERIN_CLOCK");
     return text != nullptr && ParseClock(text, time);
 }
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <span>
+
+namespace lumerin {
 
 // A dialog's controls are written once, in a list of lines such as
 //     PUSH_BUTTON(IDC_MAX_AXIAL, "Max Axial Forces at Pile Heads", 204, 78, 170, 14)
@@ -37,3 +40,5 @@ struct DialogSpec {
     bool systemMenu;
     std::span<const ControlSpec> controls;
 };
+
+}  // namespace lumerin

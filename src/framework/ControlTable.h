@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The meaning of the control list macros as rows of ControlSpec. Included before a list in a .cpp file:
 //     const ControlSpec kControls[] = {
 //     #include "framework/ControlTable.h"

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "framework/Dialog.h"
 
 #include <charconv>
@@ -5,6 +6,8 @@
 #include <string_view>
 
 #include "framework/File.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -154,3 +157,5 @@ void ReportFailure(CDialog& dialog) noexcept {
         return;  // no memory for the words
     }
 }
+
+}  // namespace lumerin

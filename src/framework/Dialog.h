@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
@@ -5,6 +6,8 @@
 
 #include "framework/ControlList.h"
 #include "framework/Window.h"
+
+namespace lumerin {
 
 class CDialog;
 
@@ -108,3 +111,5 @@ bool RunGuarded(CDialog& dialog, Step&& step) noexcept {
         return false;
     }
 }
+
+}  // namespace lumerin

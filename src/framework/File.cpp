@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "framework/File.h"
 
 #include <cerrno>
 #include <system_error>
 #include <utility>
+
+namespace lumerin {
 
 namespace {
 
@@ -99,3 +102,5 @@ std::int64_t CFile::Length() const {
     SeekTo(file, here, SEEK_SET);
     return length;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstdint>
@@ -5,6 +6,8 @@
 #include <exception>
 #include <memory>
 #include <string>
+
+namespace lumerin {
 
 // A failure of the result file layer. It carries the file and what is wrong with it; no reader catches it,
 // the dialog that is being shown tells it in a message box and lives on.
@@ -67,3 +70,5 @@ class CFile {
     std::string m_strPath;
     int m_nOpenError = 0;  // of an open that failed
 };
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
+
+namespace lumerin {
 
 // Where a grid stands: its focus cell, the cells around its selection and its open editor.
 struct GridView {
@@ -13,3 +16,5 @@ struct GridView {
     int tipRow = -1, tipColumn = -1;  // the cell under the title tip; -1: none
     bool outgrewCell = false;         // the editor is wider than the cell
 };
+
+}  // namespace lumerin

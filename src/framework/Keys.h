@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #pragma once
+
+namespace lumerin {
 
 // Keys of the keyboard, by the platform's codes. The codes below 128 that are characters too carry the same
 // number, and a letter's key has the code of its capital.
@@ -25,3 +28,5 @@ enum KeyCode : unsigned {
 struct KeyState {
     bool shift = false, control = false;
 };
+
+}  // namespace lumerin

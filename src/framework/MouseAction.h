@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "framework/Keys.h"
+
+namespace lumerin {
 
 // What a hand does with the mouse on a grid and beside it. The scripts of both drivers are made of these.
 
@@ -48,3 +51,5 @@ struct MouseAction {
     ScrollPart part = ScrollPart::lineUp;
     int count = 1;
 };
+
+}  // namespace lumerin

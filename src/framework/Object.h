@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <memory>
+
+namespace lumerin {
 
 // The object base with run-time class support, as far as the product uses it.
 
@@ -38,3 +41,5 @@ class CObject {
 };
 
 inline const CRuntimeClass CObject::classCObject{"CObject", nullptr};
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "framework/WholeFile.h"
 
 #include <chrono>
 
 #include "framework/WholeFilePlatform.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -115,3 +118,5 @@ void WholeFile::Discard() noexcept {
     m_handle = kNoHandle;
     m_temporary.clear();
 }
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
+
+namespace lumerin {
 
 // A document while it is written. The bytes go to a new file beside `path`, which takes the place of whatever
 // has that name once all of them are stored. Until then, and for good when a write fails, an exception comes
@@ -44,3 +47,5 @@ class WholeFile {
     std::string m_temporary;  // empty: the bytes lie in a file without a name
     bool m_bFailed = false;
 };
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
+
+namespace lumerin {
 
 // What WholeFile asks of the platform. Nothing here throws but for want of memory.
 namespace wholefile {
@@ -52,3 +55,5 @@ void Remove(Handle handle, const std::string& path) noexcept;
 void RemoveLeftOvers(const std::string& folder);
 
 }  // namespace wholefile
+
+}  // namespace lumerin

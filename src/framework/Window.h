@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 
 #include "framework/Backend.h"
 #include "framework/Object.h"
+
+namespace lumerin {
 
 // A window of the platform. The object does not own the window: the dialog that made it does.
 class CWnd : public CObject {
@@ -55,3 +58,5 @@ class CSpinButtonCtrl : public CWnd {
     void SetPos(int position) { backend::SpinSetPosition(m_hWnd, position); }
     int GetPos() const { return backend::SpinPosition(m_hWnd); }
 };
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <memory>
@@ -5,6 +6,8 @@
 
 #include "framework/Object.h"
 #include "grid/GridTypes.h"
+
+namespace lumerin {
 
 // Formats of drawn text, the numbers of the platform's text drawing.
 enum TextFormat : unsigned {
@@ -40,3 +43,5 @@ class CDC : public CObject {
 };
 
 inline const CRuntimeClass CDC::classCDC{"CDC", &CObject::classCObject};
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "grid/CellNumber.h"
 
 #include <charconv>
 #include <limits>
+
+namespace lumerin {
 
 namespace {
 
@@ -77,3 +80,5 @@ double ReadCellDouble(std::string_view text) {
     }
     return negative ? -value : value;
 }
+
+}  // namespace lumerin

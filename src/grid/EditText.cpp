@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "grid/EditText.h"
 
 #include <algorithm>
 
 #include "grid/GridTypes.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -49,3 +52,5 @@ FilterResult FilterNumber(EditText& edit, int mode, unsigned character) {
     if (character == '-') return ToggleSign(edit, mode);
     return FilterResult::refused;
 }
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
+
+namespace lumerin {
 
 // The text of an editor with its selection, as far as typing needs it. Positions count characters from 0;
 // without a selection both ends are the caret.
@@ -38,3 +41,5 @@ enum class FilterResult {
 
 // Judges one typed character against the text, in the order that the rules depend on each other.
 FilterResult FilterNumber(EditText& edit, int mode, unsigned character);
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "grid/GridCell.h"
 
 #include <utility>
 
 #include "grid/GridCtrl.h"
 #include "grid/InPlaceEdit.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -175,3 +178,5 @@ void CGridDefaultCell::Measure() {
     m_nWidth = text.width;
     m_nHeight = text.height + 2 * m_nMargin;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <memory>
@@ -6,6 +7,8 @@
 #include "framework/Object.h"
 #include "grid/Canvas.h"
 #include "grid/GridTypes.h"
+
+namespace lumerin {
 
 class CGridCtrl;
 class CGridDefaultCell;
@@ -171,3 +174,5 @@ inline const CRuntimeClass CGridCell::classCGridCell{"CGridCell", &CGridCellBase
                                                      &CGridCell::Create};
 inline const CRuntimeClass CGridDefaultCell::classCGridDefaultCell{"CGridDefaultCell",
                                                                    &CGridCell::classCGridCell};
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "grid/GridCellNumeric.h"
 
 #include "grid/InPlaceEdit.h"
+
+namespace lumerin {
 
 bool CGridCellBOOL::Edit(int row, int column, const GridRect& rect, GridPoint, int id, unsigned key) {
     if (m_pGrid == nullptr) return false;
@@ -13,3 +16,5 @@ bool CGridCellFloat::Edit(int row, int column, const GridRect& rect, GridPoint, 
     return OpenEditor(std::make_unique<CInPlaceEditNum>(*m_pGrid, row, column, id, m_sText, key, kReal),
                       rect);
 }
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "grid/GridCell.h"
+
+namespace lumerin {
 
 // A cell that takes 0 or 1 by typing.
 class CGridCellBOOL : public CGridCell {
@@ -24,3 +27,5 @@ inline const CRuntimeClass CGridCellBOOL::classCGridCellBOOL{"CGridCellBOOL", &C
                                                              &CGridCellBOOL::Create};
 inline const CRuntimeClass CGridCellFloat::classCGridCellFloat{"CGridCellFloat", &CGridCell::classCGridCell,
                                                                &CGridCellFloat::Create};
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 // The clipboard carries cells as text: a tab between cells, a line a row.
 #include <string_view>
 
 #include "grid/GridCtrl.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -74,3 +77,5 @@ void CGridCtrl::OnPaste() {
 void CGridCtrl::OnSelectAll() {
     SelectRange(m_nFixedRows, m_nFixedCols, m_nRows - 1, m_nCols - 1, false, true);
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
@@ -10,6 +11,8 @@
 #include "grid/GridCell.h"
 #include "grid/GridHost.h"
 #include "grid/TitleTip.h"
+
+namespace lumerin {
 
 // The table control of the two small dialogs: a store of cell objects with a focus cell and a selection,
 // keys, mouse, clipboard and editors. Its window scrolls by whole rows and columns. Setters refuse quietly: a
@@ -245,3 +248,5 @@ class CGridCtrl : public CWnd {
 };
 
 inline const CRuntimeClass CGridCtrl::classCGridCtrl{"CGridCtrl", &CWnd::classCWnd};
+
+}  // namespace lumerin

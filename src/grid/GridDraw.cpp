@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 // Painting of the window.
 #include "grid/GridCtrl.h"
 #include "grid/MemDC.h"
+
+namespace lumerin {
 
 void CGridCtrl::Paint(CDC& target, const GridRect& area) {
     if (m_bLayoutDirty) UpdateScrollBars();
@@ -53,3 +56,5 @@ void CGridCtrl::DrawCell(CDC& dc, int row, int column, const GridRect& rect) {
     }
     m_CellRows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]->Draw(dc, inner);
 }
+
+}  // namespace lumerin

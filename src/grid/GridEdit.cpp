@@ -1,5 +1,8 @@
+// SPDX-License-Identifier: MIT
 // Opening and closing the in-place editor.
 #include "grid/GridCtrl.h"
+
+namespace lumerin {
 
 bool CGridCtrl::BeginCellEdit(int row, int column, GridPoint point, unsigned key) {
     if (!m_bEditable || !IsCellInRange(row, column) || IsCellReadOnly(row, column)) return false;
@@ -58,3 +61,5 @@ int CGridCtrl::EditorTextWidth(int row, int column, const std::string& text) con
     const CGridCellBase* cell = GetCell(row, column);
     return cell == nullptr ? 0 : gridplatform::MeasureText(text, cell->GetFont()).width;
 }
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 // The focus cell and how the keys move it. Rows and columns of size 0 are passed over.
 #include <algorithm>
 
 #include "grid/GridCtrl.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -144,3 +147,5 @@ void CGridCtrl::OnGotFocus() {
     // scroll away under it.
     if (!m_FocusCell.IsValid() && !m_bTakingFocus) GoTo(FirstCell(), false);
 }
+
+}  // namespace lumerin

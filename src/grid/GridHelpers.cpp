@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "grid/GridHelpers.h"
 
 #include <algorithm>
 #include <numeric>
+
+namespace lumerin {
 
 namespace {
 
@@ -83,3 +86,5 @@ GridView ViewOf(const CGridCtrl& grid) {
     view.outgrewCell = grid.CellRect(view.row, view.column, cell) && window->Place().right > cell.right;
     return view;
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <span>
 
 #include "framework/GridView.h"
 #include "grid/GridCtrl.h"
+
+namespace lumerin {
 
 // What both dialogs do to their grids, and what their drivers read.
 
@@ -25,3 +28,5 @@ void FitColumns(CGridCtrl& grid, std::span<const int> weights, std::span<int> ou
 
 // Focus cell, selection and open editor.
 GridView ViewOf(const CGridCtrl& grid);
+
+}  // namespace lumerin

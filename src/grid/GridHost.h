@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <memory>
@@ -7,6 +8,8 @@
 #include "grid/Canvas.h"
 #include "grid/GridTypes.h"
 #include "grid/InPlaceEdit.h"
+
+namespace lumerin {
 
 class CGridCtrl;
 
@@ -61,3 +64,5 @@ std::unique_ptr<GridHost> MakeHost(CGridCtrl& grid);
 void PrepareWindowClass();
 
 }  // namespace gridplatform
+
+}  // namespace lumerin

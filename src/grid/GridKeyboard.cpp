@@ -1,5 +1,8 @@
+// SPDX-License-Identifier: MIT
 // Keys of the grid's window.
 #include "grid/GridCtrl.h"
+
+namespace lumerin {
 
 bool CGridCtrl::OnCommandKey(unsigned key, KeyState keys) {
     if (keys.control) {
@@ -52,3 +55,5 @@ bool CGridCtrl::OnChar(unsigned character, KeyState keys) {
     if (!m_FocusCell.IsValid()) return false;
     return BeginCellEdit(m_FocusCell.row, m_FocusCell.column, {}, character);
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // Where cells lie in the window, and scrolling. Fixed rows and columns stay at the top and left; behind them
 // the window shows whole rows and columns from FirstVisibleCell on. All walks end at the window's edge, so
 // that the work of one redraw does not grow with the number of rows.
 #include <algorithm>
 
 #include "grid/GridCtrl.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -217,3 +220,5 @@ void CGridCtrl::RedrawCell(int row, int column) {
     GridRect rect;
     if (m_bRedraw && CellRect(row, column, rect)) m_pHost->Invalidate(rect);
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // The mouse: a click moves the focus and starts a selection, a drag extends it, a double click edits, and the
 // border of a heading cell can be dragged when the sizes may change.
 #include <algorithm>
 #include <cstdlib>
 
 #include "grid/GridCtrl.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -189,3 +192,5 @@ void CGridCtrl::ShowTipOf(CCellID cell) {
     }
     m_TitleTip.Show(*m_pHost, cell, rect, object.GetTipText(), object.GetFont(), margin);
 }
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 // Printing: one line of text a row, the heading rows on every page, the rest of the rows page by page.
 #include <algorithm>
 
 #include "grid/GridCtrl.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -102,3 +105,5 @@ void CGridCtrl::PrintRow(CDC& dc, int row, int firstColumn, int lastColumn, int 
         left += width;
     }
 }
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 // The selection: a map of the selected cells, whose state bits follow it.
 #include <algorithm>
 
 #include "grid/GridCtrl.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -74,3 +77,5 @@ void CGridCtrl::ClearSelection() {
         if (!IsCellReadOnly(cell.row, cell.column)) SetCellText(cell.row, cell.column, "");
     }
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // The store: dimensions, cells and their attributes.
 #include <algorithm>
 #include <stdexcept>
 #include <utility>
 
 #include "grid/GridCtrl.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -255,3 +258,5 @@ bool CGridCtrl::IsCellReadOnly(int row, int column) const {
     const CGridCellBase* cell = GetCell(row, column);
     return cell != nullptr && cell->IsReadOnly();
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstdint>
 #include <string>
 
 #include "framework/Keys.h"
+
+namespace lumerin {
 
 // The small types that the grid, its cells and its drawing share.
 
@@ -54,3 +57,5 @@ int ScreenDpi();
 unsigned DoubleClickTime();
 
 }  // namespace gridplatform
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "grid/InPlaceEdit.h"
 
 #include <algorithm>
 
 #include "grid/GridCtrl.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -100,3 +103,5 @@ void CInPlaceEdit::End(unsigned key, KeyState keys) {
     }
     m_grid.OnNotify(notice);
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
@@ -5,6 +6,8 @@
 #include "framework/Window.h"
 #include "grid/EditText.h"
 #include "grid/GridTypes.h"
+
+namespace lumerin {
 
 class CGridCtrl;
 
@@ -96,3 +99,5 @@ class CInPlaceEditNum : public CInPlaceEdit {
 inline const CRuntimeClass CInPlaceEdit::classCInPlaceEdit{"CInPlaceEdit", &CWnd::classCWnd};
 inline const CRuntimeClass CInPlaceEditNum::classCInPlaceEditNum{"CInPlaceEditNum",
                                                                  &CInPlaceEdit::classCInPlaceEdit};
+
+}  // namespace lumerin

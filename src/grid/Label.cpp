@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "grid/Label.h"
 
 #include <algorithm>
+
+namespace lumerin {
 
 namespace {
 
@@ -40,3 +43,5 @@ void CLabel::SetHover(bool hover) {
     m_crText = colour;
     gridplatform::RedrawLabel(*this);
 }
+
+}  // namespace lumerin

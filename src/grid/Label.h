@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "framework/Window.h"
 #include "grid/GridTypes.h"
+
+namespace lumerin {
 
 // A static text that can act as a link: it changes colour under the pointer and shows the hand cursor.
 // Without SetScale it looks like any text of its dialog.
@@ -45,3 +48,5 @@ void AttachLabel(CLabel& label);
 void RedrawLabel(CLabel& label);
 
 }  // namespace gridplatform
+
+}  // namespace lumerin

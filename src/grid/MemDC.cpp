@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "grid/MemDC.h"
+
+namespace lumerin {
 
 namespace Ovrelle {
 
@@ -35,3 +38,5 @@ void CMemDC::CopyFrom(CDC& source, const GridRect& rect) {
 }
 
 }  // namespace Ovrelle
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "grid/Canvas.h"
+
+namespace lumerin {
 
 namespace Ovrelle {
 
@@ -31,3 +34,5 @@ class CMemDC : public CDC {
 inline const CRuntimeClass CMemDC::classCMemDC{"CMemDC", &CDC::classCDC};
 
 }  // namespace Ovrelle
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "grid/TitleTip.h"
 
 #include "grid/GridHost.h"
+
+namespace lumerin {
 
 void CTitleTip::Show(GridHost& host, CCellID cell, const GridRect& cellRect, const std::string& text,
                      const FontRecord& font, int margin) {
@@ -26,3 +29,5 @@ bool CTitleTip::IsSecondPress(CCellID cell, unsigned time, bool onTip) {
     m_bPressedTip = onTip;
     return second;
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 
 #include "framework/Window.h"
 #include "grid/GridTypes.h"
+
+namespace lumerin {
 
 class GridHost;
 
@@ -44,3 +47,5 @@ class CTitleTip : public CWnd {
 };
 
 inline const CRuntimeClass CTitleTip::classCTitleTip{"CTitleTip", &CWnd::classCWnd};
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/Actions.h"
 // The common controls want windows.h before them.
 #include <commctrl.h>
@@ -6,6 +7,8 @@
 #include "host/GridReader.h"
 #include "host/Keyboard.h"
 #include "host/WindowReader.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -151,3 +154,5 @@ bool PressHelp(HWND dialog, int id) {
 }
 
 }  // namespace actions
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 
 #include "host/HostWindows.h"
 #include "script/Script.h"
+
+namespace lumerin {
 
 // What a user does to a control. Each returns false when it is refused: no such control, or a disabled or
 // hidden one. A press is posted, and worked off behind the return.
@@ -27,3 +30,5 @@ bool ClickGraph(HWND dialog, double x);
 bool PressHelp(HWND dialog, int id);
 
 }  // namespace actions
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "host/GraphReader.h"
 
 #include "embedment/GraphRecord.h"
 #include "embedment/win32/GraphMessages.h"
 #include "host/Token.h"
+
+namespace lumerin {
 
 namespace graphreader {
 
@@ -29,3 +32,5 @@ bool Click(HWND graph, double x) {
 }
 
 }  // namespace graphreader
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <vector>
 
 #include "framework/Automation.h"
 #include "host/HostWindows.h"
+
+namespace lumerin {
 
 // The plot, asked of its window.
 namespace graphreader {
@@ -15,3 +18,5 @@ std::vector<GraphCall> ReadDrawing(HWND graph);
 bool Click(HWND graph, double x);
 
 }  // namespace graphreader
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/GridReader.h"
 
 #include <algorithm>
@@ -5,6 +6,8 @@
 
 #include "grid/win32/GridMessages.h"
 #include "host/Token.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -76,3 +79,5 @@ bool GoToCell(HWND grid, int row, int column) {
 }
 
 }  // namespace gridreader
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
@@ -5,6 +6,8 @@
 
 #include "framework/GridView.h"
 #include "host/HostWindows.h"
+
+namespace lumerin {
 
 // The grid's cells, asked of its window.
 namespace gridreader {
@@ -24,3 +27,5 @@ int RowCount(HWND grid);
 bool GoToCell(HWND grid, int row, int column);
 
 }  // namespace gridreader
+
+}  // namespace lumerin

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "host/Keyboard.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -44,3 +47,5 @@ bool Type(std::string_view text) {
 }
 
 }  // namespace keyboard
+
+}  // namespace lumerin

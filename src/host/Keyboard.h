@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string_view>
 
 #include "host/HostWindows.h"
+
+namespace lumerin {
 
 // The real keyboard: keys go to the window that has the focus, through the queue of the system. They arrive a
 // while after the call.
@@ -15,3 +18,5 @@ void Press(WORD key, bool shift = false, bool control = false);
 bool Type(std::string_view text);
 
 }  // namespace keyboard
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <fcntl.h>
 #include <io.h>
 
@@ -16,6 +17,8 @@
 #include "host/Token.h"
 #include "host/WindowDriver.h"
 #include "text/Utf8.h"
+
+using namespace lumerin;
 
 // Stands in for the host program: it loads the module that lies beside it, calls the export, and can play a
 // script on the module's real windows. It carries the host's name, which the module trims off its path.

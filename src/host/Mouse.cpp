@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/Mouse.h"
 
 #include <cstdlib>
@@ -7,6 +8,8 @@
 #include "grid/win32/GridMessages.h"
 #include "host/GridReader.h"
 #include "host/Keyboard.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -301,3 +304,5 @@ bool Mouse::LoseCapture(HWND grid, bool broken) {
     }
     return KillTimer(grid, kGridDragTimer) == FALSE;
 }
+
+}  // namespace lumerin

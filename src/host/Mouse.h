@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <deque>
@@ -6,6 +7,8 @@
 #include "framework/GridView.h"
 #include "framework/MouseAction.h"
 #include "host/HostWindows.h"
+
+namespace lumerin {
 
 // The real mouse: its pointer goes to a place on the screen and its buttons are pressed there, through the
 // queue of the system, so that the platform decides which window gets what. An action is a row of steps, one
@@ -48,3 +51,5 @@ class Mouse {
     DWORD m_nPressed = 0;  // the time of the last press, and its place on the screen
     POINT m_pressed{};
 };
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "host/Picture.h"
 
 #include <algorithm>
 #include <fstream>
 
 #include "host/PngFile.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -130,3 +133,5 @@ bool SavePicture(HWND window, const std::string& path) {
     file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     return file.good();
 }
+
+}  // namespace lumerin

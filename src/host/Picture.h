@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstdint>
@@ -5,6 +6,8 @@
 #include <vector>
 
 #include "host/HostWindows.h"
+
+namespace lumerin {
 
 // A picture of a window with its frame, as it is on the screen.
 struct Picture {
@@ -15,3 +18,5 @@ struct Picture {
 Picture TakePicture(HWND window);
 // As a PNG file, or as a bitmap file when the name ends in ".bmp". False: the file can't be written.
 bool SavePicture(HWND window, const std::string& path);
+
+}  // namespace lumerin

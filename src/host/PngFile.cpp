@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/PngFile.h"
 
 #include <algorithm>
@@ -5,6 +6,8 @@
 #include <cstddef>
 #include <string_view>
 #include <utility>
+
+namespace lumerin {
 
 // Windows are mostly runs of one colour over many rows. So each row is told by its difference to the row
 // above, and the compressor looks for one thing only: repetitions of the last byte.
@@ -147,3 +150,5 @@ std::string PngBytes(int width, int height, std::span<const std::uint8_t> pixels
     AppendChunk(out, "IEND", "");
     return out;
 }
+
+}  // namespace lumerin

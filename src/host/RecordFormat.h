@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #pragma once
+
+namespace lumerin {
 
 // One line a record: its kind and its fields, each behind the character kRecordFieldEnd.
 //     open    program ("" for the program of the document's type), document
@@ -8,3 +11,5 @@ inline constexpr const char* kRecordVariable = "LUMERIN_RECORD";  // the file's 
 inline constexpr char kRecordFieldEnd = '\x1f';
 inline constexpr const char* kRecordOpen = "open";
 inline constexpr const char* kRecordModule = "module";
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/Records.h"
 
 #include <cstdlib>
@@ -9,6 +10,8 @@
 #include "host/RecordFormat.h"
 // The process list wants windows.h before it.
 #include <tlhelp32.h>
+
+namespace lumerin {
 
 namespace {
 
@@ -92,3 +95,5 @@ void Records::PrintLine(const std::string& line) {
         m_lines.Module(fields[1], call);
     }
 }
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 
 #include "script/JsonLines.h"
+
+namespace lumerin {
 
 // What leaves the module for another program is told by that program: the recorder, in the place of a viewer,
 // and the recording plot module append a line to a file that the environment names.
@@ -24,3 +27,5 @@ class Records {
     std::string m_sPath;
     std::size_t m_nRead = 0;  // bytes of the file that are printed
 };
+
+}  // namespace lumerin

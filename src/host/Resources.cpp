@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/Resources.h"
 
 #include <algorithm>
@@ -7,6 +8,8 @@
 #include "host/HostWindows.h"
 // The process figures want windows.h before them.
 #include <psapi.h>
+
+namespace lumerin {
 
 namespace {
 
@@ -153,3 +156,5 @@ void LeakOneOfEach() {
     static std::vector<std::vector<char>> kept;
     kept.emplace_back(kLeakedBytes);
 }
+
+}  // namespace lumerin

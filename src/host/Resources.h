@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstddef>
 #include <ostream>
+
+namespace lumerin {
 
 // What this process holds of the machine, the loaded modules' share included. What is never given back shows
 // as counts that grow from round to round.
@@ -21,3 +24,5 @@ void PrintRound(std::ostream& out, int round, const Resources& resources);
 
 // Takes one of each and never gives it back: what the counts must show.
 void LeakOneOfEach();
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/Token.h"
 
 #include <array>
@@ -6,6 +7,8 @@
 #include <random>
 
 #include "framework/win32/DriverToken.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -35,3 +38,5 @@ WPARAM Get() {
 }
 
 }  // namespace token
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "host/HostWindows.h"
+
+namespace lumerin {
 
 // The token by which the module knows this driver's questions.
 namespace token {
@@ -13,3 +16,5 @@ void Withdraw();
 WPARAM Get();
 
 }  // namespace token
+
+}  // namespace lumerin

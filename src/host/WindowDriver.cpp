@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "host/WindowDriver.h"
 
 #include <algorithm>
@@ -10,6 +11,8 @@
 #include "host/GridReader.h"
 #include "host/Picture.h"
 #include "host/WindowReader.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -205,3 +208,5 @@ const ScriptAction* WindowDriver::TakeAgain() {
 const ScriptAction* WindowDriver::FirstLeftOver() const {
     return m_nNext < m_actions.size() ? &m_actions[m_nNext] : nullptr;
 }
+
+}  // namespace lumerin

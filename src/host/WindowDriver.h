@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <chrono>
@@ -9,6 +10,8 @@
 #include "host/Records.h"
 #include "script/JsonLines.h"
 #include "script/Script.h"
+
+namespace lumerin {
 
 // Plays a script on the module's real windows. It lives on the thread of the dialogs: a timer calls Tick in
 // whatever modal loop is running, and only when that loop has nothing else to do, so that a press has been
@@ -54,3 +57,5 @@ class WindowDriver {
     std::chrono::steady_clock::time_point m_LastTick{};
     std::chrono::steady_clock::duration m_LongestWait{};
 };
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "host/WindowReader.h"
 
 #include <algorithm>
 #include <array>
 
 #include "host/GridReader.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -178,3 +181,5 @@ FocusState ReadFocus(HWND dialog) {
     if (state.kind == ControlKind::grid) state.grid = gridreader::ReadView(control);
     return state;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
@@ -5,6 +6,8 @@
 
 #include "host/HostWindows.h"
 #include "script/JsonLines.h"
+
+namespace lumerin {
 
 // What is really on the screen: dialogs, message boxes and controls, read from their windows.
 
@@ -32,3 +35,5 @@ ControlState ReadControl(HWND control);
 // The control of the dialog that has the focus, itself or by a child; null when none has.
 HWND FocusedControl(HWND dialog);
 FocusState ReadFocus(HWND dialog);
+
+}  // namespace lumerin

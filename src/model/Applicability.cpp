@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "model/Applicability.h"
 
 #include <algorithm>
+
+namespace lumerin {
 
 TableFlags ApplicableTables(const CDataSet& data, const CaseSelection& selection) {
     const StructureType type = data.m_nStructureType;
@@ -30,3 +33,5 @@ TableFlags ApplicableTables(const CDataSet& data, const CaseSelection& selection
 unsigned CountTables(const TableFlags& tables) {
     return static_cast<unsigned>(std::count(tables.flags.begin(), tables.flags.end(), true));
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
@@ -6,6 +7,8 @@
 #include "model/CaseSelection.h"
 #include "model/DataSet.h"
 #include "model/Types.h"
+
+namespace lumerin {
 
 // One flag for each table.
 struct TableFlags {
@@ -22,3 +25,5 @@ inline constexpr TableFlags kAllTables{{true, true, true, true, true, true, true
 TableFlags ApplicableTables(const CDataSet& data, const CaseSelection& selection);
 
 unsigned CountTables(const TableFlags& tables);
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "model/Pier.h"
+
+namespace lumerin {
 
 // Small questions about the cap that all of its operations share.
 
@@ -25,3 +28,5 @@ long long SupportPosition(const CPier& pier, int support);
 
 // The first entry of the cap points with exactly that x; -1 if there is none.
 int FindCapPoint(const CPier& pier, double x);
+
+}  // namespace lumerin

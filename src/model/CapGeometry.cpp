@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 
 #include "model/CapChain.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -172,3 +175,5 @@ void CPier::BuildCapGeometry() {
     m_BearingX.assign(static_cast<std::size_t>(m_nCapBearings), 0.0);
     BuildBearingList(*this);
 }
+
+}  // namespace lumerin

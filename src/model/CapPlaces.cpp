@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 
 #include "model/CapChain.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -185,3 +188,5 @@ bool CPier::IsCapElementEnd(int node, int end) const {
     CCapPlace place;
     return FindOnChain(*this, node, end, place);
 }
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <climits>
 
 #include "model/CapChain.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -120,3 +123,5 @@ bool CPier::IsMomentSection(int support, int kind) const {
 bool CPier::IsShearSection(int support, int kind) const {
     return IsSection(*this, support, kind, kShearRightFace);
 }
+
+}  // namespace lumerin

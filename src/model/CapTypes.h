@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #pragma once
+
+namespace lumerin {
 
 // Places along the cap of a substructure.
 
@@ -20,3 +23,5 @@ struct CBearingLocation {
 
     int Row() const { return m_nRowCode == 1 ? 1 : 0; }
 };
+
+}  // namespace lumerin

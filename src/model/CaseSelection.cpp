@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "model/CaseSelection.h"
 
 #include <algorithm>
 
 #include "model/DataSet.h"
+
+namespace lumerin {
 
 CaseSelection::CaseSelection(const CDataSet& data) {
     std::size_t cases = 0;
@@ -39,3 +42,5 @@ int CaseSelection::FirstOfClass(LimitClass limitClass) const {
                ? m_firstOfClass[static_cast<std::size_t>(limitClass)]
                : -1;
 }
+
+}  // namespace lumerin

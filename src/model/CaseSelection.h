@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
@@ -6,6 +7,8 @@
 #include <vector>
 
 #include "model/Types.h"
+
+namespace lumerin {
 
 class CDataSet;
 
@@ -39,3 +42,5 @@ class CaseSelection {
     std::vector<std::uint8_t> m_selected;  // 1: the case takes part
     std::array<int, kLimitClasses> m_firstOfClass{-1, -1, -1, -1};
 };
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "model/DataSet.h"
 
 #include <algorithm>
 
 #include "model/CaseSelection.h"
+
+namespace lumerin {
 
 std::string CDataSet::GetLoadLabel(bool shortForm, bool plural) const {
     std::string label = "Load Case";
@@ -49,3 +52,5 @@ bool CDataSet::HasOnlyFatigue(const CaseSelection& selection) const {
     return !m_Piers.empty() && FirstPier().m_nCodeFamily == kFamilyLrfd &&
            FirstPier().HasOnlyLimitClasses(selection, -1, -1, -1, kFatigue);
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstddef>
@@ -7,6 +8,8 @@
 #include "framework/Object.h"
 #include "model/Pier.h"
 #include "model/Types.h"
+
+namespace lumerin {
 
 class CaseSelection;
 
@@ -72,3 +75,5 @@ class CDataSet : public CObject {
 };
 
 inline const CRuntimeClass CDataSet::classCDataSet{"CDataSet", &CObject::classCObject};
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstddef>
 #include <span>
+
+namespace lumerin {
 
 // Force components, in the order in which tables print them. FAX positive is tension.
 enum ForceComponent { kAxial = 0, kF22 = 1, kF33 = 2, kM22 = 3, kM33 = 4, kTorque = 5, kDemandCapacity = 6 };
@@ -35,3 +38,5 @@ struct CSectionData {
     int m_nShape = 0;
     double m_dD = 0.0, m_dWidth = 0.0, m_dZ = 0.0, m_dG = 0.0;
 };
+
+}  // namespace lumerin

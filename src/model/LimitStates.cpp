@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "model/LimitStates.h"
 
 #include <cstddef>
+
+namespace lumerin {
 
 const std::array<std::array<const char*, 3>, 18> g_LimitStateNames = {{
     {"STRENGTH-I", "GROUP-I", "LFD-GROUP-I"},
@@ -65,3 +68,5 @@ bool FindLimitClass(CodeFamily family, int code, LimitClass& limitClass) {
     }
     return false;
 }
+
+}  // namespace lumerin

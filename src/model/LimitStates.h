@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
 #include <string>
 
 #include "model/Types.h"
+
+namespace lumerin {
 
 // Names of limit states: row by limit state number, column by code family (AASHTO-LRFD, AASHTO-LFD, AREMA);
 // empty where a family has no such state.
@@ -14,3 +17,5 @@ extern const std::array<std::array<const char*, 3>, 18> g_LimitStateNames;
 std::string LimitStateName(int code);
 // The class of a limit state in a code family, for a code that the family has.
 bool FindLimitClass(CodeFamily family, int code, LimitClass& limitClass);
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 #include <vector>
 
 #include "model/Types.h"
+
+namespace lumerin {
 
 // The members of a substructure. Every load case has the same members, so they stand once, each naming its
 // run of elements in the substructure's element list; CPier keeps the forces of all cases.
@@ -54,3 +57,5 @@ struct CLoadCase {
     std::string m_sName = "none";
     std::string m_sLimitState = "none";
 };
+
+}  // namespace lumerin

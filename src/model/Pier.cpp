@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "model/Pier.h"
 
 #include <algorithm>
 
 #include "model/CaseSelection.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -88,3 +91,5 @@ int CPier::SlotCount() const {
 std::span<const LimitClass> CPier::Slots() const {
     return std::span(kAllClasses).first(static_cast<std::size_t>(SlotCount()));
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <algorithm>
@@ -11,6 +12,8 @@
 #include "model/Members.h"
 #include "model/Types.h"
 #include "text/Messages.h"
+
+namespace lumerin {
 
 class CaseSelection;
 
@@ -141,3 +144,5 @@ struct CMemberCounts {
     int cantileverElements = 0;  // of each side
     int extraMembers = 0;
 };
+
+}  // namespace lumerin

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #pragma once
+
+namespace lumerin {
 
 // The small types that every layer above the model shares. They are enumerations over int: a value that a
 // file or the host gives passes unchanged, known or not.
@@ -56,3 +59,5 @@ enum MemberFamily : int { kPileFamily = 0, kColumnFamily = 1, kXMemberFamily = 2
 
 // What the host's analysis produced: load cases or combinations, or time steps.
 enum AnalysisMode : int { kModeLoadCases = 0, kModeTimeSteps = 1 };
+
+}  // namespace lumerin

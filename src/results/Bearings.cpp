@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <array>
 
 #include "results/Bearings.h"
 #include "results/ProjectFiles.h"
 #include "results/SeqFile.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -65,3 +68,5 @@ BearingRows ReadBearings(const std::string& basePath, int number) {
     if (!IsOneRow(leftEntries, rightEntries)) rows.push_back(MakeRow(rightNodes, right));
     return rows;
 }
+
+}  // namespace lumerin

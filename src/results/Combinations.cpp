@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "results/Combinations.h"
 
 #include <algorithm>
@@ -13,6 +14,8 @@
 #include "results/ProjectFiles.h"
 #include "results/SeqFile.h"
 #include "text/KeyedLine.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -180,3 +183,5 @@ void ReadCombinationData(const std::string& basePath, int k, CDataSet& data, Mes
     ReadTitles(basePath, named);
     ReadLimitStates(basePath, named, pier, messages);
 }
+
+}  // namespace lumerin

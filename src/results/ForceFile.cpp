@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "results/ForceFile.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+
+namespace lumerin {
 
 namespace {
 
@@ -222,3 +225,5 @@ std::optional<ForceFile::Source> ForceFile::SourceOf(int loadCase, int element) 
     }
     return Source{m_lastBefore.at(static_cast<std::size_t>(loadCase - m_wholeCases)), kind};
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <optional>
@@ -7,6 +8,8 @@
 #include "results/ForcePlan.h"
 #include "results/ForceSource.h"
 #include "results/SeqFile.h"
+
+namespace lumerin {
 
 // The member force file of a substructure: for every converged case the end forces of every element, in
 // records of 68 bytes, one block of records a case. The file is opened for each pass and closed after it, so
@@ -64,3 +67,5 @@ class ForceFile : public ForceSource {
     std::vector<long long> m_lastBefore;
     FileStamp m_stamp;
 };
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "results/ForcePlan.h"
 
 #include <algorithm>
 #include <cmath>
 #include <utility>
+
+namespace lumerin {
 
 namespace {
 
@@ -134,3 +137,5 @@ bool RepairRatios(ForceKind kind, float* forces) {
     }
     return std::all_of(forces, forces + kForcesPerElement, [](float force) { return std::isfinite(force); });
 }
+
+}  // namespace lumerin

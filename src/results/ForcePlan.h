@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstddef>
@@ -7,6 +8,8 @@
 
 #include "model/Pier.h"
 #include "results/PierModel.h"
+
+namespace lumerin {
 
 // Words of a record of the member force file, 32-bit floats each.
 inline constexpr int kForceRecordWords = 17;
@@ -75,3 +78,5 @@ inline bool StoreForceRecord(ForceKind kind, const float* words, float* forces) 
     if ((lanes[0] + lanes[1]) + (lanes[2] + lanes[3]) == 0.0F) return true;
     return RepairRatios(kind, forces);
 }
+
+}  // namespace lumerin

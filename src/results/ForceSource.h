@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
@@ -8,6 +9,8 @@
 
 #include "model/Element.h"
 #include "results/FiniteForces.h"
+
+namespace lumerin {
 
 // The forces of all elements of a substructure in one load case, in the order of its element list: fourteen
 // floats an element.
@@ -55,3 +58,5 @@ class ForceSource {
 
 // By substructure.
 using ForceSources = std::vector<std::unique_ptr<ForceSource>>;
+
+}  // namespace lumerin

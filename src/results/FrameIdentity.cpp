@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 
 #include "results/Identity.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -233,3 +236,5 @@ void ApplyElementMask(CPier& pier, StructureType firstType) {
             }
         });
 }
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "results/PierModel.h"
+
+namespace lumerin {
 
 // The force file carries forces only; these steps give the elements their section, number and nodes.
 
@@ -14,3 +17,5 @@ void AssignExtraMemberSections(CPier& pier, const PierModel& model);
 void AssignMemberSections(CPier& pier, const PierModel& model);
 // Marks the cap elements whose number has no row in the element table.
 void ApplyElementMask(CPier& pier, StructureType firstType);
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "results/LoadProject.h"
 
 #include <algorithm>
@@ -13,6 +14,8 @@
 #include "results/ReadData.h"
 #include "results/SeqFile.h"
 #include "text/Format.h"
+
+namespace lumerin {
 
 // The load of a project, in the fixed order in which each read finds what it needs from those before it.
 
@@ -273,3 +276,5 @@ std::optional<Project> LoadProject(const std::string& basePath, Messages& messag
     if (!loader.Load()) return std::nullopt;
     return loader.TakeProject();
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <optional>
@@ -6,6 +7,8 @@
 #include "model/DataSet.h"
 #include "results/ForceSource.h"
 #include "text/Messages.h"
+
+namespace lumerin {
 
 // A project as its files describe it.
 struct Project {
@@ -18,3 +21,5 @@ struct Project {
 // was reported. Throws CFileException for a missing or broken file. Nothing is kept between two loads, so
 // that several can run at the same time.
 std::optional<Project> LoadProject(const std::string& basePath, Messages& messages);
+
+}  // namespace lumerin

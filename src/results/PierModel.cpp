@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <climits>
 #include <cstring>
@@ -6,6 +7,8 @@
 #include "results/PierModel.h"
 #include "results/PileFile.h"
 #include "results/ProjectFiles.h"
+
+namespace lumerin {
 
 // The read of one substructure's model: the pile file, the pile model file and the convergence file. Every
 // allocation of the load rests on what they say, so each count is held against its file before it is used.
@@ -322,3 +325,5 @@ void ReadPileDimensions(const std::string& basePath, int number, CPier& pier) {
         pile.m_dDimension = known ? head.sections[static_cast<std::size_t>(section - 1)].Dimension() : 0.0;
     }
 }
+
+}  // namespace lumerin

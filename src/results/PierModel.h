@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
@@ -8,6 +9,8 @@
 
 #include "model/DataSet.h"
 #include "text/Messages.h"
+
+namespace lumerin {
 
 // The counts of one substructure, as its pile file, its pile model file and the convergence file have them.
 struct PierCounts {
@@ -59,3 +62,5 @@ std::optional<PierModel> ReadPierModel(const PierRead& read, Messages& messages)
 // The widths of the piles, from the section records of the pile file (plf), by the section of each pile's
 // first element; `number` counts from 1. Throws CFileException.
 void ReadPileDimensions(const std::string& basePath, int number, CPier& pier);
+
+}  // namespace lumerin

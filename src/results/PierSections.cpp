@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <cmath>
 #include <string>
 
 #include "results/ReadData.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -113,3 +116,5 @@ void ReadPierSections(ifstreamex& file, CDataSet& data) {
         reader.Read(data.m_Piers[static_cast<std::size_t>(i)]);
     }
 }
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "results/PileFile.h"
 
 #include <array>
 #include <cstring>
+
+namespace lumerin {
 
 namespace {
 
@@ -41,3 +44,5 @@ CPileFileHead ReadPileFileHead(CSeqFile& file) {
     file.ReadRecord(title.data(), kTitleBytes, "title");
     return head;
 }
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <vector>
 
 #include "results/SeqFile.h"
+
+namespace lumerin {
 
 // A section record of the pile file: its kind and its dimensions, of which two are used.
 struct CSectionRecord {
@@ -23,3 +26,5 @@ struct CPileFileHead {
     std::vector<CSectionRecord> sections;
 };
 CPileFileHead ReadPileFileHead(CSeqFile& file);
+
+}  // namespace lumerin

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "results/Identity.h"
+
+namespace lumerin {
 
 void IdentifyPiles(CPier& pier, const PierModel& model) {
     for (std::size_t p = 0; p < pier.m_Piles.size() && p < model.pileSections.size(); ++p) {
@@ -49,3 +52,5 @@ void AssignExtraMemberSections(CPier& pier, const PierModel& model) {
         first = false;
     }
 }
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "results/ProjectFiles.h"
 
 #include "framework/File.h"
+
+namespace lumerin {
 
 namespace {
 std::string AsItLies(const std::string& path) {
@@ -17,3 +20,5 @@ std::string SubstructureFile(const std::string& basePath, const char* suffix, in
     const std::string path = basePath + suffix;
     return AsItLies(number > 1 ? path + std::to_string(number) : path);
 }
+
+}  // namespace lumerin

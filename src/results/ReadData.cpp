@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "results/ReadData.h"
 
 #include <algorithm>
 #include <string>
 
 #include "text/Format.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -64,3 +67,5 @@ bool ReadPierData(ifstreamex& file, CDataSet& data) {
     }
     return true;
 }
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "model/DataSet.h"
 #include "text/KeyedLine.h"
+
+namespace lumerin {
 
 // The readers of the project's keyed text file. Each scans the stream for its section from the beginning and
 // stops after the first; a stream that could not be opened holds nothing.
@@ -16,3 +19,5 @@ bool ReadPierData(ifstreamex& file, CDataSet& data);
 
 // Moves on to the line after the one that begins with the keyword. False: there is none.
 bool FindSection(ifstreamex& file, std::string_view keyword);
+
+}  // namespace lumerin

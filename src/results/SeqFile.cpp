@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "results/SeqFile.h"
 
 #include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <vector>
+
+namespace lumerin {
 
 namespace {
 
@@ -80,3 +83,5 @@ unsigned CDirFile::Read(void* buffer, long long recordNumber) {
     if (got > 0 && got == m_nRecordLength) std::memcpy(buffer, record.data(), got);
     return got;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
@@ -5,6 +6,8 @@
 #include <string>
 
 #include "framework/File.h"
+
+namespace lumerin {
 
 // A sequential result file: the mark 'K', then a chain of blocks, each framed by a length byte on both sides.
 // Integers are 32-bit little-endian, reals IEEE. Callers ask for bytes and never see the framing.
@@ -46,3 +49,5 @@ class CDirFile : public CFile {
   private:
     unsigned m_nRecordLength = 0;
 };
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <ostream>
@@ -5,6 +6,8 @@
 #include <string_view>
 
 #include "text/Utf8.h"
+
+namespace lumerin {
 
 // The border between the user and the product. Options, scripts and lines on the terminal are UTF-8. Inside,
 // a text is bytes of the Western code page, which documents and dialogs count their columns in; paths of
@@ -23,3 +26,5 @@ inline std::string ForUser(std::string_view text) {
 inline void PrintLine(std::ostream& out, std::string_view text) {
     out << ForUser(text) << std::endl;
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "script/JsonLines.h"
 
 #include <charconv>
 #include <nlohmann/json.hpp>
 
 #include "script/Border.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -143,3 +146,5 @@ void JsonLines::Result(unsigned result) {
 void JsonLines::Refused(std::string_view what) {
     m_out << "refused " << what << '\n';
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <ostream>
@@ -9,6 +10,8 @@
 #include "framework/Backend.h"
 #include "framework/ControlList.h"
 #include "framework/GridView.h"
+
+namespace lumerin {
 
 // The events and states of driven dialogs as JSON, one object a line, in fixed key order. The same lines come
 // from every face of the product, so that two outputs can be compared byte for byte.
@@ -52,3 +55,5 @@ class JsonLines {
   private:
     std::ostream& m_out;
 };
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "script/Script.h"
 
 #include <charconv>
 #include <cmath>
 
 #include "script/Border.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -371,3 +374,5 @@ std::vector<ScriptAction> ParseScript(std::string_view script) {
     }
     return actions;
 }
+
+}  // namespace lumerin

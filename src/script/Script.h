@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <stdexcept>
@@ -8,6 +9,8 @@
 #include "framework/ControlList.h"
 #include "framework/Keys.h"
 #include "framework/MouseAction.h"
+
+namespace lumerin {
 
 // The script that drives the dialogs, the same for every face of the product: one action a line, "#" at a
 // line's start or behind a blank begins a comment. It is read whole before the first action runs. A script is
@@ -67,3 +70,5 @@ class ScriptError : public std::runtime_error {
 
 // Throws ScriptError for the first line that is no action.
 std::vector<ScriptAction> ParseScript(std::string_view script);
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "session/ChoseLoadCasesDlg.h"
 
 #include <array>
@@ -14,6 +15,8 @@
 #include "text/Paths.h"
 #include "writers/GridExport.h"
 #include "writers/PdfExport.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -153,3 +156,5 @@ bool RunLoadCaseDialog(int format, CaseSelection& selection) {
     selection.FindFirstCases(g_DataSet);
     return true;
 }
+
+}  // namespace lumerin

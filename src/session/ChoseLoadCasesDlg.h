@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "framework/Dialog.h"
 #include "grid/GridCtrl.h"
 #include "grid/Label.h"
 #include "model/CaseSelection.h"
+
+namespace lumerin {
 
 // The choice of the cases that the tables consider: one row a case, 1 for included and 0 for excluded. The
 // answer goes into the selection that the caller owns.
@@ -37,3 +40,5 @@ class CChoseLoadCasesDlg : public CDialog {
 // Opens the dialog over the loaded project and, after OK, finds the first case
 // of each class again. True after OK: the caller refreshes its controls and the tables' applicability.
 bool RunLoadCaseDialog(int format, CaseSelection& selection);
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/EmbedmentFiles.h"
 #include "session/Constants.h"
 #include "session/DesignerDlg.h"
 #include "session/ReportControls.h"
 #include "session/Session.h"
+
+namespace lumerin {
 
 // Captions and enabled states of the report dialog, by what the project and the selection allow. The flags
 // of the tables follow almost the same rules (ApplicableTables), but not for masts and walls:
@@ -76,3 +79,5 @@ void CDesignerDlg::RefreshCapTables(const std::string& cap) {
     SetItemText(IDC_CAP_SHEAR, cap + " Shear Design");
     SetItemText(IDC_CAP_MOMENT, cap + " Moment Design");
 }
+
+}  // namespace lumerin

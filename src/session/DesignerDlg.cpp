@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "session/DesignerDlg.h"
 
 #include <algorithm>
@@ -9,6 +10,8 @@
 #include "session/ReportControls.h"
 #include "session/Session.h"
 #include "session/TableRun.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -242,3 +245,5 @@ bool CDesignerDlg::OnHelpInfo(int controlId) {
     services::ShellOpen("open", page, "");
     return true;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
@@ -5,6 +6,8 @@
 #include "framework/Dialog.h"
 #include "session/OutputFiles.h"
 #include "session/ReportState.h"
+
+namespace lumerin {
 
 extern const DialogSpec g_ReportDialogSpec;  // IDD_REPORT
 
@@ -66,3 +69,5 @@ class CDesignerDlg : public CDialog {
     bool m_bProjectLoaded = false;
     bool m_bOutputFailed = false;
 };
+
+}  // namespace lumerin

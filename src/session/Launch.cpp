@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "session/Launch.h"
 
 #include <atomic>
@@ -8,6 +9,8 @@
 #include "session/Constants.h"
 #include "session/DesignerDlg.h"
 #include "session/Session.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -89,3 +92,5 @@ unsigned LaunchLumerin(int reportFormat, const char* inputFile, const char* vers
         return 0u;
     }
 }
+
+}  // namespace lumerin

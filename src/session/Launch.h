@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #pragma once
+
+namespace lumerin {
 
 // The one operation that the host calls. Opens the report dialog on a project and returns when it has ended.
 //   reportFormat       the format that the dialog starts on: 0 spreadsheet, 1 PDF, 2 text; any other selects
@@ -11,3 +14,5 @@
 // changes nothing.
 unsigned LaunchLumerin(int reportFormat, const char* inputFile, const char* version, const char* textA,
                        const char* textB, const char* envelopeArgument);
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "session/OutputFiles.h"
 
 #include <charconv>
@@ -7,6 +8,8 @@
 #include "session/ReportState.h"
 #include "session/Session.h"
 #include "writers/PdfExport.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -107,3 +110,5 @@ int ViewerFontSize() {
 void SetDefaultPrinterOrientation(int mode) {
     if (mode == 0 || mode == 1) services::SetPrinterLandscape(mode == 1);
 }
+
+}  // namespace lumerin

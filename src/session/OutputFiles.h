@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
+
+namespace lumerin {
 
 class CPdfExport;
 
@@ -40,3 +43,5 @@ int ViewerFontSize();
 
 // 0 portrait, 1 landscape, anything else leaves it.
 void SetDefaultPrinterOrientation(int mode);
+
+}  // namespace lumerin

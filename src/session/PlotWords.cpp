@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "session/PlotWords.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -49,3 +52,5 @@ std::string LimitFamilyWord(const CDataSet& data, const CaseSelection& selection
             return {};
     }
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
@@ -5,9 +6,13 @@
 #include "model/CaseSelection.h"
 #include "model/DataSet.h"
 
+namespace lumerin {
+
 // The two words that the plot module opens on, from the first substructure; empty without one.
 
 // "Shear" or "Moment": a project of nothing but fatigue has no shear table. Empty: no class has a case.
 std::string FirstPlotWord(const CDataSet& data, const CaseSelection& selection);
 // The limit family of the first class that has a case.
 std::string LimitFamilyWord(const CDataSet& data, const CaseSelection& selection);
+
+}  // namespace lumerin

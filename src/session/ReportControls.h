@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 // The identifiers of the dialogs and their controls. Macros, because the resource compiler reads them too.

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "session/ReportState.h"
 
 #include "session/OutputFiles.h"
 #include "session/Session.h"
 #include "text/Paths.h"
+
+namespace lumerin {
 
 bool LoadSessionProject(ReportState& state) {
     g_DataSet.Reset();
@@ -55,3 +58,5 @@ bool RequireUnchangedForces(const ReportState& state) {
     }
     return true;
 }
+
+}  // namespace lumerin

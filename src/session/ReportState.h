@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <memory>
@@ -8,6 +9,8 @@
 #include "model/CaseSelection.h"
 #include "results/LoadProject.h"
 #include "tables/Report.h"
+
+namespace lumerin {
 
 // What a report dialog remembers beside the project, for its lifetime: searches of one press leave words of
 // earlier ones in place, and a table that was found invalid stays so when the selection changes.
@@ -40,3 +43,5 @@ void CollectSessionTable(TableId table, ReportState& state);
 // Whether the force files are still those that the project was loaded with; the first that is not is
 // reported.
 bool RequireUnchangedForces(const ReportState& state);
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "session/Session.h"
 
 #include <cstddef>
@@ -5,6 +6,8 @@
 #include "framework/Backend.h"
 #include "session/Constants.h"
 #include "text/Utf8.h"
+
+namespace lumerin {
 
 CDataSet g_DataSet;
 
@@ -75,3 +78,5 @@ std::string ModuleFolder() {
     TrimRightCharacters(folder, g_ModuleFileName);
     return folder;
 }
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 
 #include "model/DataSet.h"
+
+namespace lumerin {
 
 // The state of one call of LaunchLumerin: what the host passed, the paths derived from it, and the report
 // options of the press that is running. The module stays loaded between calls, so the strings outlive a call
@@ -48,3 +51,5 @@ void TrimRightCharacters(std::string& text, const std::string& characters);
 std::string HostProgramFolder();
 // The folder of the module, with its trailing separator.
 std::string ModuleFolder();
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "session/TableRun.h"
 
 #include "framework/Backend.h"
@@ -10,6 +11,8 @@
 #include "writers/TablePdf.h"
 #include "writers/TableSheets.h"
 #include "writers/WorkbookFrame.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -207,3 +210,5 @@ bool RunEnvelopeFile(ReportState& state) {
     out.Close();
     return true;
 }
+
+}  // namespace lumerin

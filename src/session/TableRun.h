@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "session/OutputFiles.h"
 #include "session/ReportState.h"
+
+namespace lumerin {
 
 // The run of a table from the press of its button to the start of its viewer: name the file, collect, write,
 // show. The options are in the session by then. Each run returns whether the file system took all of the
@@ -26,3 +29,5 @@ bool RunTitlePage(int format);  // format 1 or 2
 // Writes the data file of the envelope plotter; g_OutputFilePath names it then. False: the forces were
 // replaced since the project was opened, and nothing was written.
 bool RunEnvelopeFile(ReportState& state);
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tables/CapRows.h"
 
 #include <array>
@@ -5,6 +6,8 @@
 
 #include "tables/Words.h"
 #include "text/Format.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -169,3 +172,5 @@ std::vector<CCapKeyLine> CapKey(TableId table, const CDataSet& data) {
     }
     return key;
 }
+
+}  // namespace lumerin

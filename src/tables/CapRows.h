@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <functional>
@@ -6,6 +7,8 @@
 #include <vector>
 
 #include "tables/Report.h"
+
+namespace lumerin {
 
 // What the two cap tables (kTableCapShear, kTableCapMoment) share in every format: the walk along the cap,
 // the labels of its rows, and the key below the last block.
@@ -52,3 +55,5 @@ struct CCapKeyLine {
 };
 // The lines of the key, by the structure types of all substructures.
 std::vector<CCapKeyLine> CapKey(TableId table, const CDataSet& data);
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "tables/CapRows.h"
 #include "tables/Catalogue.h"
 #include "tables/RowText.h"
 #include "tables/TableWalks.h"
 #include "tables/Words.h"
+
+namespace lumerin {
 
 // Tables 3 and 4: for each design section of the cap, in order of position, the case with the maximum and the
 // case with the minimum, and all that acts there in the same case.
@@ -152,3 +155,5 @@ class CCapWalk {
 void WalkCapTable(const Report& report, const TableLayout& layout, CLineSink& sink) {
     CCapWalk(report, layout, sink).Run();
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tables/Catalogue.h"
 
 #include <algorithm>
@@ -5,6 +6,8 @@
 
 #include "tables/Words.h"
 #include "text/Format.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -137,3 +140,5 @@ std::array<std::string, 5> TitlePageLines(const ReportOptions& options) {
     lines[4] += DateText(1, options.now());
     return lines;
 }
+
+}  // namespace lumerin

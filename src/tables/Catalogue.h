@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
@@ -7,6 +8,8 @@
 
 #include "tables/Report.h"
 #include "text/StoredStream.h"
+
+namespace lumerin {
 
 // What every table shares: words, column fillers, page arithmetic of the text format, dates and the footer.
 
@@ -42,3 +45,5 @@ std::string DateText(int mode, const LocalTime& now);
 std::string TimeText(int mode, const LocalTime& now);
 // The footer of PDF pages and workbooks, empty when the footer is off.
 std::string FooterText(const ReportOptions& options);
+
+}  // namespace lumerin

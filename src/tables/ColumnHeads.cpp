@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include <array>
 #include <utility>
 
 #include "tables/Catalogue.h"
 #include "tables/TableLayout.h"
 #include "text/Format.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -130,3 +133,5 @@ const std::string& LimitStateOf(const CDataSet& data, int loadCase) {
     const auto index = static_cast<std::size_t>(loadCase);
     return index < cases.size() ? cases[index].m_sLimitState : kNone;
 }
+
+}  // namespace lumerin

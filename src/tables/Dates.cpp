@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 
 #include "tables/Catalogue.h"
 #include "tables/Words.h"
 #include "text/Format.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -60,3 +63,5 @@ std::string TimeText(int mode, const LocalTime& now) {
     text += now.hour < 12 ? " AM" : " PM";
     return text;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tables/EnvelopeFile.h"
 
 #include <array>
@@ -7,6 +8,8 @@
 #include "tables/CapRows.h"
 #include "tables/RowText.h"
 #include "text/Format.h"
+
+namespace lumerin {
 
 // The data file of the envelope plotter: keyed sections, each closed by a colon and an empty line. The
 // plotter finds the sections by their names and the fields of a row by their keys and columns.
@@ -194,3 +197,5 @@ void WriteEnvelopeFile(const Report& report, StoredStream& out) {
         if (report.results.valid[table]) WriteEnvelopes(report, table, out);
     }
 }
+
+}  // namespace lumerin

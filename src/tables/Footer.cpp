@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 
 #include "tables/Catalogue.h"
 #include "tables/Words.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -51,3 +54,5 @@ std::string FooterText(const ReportOptions& options) {
     }
     return text;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <optional>
@@ -6,6 +7,8 @@
 
 #include "tables/Report.h"
 #include "tables/TableLayout.h"
+
+namespace lumerin {
 
 // How an empty stretch of a table is shown; the text form knows one way, the PDF form three.
 enum class GapStyle { empty, lineFeed, blank };
@@ -45,3 +48,5 @@ class CLineSink {
 std::optional<TableId> WritableTable(const Report& report, TableId table);
 // Runs the walk of a writable table into a sink.
 void WalkTable(const Report& report, TableId table, CLineSink& sink);
+
+}  // namespace lumerin

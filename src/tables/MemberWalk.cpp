@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include <array>
 
 #include "tables/Catalogue.h"
 #include "tables/RowText.h"
 #include "tables/TableWalks.h"
 #include "tables/Words.h"
+
+namespace lumerin {
 
 // Tables 1, 2, 5, 6 and 7: for every property of piles, columns or extra members the place of the greatest
 // ratio, or of the greatest and the least of each force, with all that acts there in the same case.
@@ -172,3 +175,5 @@ class CMemberWalk {
 void WalkMembers(const Report& report, const TableLayout& layout, CLineSink& sink) {
     CMemberWalk(report, layout, sink).Run();
 }
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "tables/Catalogue.h"
 #include "tables/RowText.h"
 #include "tables/TableWalks.h"
+
+namespace lumerin {
 
 // Table 0: for every pile the case that pulls hardest on its head and the case that pushes hardest.
 namespace {
@@ -115,3 +118,5 @@ class CPileHeadWalk {
 void WalkPileHeads(const Report& report, const TableLayout& layout, CLineSink& sink) {
     CPileHeadWalk(report, layout, sink).Run();
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstddef>
@@ -12,6 +13,8 @@
 #include "model/CaseSelection.h"
 #include "model/DataSet.h"
 #include "results/ForceSource.h"
+
+namespace lumerin {
 
 // The parts of the page footer; nothing is printed where it is off.
 struct FooterParts {
@@ -69,3 +72,5 @@ struct Report {
         return rows.At(static_cast<std::size_t>(&pier - data.m_Piers.data()), loadCase, element);
     }
 };
+
+}  // namespace lumerin

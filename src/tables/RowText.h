@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 #include <string_view>
 
 #include "text/Format.h"
+
+namespace lumerin {
 
 // Pieces of a row that go behind what it holds, without a text of their own.
 
@@ -20,3 +23,5 @@ inline void AppendNumbered(std::string& out, std::string_view format, long long 
     AppendInt(out, number);
     out.append(format.substr(at + 2));
 }
+
+}  // namespace lumerin

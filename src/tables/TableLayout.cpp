@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "tables/TableLayout.h"
 
 #include <array>
+
+namespace lumerin {
 
 namespace {
 
@@ -208,3 +211,5 @@ constexpr std::array<TableLayout, 8> kLayouts{kMaxAxial,  kPileDc,     kColumnDc
 const TableLayout& LayoutOf(TableId table) {
     return kLayouts.at(static_cast<std::size_t>(table));
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
@@ -7,6 +8,8 @@
 #include <vector>
 
 #include "model/DataSet.h"
+
+namespace lumerin {
 
 // The layouts of tables 0 to 7 as data: one row of one description for each table. The walks over the result
 // tables read margins, heads, fillers and column widths from here, so that the text and the PDF form of a
@@ -97,3 +100,5 @@ ColumnHead BuildColumnHead(const CDataSet& data, const TableLayout& layout);
 
 // The limit state name of a case, as the first substructure has it.
 const std::string& LimitStateOf(const CDataSet& data, int loadCase);
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "tables/TableText.h"
 
 #include <algorithm>
@@ -6,6 +7,8 @@
 
 #include "tables/Catalogue.h"
 #include "tables/LineSink.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -62,3 +65,5 @@ void WriteTitlePageText(const ReportOptions& options, StoredStream& out) {
     for (const std::string& line : TitlePageLines(options))
         out << CenterText(options.viewerFontSize, line) << "\n";
 }
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "tables/TableWalks.h"
 
 #include "tables/Catalogue.h"
+
+namespace lumerin {
 
 void WriteTitleLine(const Report& report, const TableLayout& layout, CLineSink& sink) {
     const TitleMargins& margins = sink.MarginsOf(layout);
@@ -44,3 +47,5 @@ void WalkTable(const Report& report, TableId table, CLineSink& sink) {
     }
     sink.EndTable();
 }
+
+}  // namespace lumerin

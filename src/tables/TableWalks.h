@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "tables/LineSink.h"
+
+namespace lumerin {
 
 // The three walks; a project with a substructure is there when one of them runs.
 void WalkPileHeads(const Report& report, const TableLayout& layout, CLineSink& sink);  // table 0
@@ -11,3 +14,5 @@ void WalkCapTable(const Report& report, const TableLayout& layout, CLineSink& si
 void WriteTitleLine(const Report& report, const TableLayout& layout, CLineSink& sink);
 // The heading of a slot's block, if it has one. False: the slot has no block in this table.
 bool WriteSectionHeading(const Report& report, const TableLayout& layout, LimitClass slot, CLineSink& sink);
+
+}  // namespace lumerin

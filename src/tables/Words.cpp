@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "tables/Words.h"
 
 #include <cstddef>
+
+namespace lumerin {
 
 namespace {
 
@@ -92,3 +95,5 @@ const char* MemberShortName(StructureType structureType) {
 const char* MemberName(StructureType structureType) {
     return ByType(g_MemberNames, structureType);
 }
+
+}  // namespace lumerin

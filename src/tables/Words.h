@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <array>
 
 #include "model/Types.h"
+
+namespace lumerin {
 
 // The words of the reports: titles and file names of the tables, names of extremes and members, words of
 // dates.
@@ -33,3 +36,5 @@ const char* TableTitle(TableId table, StructureType structureType);
 // The words for the vertical members of a structure type; empty where the type is outside 0 to 8.
 const char* MemberShortName(StructureType structureType);
 const char* MemberName(StructureType structureType);
+
+}  // namespace lumerin

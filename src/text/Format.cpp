@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "text/Format.h"
 
 #include <array>
@@ -5,6 +6,8 @@
 #include <cmath>
 #include <cstdint>
 #include <cstring>
+
+namespace lumerin {
 
 namespace {
 
@@ -208,3 +211,5 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
 bool IsValidNumber(double value) {
     return std::isfinite(value);
 }
+
+}  // namespace lumerin

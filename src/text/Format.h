@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstddef>
 #include <string>
 #include <string_view>
+
+namespace lumerin {
 
 // Numbers to text by the rules of the printf formats named below, exact and locale-free on every platform.
 // The Append forms write behind what the text holds and take no other memory.
@@ -31,3 +34,5 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
 // Whether "%.5f" of the value is a plain number: no letter or symbol, "-" in first place only, one ".".
 // That holds for exactly the finite values.
 bool IsValidNumber(double value);
+
+}  // namespace lumerin

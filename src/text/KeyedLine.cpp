@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "text/KeyedLine.h"
 
 #include <algorithm>
@@ -6,6 +7,8 @@
 
 #include "framework/File.h"
 #include "text/Format.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -160,3 +163,5 @@ bool ReadKeyedDouble(std::string_view text, std::string_view key, double& value)
     value = read;
     return true;
 }
+
+}  // namespace lumerin

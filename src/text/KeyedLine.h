@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <fstream>
 #include <span>
 #include <string>
 #include <string_view>
+
+namespace lumerin {
 
 // The host's keyed text: lines of keys such as "N=" with values behind them, in named sections.
 
@@ -34,3 +37,5 @@ int ReadKeyedDoubles(std::string_view text, std::string_view key, std::span<doub
 // The one value behind a key; `value` stays when there is none.
 bool ReadKeyedInt(std::string_view text, std::string_view key, int& value);
 bool ReadKeyedDouble(std::string_view text, std::string_view key, double& value);
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
+
+namespace lumerin {
 
 // What a reader or a search has to say to the engineer while it runs, in the words of a message box. The
 // dialog shows a box; a program without a screen prints a line. The caller of a load or a search owns the
@@ -14,3 +17,5 @@ class Messages {
 
     virtual void Show(const std::string& text) = 0;
 };
+
+}  // namespace lumerin

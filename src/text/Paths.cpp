@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "text/Paths.h"
 
 #include "framework/Backend.h"
 #include "text/Utf8.h"
+
+namespace lumerin {
 
 std::string FolderOf(const std::string& path) {
     std::size_t end = path.size();
@@ -12,3 +15,5 @@ std::string FolderOf(const std::string& path) {
 std::string PathAsText(const std::string& path) {
     return services::PathsAreUtf8() ? ToWestern(path) : path;
 }
+
+}  // namespace lumerin

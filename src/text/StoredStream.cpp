@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "text/StoredStream.h"
 
 #include <cstring>
 #include <exception>
 
 #include "framework/Backend.h"
+
+namespace lumerin {
 
 namespace {
 constexpr std::size_t kBufferBytes = std::size_t{1} << 18;
@@ -67,3 +70,5 @@ void StoredStream::TellFailure() const {
         // There is no memory left for the words either.
     }
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstdint>
@@ -6,6 +7,8 @@
 #include <vector>
 
 #include "framework/WholeFile.h"
+
+namespace lumerin {
 
 // An output file in which every line feed is stored as carriage return and line feed, on every platform, and
 // which knows the stored position. The file gets its name, and replaces an earlier one, when it is closed
@@ -45,3 +48,5 @@ class StoredStream {
     std::int64_t m_nPosition = 0;
     bool m_bFailed = false;
 };
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "text/Utf8.h"
 
 #include <cstddef>
 #include <iterator>
+
+namespace lumerin {
 
 namespace {
 
@@ -82,3 +85,5 @@ std::string ToWestern(std::string_view text) {
     }
     return out;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The worksheets of the cap tables, shear (table 3) and moment (table 4).
 
 #include <array>
@@ -15,6 +16,8 @@
 #include "writers/SheetRows.h"
 #include "writers/TableSheets.h"
 #include "writers/WorkbookFrame.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -208,3 +211,5 @@ int WriteCapSheet(const Report& report, TableId table, StoredStream& out, bool e
         if (!embedded) out << CoordsSheet(report, table);
     });
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The worksheet "Coords" that accompanies a cap table of its own workbook: where its rows lie along the cap.
 
 #include <string>
@@ -6,6 +7,8 @@
 
 #include "text/Format.h"
 #include "writers/WorkbookFrame.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -107,3 +110,5 @@ std::string CoordsSheet(const Report& report, TableId table) {
     }
     return out.append(kEnd);
 }
+
+}  // namespace lumerin

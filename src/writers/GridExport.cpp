@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "writers/GridExport.h"
 
 #include "framework/Backend.h"
@@ -6,6 +7,8 @@
 #include "text/Format.h"
 #include "text/StoredStream.h"
 #include "writers/WorkbookFrame.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -90,3 +93,5 @@ std::string ExportGrid(const std::string& inputFile, const GridSheet& sheet, con
     out.Close();
     return path;
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <span>
 #include <string>
 
 #include "grid/GridCtrl.h"
+
+namespace lumerin {
 
 // Codes of a column in the grid's worksheet: how its texts become cells. 2 to 8 are decimals of which as many
 // show as the code says; any other code leaves the text as it is.
@@ -26,3 +29,5 @@ struct GridSheet {
 // Writes a dialog's grid as it is into a workbook of one worksheet beside the project. Returns its path,
 // whether the file system took it or not.
 std::string ExportGrid(const std::string& inputFile, const GridSheet& sheet, const CGridCtrl& grid);
+
+}  // namespace lumerin

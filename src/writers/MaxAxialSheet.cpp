@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The worksheet of maximum axial forces at pile heads.
 
 #include <array>
@@ -12,6 +13,8 @@
 #include "writers/SheetRows.h"
 #include "writers/TableSheets.h"
 #include "writers/WorkbookFrame.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -230,3 +233,5 @@ int WriteMaxAxialSheet(const Report& report, StoredStream& out, bool embedded) {
         out << WorksheetEnd(report.options);
     });
 }
+
+}  // namespace lumerin

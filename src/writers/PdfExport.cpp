@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "writers/PdfExport.h"
 
 #include "text/Format.h"
 #include "text/Paths.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -94,3 +97,5 @@ bool CPdfExport::Write(Messages& messages) {
     m_CellImages.clear();
     return true;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
@@ -6,6 +7,8 @@
 #include "grid/GridCtrl.h"
 #include "text/Messages.h"
 #include "text/StoredStream.h"
+
+namespace lumerin {
 
 // One hand-over of a dialog's grid to the table image builder, a program beside the host that reads a
 // description file and makes the PDF. The grid must outlive the object.
@@ -53,3 +56,5 @@ class CPdfExport {
     int m_nRows, m_nColumns;
     std::string m_sDescriptionPath, m_sPdfPath;
 };
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "writers/PdfSink.h"
 
 #include "text/Format.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -90,3 +93,5 @@ void CPdfSink::ContinueOnNextPage() {
 void CPdfSink::EndTable() {
     m_pdf.EndPage(m_out, m_footer);
 }
+
+}  // namespace lumerin

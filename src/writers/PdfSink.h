@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 
 #include "tables/LineSink.h"
 #include "writers/PdfWriter.h"
+
+namespace lumerin {
 
 // A table set on pages: a line becomes an operator that moves to the next line and shows it, and a page that
 // is full ends, with the column head once more on the next one. Text goes out unescaped, since the words of
@@ -38,3 +41,5 @@ class CPdfSink : public CLineSink {
     ColumnHead m_head;
     std::string m_operator;  // reused, so that a line takes no memory
 };
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "writers/PdfWriter.h"
 
 #include <algorithm>
 
 #include "text/Format.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -126,3 +129,5 @@ void CPdfWriter::WriteXref(StoredStream& out) {
     out << "0 " << FormatInt(m_nPagesObject) << " \n0000000000 65535 f \n";
     for (int object = 1; object < m_nNextObject; ++object) out << FormatInt(object) << " 00000 n \r\n";
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstdint>
@@ -5,6 +6,8 @@
 #include <string_view>
 
 #include "text/StoredStream.h"
+
+namespace lumerin {
 
 // The producer of a PDF 1.4 file of pages of fixed-pitch lines. It numbers the objects and writes the
 // document's skeleton, the footer line of a page and, at the end, the page number streams; between BeginPage
@@ -51,3 +54,5 @@ class CPdfWriter {
     int m_nLengthObject = 0;
     std::int64_t m_nStreamStart = 0;
 };
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The internal forces at pile heads, load case by load case: a worksheet for each substructure. It can have
 // millions of rows, so each row is built in one string that is used again and goes straight to the stream.
 
@@ -13,6 +14,8 @@
 #include "writers/SheetRows.h"
 #include "writers/TableSheets.h"
 #include "writers/WorkbookFrame.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -93,3 +96,5 @@ int WritePileHeadSheet(const Report& report, StoredStream& out, bool embedded) {
         }
     });
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The worksheets of the section tables: maximum demand/capacity ratios (tables 1 and 2) and maximum forces
 // (tables 5, 6 and 7). They share one walk; a table is a row of kForms.
 
@@ -14,6 +15,8 @@
 #include "writers/SheetRows.h"
 #include "writers/TableSheets.h"
 #include "writers/WorkbookFrame.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -194,3 +197,5 @@ void WriteSections(const Report& report, TableId table, StoredStream& out) {
 int WriteSectionSheet(const Report& report, TableId table, StoredStream& out, bool embedded) {
     return WriteWorkbook(report, table, out, embedded, [&] { WriteSections(report, table, out); });
 }
+
+}  // namespace lumerin

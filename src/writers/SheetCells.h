@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 #include <string_view>
 
 #include "text/Format.h"
+
+namespace lumerin {
 
 // The cells of data rows. Some rows have one blank behind "Cell", others two.
 
@@ -39,3 +42,5 @@ inline void AppendDecimalCell(std::string& out, std::string_view form, double va
 inline void AppendMissingCells(std::string& out, int count, int none = -1) {
     for (int i = 0; i < count; ++i) AppendTextCell(out, kWideTextCell, i == none ? kNoResult : kNoValue);
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The heading rows inside worksheets of tables 1 to 7. The blanks, line feeds and stray "<" between the
 // elements differ from table to table; readers of these workbooks compare them, so they stay.
 
@@ -7,6 +8,8 @@
 #include "tables/Catalogue.h"
 #include "text/Format.h"
 #include "writers/SheetHeads.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -137,3 +140,5 @@ std::string SubstructureHeading(const CDataSet& data, TableId table, int pier) {
     }
     return {};
 }
+
+}  // namespace lumerin

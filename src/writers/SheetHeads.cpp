@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "writers/SheetHeads.h"
 
 #include <algorithm>
@@ -8,6 +9,8 @@
 #include "tables/Catalogue.h"
 #include "tables/Words.h"
 #include "text/Format.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -253,3 +256,5 @@ std::string ColumnHeadRows(const CDataSet& data, TableId table) {
     AppendLowerRow(out, *form, data);
     return out.append(form->closing);
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
@@ -5,6 +6,8 @@
 #include <vector>
 
 #include "tables/Report.h"
+
+namespace lumerin {
 
 // What stands above the data rows of a worksheet: its head with the columns and the title row, the headings
 // of substructures and limit classes, and the column heads.
@@ -33,3 +36,5 @@ StepWords StepWordsOf(const CDataSet& data);
 
 // The two heading rows of tables 1 to 7.
 std::string ColumnHeadRows(const CDataSet& data, TableId table);
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "writers/SheetRows.h"
 
 #include <algorithm>
+
+namespace lumerin {
 
 namespace {
 
@@ -90,3 +93,5 @@ long long ExpandedRows(const Report& report, TableId table, int pier) {
     if (cap) rows += static_cast<long long>(data.m_Piers.size()) - 1;
     return rows;
 }
+
+}  // namespace lumerin

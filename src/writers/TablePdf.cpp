@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "writers/TablePdf.h"
 
 #include "tables/Catalogue.h"
 #include "writers/PdfSink.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -29,3 +32,5 @@ void WriteTitlePagePdf(const ReportOptions& options, StoredStream& out) {
     pdf.EndPage(out, "");
     pdf.Finish(out);
 }
+
+}  // namespace lumerin

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "writers/TableSheets.h"
+
+namespace lumerin {
 
 int WriteTableSheet(const Report& report, TableId table, StoredStream& out, bool embedded) {
     switch (table) {
@@ -19,3 +22,5 @@ int WriteTableSheet(const Report& report, TableId table, StoredStream& out, bool
             return -1;
     }
 }
+
+}  // namespace lumerin

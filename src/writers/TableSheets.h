@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "tables/Report.h"
 #include "text/StoredStream.h"
+
+namespace lumerin {
 
 // The tables as SpreadsheetML worksheets.
 
@@ -15,3 +18,5 @@ int WriteMaxAxialSheet(const Report& report, StoredStream& out, bool embedded);
 int WriteSectionSheet(const Report& report, TableId table, StoredStream& out, bool embedded);
 int WriteCapSheet(const Report& report, TableId table, StoredStream& out, bool embedded);
 int WritePileHeadSheet(const Report& report, StoredStream& out, bool embedded);
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "writers/WorkbookFrame.h"
 
 #include "tables/Catalogue.h"
 #include "text/Format.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -198,3 +201,5 @@ int WriteWorkbook(const Report& report, TableId table, StoredStream& out, bool e
     if (!embedded) out << kWorkbookEnd;
     return 1;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <functional>
@@ -6,6 +7,8 @@
 
 #include "tables/Report.h"
 #include "text/StoredStream.h"
+
+namespace lumerin {
 
 // The pieces of a SpreadsheetML workbook that are not a table's rows. A workbook is WorkbookHead, worksheets
 // that each end in WorksheetEndWith, and kWorkbookEnd.
@@ -31,3 +34,5 @@ int WriteWorkbook(const Report& report, TableId table, StoredStream& out, bool e
 
 // The worksheet "Coords" that goes with a cap table (kTableCapShear or kTableCapMoment) of its own workbook.
 std::string CoordsSheet(const Report& report, TableId table);
+
+}  // namespace lumerin

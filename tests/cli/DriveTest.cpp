@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include <filesystem>
@@ -7,6 +8,8 @@
 #include "cli/DriveCommand.h"
 #include "session/Session.h"
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -234,3 +237,5 @@ TEST_F(DriveTest, TheSameScriptGivesTheSameOutputTwice) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

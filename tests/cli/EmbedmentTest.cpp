@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include <filesystem>
@@ -7,6 +8,8 @@
 
 #include "cli/EmbedmentCommand.h"
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 // The study of the sample pier: eight trials of which the fifth is missing and the seventh is unfinished.
 
@@ -142,3 +145,5 @@ TEST_F(EmbedmentCommandTest, AProjectWithoutAStudyIsTold) {
     options.project = folder.Base("nothing.in");
     EXPECT_EQ(Run(), kExitNotLoaded);
 }
+
+}  // namespace lumerin

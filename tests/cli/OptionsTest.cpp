@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "cli/Options.h"
 
 #include <gtest/gtest.h>
@@ -5,6 +6,8 @@
 #include <stdexcept>
 
 #include "framework/headless/Headless.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -76,3 +79,5 @@ TEST(Options, AStartFormatMayBeAnyNumber) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 #include <sys/wait.h>
 
@@ -6,6 +7,8 @@
 #include <iterator>
 
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 // The program itself: arguments, exit statuses and streams.
 
@@ -137,3 +140,5 @@ TEST(Program, ReportsDrivesAndTellsWhatWentWrong) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include <filesystem>
@@ -6,6 +7,8 @@
 
 #include "cli/ReportDriver.h"
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -208,3 +211,5 @@ TEST_F(ReportTest, AFileThatCannotBeWrittenIsNotReportedAsWritten) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

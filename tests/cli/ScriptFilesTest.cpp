@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The scripts of tests/scripts that say themselves what comes out: a line "#= LINE" behind an action is a
 // line of the output. Every line about focus, messages and refusals must be expected so, in this order; lines
 // of the grid's rows may be. tools/test-windows compares the real windows with this face.
@@ -11,6 +12,8 @@
 #include "cli/DriveCommand.h"
 #include "samples/CommandLine.h"
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -121,3 +124,5 @@ std::string TestName(const testing::TestParamInfo<std::string>& script) {
 INSTANTIATE_TEST_SUITE_P(Files, ScriptFiles, testing::ValuesIn(ScriptsWithExpectations()), TestName);
 
 }  // namespace
+
+}  // namespace lumerin

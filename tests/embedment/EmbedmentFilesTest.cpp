@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/EmbedmentFiles.h"
 
 #include "support/StudyFolder.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -60,3 +63,5 @@ TEST_F(EmbedmentFilesTest, ALineOfMoreThan256CharactersEndsTheSearch) {
 TEST_F(EmbedmentFilesTest, AProjectWithoutInputFileAsksForNothing) {
     EXPECT_FALSE(IsEmbedmentRequested(inputFile));
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/EmbedmentResults.h"
 
 #include <gmock/gmock.h>
 
 #include "framework/File.h"
 #include "support/StudyFolder.h"
+
+namespace lumerin {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -234,3 +237,5 @@ TEST_F(EmbedmentResultsTest, TheOrderIsThatOfTheFirstTwoCompleteTrials) {
     one.LoadTrials();
     EXPECT_EQ(one.GetTrialOrder(), CEmbedmentResults::kNoOrder);
 }
+
+}  // namespace lumerin

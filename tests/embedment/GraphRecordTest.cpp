@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/GraphRecord.h"
 
 #include <gtest/gtest.h>
+
+namespace lumerin {
 
 namespace {
 
@@ -46,3 +49,5 @@ TEST(GraphRecord, LinesThatAreNoCallsAreRefused) {
     EXPECT_TRUE(calls.empty());
     EXPECT_TRUE(ReadGraphCalls("", calls));
 }
+
+}  // namespace lumerin

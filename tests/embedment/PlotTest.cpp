@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/Plot.h"
 
 #include <gmock/gmock.h>
@@ -7,6 +8,8 @@
 #include <limits>
 
 #include "embedment/SvgCanvas.h"
+
+namespace lumerin {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -418,3 +421,5 @@ TEST(SvgCanvas, DrawsEachPointAndOneLine) {
     EXPECT_EQ(count("<polyline"), 1u);
     EXPECT_EQ(count("stroke=\"#ff0000\""), 4u);  // the colour is blue, green, red from the top: grid lines
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/ScaleAxis.h"
 
 #include <gtest/gtest.h>
@@ -6,6 +7,8 @@
 #include <limits>
 #include <random>
 #include <vector>
+
+namespace lumerin {
 
 namespace {
 
@@ -184,3 +187,5 @@ TEST(ScaleAxis, EveryPairOfSmallWholeAndDecimalNumbersGetsASoundAxis) {
         }
     }
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/dialog/CaptureEx.h"
 
 #include <gmock/gmock.h>
@@ -5,6 +6,8 @@
 #include <array>
 
 #include "support/StudyDialogFixture.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -114,3 +117,5 @@ TEST_F(CaptureExTest, WithoutAScreenNothingIsTaken) {
     EXPECT_EQ(capture.Width(), 0);
     EXPECT_FALSE(std::filesystem::exists(folder / "a.bmp"));
 }
+
+}  // namespace lumerin

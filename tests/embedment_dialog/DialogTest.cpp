@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -5,6 +6,8 @@
 #include "embedment/SvgCanvas.h"
 #include "embedment/dialog/EmbedmentDialog.h"
 #include "support/StudyDialogFixture.h"
+
+namespace lumerin {
 
 using headless::HeadlessDialog;
 using testing::Contains;
@@ -496,3 +499,5 @@ TEST_F(EmbedmentDialogTest, TheReportDialogOpensItWithItsUnitsAndFormat) {
     EXPECT_EQ(title, "Minimum Pile Tip Embedment - Substructure 2");
     EXPECT_EQ(caption, "PDF");
 }
+
+}  // namespace lumerin

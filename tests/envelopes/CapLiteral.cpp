@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "CapLiteral.h"
+
+namespace lumerin {
 
 bool LiteralCap::IsInClass(int loadCase, int slot) const {
     if (!selection.IsCaseSelected(loadCase)) return false;
@@ -281,3 +284,5 @@ void LiteralCap::MomentAtBearings() {
         }
     }
 }
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "support/Searches.h"
+
+namespace lumerin {
 
 // The cap searches in their plainest form: one search over the load cases for each class, sense and side,
 // step by step, every value looked up anew. Slow and long on purpose; the searches of the product must agree
@@ -63,3 +66,5 @@ class LiteralCap {
     void Store(CCapEntry& entry, const Candidate& chosen, const Outcome& outcome, bool atNode,
                int node) const;
 };
+
+}  // namespace lumerin

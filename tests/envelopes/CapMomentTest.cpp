@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
 #include "support/Searches.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -207,3 +210,5 @@ TEST(CapMomentBearings, ClassWithoutCasesGoesToTheRightSide) {
     EXPECT_EQ(model.results.momentBearings.At(0, 1, 0, kMax).record,
               Record(-1, 3, 0, 23, kEndI, 5, kCapSpan, 0));
 }
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 // The lists of sections along a cap, and their order with the bearings.
 #include <gmock/gmock.h>
 
 #include "support/Searches.h"
+
+namespace lumerin {
 
 using testing::ElementsAre;
 
@@ -124,3 +127,5 @@ TEST(CapPoints, SingleColumnHasNoRightFaceInTheMomentList) {
     model.ComputeMoment();
     EXPECT_EQ(model.results.momentSupportX, (std::vector<double>{8, 10, 0}));
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -5,6 +6,8 @@
 
 #include "CapLiteral.h"
 #include "support/Searches.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -109,3 +112,5 @@ TEST(CapProperty, OneWalkAgreesWithTheSearchForEachClassAndSense) {
         }
     }
 }
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
 #include "support/Searches.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -271,3 +274,5 @@ TEST(CapShearBearings, SecondRowHasItsOwnRecords) {
     // The shorter row's place in the longer dimension is never written.
     EXPECT_EQ(model.results.shearBearings.At(1, 0, 0, kMax).record, CCapRecord{});
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // The searches of whole tables: over all substructures, then the check that may make a table invalid.
 #include "envelopes/Collect.h"
 
 #include <gtest/gtest.h>
 
 #include "support/Searches.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -151,3 +154,5 @@ TEST_F(Collect, WithoutPiersNothingHappens) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 // Greatest tension and compression at the pile heads. The head is the J end of a pile's element 0.
 #include <gtest/gtest.h>
 
 #include "support/Searches.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -160,3 +163,5 @@ TEST(PileHeads, ClassesOutsideTheFamilyAndPilesWithoutElementsAreLeftOut) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The result tables as a caller of the searches makes them.
 #include "envelopes/ResultTables.h"
 
@@ -5,6 +6,8 @@
 
 #include "support/CapModel.h"
 #include "support/Model.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -93,3 +96,5 @@ TEST(ResultTables, KeepTheirEntriesApartAndTheirBounds) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // Highest D/C ratio and extreme forces of each cross section.
 #include <gtest/gtest.h>
 
 #include <limits>
 
 #include "support/Searches.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -257,3 +260,5 @@ TEST(SectionMaxima, EmptyPiersAreSearchedInPeace) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // The one pass over the elements against the rules written out: one walk for each section, slot and extreme.
 #include <gtest/gtest.h>
 
 #include <random>
 
 #include "support/Searches.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -241,3 +244,5 @@ TEST_P(SectionPass, PileHeadsFindWhatSeparateWalksFind) {
 INSTANTIATE_TEST_SUITE_P(RandomModels, SectionPass, testing::Range(1U, 41U));
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A process of its own for steps that take rights or room from a test, or end it.
 #pragma once
 
@@ -11,6 +12,8 @@
 #include <csignal>
 #include <cstdio>
 #include <functional>
+
+namespace lumerin {
 
 // How a child ended, as waitpid says it.
 inline int StatusOfChild(const std::function<void()>& steps) {
@@ -47,3 +50,5 @@ inline bool GiveUpRoot() {
     __user_cap_data_struct none[2]{};
     return syscall(SYS_capset, &who, none) == 0;
 }
+
+}  // namespace lumerin

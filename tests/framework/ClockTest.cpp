@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "framework/Clock.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +9,8 @@
 #include <string>
 
 #include "framework/headless/Headless.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -73,3 +76,5 @@ TEST(Clock, IsTheMachinesWithoutASetting) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

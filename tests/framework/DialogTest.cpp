@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include "framework/TestDialog.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -283,3 +286,5 @@ TEST_F(DialogTest, ViewerSettingsAreAbsentUntilSet) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "framework/headless/EditKeys.h"
 
 #include <gtest/gtest.h>
 
 #include "framework/headless/Headless.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -135,3 +138,5 @@ TEST_F(EditKeys, AnEditOfDigitsTakesDigitsAlone) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

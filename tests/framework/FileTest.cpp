@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "framework/File.h"
 
 #include <gmock/gmock.h>
@@ -8,6 +9,8 @@
 #include <fstream>
 
 #include "support/ScratchFolder.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -113,3 +116,5 @@ TEST_F(FileTest, OpeningAgainLeavesTheFileBefore) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

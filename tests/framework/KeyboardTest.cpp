@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 // The keyboard of a dialog without a screen.
 #include "framework/Keys.h"
 #include "framework/TestDialog.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -105,3 +108,5 @@ TEST_F(KeyboardTest, AButtonHasNoUseForTextsAndArrows) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <gtest/gtest.h>
@@ -8,6 +9,8 @@
 
 #include "framework/File.h"
 #include "framework/headless/Headless.h"
+
+namespace lumerin {
 
 // A dialog with one control of each kind; it writes down the notices that reach it.
 
@@ -73,3 +76,5 @@ class HeadlessTest : public testing::Test {
 
     headless::RecordingSink sink;
 };
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "framework/WholeFile.h"
 
 #include <fcntl.h>
@@ -12,6 +13,8 @@
 
 #include "framework/ChildProcess.h"
 #include "framework/WholeFilePlatform.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -268,3 +271,5 @@ TEST_F(WholeFileTest, TemporaryNamesAreShort) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

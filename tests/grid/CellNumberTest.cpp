@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "grid/CellNumber.h"
 
 #include <gtest/gtest.h>
 
 #include <limits>
 #include <string>
+
+namespace lumerin {
 
 namespace {
 
@@ -67,3 +70,5 @@ TEST(CellNumber, ThePlaceOfThePointDecidesWithTheExponentWhatIsBeyondTheRange) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "grid/EditText.h"
 
 #include <gtest/gtest.h>
 
 #include "framework/headless/EditKeys.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -104,3 +107,5 @@ TEST(NumberFilter, ControlCharactersAreRefused) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

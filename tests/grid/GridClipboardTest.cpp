@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "GridFixture.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -134,3 +137,5 @@ TEST_F(GridClipboard, DeleteDoesNothingInAGridThatIsNotEditable) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

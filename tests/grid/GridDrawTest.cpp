@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 // What lies where when the window is painted: lines, backgrounds, texts, the frame of the focus.
 #include <cstdio>
 #include <vector>
 
 #include "GridFixture.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -161,3 +164,5 @@ TEST_F(GridDraw, ACellHasAPlaceAsLongAsItIsNotScrolledOut) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

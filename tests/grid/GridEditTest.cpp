@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "GridFixture.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -336,3 +339,5 @@ TEST_F(GridEdit, ACellIsNotThereAcceptsAnyText) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <gmock/gmock.h>
@@ -9,6 +10,8 @@
 #include "grid/GridCellNumeric.h"
 #include "grid/GridCtrl.h"
 #include "grid/headless/HeadlessGrid.h"
+
+namespace lumerin {
 
 // A grid in a window of a given size without a screen: a character is 6 pixels wide, a scroll bar 17. Rows
 // are 20 high and columns 50 wide, and each cell holds its place, such as "r1c2".
@@ -50,3 +53,5 @@ inline constexpr KeyState kCtrl{false, true};
 inline void PrintTo(const CCellID& cell, std::ostream* out) {
     *out << "(" << cell.row << ", " << cell.column << ")";
 }
+
+}  // namespace lumerin

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "GridFixture.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -221,3 +224,5 @@ TEST_F(GridFocus, AnEmptyGridTakesEveryKey) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,5 +1,8 @@
+// SPDX-License-Identifier: MIT
 // The mouse on the grid: which cell a press finds, what a drag and its loss do, and the title tip below it.
 #include "GridFixture.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -303,3 +306,5 @@ TEST_F(GridTip, ACellThatIsEditedHasNone) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

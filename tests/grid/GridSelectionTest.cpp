@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "GridFixture.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -152,3 +155,5 @@ TEST_F(GridSelection, KeysPackColumnAndRowApart) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include <chrono>
 #include <stdexcept>
 
 #include "GridFixture.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -262,3 +265,5 @@ TEST_F(GridStore, ACellIsSmall) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

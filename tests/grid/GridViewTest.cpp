@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the grid and its helpers draw and show: title tip, link label, off-screen drawing, printing.
 #include <vector>
 
@@ -5,6 +6,8 @@
 #include "grid/GridHelpers.h"
 #include "grid/Label.h"
 #include "grid/MemDC.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -211,3 +214,5 @@ TEST_F(GridView, FittedColumnsFillTheWindowBesideTheScrollBar) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
 #include <numeric>
 #include <vector>
 
 #include "grid/GridHelpers.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -36,3 +39,5 @@ TEST(SplitWidths, WithoutWeightsLeaveTheColumnsAlone) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include "support/CapModel.h"
+
+namespace lumerin {
 
 using testing::ElementsAre;
 
@@ -130,3 +133,5 @@ TEST(CapBearings, ListNeverGrowsPastItsLength) {
     EXPECT_EQ(model.pier.m_nCapBearings, 2);
     EXPECT_THAT(Locations(model.pier.m_BearingList), ElementsAre(Row{0, 1, 1, 0}, Row{0, 3, 1, 1}));
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include <climits>
@@ -5,6 +6,8 @@
 #include "model/CapChain.h"
 #include "support/CapModel.h"
 #include "support/Messages.h"
+
+namespace lumerin {
 
 using testing::ElementsAre;
 
@@ -178,3 +181,5 @@ TEST(CapPlaces, NodesOutsideTheListHaveCoordinateZero) {
     EXPECT_DOUBLE_EQ(model.pier.NodeCoordinate(13, 3), 0.0);
     EXPECT_DOUBLE_EQ(model.pier.NodeCoordinate(INT_MIN, 0), 0.0);
 }
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
 #include "support/CapModel.h"
+
+namespace lumerin {
 
 TEST(CapSupports, PierWithCantilevers) {
     const CapModel model(TwoColumns());
@@ -153,3 +156,5 @@ TEST(CapSupports, UnknownSupportsGiveNothing) {
     EXPECT_DOUBLE_EQ(model.pier.GetSupportX(2), 0.0);
     EXPECT_DOUBLE_EQ(model.pier.GetSupportWidth(2), 0.0);
 }
+
+}  // namespace lumerin

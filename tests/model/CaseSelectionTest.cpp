@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // Which cases take part in the tables, and the limit classes that have one.
 #include "model/CaseSelection.h"
 
 #include <gtest/gtest.h>
 
 #include "support/Model.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -99,3 +102,5 @@ TEST(LimitClasses, ACaseIsSearchedInItsClassOrWithoutCombinationsInTheFirstSlot)
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What the data set answers of the project: words, sections and the tables that apply.
 #include "model/DataSet.h"
 
@@ -8,6 +9,8 @@
 
 #include "model/Applicability.h"
 #include "support/Model.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -233,3 +236,5 @@ TEST_F(DataSet, TheReportAndTheTitlePageAreNeverCounted) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

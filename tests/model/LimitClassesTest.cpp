@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Limit states by family: their names and their classes.
 #include "model/LimitStates.h"
 
@@ -5,6 +6,8 @@
 
 #include <initializer_list>
 #include <utility>
+
+namespace lumerin {
 
 namespace {
 
@@ -56,3 +59,5 @@ TEST(LimitStates, ClassesFollowTheCodesOfTheirFamily) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "model/LimitStates.h"
 
 #include <gtest/gtest.h>
+
+namespace lumerin {
 
 TEST(Combinations, TheNamesFollowTheCodes) {
     EXPECT_EQ(LimitStateName(101), "STRENGTH-I");
@@ -13,3 +16,5 @@ TEST(Combinations, TheNamesFollowTheCodes) {
     EXPECT_EQ(LimitStateName(310), "LFD-GROUP-IX");
     for (const int code : {0, 100, 114, 200, 212, 300, 319}) EXPECT_EQ(LimitStateName(code), "ERROR 1");
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A substructure's members, forces and limit classes.
 #include "model/Pier.h"
 
@@ -6,6 +7,8 @@
 #include <algorithm>
 
 #include "support/Model.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -215,3 +218,5 @@ TEST(LimitClasses, HaveTheSlotsOfTheFamily) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

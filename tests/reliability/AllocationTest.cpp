@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "framework/WholeFilePlatform.h"
 #include "reliability/FaultyCalls.h"
 #include "session/Launch.h"
 #include "support/BrokenProject.h"
+
+namespace lumerin {
 
 // The Nth allocation fails, for N = 1, 2, 3 ... until a run passes clean: no run may end the process, and
 // the run behind it must be whole again.
@@ -72,3 +75,5 @@ TEST(Allocation, NoFailureEndsTheProcessOrCutsADocumentAndTheNextRunIsWhole) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

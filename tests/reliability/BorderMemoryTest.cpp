@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "framework/TestDialog.h"
 #include "grid/GridFixture.h"
 #include "reliability/FaultyCalls.h"
+
+namespace lumerin {
 
 // What the borders and the grid do where memory runs out inside of them.
 
@@ -132,3 +135,5 @@ TEST_F(GridMemory, AnEditThatCanNotEndIsOverAndTheCellKeepsItsText) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "reliability/FaultyCalls.h"
 
 #include <sys/types.h>
@@ -9,7 +10,7 @@
 #include <cstdlib>
 #include <new>
 
-namespace faulty {
+namespace lumerin::faulty {
 
 std::atomic<long> g_allocationsLeft{-1};
 long g_writesLeft = -1;
@@ -22,12 +23,13 @@ bool FailsNow(long& left) {
 }
 
 }  // namespace
-}  // namespace faulty
+}  // namespace lumerin::faulty
 
 namespace {
 
 void* Allocate(std::size_t bytes) {
-    if (faulty::g_allocationsLeft >= 0 && faulty::g_allocationsLeft-- == 0) throw std::bad_alloc();
+    if (lumerin::faulty::g_allocationsLeft >= 0 && lumerin::faulty::g_allocationsLeft-- == 0)
+        throw std::bad_alloc();
     void* memory = std::malloc(bytes == 0 ? 1 : bytes);
     if (memory == nullptr) throw std::bad_alloc();
     return memory;
@@ -68,11 +70,11 @@ extern "C" {
 ssize_t __real_write(int file, const void* from, std::size_t bytes);
 
 ssize_t __wrap_write(int file, const void* from, std::size_t bytes) {
-    if (faulty::FailsNow(faulty::g_writesToDeath)) {
+    if (lumerin::faulty::FailsNow(lumerin::faulty::g_writesToDeath)) {
         const ssize_t stored = __real_write(file, from, bytes / 2);
         return kill(getpid(), SIGKILL) == 0 ? stored : -1;
     }
-    if (!faulty::FailsNow(faulty::g_writesLeft)) return __real_write(file, from, bytes);
+    if (!lumerin::faulty::FailsNow(lumerin::faulty::g_writesLeft)) return __real_write(file, from, bytes);
     const ssize_t stored = __real_write(file, from, bytes / 2);
     errno = ENOSPC;
     return stored < 0 ? stored : -1;

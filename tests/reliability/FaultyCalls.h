@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 // Calls of the C library that a test lets fail. The linker sends the product's own calls through here.
 #pragma once
 
 #include <atomic>
+
+namespace lumerin {
 
 namespace faulty {
 
@@ -12,3 +15,5 @@ extern long g_writesLeft;  // of files: the failing call stores half of its byte
 extern long g_writesToDeath;
 
 }  // namespace faulty
+
+}  // namespace lumerin

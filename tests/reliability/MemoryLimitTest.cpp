@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -5,6 +6,8 @@
 #include <filesystem>
 
 #include "support/BrokenProject.h"
+
+namespace lumerin {
 
 // Memory grows with the elements, not with the force file: a process that has less room than the file takes
 // makes the same report.
@@ -44,3 +47,5 @@ TEST(MemoryLimit, AForceFileMayBeLargerThanTheRoomOfTheProcess) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

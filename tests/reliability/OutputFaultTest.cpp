@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -10,6 +11,8 @@
 #include "framework/WholeFilePlatform.h"
 #include "reliability/FaultyCalls.h"
 #include "support/BrokenProject.h"
+
+namespace lumerin {
 
 // Files that can't be written: the program names each, ends with a status other than zero, and leaves the
 // earlier file as it was.
@@ -318,3 +321,5 @@ TEST(OutputFault, PathsOfAnyWordsGiveTheSameFiles) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

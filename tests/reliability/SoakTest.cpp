@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include <malloc.h>
 
 #include <cstdlib>
 
 #include "cli/DriveCommand.h"
 #include "support/BrokenProject.h"
+
+namespace lumerin {
 
 // One process opens the dialogs, presses every button and closes them, again and again, as the host does
 // through a long day. LUMERIN_SOAK_ROUNDS sets the number of rounds.
@@ -90,3 +93,5 @@ TEST(Soak, MemoryAndOpenFilesDoNotGrow) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

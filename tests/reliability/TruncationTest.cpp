@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -8,6 +9,8 @@
 
 #include "cli/EmbedmentCommand.h"
 #include "support/BrokenProject.h"
+
+namespace lumerin {
 
 // Files that were cut, counts that lie, bytes that changed: the project loads, or one message says why not.
 
@@ -159,3 +162,5 @@ INSTANTIATE_TEST_SUITE_P(Samples, Truncation, testing::Values("pier", "bent", "b
                          [](const auto& preset) { return std::string(preset.param); });
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
 #include <cstddef>
@@ -11,6 +12,8 @@
 #include "samples/Presets.h"
 #include "samples/Project.h"
 #include "support/ScratchFolder.h"
+
+namespace lumerin {
 
 // A force file of many pieces must come out as if it had been read in one.
 namespace {
@@ -93,3 +96,5 @@ TEST_F(BigForceFile, ANumberThatIsNotFiniteIsNoticedAnywhereInTheFile) {
         put(before);
     }
 }
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <chrono>
 
 #include "support/ResultProject.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -236,3 +239,5 @@ TEST(Combinations, NamesGoToTheFirstSubstructureAndClassesToEach) {
     EXPECT_EQ(project.Data().m_Piers[1].m_LoadCases[0].m_sLimitState, "none");
     EXPECT_EQ(project.Data().m_Piers[0].m_LoadCases[0].m_sLimitState, "EXTREME-I");
 }
+
+}  // namespace lumerin

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "support/ResultProject.h"
+
+namespace lumerin {
 
 // Element numbers, node numbers and sections of a substructure, worked out on the drawing of MakePier.
 
@@ -137,3 +140,5 @@ TEST(Identity, AMastsAndWallsSectionsStandInTheFirstColumnAlone) {
     EXPECT_EQ(pier.Element(pier.ColumnElement(1, 0)).m_nSection, 0);
     EXPECT_EQ(pier.Element(pier.ColumnElement(0, 0)).m_nElementNumber, 9);
 }
+
+}  // namespace lumerin

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "support/ResultProject.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -208,3 +211,5 @@ TEST(LoadProject, EveryTruncationOfEverySequentialFileLoadsOrIsNamed) {
         }
     }
 }
+
+}  // namespace lumerin

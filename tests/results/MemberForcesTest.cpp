@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include <cmath>
 #include <limits>
 
 #include "support/ResultProject.h"
+
+namespace lumerin {
 
 // Which record of the force file feeds which element, and with which sign.
 
@@ -263,3 +266,5 @@ TEST(MemberForces, AForceFileWithoutRecordsGivesZerosWithTurnedSigns) {
         }
     });
 }
+
+}  // namespace lumerin

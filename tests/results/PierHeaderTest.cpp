@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include <climits>
 #include <cstring>
 
 #include "support/ResultProject.h"
+
+namespace lumerin {
 
 // What the pile file, the pile model file and the convergence file make of a substructure.
 
@@ -429,3 +432,5 @@ TEST(Bearings, NoEntriesGiveTwoRowsOfNone) {
     EXPECT_EQ(project.Pier().m_nBearingRows, 2);
     EXPECT_TRUE(project.Pier().m_BearingRows[1].m_Bearings.empty());
 }
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <string>
 
 #include "support/ResultProject.h"
+
+namespace lumerin {
 
 // The sections of the keyed text file, with the widths that the cap faces are worked out from.
 
@@ -217,3 +220,5 @@ TEST(KeyedText, ALineThatIsTooLongEndsTheScan) {
     ASSERT_TRUE(project.Load());
     EXPECT_EQ(project.Data().m_sProjectN, "legal");
 }
+
+}  // namespace lumerin

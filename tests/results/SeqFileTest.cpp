@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "results/SeqFile.h"
 
 #include <numeric>
 
 #include "support/ResultProject.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -149,3 +152,5 @@ TEST(DirFile, ReadsNumberedRecordsAndKeepsTheLastPastTheEnd) {
     EXPECT_EQ(record, "bbbb");
     EXPECT_THROW(file.Read(record.data(), 0), CFileException);
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Places along the cap: what the faces of supports and the bearings meet in the presets.
 #include <gtest/gtest.h>
 
@@ -5,6 +6,8 @@
 
 #include "ProjectReader.h"
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -145,3 +148,5 @@ TEST(Bearings, OtherPresetsHaveOneRowOrNone) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Forces in the samples: statics by hand, continuity along members, and sizes an engineer would accept.
 #include <gtest/gtest.h>
 
@@ -8,6 +9,8 @@
 #include "samples/CapForces.h"
 #include "samples/Geometry.h"
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -256,3 +259,5 @@ TEST(PierForces, ConnectorsShareTheColumnsFoot) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Sequential files, byte by byte.
 #include <gtest/gtest.h>
 
@@ -5,6 +6,8 @@
 #include "samples/OutputFile.h"
 #include "samples/ResultFiles.h"
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 using samples::Record;
 using samples::SequentialFile;
@@ -95,3 +98,5 @@ TEST_F(Framing, FolderThatIsMissingIsToldByName) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Node and element numbers: the element table must agree with the walk by which its readers number members.
 #include <gtest/gtest.h>
 
@@ -6,6 +7,8 @@
 
 #include "ProjectReader.h"
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -229,3 +232,5 @@ TEST(Sections, TellConnectorsColumnsAndCapApart) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

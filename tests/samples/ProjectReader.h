@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A reader of project files for the tests, written apart from the sample maker: it walks the bytes itself.
 #pragma once
 
@@ -10,6 +11,8 @@
 #include <stdexcept>
 #include <string>
 #include <vector>
+
+namespace lumerin {
 
 namespace reader {
 
@@ -225,3 +228,5 @@ class Forces {
 };
 
 }  // namespace reader
+
+}  // namespace lumerin

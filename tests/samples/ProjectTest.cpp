@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The program as a whole: the study, repeatability, leftovers and messages.
 #include <gtest/gtest.h>
 
@@ -8,6 +9,8 @@
 #include "ProjectReader.h"
 #include "samples/CommandLine.h"
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -196,3 +199,5 @@ TEST(CommandLine, FolderThatCannotBeMadeIsNamed) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

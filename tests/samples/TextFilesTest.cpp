@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Combinations, limit states and the keyed files.
 #include <gtest/gtest.h>
 
@@ -8,6 +9,8 @@
 #include "ProjectReader.h"
 #include "samples/LoadCases.h"
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 using samples::CodeFamily;
 using samples::DistributeLimitStates;
@@ -183,3 +186,5 @@ TEST(KeyedFile, LinesStayBelowTheReadersLimit) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

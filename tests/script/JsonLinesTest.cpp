@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "script/JsonLines.h"
 
 #include <gtest/gtest.h>
 
 #include <sstream>
+
+namespace lumerin {
 
 namespace {
 
@@ -110,3 +113,5 @@ TEST_F(JsonLinesTest, TextsAreOfTheCodePageAndPathsAsGiven) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

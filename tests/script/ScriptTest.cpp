@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "script/Script.h"
 
 #include <gmock/gmock.h>
+
+namespace lumerin {
 
 namespace {
 
@@ -196,3 +199,5 @@ TEST(Script, NamesTheLineOfAFault) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <vector>
 
 #include "support/ReportDialogFixture.h"
+
+namespace lumerin {
 
 using headless::HeadlessDialog;
 
@@ -54,3 +57,5 @@ TEST_F(EnvelopeSamples, EveryCapOfABridgeHasItsEnvelopes) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <thread>
 
 #include "support/ReportDialogFixture.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -150,3 +153,5 @@ TEST_F(LaunchTest, ASecondCallReadsItsOwnProject) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "session/ChoseLoadCasesDlg.h"
 
 #include <gmock/gmock.h>
@@ -14,6 +15,8 @@
 #include "session/DesignerDlg.h"
 #include "session/Session.h"
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -362,3 +365,5 @@ TEST_F(LoadCaseDialog, InPdfFormatTheGridGoesToTheImageBuilder) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // How output files are named, how viewers start and how a failed start is worded.
 #include "session/OutputFiles.h"
 
@@ -15,6 +16,8 @@
 #include "support/Forces.h"
 #include "support/ScratchFolder.h"
 #include "writers/PdfExport.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -292,3 +295,5 @@ TEST_F(OutputFiles, OnlyTwoModesTurnThePrinter) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

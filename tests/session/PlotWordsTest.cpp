@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "session/PlotWords.h"
 
 #include <gtest/gtest.h>
+
+namespace lumerin {
 
 namespace {
 
@@ -45,3 +48,5 @@ TEST(PlotWords, AnEmptyModelHasNone) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

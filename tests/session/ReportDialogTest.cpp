@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -5,6 +6,8 @@
 #include <fstream>
 
 #include "support/ReportDialogFixture.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -564,3 +567,5 @@ TEST_F(ReportRunTest, EveryButtonRunsOnTheEmptyModelOfAFailedLoad) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The session's paths, as they are derived from what the host passes.
 #include "session/Session.h"
 
@@ -5,6 +6,8 @@
 
 #include "framework/headless/Headless.h"
 #include "session/Constants.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -140,3 +143,5 @@ TEST(ResetSession, ReturnsToTheStartValuesAndSkipsASecondLoad) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

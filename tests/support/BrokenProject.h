@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A small sample project whose files a test breaks, and the whole program's answer to it.
 #pragma once
 
@@ -17,6 +18,8 @@
 #include "framework/headless/Headless.h"
 #include "session/Constants.h"
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 // The sanitizers make every step several times slower, so the tests that walk through all bytes or all
 // allocations take wider steps under them, and leave the process's memory alone.
@@ -137,3 +140,5 @@ inline testing::AssertionResult IsLoadedOrOneClearMessage(const Answer& answer, 
     if (clear || rest.starts_with("No load cases converged")) return testing::AssertionSuccess();
     return testing::AssertionFailure() << "unclear: " << line;
 }
+
+}  // namespace lumerin

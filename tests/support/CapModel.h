@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstddef>
 #include <vector>
 
 #include "support/Model.h"
+
+namespace lumerin {
 
 // A cap built by hand. Its nodes are in the node list as the results list them: the first column, the left
 // cantilever, then span after span with the column after it, the right cantilever last; in a bent the pile
@@ -155,3 +158,5 @@ inline CapShape TwoPileBent() {
     shape.foundationNodes = 0;
     return shape;
 }
+
+}  // namespace lumerin

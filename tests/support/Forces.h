@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <algorithm>
@@ -9,6 +10,8 @@
 
 #include "model/DataSet.h"
 #include "results/ForceSource.h"
+
+namespace lumerin {
 
 // The forces of a substructure that was built by hand, in memory. Those that were not set are 0.
 class MemoryForces : public ForceSource {
@@ -95,3 +98,5 @@ class ModelForces {
     ForceSources m_sources;
     std::vector<MemoryForces*> m_forces;
 };
+
+}  // namespace lumerin

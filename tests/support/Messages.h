@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 #include <vector>
 
 #include "text/Messages.h"
+
+namespace lumerin {
 
 // Keeps what a reader or a search has to say, in the order of the calls.
 class RecordedMessages : public Messages {
@@ -12,3 +15,5 @@ class RecordedMessages : public Messages {
 
     std::vector<std::string> texts;
 };
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <algorithm>
@@ -7,6 +8,8 @@
 
 #include "model/CaseSelection.h"
 #include "model/DataSet.h"
+
+namespace lumerin {
 
 // Substructures built by hand: members of a few elements.
 
@@ -80,3 +83,5 @@ inline CaseSelection SelectionWithClasses(const std::vector<int>& classes, int c
     for (std::size_t i = 0; i < classes.size(); ++i) SetClass(project.pier, static_cast<int>(i), classes[i]);
     return CaseSelection(project.data);
 }
+
+}  // namespace lumerin

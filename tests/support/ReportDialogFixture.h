@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,6 +12,8 @@
 #include "session/Launch.h"
 #include "session/Session.h"
 #include "support/SampleFolder.h"
+
+namespace lumerin {
 
 // Runs the report dialog without a screen; what it tells and starts lies in the sink.
 class ReportDialogTest : public testing::Test {
@@ -82,3 +85,5 @@ class ReportDialogTest : public testing::Test {
         });
     }
 };
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <gtest/gtest.h>
@@ -14,6 +15,8 @@
 #include "tables/Report.h"
 #include "tables/TableText.h"
 #include "text/Format.h"
+
+namespace lumerin {
 
 // What a report is written from, built by hand, a clock that is held, and the written file read back.
 class ReportTest : public testing::Test {
@@ -103,3 +106,5 @@ class ReportTest : public testing::Test {
     std::unique_ptr<RowReader> rowReader;  // of the last report
     int m_nLines = -1;
 };
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A small project whose files are written byte by byte, so that a test says exactly what stands in them.
 #pragma once
 
@@ -17,6 +18,8 @@
 #include "results/LoadProject.h"
 #include "support/Messages.h"
 #include "support/ScratchFolder.h"
+
+namespace lumerin {
 
 // Bytes of a sequential file: the mark, then records in frames of at most 128 bytes.
 class SeqBytes {
@@ -223,3 +226,5 @@ inline ResultSubstructure MakePier() {
     for (int i = 0; i < 10; ++i) sub.rows.push_back({9 + i, 0, 0, sections[i]});
     return sub;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <filesystem>
@@ -6,6 +7,8 @@
 #include "samples/Presets.h"
 #include "samples/Project.h"
 #include "support/ScratchFolder.h"
+
+namespace lumerin {
 
 // A place for sample projects; the first that is written makes the folder.
 class SampleFolder {
@@ -29,3 +32,5 @@ class SampleFolder {
     ScratchFolder m_scratch;
     std::filesystem::path m_path = m_scratch.Path() / "samples";
 };
+
+}  // namespace lumerin

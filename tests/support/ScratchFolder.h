@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <gtest/gtest.h>
@@ -9,6 +10,8 @@
 #include <iterator>
 #include <stdexcept>
 #include <string>
+
+namespace lumerin {
 
 // A folder of the test that runs, empty at first and removed with the object. Its name is that of the test
 // and a few letters that no other folder has, so that test programs can run side by side.
@@ -46,3 +49,5 @@ class ScratchFolder {
   private:
     std::filesystem::path m_path;
 };
+
+}  // namespace lumerin

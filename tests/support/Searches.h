@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <limits>
@@ -10,6 +11,8 @@
 #include "support/Forces.h"
 #include "support/Messages.h"
 #include "support/Model.h"
+
+namespace lumerin {
 
 // Substructures with what the searches take and fill.
 
@@ -103,3 +106,5 @@ inline void PrintTo(const CMaxRecord& r, std::ostream* out) {
     *out << "{case " << r.m_nLoadCase << ", member " << r.m_nMember << ", element " << r.m_nElement
          << " (number " << r.m_nElementNumber << "), end " << r.m_nEnd << ", node " << r.m_nNode << "}";
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,6 +11,8 @@
 #include "framework/headless/Headless.h"
 #include "session/Constants.h"
 #include "support/StudyFolder.h"
+
+namespace lumerin {
 
 // A project folder with the files of a study, and a data set of one substructure with six cases.
 class StudyTest : public testing::Test, public StudyFolder {
@@ -73,3 +76,5 @@ class StudyTest : public testing::Test, public StudyFolder {
     CaseSelection selection;
     bool allCases = true;
 };
+
+}  // namespace lumerin

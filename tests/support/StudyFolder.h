@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,6 +8,8 @@
 
 #include "support/Messages.h"
 #include "support/ScratchFolder.h"
+
+namespace lumerin {
 
 // A folder with the files of an embedment study.
 class StudyFolder : public ScratchFolder {
@@ -26,3 +29,5 @@ class StudyFileTest : public testing::Test, public StudyFolder {
   protected:
     RecordedMessages messages;
 };
+
+}  // namespace lumerin

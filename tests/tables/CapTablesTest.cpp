@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "support/ReportFixture.h"
+
+namespace lumerin {
 
 // Tables 3 and 4, on result tables filled by hand.
 namespace {
@@ -294,3 +297,5 @@ TEST_F(CapTables, AnEmptyHeadLeavesTwoEmptyLinesAndCountsThree) {
     EXPECT_NE(text.find("Supports\n\n\n\n\n    Col 1 LF  miss"), std::string::npos);
     EXPECT_EQ(m_nLines, 3 + (4 + 3 + 1) + 3 + (4 + 3 + 1) + 4 + 5);
 }
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "tables/Catalogue.h"
 
 #include "support/ReportFixture.h"
 #include "tables/Words.h"
+
+namespace lumerin {
 
 class Catalogue : public ReportTest {
   protected:
@@ -165,3 +168,5 @@ TEST_F(Catalogue, TheTitlePageStandsInTheMiddleOfAPage) {
                                 Blanks(60) + "Tarnsway Version 5.2.1\n" +          // 120 / 2
                                 Blanks(56) + "on Saturday, November 14, 2026\n");  // 112 / 2
 }
+
+}  // namespace lumerin

@@ -1,5 +1,8 @@
+// SPDX-License-Identifier: MIT
 #include "support/ReportFixture.h"
 #include "tables/TableLayout.h"
+
+namespace lumerin {
 
 class ColumnHeads : public ReportTest {
   protected:
@@ -118,3 +121,5 @@ TEST_F(ColumnHeads, LimitStatesComeFromTheFirstSubstructure) {
     EXPECT_EQ(LimitStateOf(data, 2), "none");
     EXPECT_EQ(LimitStateOf(data, -1), "none");
 }
+
+}  // namespace lumerin

@@ -1,5 +1,8 @@
+// SPDX-License-Identifier: MIT
 #include "support/ReportFixture.h"
 #include "tables/Catalogue.h"
+
+namespace lumerin {
 
 using Dates = ReportTest;
 
@@ -31,3 +34,5 @@ TEST_F(Dates, TimesKeepTheTwentyFourHourNumber) {
     clock = LocalTime{2026, 11, 14, 6, 0, 0, 0};
     EXPECT_EQ(TimeText(0, clock), "0:00:00 AM");
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "tables/EnvelopeFile.h"
 
 #include <gmock/gmock.h>
 
 #include "support/ReportFixture.h"
 #include "support/Searches.h"
+
+namespace lumerin {
 
 using testing::AllOf;
 using testing::Contains;
@@ -293,3 +296,5 @@ TEST_F(EnvelopeFile, StreamThatCannotBeOpenedTakesNothing) {
     EXPECT_FALSE(out.IsOpen());
     EXPECT_FALSE(scratch.Has("no such folder"));
 }
+
+}  // namespace lumerin

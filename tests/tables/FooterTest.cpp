@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "support/ReportFixture.h"
 #include "tables/Catalogue.h"
 #include "text/Paths.h"
+
+namespace lumerin {
 
 class Footer : public ReportTest {
   protected:
@@ -96,3 +99,5 @@ TEST_F(Footer, TheRoomIsWhatTheTextBeforeAndItsSeparatorLeave) {
     // "v5.2.1, " takes 8 of 81: 73 are left, as many as the bare name has.
     EXPECT_EQ(FooterText(options), "v5.2.1, ");
 }
+
+}  // namespace lumerin

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "support/ReportFixture.h"
+
+namespace lumerin {
 
 // Tables 5, 6 and 7: the extremes of the six forces of each property.
 namespace {
@@ -164,3 +167,5 @@ TEST_F(ForceTables, ResultTablesThatAreTooSmallPrintNone) {
     Text(kTablePileForces);
     EXPECT_EQ(m_nLines, 3 + 2 + 2 * (2 + 3 + 12 + 1 + 12 + 2));
 }
+
+}  // namespace lumerin

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "support/ReportFixture.h"
+
+namespace lumerin {
 
 class PileHeadTable : public ReportTest {
   protected:
@@ -97,3 +100,5 @@ TEST_F(PileHeadTable, ADisabledTableAndAnEmptyProjectWriteNothing) {
     EXPECT_EQ(Write(), "");
     EXPECT_EQ(m_nLines, 0);
 }
+
+}  // namespace lumerin

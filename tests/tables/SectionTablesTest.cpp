@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "support/ReportFixture.h"
+
+namespace lumerin {
 
 // Tables 1 and 2: the greatest ratio of each property.
 namespace {
@@ -172,3 +175,5 @@ TEST_F(SectionTables, MembersInThePileArraysAreCalledColumns) {
     enabled[kTableColumnDc] = false;
     EXPECT_EQ(Text(kTableColumnDc), "");
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The words that all writers share.
 #include "tables/Words.h"
 
@@ -7,6 +8,8 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+namespace lumerin {
 
 namespace {
 
@@ -94,3 +97,5 @@ TEST(Words, ForDatesBeginTheWeekOnMonday) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

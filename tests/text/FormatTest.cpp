@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Numbers to text. The C library, under its own locale, is the judge of the formats that it knows.
 #include "text/Format.h"
 
@@ -10,6 +11,8 @@
 #include <cstdio>
 #include <limits>
 #include <random>
+
+namespace lumerin {
 
 namespace {
 
@@ -234,3 +237,5 @@ TEST(NumberTest, EqualsTheTestOfThePrintedCharacters) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

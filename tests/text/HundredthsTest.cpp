@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
 #include <array>
@@ -10,6 +11,8 @@
 #include <string>
 
 #include "text/Format.h"
+
+namespace lumerin {
 
 // Two decimals take a short way where the rounding is certain; the C library, which rounds the exact binary
 // value, is the judge here.
@@ -74,3 +77,5 @@ TEST(Hundredths, RandomFloatsAndDoublesAgreeWithTheExactWay) {
         ExpectAsJudged(static_cast<double>(random() % 4000000000ULL) / 1000.0);
     }
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Keyed lines: the line reader and the two key parsers.
 #include "text/KeyedLine.h"
 
@@ -7,6 +8,8 @@
 #include <vector>
 
 #include "support/ScratchFolder.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -214,3 +217,5 @@ TEST(KeyedValues, ThatAreNoNumberLeaveTheFieldAsItWas) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

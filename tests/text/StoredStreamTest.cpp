@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The text stream that stores its line feeds expanded, on every platform.
 #include "text/StoredStream.h"
 
@@ -10,6 +11,8 @@
 #include "framework/ChildProcess.h"
 
 #include "support/ScratchFolder.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -200,3 +203,5 @@ TEST_F(StoredText, AClearedStateHealsNoDocument) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
 #include <array>
@@ -10,6 +11,8 @@
 #include <string>
 
 #include "text/Format.h"
+
+namespace lumerin {
 
 // Twelve decimals of numbers that floats hold exactly take a short way; the C library, which rounds the exact
 // binary value, is the judge here.
@@ -97,3 +100,5 @@ TEST(TwelveDecimals, RandomForcesAgreeWithTheExactWay) {
         ExpectAsJudged(Widened((exponent << 23) | (static_cast<std::uint32_t>(random()) & 0x7FFFFFU)));
     }
 }
+
+}  // namespace lumerin

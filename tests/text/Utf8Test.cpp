@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 // UTF-8 and the Western code page. Each expected byte is that of the code page's table.
 #include "text/Utf8.h"
 
 #include <gtest/gtest.h>
+
+namespace lumerin {
 
 namespace {
 
@@ -63,3 +66,5 @@ TEST(ToWestern, BringsEachByteOfTheCodePageBack) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

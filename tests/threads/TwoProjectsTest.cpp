@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
 #include <filesystem>
@@ -17,6 +18,8 @@
 #include "tables/TableText.h"
 #include "writers/TablePdf.h"
 #include "writers/TableSheets.h"
+
+namespace lumerin {
 
 // Two projects in one process at the same time: each has its own model, selection, results and documents, and
 // what is wrong with one does not reach the other. The thread sanitizer watches this test.
@@ -99,3 +102,5 @@ TEST(TwoProjects, ABrokenOneLeavesTheOtherAsItIs) {
     EXPECT_TRUE(whole == alone);
     EXPECT_NE(fault.find("bent.PLF"), std::string::npos) << fault;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A graph control for the tests: it writes down each property and method that it is asked for, with the types
 // of the values, and reports one click. It draws nothing.
 //     LUMERIN_GRAPH_RECORD  the file of the record

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // holder.exe nothing|write FILE...: opens the files for reading and lets others do nothing with them, or read
 // and write but not replace them, until a line comes from standard input.
 #include <cstdio>
 #include <cstring>
 
 #include "host/HostWindows.h"
+
+using namespace lumerin;
 
 int main(int argc, char** argv) {
     int held = 0;

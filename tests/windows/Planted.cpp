@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // What somebody has put beside a project, as a library and as a program: it leaves a file "planted-ran" in
 // the current folder as soon as it runs, or is only loaded.
 #include <cstdio>

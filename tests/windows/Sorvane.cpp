@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // A plot module that plots nothing: it writes down the eight arguments that it was called with.
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 
 #include "host/RecordFormat.h"
+
+using namespace lumerin;
 
 extern "C" int __stdcall RecordLaunch(int format, const char* dataFile, const char* plot, const char* family,
                                       const char* version, const char* zeroA, const char* zeroB,

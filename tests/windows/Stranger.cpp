@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // stranger.exe [press]: another program on the machine that sends the module's windows what only their driver
 // may ask, without its token and with wrong ones, with pointers into the module's process and with wild ones.
 // With "press" it opens and closes the dialogs itself, in a host that has no driver. Prints what was answered
@@ -7,6 +8,8 @@
 #include <cstring>
 
 #include "host/HostWindows.h"
+
+using namespace lumerin;
 
 namespace {
 

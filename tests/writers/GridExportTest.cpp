@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "writers/GridExport.h"
 
 #include <gmock/gmock.h>
@@ -9,6 +10,8 @@
 #include "support/Messages.h"
 #include "support/ScratchFolder.h"
 #include "writers/PdfExport.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -281,3 +284,5 @@ TEST_F(GridImage, ExtraLinesFollowTheRowsAsManyAsTheNumberSays) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

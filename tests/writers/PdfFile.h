@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstdlib>
 #include <string>
 #include <vector>
+
+namespace lumerin {
 
 // A stored PDF of ours taken apart, by its marks and not by its cross-reference table, which holds no
 // offsets. A \r\n of the writer is stored as \r\r\n.
@@ -82,3 +85,5 @@ class PdfFile {
 
     std::string m_bytes;
 };
+
+}  // namespace lumerin

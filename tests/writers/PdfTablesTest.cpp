@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -11,6 +12,8 @@
 #include "writers/PdfFile.h"
 #include "writers/PdfSink.h"
 #include "writers/TablePdf.h"
+
+namespace lumerin {
 
 class PdfTables : public ReportTest {
   protected:
@@ -353,3 +356,5 @@ TEST_F(PdfTables, TheTitlePageIsADocumentOfItsOwn) {
     EXPECT_NE(file.Bytes().find("/MediaBox [ 0 0 612 792 ]"), std::string::npos);
     EXPECT_EQ(static_cast<std::size_t>(file.pages[0].declaredLength), file.pages[0].content.size());
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "writers/PdfWriter.h"
 
 #include <gtest/gtest.h>
@@ -6,6 +7,8 @@
 
 #include "support/ScratchFolder.h"
 #include "writers/PdfFile.h"
+
+namespace lumerin {
 
 class PdfWriter : public ::testing::Test {
   protected:
@@ -130,3 +133,5 @@ TEST_F(PdfWriter, TextGoesOutUnescaped) {
     const PdfFile file = Write(true, 1, "", "a(b\\c");
     EXPECT_EQ(file.pages.at(0).footer, "a(b\\c");
 }
+
+}  // namespace lumerin

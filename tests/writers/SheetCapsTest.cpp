@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include "WellFormed.h"
 #include "Worksheets.h"
 #include "writers/WorkbookFrame.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -270,8 +273,8 @@ TEST_F(SheetCaps, SecondSubstructureBringsTheSlipInTheShearTable) {
 TEST_F(SheetCaps, CoordsAccompanyATableThatStandsAlone) {
     Make();
     const std::pair<int, std::string> coords[] = {
-        {kTableCapShear, ::CoordsSheet(MakeReport(), kTableCapShear)},
-        {kTableCapMoment, ::CoordsSheet(MakeReport(), kTableCapMoment)}};
+        {kTableCapShear, lumerin::CoordsSheet(MakeReport(), kTableCapShear)},
+        {kTableCapMoment, lumerin::CoordsSheet(MakeReport(), kTableCapMoment)}};
     for (const auto& [table, sheet] : coords) {
         const std::string embedded = Written(table, true);
         EXPECT_EQ(Written(table, false), WorkbookHead(false, clock) + embedded + sheet + "</Workbook>\n");
@@ -385,3 +388,5 @@ TEST_F(SheetCapKey, SeveralSubstructuresNameTheTypesThatArePresent) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

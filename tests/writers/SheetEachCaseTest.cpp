@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include <ctime>
 
 #include "WellFormed.h"
 #include "Worksheets.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -139,3 +142,5 @@ TEST_F(SheetEachCase, ManyRowsTakeNoMemory) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include "WellFormed.h"
 #include "Worksheets.h"
 #include "writers/WorkbookFrame.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -300,7 +303,7 @@ TEST_F(CoordsSheet, FeetCountFromTheCapsStart) {
     Results().shearPointX = {36.0, 66.0};
     const std::vector<std::string> block = {Text("PierCap X Coordinates"), Text("(ft)"), "", Number("2.50"),
                                             Number("5.00")};
-    EXPECT_EQ(::CoordsSheet(MakeReport(), kTableCapShear),
+    EXPECT_EQ(lumerin::CoordsSheet(MakeReport(), kTableCapShear),
               Sheet("12", Rows(block) + Rows({"", ""}) + Rows(block)));
 }
 
@@ -310,14 +313,14 @@ TEST_F(CoordsSheet, MetresGoOutAsStored) {
     Pier().m_dLocationX = 6.0;
     Results().momentPointX = {36.0};
     const std::vector<std::string> block = {Text("BentCap X Coordinates"), Text("(m)"), "", Number("36.00")};
-    EXPECT_EQ(::CoordsSheet(MakeReport(), kTableCapMoment),
+    EXPECT_EQ(lumerin::CoordsSheet(MakeReport(), kTableCapMoment),
               Sheet("10", Rows(block) + Rows({"", ""}) + Rows(block)));
 }
 
 TEST_F(CoordsSheet, OneMastHasATitleRowWithoutCell) {
     MakePiers({{.type = kTypeMast}});
     const std::vector<std::string> block = {"", Text("(ft)"), ""};
-    EXPECT_EQ(::CoordsSheet(MakeReport(), kTableCapMoment),
+    EXPECT_EQ(lumerin::CoordsSheet(MakeReport(), kTableCapMoment),
               Sheet("8", Rows(block) + Rows({"", ""}) + Rows(block)));
 }
 
@@ -325,7 +328,7 @@ TEST_F(CoordsSheet, TwoMastsHaveTitleCellsWithoutText) {
     MakePiers({{.type = kTypeMast}, {.type = kTypeMast}});
     const std::vector<std::string> block = {Text(""), Text("(ft)"), ""};
     const std::string pier = Rows(block) + Rows({"", ""}) + Rows(block);
-    EXPECT_EQ(::CoordsSheet(MakeReport(), kTableCapMoment), Sheet("18", pier + Rows({"", ""}) + pier));
+    EXPECT_EQ(lumerin::CoordsSheet(MakeReport(), kTableCapMoment), Sheet("18", pier + Rows({"", ""}) + pier));
 }
 
 TEST_F(CoordsSheet, PierWithoutCapShowsTheTitleOfThePierBefore) {
@@ -334,10 +337,12 @@ TEST_F(CoordsSheet, PierWithoutCapShowsTheTitleOfThePierBefore) {
         const std::vector<std::string> block = {Text(title), Text("(ft)"), ""};
         return Rows(block) + Rows({"", ""}) + Rows(block);
     };
-    EXPECT_EQ(::CoordsSheet(MakeReport(), kTableCapShear),
+    EXPECT_EQ(lumerin::CoordsSheet(MakeReport(), kTableCapShear),
               Sheet("28", pier("BentCap X Coordinates: Pier 1") + Rows({"", ""}) +
                               pier("BentCap X Coordinates: Pier 1") + Rows({"", ""}) +
                               pier("PierCap X Coordinates: Pier 3")));
 }
 
 }  // namespace
+
+}  // namespace lumerin

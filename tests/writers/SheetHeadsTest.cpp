@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include <utility>
 
 #include "Worksheets.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -409,3 +412,5 @@ TEST_F(SheetHeads, ColumnHeadsNameTheDesignFamily) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

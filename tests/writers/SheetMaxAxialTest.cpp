@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include "WellFormed.h"
 #include "Worksheets.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -216,3 +219,5 @@ TEST_F(SheetMaxAxialHeadings, UnknownFamilyHasOneBlockWithoutHeading) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

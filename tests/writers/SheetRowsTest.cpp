@@ -1,5 +1,8 @@
+// SPDX-License-Identifier: MIT
 #include "Worksheets.h"
 #include "writers/SheetRows.h"
+
+namespace lumerin {
 
 // The announced rows are formulas of their own. They reach at least the rows that are written, except:
 // - table 6, a substructure without columns that is no pile bent: its blocks are written, not announced;
@@ -127,3 +130,5 @@ TEST_F(SheetRowCounts, BlockWithoutSectionOverrunsByOne) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
 #include "WellFormed.h"
 #include "Worksheets.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -304,3 +307,5 @@ TEST_F(SheetSections, ServiceCombinationsLeaveAStrayBracketInThePileRatios) {
 }
 
 }  // namespace
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cctype>
 #include <string>
 #include <vector>
+
+namespace lumerin {
 
 // Whether a text is well-formed XML, as far as workbooks use it: a declaration, processing instructions,
 // elements with quoted attributes, text, the five entities. The first fault is named; empty: well formed.
@@ -125,3 +128,5 @@ inline std::string Fault(const std::string& text) {
 }
 
 }  // namespace xml
+
+}  // namespace lumerin

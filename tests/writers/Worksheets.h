@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <gtest/gtest.h>
@@ -7,6 +8,8 @@
 
 #include "support/ReportFixture.h"
 #include "writers/TableSheets.h"
+
+namespace lumerin {
 
 // The worksheets of a MakeReport(), and readers of what was written.
 namespace sheets {
@@ -75,3 +78,5 @@ inline std::string Body(const std::string& sheet, const std::string& lastTitleTe
 }
 
 }  // namespace sheets
+
+}  // namespace lumerin

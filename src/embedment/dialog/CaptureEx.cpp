@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/dialog/CaptureEx.h"
 
 #include <array>
 
 #include "framework/WholeFile.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -76,3 +79,5 @@ bool CaptureEx::SaveBitmap(const std::string& path) const {
     return file.Write(header.Bytes().data(), header.Bytes().size()) &&
            file.Write(m_Data.data(), m_Data.size()) && file.Commit();
 }
+
+}  // namespace lumerin

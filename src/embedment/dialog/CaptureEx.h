@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <cstdint>
@@ -5,6 +6,8 @@
 #include <vector>
 
 #include "embedment/dialog/GraphHost.h"
+
+namespace lumerin {
 
 // A picture of a part of the screen: 24 bits a pixel in the order blue, green, red, rows from top to bottom.
 class CaptureEx {
@@ -33,3 +36,5 @@ namespace graphplatform {
 bool ReadScreen(const ScreenRect& rect, std::vector<std::uint8_t>& data);
 
 }  // namespace graphplatform
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/dialog/EmbedmentDialog.h"
 
 #include "embedment/dialog/MPTEDlg.h"
+
+namespace lumerin {
 
 void RunEmbedmentDialog(const EmbedmentInput& input, int format) {
     CMPTEDlg dialog(input);
@@ -8,3 +11,5 @@ void RunEmbedmentDialog(const EmbedmentInput& input, int format) {
     dialog.SetFormat(format);
     dialog.DoModal();
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 
 #include "model/CaseSelection.h"
 #include "model/DataSet.h"
+
+namespace lumerin {
 
 // What the study's dialog is opened on. The caller keeps all of it for the call.
 struct EmbedmentInput {
@@ -16,3 +19,5 @@ struct EmbedmentInput {
 // Opens the dialog of the embedment study over the project, with the report dialog's format, and returns when
 // it was closed.
 void RunEmbedmentDialog(const EmbedmentInput& input, int format);
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <functional>
@@ -6,6 +7,8 @@
 
 #include "embedment/Plot.h"
 #include "framework/Automation.h"
+
+namespace lumerin {
 
 class CNTGraphTarnsway;
 
@@ -62,3 +65,5 @@ std::unique_ptr<GraphHost> MakeHost(CNTGraphTarnsway& graph);
 void PrepareWindowClass();
 
 }  // namespace graphplatform
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/dialog/MPTEDlg.h"
 
 #include <array>
@@ -12,6 +13,8 @@
 #include "text/Paths.h"
 #include "writers/GridExport.h"
 #include "writers/PdfExport.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -246,3 +249,5 @@ void CMPTEDlg::OnExport(int) {
     const std::array<int, 3> types{kExportInteger, kExportReal2, kExportReal6};
     OpenInSpreadsheet(ExportGrid(m_input.inputFile, {title, kHeadingRows, types, 2.0}, m_Grid));
 }
+
+}  // namespace lumerin

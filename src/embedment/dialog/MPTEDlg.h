@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <span>
@@ -10,6 +11,8 @@
 #include "framework/Dialog.h"
 #include "grid/GridCtrl.h"
 #include "session/ReportState.h"
+
+namespace lumerin {
 
 extern const DialogSpec g_EmbedmentDialogSpec;  // IDD_EMBEDMENT
 
@@ -95,3 +98,5 @@ class CMPTEDlg : public CDialog {
 
 // Writes the lines into a text control, each with an empty line behind it.
 void SetNotesText(CWnd& control, std::span<const std::string> lines);
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 
 #include "embedment/ScaleAxis.h"
 #include "embedment/dialog/MPTEDlg.h"
 #include "grid/CellNumber.h"
 #include "text/Format.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -220,3 +223,5 @@ int CMPTEDlg::GridRowForX(double clicked) const {
     }
     return -1;
 }
+
+}  // namespace lumerin

@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/dialog/NTGraphTarnsway.h"
+
+namespace lumerin {
 
 CNTGraphTarnsway::CNTGraphTarnsway()
     : m_pHost(std::make_unique<PlotGraphHost>(m_plot, [this] { OnClicked(); })) {
@@ -35,3 +38,5 @@ double CNTGraphTarnsway::GetClickedX() const {
     const double* value = std::get_if<double>(&x);
     return value == nullptr ? 0.0 : *value;
 }
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <functional>
@@ -8,6 +9,8 @@
 #include "embedment/dialog/GraphHost.h"
 #include "framework/Automation.h"
 #include "framework/Window.h"
+
+namespace lumerin {
 
 // The graph of the dialog, driven by dispatch ids. It remembers the calls of the drawing that is shown.
 class CNTGraphTarnsway : public CWnd, public GraphPeer {
@@ -46,3 +49,5 @@ class CNTGraphTarnsway : public CWnd, public GraphPeer {
     WindowHandle m_hAttached = nullptr;
     std::vector<GraphCall> m_Calls;
 };
+
+}  // namespace lumerin

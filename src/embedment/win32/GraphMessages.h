@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 // What the driver of the dialogs can ask the window of the graph. wParam is the driver's token
 // (DriverToken.h), lParam the address of a record in the same process, which holds the question and receives
@@ -25,3 +28,5 @@ struct GraphPoint {
     double x = 0.0;  // of the data
     POINT place{};   // in the client area
 };
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 
 #include "framework/headless/Headless.h"
+
+namespace lumerin {
 
 // Running a dialog without a screen, and its user's actions.
 
@@ -273,3 +276,5 @@ void HeadlessDialog::Close() {
 }
 
 }  // namespace headless
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "framework/headless/EditKeys.h"
 
 #include <algorithm>
 #include <utility>
 
 #include "framework/headless/Headless.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -127,3 +130,5 @@ void TypeEditCharacter(EditBox edit, unsigned character) {
 }
 
 }  // namespace headless
+
+}  // namespace lumerin

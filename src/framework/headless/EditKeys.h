@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 
 #include "framework/Keys.h"
+
+namespace lumerin {
 
 // How the platform's edit window answers the keyboard. It keeps the two ends of its selection apart: the one
 // that stays, and the caret, which the Shift key moves alone.
@@ -26,3 +29,5 @@ unsigned CharacterOfKey(unsigned key, KeyState keys);
 void OrderSelection(int& anchor, int& caret);
 
 }  // namespace headless
+
+}  // namespace lumerin

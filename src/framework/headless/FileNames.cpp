@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <dirent.h>
 #include <sys/stat.h>
 
@@ -7,6 +8,8 @@
 #include <utility>
 
 #include "framework/File.h"
+
+namespace lumerin {
 
 // Files on a file system that tells upper from lower case.
 
@@ -73,3 +76,5 @@ bool IsFolder(const std::string& path) {
     std::error_code ignored;
     return fs::is_directory(path, ignored);
 }
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "framework/Automation.h"
 #include "framework/Backend.h"
+
+namespace lumerin {
 
 namespace headless {
 
@@ -9,3 +12,5 @@ namespace headless {
 void AttachGraph(WindowHandle window, GraphPeer& peer);
 
 }  // namespace headless
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
@@ -8,6 +9,8 @@
 #include "framework/GridView.h"
 #include "framework/Keys.h"
 #include "framework/MouseAction.h"
+
+namespace lumerin {
 
 // What a grid shows to the headless backend, which knows no cells: the grid attaches its peer to the record
 // of its control when the dialog binds it, and the driver types and reads through the peer. The peer belongs
@@ -43,3 +46,5 @@ void AttachGrid(WindowHandle window, GridPeer& peer);
 const ControlSpec& SpecOf(WindowHandle window);
 
 }  // namespace headless
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <functional>
@@ -12,6 +13,8 @@
 #include "framework/MouseAction.h"
 #include "framework/headless/GraphPeer.h"
 #include "framework/headless/GridPeer.h"
+
+namespace lumerin {
 
 // The backend without a screen: a window is a record of its state, and whatever would leave the process
 // (message boxes, viewer starts, module calls) goes to a sink. The program `lumerin` and the tests install
@@ -166,3 +169,5 @@ class RecordingSink : public Sink {
 };
 
 }  // namespace headless
+
+}  // namespace lumerin

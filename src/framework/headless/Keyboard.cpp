@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 // The keyboard of a dialog without a screen.
 #include <algorithm>
 
 #include "framework/headless/EditKeys.h"
 #include "framework/headless/Headless.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -133,3 +136,5 @@ bool HeadlessDialog::TypeChar(unsigned character) {
 }
 
 }  // namespace headless
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include <sys/mman.h>
 #include <unistd.h>
 
@@ -7,6 +8,8 @@
 
 #include "framework/Clock.h"
 #include "framework/headless/Headless.h"
+
+namespace lumerin {
 
 // Message boxes, wait cursor and the services of the platform, from the settings and the sink.
 
@@ -137,3 +140,5 @@ char FolderSeparator() {
 }
 
 }  // namespace services
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <utility>
 
 #include "framework/headless/Headless.h"
+
+namespace lumerin {
 
 namespace headless {
 
@@ -54,3 +57,5 @@ services::PlotModuleResult RecordingSink::OnPlotModule(const std::string& module
 }
 
 }  // namespace headless
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "framework/WholeFilePlatform.h"
 
 #include <dirent.h>
@@ -10,6 +11,8 @@
 #include <cerrno>
 #include <cstdlib>
 #include <memory>
+
+namespace lumerin {
 
 namespace wholefile {
 
@@ -150,3 +153,5 @@ void RemoveLeftOvers(const std::string& folder) {
 }
 
 }  // namespace wholefile
+
+}  // namespace lumerin

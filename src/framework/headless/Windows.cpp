@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #include <algorithm>
 
 #include "framework/headless/Headless.h"
+
+namespace lumerin {
 
 // The controls as plain state.
 
@@ -154,3 +157,5 @@ const ControlSpec& SpecOf(WindowHandle window) {
 }
 
 }  // namespace headless
+
+}  // namespace lumerin

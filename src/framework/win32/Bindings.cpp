@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "framework/win32/Bindings.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -23,3 +26,5 @@ void UnbindControls(HWND dialog) {
 }
 
 }  // namespace win32
+
+}  // namespace lumerin

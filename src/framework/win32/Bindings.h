@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "framework/Window.h"
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 // Which object belongs to which control. The objects may outlive the windows; none keeps a handle of a window
 // that is gone.
@@ -12,3 +15,5 @@ void Bind(HWND control, CWnd& object);
 void UnbindControls(HWND dialog);
 
 }  // namespace win32
+
+}  // namespace lumerin

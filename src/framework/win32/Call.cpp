@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "framework/win32/Windows32.h"
 // OLE and the processor's control words want windows.h before them.
 #include <ole2.h>
 #include <xmmintrin.h>
 
 #include "framework/win32/Failures.h"
+
+namespace lumerin {
 
 // What one call of the export borrows from the host and its thread, and gives back.
 
@@ -74,3 +77,5 @@ bool UseOle() noexcept {
 }
 
 }  // namespace win32
+
+}  // namespace lumerin

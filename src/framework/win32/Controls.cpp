@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "framework/win32/Windows32.h"
 // The common controls want windows.h before them.
 #include <commctrl.h>
@@ -6,6 +7,8 @@
 #include <vector>
 
 #include "framework/win32/Bindings.h"
+
+namespace lumerin {
 
 // The controls of a dialog, each a window of the platform.
 
@@ -101,3 +104,5 @@ void AttachObject(WindowHandle window, CWnd& object) {
 }
 
 }  // namespace backend
+
+}  // namespace lumerin

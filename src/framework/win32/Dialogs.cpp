@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "framework/win32/Windows32.h"
 // The common controls want windows.h before them.
 #include <commctrl.h>
@@ -5,6 +6,8 @@
 #include "framework/Dialog.h"
 #include "framework/win32/Bindings.h"
 #include "framework/win32/Failures.h"
+
+namespace lumerin {
 
 // Modal dialogs from the module's resource templates. The identifier of a dialog's control list is that of
 // its template; both are made from the same list.
@@ -194,3 +197,5 @@ void EndDialog(WindowHandle dialog, int result) {
 }
 
 }  // namespace backend
+
+}  // namespace lumerin

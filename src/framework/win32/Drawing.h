@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 // What drawing borrows from the platform and gives back on every way out.
 namespace win32 {
@@ -67,3 +70,5 @@ class BitmapContext {
 };
 
 }  // namespace win32
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "framework/win32/DriverToken.h"
 
 #include <array>
 #include <charconv>
 #include <cstdint>
+
+namespace lumerin {
 
 namespace {
 
@@ -32,3 +35,5 @@ bool IsFromDriver(WPARAM token) {
 }
 
 }  // namespace win32
+
+}  // namespace lumerin

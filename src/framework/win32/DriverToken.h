@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 // A driver of the dialogs, such as the stand-in host, asks the windows of grid and graph what they show. Any
 // program can send such a message, and its answer is written through a pointer. So a question counts only
@@ -17,3 +20,5 @@ namespace win32 {
 bool IsFromDriver(WPARAM token);
 
 }  // namespace win32
+
+}  // namespace lumerin

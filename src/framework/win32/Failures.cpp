@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "framework/win32/Failures.h"
 
 #include <exception>
 #include <utility>
+
+namespace lumerin {
 
 namespace {
 
@@ -66,3 +69,5 @@ void ForgetFailures() noexcept {
 }
 
 }  // namespace win32
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <new>
 
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 // The border between the platform and the code that it calls back: procedures of windows, and methods that
 // other programs call. No exception crosses it, and the border itself takes no memory.
@@ -52,3 +55,5 @@ HRESULT RunMethod(Step&& step) noexcept {
 }
 
 }  // namespace win32
+
+}  // namespace lumerin

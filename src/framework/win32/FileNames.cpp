@@ -1,5 +1,8 @@
+// SPDX-License-Identifier: MIT
 #include "framework/File.h"
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 // Windows finds files whatever their case. A path is bytes of the code page here, which the standard
 // library's paths would take for another encoding.
@@ -28,3 +31,5 @@ FileStamp StampOf(const std::string& path) {
                 join(found.ftLastWriteTime.dwHighDateTime, found.ftLastWriteTime.dwLowDateTime)),
             found.dwVolumeSerialNumber, join(found.nFileIndexHigh, found.nFileIndexLow)};
 }
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "framework/win32/InstalledFiles.h"
 
 #include <algorithm>
 #include <array>
 #include <cctype>
 #include <vector>
+
+namespace lumerin {
 
 namespace {
 
@@ -147,3 +150,5 @@ HMODULE LoadSystemLibrary(const std::string& name) {
 }
 
 }  // namespace win32
+
+}  // namespace lumerin

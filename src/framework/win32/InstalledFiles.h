@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 // Where programs and libraries lie that were installed on the machine. The platform's own searches also look
 // into the current folder, which is the project's as often as not, and would run what somebody has put beside
@@ -23,3 +26,5 @@ HMODULE LoadFullPath(const std::string& path);
 HMODULE LoadSystemLibrary(const std::string& name);
 
 }  // namespace win32
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 // The codes of Keys.h are the platform's own; a wrong one would be another key.
 #include "framework/Keys.h"
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 static_assert(kKeyMouse == VK_LBUTTON);
 static_assert(kKeyBackspace == VK_BACK);
@@ -18,3 +21,5 @@ static_assert(kKeyRight == VK_RIGHT);
 static_assert(kKeyDown == VK_DOWN);
 static_assert(kKeyInsert == VK_INSERT);
 static_assert(kKeyDelete == VK_DELETE);
+
+}  // namespace lumerin

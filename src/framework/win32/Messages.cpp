@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 // Message boxes and the wait cursor.
 
@@ -79,3 +82,5 @@ HandlerScope::~HandlerScope() {
 }
 
 }  // namespace win32
+
+}  // namespace lumerin

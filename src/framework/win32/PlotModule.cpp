@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include <array>
 
 #include "framework/win32/InstalledFiles.h"
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 // The call of the plot module's export.
 
@@ -46,3 +49,5 @@ PlotModuleResult CallPlotModule(const char* module, const char* exportName, cons
 }
 
 }  // namespace services
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "framework/win32/Windows32.h"
 // The spooler wants windows.h before it.
 #include <winspool.h>
@@ -5,6 +6,8 @@
 #include <array>
 #include <string>
 #include <vector>
+
+namespace lumerin {
 
 // The application's own copy of the default printer's settings. Only this copy is changed: neither the
 // printer nor the host takes notice.
@@ -61,3 +64,5 @@ void SetPrinterLandscape(bool landscape) {
 }
 
 }  // namespace services
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "framework/win32/Windows32.h"
 // The shell wants windows.h before it.
 #include <shellapi.h>
@@ -7,6 +8,8 @@
 
 #include "framework/Clock.h"
 #include "framework/win32/InstalledFiles.h"
+
+namespace lumerin {
 
 // What the product asks of the platform beyond its windows: the shell, paths, the text viewer's settings, the
 // clock.
@@ -113,3 +116,5 @@ char FolderSeparator() {
 }
 
 }  // namespace services
+
+}  // namespace lumerin

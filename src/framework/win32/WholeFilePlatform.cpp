@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "framework/WholeFilePlatform.h"
 
 #include <array>
@@ -9,6 +10,8 @@
 #include <vector>
 
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 namespace wholefile {
 
@@ -179,3 +182,5 @@ void RemoveLeftOvers(const std::string& folder) {
 }
 
 }  // namespace wholefile
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "framework/win32/WindowHook.h"
 
 #include <new>
 
 #include "framework/win32/Failures.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -63,3 +66,5 @@ LRESULT CallOwnProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam
 }
 
 }  // namespace win32
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 namespace win32 {
 
@@ -27,3 +30,5 @@ void UnhookWindow(HWND window) noexcept;
 LRESULT CallOwnProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept;
 
 }  // namespace win32
+
+}  // namespace lumerin

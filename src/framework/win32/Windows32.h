@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #ifndef NOMINMAX
@@ -14,6 +15,8 @@
 #undef DrawText
 
 #include "framework/Backend.h"
+
+namespace lumerin {
 
 // The backend on real windows: a window handle of the framework is the platform's own, under another type.
 
@@ -58,3 +61,5 @@ class HandlerScope {
 };
 
 }  // namespace win32
+
+}  // namespace lumerin

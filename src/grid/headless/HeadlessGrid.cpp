@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "grid/headless/HeadlessGrid.h"
 
 #include <utility>
@@ -7,6 +8,8 @@
 #include "grid/GridCtrl.h"
 #include "grid/GridHelpers.h"
 #include "grid/Label.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -206,3 +209,5 @@ std::vector<std::string> HeadlessGrid::RowTexts(int row) const {
     }
     return texts;
 }
+
+}  // namespace lumerin

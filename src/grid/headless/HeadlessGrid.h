@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <memory>
@@ -7,6 +8,8 @@
 #include "framework/headless/GridPeer.h"
 #include "grid/GridHost.h"
 #include "grid/headless/HeadlessMouse.h"
+
+namespace lumerin {
 
 // The window of an editor without a screen: the bare text. Characters that the editor lets through are typed
 // into it as an edit window would.
@@ -85,3 +88,5 @@ class HeadlessGrid : public GridHost, public GridPeer {
     std::unique_ptr<CInPlaceEdit> m_pEditor;
     std::unique_ptr<HeadlessEditor> m_pWindow;
 };
+
+}  // namespace lumerin

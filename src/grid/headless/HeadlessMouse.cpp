@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "grid/headless/HeadlessMouse.h"
 
 #include "grid/GridCtrl.h"
 #include "grid/headless/HeadlessGrid.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -199,3 +202,5 @@ bool HeadlessMouse::Play(const MouseAction& action) {
     }
     return true;
 }
+
+}  // namespace lumerin

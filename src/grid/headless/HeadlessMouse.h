@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "framework/MouseAction.h"
 #include "grid/GridTypes.h"
+
+namespace lumerin {
 
 class CGridCtrl;
 class HeadlessGrid;
@@ -36,3 +39,5 @@ class HeadlessMouse {
     Target m_pressed = Target::none;  // of the last press, until a double click
     unsigned m_now = 0;               // milliseconds
 };
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The clipboard as OLE has it: a data object that offers one text.
 #include "framework/win32/Windows32.h"
 // OLE wants windows.h before it.
@@ -11,6 +12,8 @@
 
 #include "framework/win32/Failures.h"
 #include "grid/win32/GridWindow.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -198,3 +201,5 @@ std::string ClipboardText() {
 }
 
 }  // namespace win32
+
+}  // namespace lumerin

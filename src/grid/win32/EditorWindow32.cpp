@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include "grid/win32/EditorWindow32.h"
 
 #include <vector>
 
 #include "grid/win32/GdiCanvas.h"
 #include "grid/win32/GridWindow.h"
+
+namespace lumerin {
 
 EditorWindow32::~EditorWindow32() {
     if (m_window == nullptr) return;
@@ -80,3 +83,5 @@ bool EditorWindow32::OnMessage(UINT message, WPARAM wParam, LPARAM lParam, LRESU
     if (m_window != nullptr) m_editor->OnTyped();
     return true;
 }
+
+}  // namespace lumerin

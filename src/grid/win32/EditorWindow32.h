@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <memory>
 
 #include "framework/win32/WindowHook.h"
 #include "grid/InPlaceEdit.h"
+
+namespace lumerin {
 
 // A real edit window as the child of the grid. Characters and keys pass through the editor first and reach
 // the edit window only when it lets them through.
@@ -36,3 +39,5 @@ class EditorWindow32 : public EditorWindow, private win32::MessageTarget {
     GridRect m_rect;
     std::unique_ptr<CInPlaceEdit> m_editor;
 };
+
+}  // namespace lumerin

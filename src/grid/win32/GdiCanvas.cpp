@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "grid/win32/GdiCanvas.h"
 
 #include <algorithm>
 #include <map>
 #include <tuple>
+
+namespace lumerin {
 
 namespace {
 
@@ -99,3 +102,5 @@ void GdiCanvas::CopyFrom(CDC& source, const GridRect& rect) {
     BitBlt(m_dc, rect.left, rect.top, rect.Width(), rect.Height(), bitmap->m_dc, rect.left, rect.top,
            SRCCOPY);
 }
+
+}  // namespace lumerin

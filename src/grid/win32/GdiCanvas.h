@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "framework/win32/Windows32.h"
 #include "grid/Canvas.h"
+
+namespace lumerin {
 
 // Drawing with the platform's device contexts. The canvas does not own the context that it is given; one that
 // MakeCompatible made owns its bitmap.
@@ -35,3 +38,5 @@ inline RECT ToRect(const GridRect& rect) {
 }
 
 }  // namespace win32
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 // What the driver of the dialogs can ask a grid's window. wParam is the driver's token (DriverToken.h),
 // lParam the address of a record in the same process, which holds the question and receives the answer. The
@@ -45,3 +48,5 @@ struct GridViewRecord {
     bool editing, outgrewCell;
     char text[256];  // what does not fit is cut off
 };
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "grid/win32/GridWindow.h"
 
 #include <algorithm>
@@ -8,6 +9,8 @@
 #include "grid/GridHelpers.h"
 #include "grid/win32/GdiCanvas.h"
 #include "grid/win32/GridMessages.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -330,3 +333,5 @@ bool GridWindow::OnQuestion(UINT message, WPARAM wParam, LPARAM lParam, LRESULT&
     }
     return true;
 }
+
+}  // namespace lumerin

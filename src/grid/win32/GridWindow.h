@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <memory>
@@ -7,6 +8,8 @@
 #include "grid/GridCtrl.h"
 #include "grid/win32/EditorWindow32.h"
 #include "grid/win32/TipWindow.h"
+
+namespace lumerin {
 
 namespace win32 {
 
@@ -62,3 +65,5 @@ class GridWindow : public GridHost, private win32::MessageTarget {
     std::vector<std::unique_ptr<EditorWindow32>> m_editors;
     TipWindow m_tip;
 };
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #include <memory>
 
 #include "framework/win32/Drawing.h"
 #include "framework/win32/WindowHook.h"
 #include "grid/Label.h"
 #include "grid/win32/GdiCanvas.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -79,3 +82,5 @@ void RedrawLabel(CLabel& label) {
 }
 
 }  // namespace gridplatform
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 // What the grid asks of the platform apart from its window.
 #include "framework/win32/Drawing.h"
 #include "framework/win32/Windows32.h"
 #include "grid/GridHost.h"
 #include "grid/win32/GdiCanvas.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -51,3 +54,5 @@ void PrepareWindowClass() {
 }
 
 }  // namespace gridplatform
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "grid/win32/TipWindow.h"
 
 #include <utility>
@@ -7,6 +8,8 @@
 #include "grid/GridCtrl.h"
 #include "grid/win32/GdiCanvas.h"
 #include "grid/win32/GridWindow.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -169,3 +172,5 @@ void TipWindow::OnPaint() {
     canvas.DrawText(m_text, {kTextMargin - 1, 0, client.right, client.bottom},
                     kTextSingleLine | kTextMiddle | kTextNoPrefix, m_font, GetSysColor(COLOR_INFOTEXT));
 }
+
+}  // namespace lumerin

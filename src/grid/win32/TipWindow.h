@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <string>
 
 #include "framework/win32/WindowHook.h"
 #include "grid/GridTypes.h"
+
+namespace lumerin {
 
 class CGridCtrl;
 
@@ -40,3 +43,5 @@ class TipWindow : private win32::MessageTarget {
     std::string m_text;
     FontRecord m_font;
 };
+
+}  // namespace lumerin

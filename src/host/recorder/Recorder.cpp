@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Stands where a viewer would: it writes down under which name and with which document it was started.
 //     recorder.exe  registered for the types of documents
 //     Excel.exe     registered as the spreadsheet program
@@ -9,6 +10,8 @@
 
 #include "host/HostWindows.h"
 #include "host/RecordFormat.h"
+
+using namespace lumerin;
 
 namespace {
 

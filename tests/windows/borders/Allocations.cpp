@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // Each allocation of each thing that a user does fails once, the first, the second and so on until one passes
 // clean. The host must live, each failure that the user asked for must be reported, and the last full report
 // must be whole.
@@ -6,6 +7,8 @@
 
 #include "FailingMemory.h"
 #include "Stage.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -213,3 +216,5 @@ void TestAllocations(const Words& words) {
     const unsigned result = module.launch(2, words.at(0).c_str(), "4.17", "", "", "");
     Check(result == 1, "the call ends by Close");
 }
+
+}  // namespace lumerin

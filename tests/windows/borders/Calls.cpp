@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // The call itself: one at a time, over the host's window, with OLE for as long as it lasts.
 #include <ole2.h>
 
@@ -8,6 +9,8 @@
 #include <thread>
 
 #include "Stage.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -161,3 +164,5 @@ void TestThreads(const Words& words) {
     study();
     for (int i = 0; i < 2; ++i) std::thread(study).join();
 }
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 // The wait cursor: up while a handler works, also beside a box; what a handler leaves of it lasts until the
 // mouse moves.
 #include "Stage.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -56,3 +59,5 @@ void TestCursor(const Words& words) {
     for (int call = 0; call < 2; ++call) module.launch(0, words.at(0).c_str(), "4.17", "", "", "");
     Check(visits.boxes.size() == 2, "the cover sheet refuses the spreadsheet in both calls");
 }
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "FailingMemory.h"
 
 #include <cstdlib>
 #include <cstring>
+
+namespace lumerin {
 
 namespace {
 
@@ -81,3 +84,5 @@ bool Disarm() {
 }
 
 }  // namespace failing
+
+}  // namespace lumerin

@@ -1,6 +1,9 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "host/HostWindows.h"
+
+namespace lumerin {
 
 // Memory that the module does not get: its calls of the C library's allocation go through here.
 namespace failing {
@@ -14,3 +17,5 @@ void Arm(long number, bool all = false);
 bool Disarm();
 
 }  // namespace failing
+
+}  // namespace lumerin

@@ -1,9 +1,12 @@
+// SPDX-License-Identifier: MIT
 // 32 MB of text on the clipboard, pasted where the process has hardly any addresses left.
 #include <cstdio>
 #include <cstring>
 #include <vector>
 
 #include "Stage.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -94,3 +97,5 @@ void TestFullProcess(const Words& words) {
     EmptyClipboard();
     CloseClipboard();
 }
+
+}  // namespace lumerin

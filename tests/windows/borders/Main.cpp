@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // borders TEST WORD...: a host that treats the module as hosts do: it is short of memory, calls again, has
 // floating-point traps on, loads libraries of its own. Prints what does not hold; exit status 0 when all
 // does, 1 otherwise, and whatever the system makes of it when the process was ended.
@@ -5,6 +6,8 @@
 #include <cstring>
 
 #include "Stage.h"
+
+using namespace lumerin;
 
 namespace {
 

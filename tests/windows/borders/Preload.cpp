@@ -1,5 +1,8 @@
+// SPDX-License-Identifier: MIT
 // A host that has loaded the compiler's run-time library before the module; the module has a copy of its own.
 #include "Stage.h"
+
+namespace lumerin {
 
 void TestPreload(const Words& words) {
     Check(LoadLibraryExA(words.at(1).c_str(), nullptr, LOAD_WITH_ALTERED_SEARCH_PATH) != nullptr,
@@ -14,3 +17,5 @@ void TestPreload(const Words& words) {
     Check(visits.BoxesWith(words.at(2)) == 2, "the fault of the project is reported in both calls");
     FreeLibrary(module.handle);
 }
+
+}  // namespace lumerin

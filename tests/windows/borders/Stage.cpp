@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "Stage.h"
 
 #include <algorithm>
@@ -5,6 +6,8 @@
 #include <cstdio>
 
 #include "host/WindowReader.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -132,3 +135,5 @@ void Key(HWND window, WPARAM key, bool control, bool shift) {
 void Cancel(HWND dialog) {
     SendMessageA(dialog, WM_COMMAND, 2, 0);
 }
+
+}  // namespace lumerin

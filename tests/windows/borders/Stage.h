@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <functional>
@@ -7,6 +8,8 @@
 #include <vector>
 
 #include "host/HostWindows.h"
+
+namespace lumerin {
 
 // What the tests of the module's borders share: a host of their own with a main window, which calls the
 // module and works on its dialogs from inside their modal loops.
@@ -84,3 +87,5 @@ void TestOle(const Words& words);
 void TestThreads(const Words& words);
 void TestCursor(const Words& words);
 void TestPreload(const Words& words);
+
+}  // namespace lumerin

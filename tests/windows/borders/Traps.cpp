@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 // A host whose numbers trap: the module works with all floating-point faults masked and gives the host's
 // state back on every way out.
 #include <xmmintrin.h>
@@ -6,6 +7,8 @@
 
 #include "FailingMemory.h"
 #include "Stage.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -90,3 +93,5 @@ void TestTraps(const Words& words) {
         Check(result == 0, "a call without memory gives 0");
     }
 }
+
+}  // namespace lumerin

@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/dialog/GraphHost.h"
 
 #include "embedment/dialog/NTGraphTarnsway.h"
 #include "framework/headless/GraphPeer.h"
+
+namespace lumerin {
 
 namespace graphplatform {
 
@@ -13,3 +16,5 @@ std::unique_ptr<GraphHost> MakeHost(CNTGraphTarnsway& graph) {
 void PrepareWindowClass() {}
 
 }  // namespace graphplatform
+
+}  // namespace lumerin

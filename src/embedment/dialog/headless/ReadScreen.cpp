@@ -1,4 +1,7 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/dialog/CaptureEx.h"
+
+namespace lumerin {
 
 namespace graphplatform {
 
@@ -8,3 +11,5 @@ bool ReadScreen(const ScreenRect&, std::vector<std::uint8_t>&) {
 }
 
 }  // namespace graphplatform
+
+}  // namespace lumerin

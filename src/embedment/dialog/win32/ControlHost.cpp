@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/dialog/win32/ControlHost.h"
 
 #include <oleauto.h>
@@ -12,6 +13,8 @@
 #include "embedment/win32/GraphMessages.h"
 #include "framework/win32/Failures.h"
 #include "framework/win32/InstalledFiles.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -275,3 +278,5 @@ void ControlHost::Call(int dispatchId, std::span<const GraphValue> arguments) {
     m_control->Invoke(dispatchId, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters, nullptr,
                       nullptr, nullptr);
 }
+
+}  // namespace lumerin

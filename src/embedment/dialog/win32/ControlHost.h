@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include <memory>
@@ -6,6 +7,8 @@
 #include "framework/win32/Windows32.h"
 // The interfaces want windows.h before them.
 #include <ocidl.h>
+
+namespace lumerin {
 
 // A reference to an object of the platform.
 struct ComRelease {
@@ -57,3 +60,5 @@ class ControlHost : public GraphHost {
     ComPointer<EventSink> m_sink;
     DWORD m_cookie = 0;
 };
+
+}  // namespace lumerin

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/dialog/win32/GraphWindow.h"
 
 #include <algorithm>
@@ -10,6 +11,8 @@
 #include "embedment/win32/GraphMessages.h"
 #include "framework/win32/Drawing.h"
 #include "framework/win32/DriverToken.h"
+
+namespace lumerin {
 
 namespace {
 
@@ -150,3 +153,5 @@ void GraphWindow::OnPaint() {
     m_plot.Draw(canvas, size.cx, size.cy);
     BitBlt(painting.Context(), 0, 0, size.cx, size.cy, bitmap.Context(), 0, 0, SRCCOPY);
 }
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "embedment/dialog/GraphHost.h"
 #include "embedment/win32/GraphMessages.h"
 #include "framework/win32/WindowHook.h"
+
+namespace lumerin {
 
 // The graph's place in the dialog: it answers what other programs ask and shows the module's own plot, unless
 // a control of the machine took the place.
@@ -36,3 +39,5 @@ class GraphWindow : public PlotGraphHost, private win32::MessageTarget {
     HWND m_window;
     std::unique_ptr<GraphHost> m_control;
 };
+
+}  // namespace lumerin

@@ -1,8 +1,11 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/dialog/win32/PlotGdiCanvas.h"
 
 #include <algorithm>
 #include <cmath>
 #include <vector>
+
+namespace lumerin {
 
 namespace {
 
@@ -94,3 +97,5 @@ double PlotGdiCanvas::TextWidth(std::string_view text, const PlotFont& font) con
     GetTextExtentPoint32A(m_dc, text.data(), static_cast<int>(text.size()), &size);
     return static_cast<double>(size.cx);
 }
+
+}  // namespace lumerin

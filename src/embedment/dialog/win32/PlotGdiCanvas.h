@@ -1,7 +1,10 @@
+// SPDX-License-Identifier: MIT
 #pragma once
 
 #include "embedment/PlotCanvas.h"
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 // Draws on a device context of the platform; lines of one pixel stay one pixel.
 class PlotGdiCanvas : public PlotCanvas {
@@ -19,3 +22,5 @@ class PlotGdiCanvas : public PlotCanvas {
   private:
     HDC m_dc;
 };
+
+}  // namespace lumerin

@@ -1,5 +1,8 @@
+// SPDX-License-Identifier: MIT
 #include "embedment/dialog/CaptureEx.h"
 #include "framework/win32/Drawing.h"
+
+namespace lumerin {
 
 namespace graphplatform {
 
@@ -34,3 +37,5 @@ bool ReadScreen(const ScreenRect& rect, std::vector<std::uint8_t>& data) {
 }
 
 }  // namespace graphplatform
+
+}  // namespace lumerin

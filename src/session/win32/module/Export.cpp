@@ -1,5 +1,8 @@
+// SPDX-License-Identifier: MIT
 #include "session/Launch.h"
 #include "session/win32/module/Runtime.h"
+
+using namespace lumerin;
 
 // The module's one export. The definition file gives it its plain name.
 extern "C" unsigned __stdcall LaunchLumerinExport(int reportFormat, const char* inputFile,

@@ -1,3 +1,4 @@
+// SPDX-License-Identifier: MIT
 #include "session/win32/module/Runtime.h"
 
 #include <cxxabi.h>
@@ -7,6 +8,8 @@
 #include <cstring>
 
 #include "framework/win32/Windows32.h"
+
+namespace lumerin {
 
 // The tables by which the run-time finds the handlers of an exception.
 //
@@ -116,3 +119,5 @@ bool PrepareRuntime() noexcept {
         return true;
     }
 }
+
+}  // namespace lumerin
