@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 
 namespace lumerin {
 
@@ -97,9 +98,14 @@ class ForceFile::Pass {
 
     // Stores consecutive records of one case's block.
     void StoreRun(std::size_t inBlock, std::size_t count, const float* words) {
-        for (std::size_t i = 0; i < count; ++i, words += kForceRecordWords) {
-            const Target& target = m_source.m_targets[inBlock + i];
-            if (target.element >= 0) Store(target, words);
+        std::span<const ForceTarget> targets(m_source.m_targets);
+        targets = targets.subspan(inBlock, count);
+        while (!targets.empty()) {
+            const std::size_t finite = StoreForceRecords(targets, words, m_forces.data());
+            if (finite == targets.size()) return;
+            Note(targets[finite]);
+            targets = targets.subspan(finite + 1);
+            words += (finite + 1) * kForceRecordWords;
         }
     }
 
@@ -112,22 +118,22 @@ class ForceFile::Pass {
         const long long before = loadCase * m_source.m_block;
         for (const CForceRead& read : m_source.m_reads) {
             if (before + read.record <= m_source.m_whole) m_file.Read(record.data(), before + read.record);
-            Store({read.element, read.kind}, record.data());
+            const ForceTarget target{read.element, read.kind};
+            if (!StoreForceRecord(target.kind, record.data(), ForcesOf(target))) Note(target);
         }
         m_take(loadCase, m_forces);
     }
 
-    void Store(const Target& target, const float* words) {
-        float* to = m_forces.data() + static_cast<std::size_t>(target.element) * kForcesPerElement;
-        if (!StoreForceRecord(target.kind, words, to)) Note(target, to);
+    float* ForcesOf(const ForceTarget& target) {
+        return m_forces.data() + static_cast<std::size_t>(target.element) * kForcesPerElement;
     }
 
     // The forces of the element are not all finite.
-    void Note(const Target& target, const float* forces) {
+    void Note(const ForceTarget& target) {
         if (target.kind == ForceKind::pile) {
             m_finite.piles = false;
             const bool head = m_source.m_isHead[static_cast<std::size_t>(target.element)] != 0;
-            if (head && !std::isfinite(forces[kComponents + kAxial])) m_finite.pileHeads = false;
+            if (head && !std::isfinite(ForcesOf(target)[kComponents + kAxial])) m_finite.pileHeads = false;
         }
         if (target.kind == ForceKind::extraMember) m_finite.extraMembers = false;
         // Cap elements are watched by the cap tables' own check, on the values that these show.
@@ -179,7 +185,7 @@ ForceFile::ForceFile(const CPier& pier, const PierCounts& counts, std::vector<CF
 
 void ForceFile::MapBlock() {
     if (m_block <= 0) return;
-    m_targets.assign(static_cast<std::size_t>(m_block), Target{});
+    m_targets.assign(static_cast<std::size_t>(m_block), ForceTarget{});
     for (const CForceRead& read : m_reads) {
         const bool inside = read.record >= 1 && read.record <= m_block;
         if (!inside || m_targets[static_cast<std::size_t>(read.record - 1)].element != -1) {

@@ -42,10 +42,6 @@ class ForceFile : public ForceSource {
     std::optional<Source> SourceOf(int loadCase, int element) const;
 
   private:
-    struct Target {
-        int element = -1;
-        ForceKind kind = ForceKind::pile;
-    };
     class Pass;
 
     void MapBlock();
@@ -60,7 +56,7 @@ class ForceFile : public ForceSource {
     int m_firstColumnElement = 0, m_endOfColumns = 0;
     // What each record of a block feeds. Empty where a record lies outside its block or feeds two elements:
     // such a file is read record by record, as its numbers say.
-    std::vector<Target> m_targets;
+    std::vector<ForceTarget> m_targets;
     long long m_whole = 0;  // whole records of the file
     int m_wholeCases = 0;   // cases at the beginning whose block is complete
     // By case after those: the record that was read last before it; 0: none.

@@ -2,7 +2,6 @@
 #include "results/ForcePlan.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace lumerin {
@@ -128,14 +127,6 @@ std::vector<CForceRead> PlanForceReads(const CPier& pier, const PierModel& model
     }
     planner.PlanExtraMembers();
     return planner.Take();
-}
-
-bool RepairRatios(ForceKind kind, float* forces) {
-    for (const std::size_t ratio :
-         {std::size_t{kDemandCapacity}, std::size_t{kComponents + kDemandCapacity}}) {
-        if (kind != ForceKind::extraMember && !std::isfinite(forces[ratio])) forces[ratio] = 0.0F;
-    }
-    return std::all_of(forces, forces + kForcesPerElement, [](float force) { return std::isfinite(force); });
 }
 
 }  // namespace lumerin
