@@ -119,3 +119,37 @@ def locate(text, place):
     """Where the place's text is now: the nearest to its line; -1 where it has gone."""
     at = [m.start() for m in re.finditer("^" + re.escape(place["from"]) + "$", text, re.M)]
     return min(at, key=lambda a: abs(text.count("\n", 0, a) + 1 - place["line"])) if at else -1
+
+
+def layers(text):
+    """cmake/layers.txt: the library of each folder of src/, and for each library those that it links itself."""
+    library, links = {}, {}
+    for line in text.splitlines():
+        words = line.split("#")[0].split()
+        if words:
+            name, *_ = folders = words[1].split("+")
+            library.update({folder: name for folder in folders})
+            links[name] = words[2:]
+    return library, links
+
+
+def test_folders(layers_text, tests_text, source):
+    """The folders of tests/ whose programs have the code of a file of src/, by however many steps; the file's own first,
+    then those of the lowest libraries. `tests_text` is tests/CMakeLists.txt."""
+    library, links = layers(layers_text)
+    folder = source.split("/", 1)[1]
+    while folder not in library:
+        folder = folder.rpartition("/")[0]
+        if not folder:
+            return []
+    order = list(links)
+    users = {library[folder]}
+    for name in order:  # a library comes after all that it links
+        if users.intersection(links[name]):
+            users.add(name)
+    found = []
+    for name, linked in re.findall(r"^lumerin_test\((\w+) ([\w -]+)\)", tests_text, re.M):
+        places = [order.index(l) for l in (w.removeprefix("lumerin-") for w in linked.split()) if l in users]
+        if places:
+            found.append((name != folder.replace("/", "_"), min(places), name))
+    return [name for _, _, name in sorted(found, key=lambda f: f[:2])]

@@ -66,5 +66,26 @@ class Places(unittest.TestCase):
         self.assertEqual(mutations.locate("    i = 12;\n", place), -1)
 
 
+class Tests(unittest.TestCase):
+    LAYERS = "# no 9 line\n0 low\n1 mid+mid/part low  # remark\n1 side low\n2 top mid\n"
+    TESTS = ("lumerin_test(low lumerin-low)\nlumerin_test(top lumerin-top lumerin-samples)\n    lumerin_test(no lumerin-low)\n"
+             "lumerin_test(side lumerin-side)\nlumerin_test(mid lumerin-mid)\nlumerin_test(mid_part lumerin-mid)\n"
+             "lumerin_test(samples lumerin-samples)\n")
+
+    def test_a_change_is_tried_by_all_that_link_it_nearest_first(self):
+        for source, folders in {"src/low/A.cpp": ["low", "mid", "mid_part", "side", "top"],
+                                "src/mid/A.cpp": ["mid", "mid_part", "top"],
+                                "src/mid/part/headless/A.cpp": ["mid_part", "mid", "top"],
+                                "src/side/A.h": ["side"], "src/top/A.h": ["top"], "src/nowhere/A.h": []}.items():
+            self.assertEqual(mutations.test_folders(self.LAYERS, self.TESTS, source), folders, source)
+
+    def test_every_folder_of_the_tree_has_tests_of_its_own_name(self):
+        root = pathlib.Path(__file__).resolve().parents[2]
+        texts = [(root / name).read_text() for name in ("cmake/layers.txt", "tests/CMakeLists.txt")]
+        for folder in mutations.layers(texts[0])[0]:
+            if folder != "host":  # played by the module's scripts
+                self.assertEqual(mutations.test_folders(*texts, f"src/{folder}/A.cpp")[:1], [folder.replace("/", "_")])
+
+
 if __name__ == "__main__":
     unittest.main()
