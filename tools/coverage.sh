@@ -1,7 +1,7 @@
 #!/bin/bash
-# tools/coverage.sh: builds with counters in build/coverage, runs the native tests and prints which share of the
-# lines of src/ they reach, by room, and the lines that none reaches. The windows (win32/, host/) are not part of
-# the native build. Ends with 1 below the share given as the argument (default 95).
+# tools/coverage.sh [PERCENT]: builds with counters in build/coverage, runs the native tests and prints the share of the
+# lines of src/ that they reach, by folder, and the lines that none reaches. win32/ and host/ are not part of the native
+# build. Exit status 1 if the share is below PERCENT (default 95).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -12,7 +12,7 @@ cmake --preset coverage -B "$build" >/dev/null
 cmake --build "$build" -j "$(nproc)" -- --quiet
 find "$build" -name '*.gcda' -delete
 ctest --test-dir "$build" -j "$(nproc)" --output-on-failure >"$build/tests.log" || { tail -40 "$build/tests.log"; exit 1; }
-# A throw's clean-up counts as no line of its own; headers are summed over the files that include them.
+# The clean-up of a throw does not count as a line; headers are summed over the files that include them.
 gcovr --root . --filter 'src/' --exclude 'src/host/' --exclude '.*/win32/' --object-directory "$build" \
     --json-summary "$build/coverage.json" --json "$build/lines.json" --gcov-ignore-parse-errors -j "$(nproc)" "$build" >/dev/null
 python3 - "$build/coverage.json" "$build/lines.json" "$wanted" <<'PYTHON'
@@ -23,18 +23,18 @@ import sys
 summary = json.load(open(sys.argv[1]))
 lines = json.load(open(sys.argv[2]))
 wanted = float(sys.argv[3])
-rooms = collections.defaultdict(lambda: [0, 0])
+folders = collections.defaultdict(lambda: [0, 0])
 for entry in summary["files"]:
-    room = rooms[entry["filename"].split("/")[1]]
-    room[0] += entry["line_covered"]
-    room[1] += entry["line_total"]
+    folder = folders[entry["filename"].split("/")[1]]
+    folder[0] += entry["line_covered"]
+    folder[1] += entry["line_total"]
 for entry in sorted(lines["files"], key=lambda e: e["file"]):
     missed = [line["line_number"] for line in entry["lines"] if line["count"] == 0 and not line.get("gcovr/noncode")]
     if missed:
         print(f'{entry["file"]}: {" ".join(map(str, missed))}')
-for name, (covered, total) in sorted(rooms.items()):
+for name, (covered, total) in sorted(folders.items()):
     print(f"{name:12} {covered:6} of {total:6} lines  {100.0 * covered / total:5.1f} %")
-covered, total = (sum(room[i] for room in rooms.values()) for i in (0, 1))
+covered, total = (sum(folder[i] for folder in folders.values()) for i in (0, 1))
 share = 100.0 * covered / total
 print(f"src          {covered:6} of {total:6} lines  {share:5.1f} %")
 sys.exit(0 if share >= wanted else 1)
