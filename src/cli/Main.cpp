@@ -49,8 +49,9 @@ void AddReport(CLI::App& program, ReportRequest& options, ReportTexts& texts) {
     command.footer(
         "Prints the path of each file that was written. Exit status: 0 done, 1 a table does not apply or "
         "has\n"
-        "nothing to show, 2 wrong usage, 3 a project could not be loaded (the others are done all the "
-        "same).");
+        "nothing to show, 2 wrong usage, 3 a project could not be loaded or its force file changed during "
+        "the\n"
+        "run (the others are done all the same).");
 }
 
 void AddDrive(CLI::App& program, DriveOptions& options, std::string& format) {

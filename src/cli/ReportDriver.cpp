@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "cli/Progress.h"
 #include "cli/ScriptDriver.h"
 #include "cli/Viewer.h"
 #include "script/Border.h"
@@ -30,15 +29,16 @@ ExitStatus ReportDriver::Run(const std::string& project, int format) {
     m_nMessages = 0;
     m_bCasesChosen = false;
     m_status = kExitDone;
-    Progress progress(m_err, "Loading " + ForUser(project));
+    m_progress.emplace(m_err, "Loading " + ForUser(project));
     headless::SetSink(this);
-    headless::SetModalDriver([this, &progress](headless::HeadlessDialog& dialog) {
-        progress.End();
+    headless::SetModalDriver([this](headless::HeadlessDialog& dialog) {
+        m_progress.reset();
         Drive(dialog);
     });
     LaunchLumerin(format, project.c_str(), m_options.common.version.c_str(), "", "", "");
     headless::SetModalDriver(nullptr);
     headless::SetSink(nullptr);
+    m_progress.reset();
     return m_status;
 }
 
@@ -47,6 +47,7 @@ void ReportDriver::Worsen(ExitStatus status) {
 }
 
 void ReportDriver::Say(const std::string& text) {
+    m_progress.reset();
     PrintLine(m_err, text);
 }
 
@@ -75,7 +76,13 @@ void ReportDriver::DriveReport(headless::HeadlessDialog& dialog, CDesignerDlg& r
             return;
         }
     }
-    for (const std::string& table : m_options.tables) PressTable(dialog, report, table);
+    for (const std::string& table : m_options.tables) {
+        PressTable(dialog, report, table);
+        if (!report.State().forcesChanged) continue;
+        // Tables of two states of the project must not lie side by side as one report.
+        Worsen(kExitNotLoaded);
+        return;
+    }
 }
 
 void ReportDriver::SetFooter(headless::HeadlessDialog& dialog) {
@@ -111,7 +118,10 @@ void ReportDriver::PressTable(headless::HeadlessDialog& dialog, CDesignerDlg& re
                               const std::string& table) {
     m_sWritten.clear();
     m_sFailed.clear();
-    if (!dialog.Click(TableButton(table))) {
+    m_progress.emplace(m_err, "Writing the table " + table + " of " + ForUser(m_sProject));
+    const bool pressed = dialog.Click(TableButton(table));
+    m_progress.reset();
+    if (!pressed) {
         Say(m_sProject + ": the table " + table + " does not apply to this project");
         Worsen(kExitIncomplete);
         return;
@@ -154,6 +164,7 @@ services::PlotModuleResult ReportDriver::OnPlotModule(const std::string&,
 ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostream& err) {
     ExitStatus worst = kExitDone;
     for (const std::string& project : options.projects) {
+        const SharedLoad shared;
         for (const int format : options.formats) {
             ReportDriver driver(options, out, err);
             const ExitStatus status = driver.Run(project, format);

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "cli/Options.h"
+#include "cli/Progress.h"
 #include "framework/headless/Headless.h"
 
 namespace lumerin {
@@ -49,6 +51,7 @@ class ReportDriver : public headless::Sink {
     void Say(const std::string& text);
 
     const ReportRequest& m_options;
+    std::optional<Progress> m_progress;  // while the load or a press runs
     std::ostream& m_out;
     std::ostream& m_err;
     std::string m_sProject;
@@ -60,7 +63,8 @@ class ReportDriver : public headless::Sink {
     ExitStatus m_status = kExitDone;
 };
 
-// All projects in all formats; the worst exit status of all. A project that can't be loaded is told once.
+// All projects in all formats; the worst exit status of all. A project is loaded once for all its formats,
+// and its forces are read once for all its tables; what there is to say about the load is said once.
 ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostream& err);
 
 }  // namespace lumerin

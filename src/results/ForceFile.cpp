@@ -186,9 +186,11 @@ ForceFile::ForceFile(const CPier& pier, const PierCounts& counts, std::vector<CF
 void ForceFile::MapBlock() {
     if (m_block <= 0) return;
     m_targets.assign(static_cast<std::size_t>(m_block), ForceTarget{});
-    for (const CForceRead& read : m_reads) {
+    for (std::size_t i = 0; i < m_reads.size(); ++i) {
+        const CForceRead& read = m_reads[i];
         const bool inside = read.record >= 1 && read.record <= m_block;
-        if (!inside || m_targets[static_cast<std::size_t>(read.record - 1)].element != -1) {
+        const bool last = m_readOf[static_cast<std::size_t>(read.element)] == static_cast<int>(i);
+        if (!inside || !last || m_targets[static_cast<std::size_t>(read.record - 1)].element != -1) {
             m_targets.clear();
             return;
         }

@@ -54,8 +54,8 @@ class ForceFile : public ForceSource {
     std::vector<int> m_readOf;           // by element, its place in the plan; -1: it has no record
     std::vector<std::uint8_t> m_isHead;  // by element: 1, the head of a pile
     int m_firstColumnElement = 0, m_endOfColumns = 0;
-    // What each record of a block feeds. Empty where a record lies outside its block or feeds two elements:
-    // such a file is read record by record, as its numbers say.
+    // What each record of a block feeds. Empty where a record lies outside its block or feeds two elements,
+    // or an element is fed twice: such a file is read record by record, as its numbers say.
     std::vector<ForceTarget> m_targets;
     long long m_whole = 0;  // whole records of the file
     int m_wholeCases = 0;   // cases at the beginning whose block is complete

@@ -156,15 +156,14 @@ void CDesignerDlg::OnTable(int id) {
     if (RefuseWithoutProject()) return;
     const CWaitCursor wait;
     CopyOptions();
-    if (const TableRun* run = FindTableRun(id))
-        m_bOutputFailed = !RunTable(*run, m_nFormat, m_state, m_viewer);
+    if (const TableRun* run = FindTableRun(id)) RunTable(*run, m_nFormat, m_state, m_viewer);
 }
 
 void CDesignerDlg::OnFullReport(int) {
     if (RefuseWithoutProject()) return;
     const CWaitCursor wait;
     CopyOptions();
-    m_bOutputFailed = !RunFullReport(m_nFormat, m_state, m_viewer);
+    RunFullReport(m_nFormat, m_state, m_viewer);
 }
 
 void CDesignerDlg::OnPileHeadForces(int) {
@@ -181,7 +180,7 @@ void CDesignerDlg::OnPileHeadForces(int) {
     }
     const CWaitCursor wait;
     CopyOptions();
-    m_bOutputFailed = !RunPileHeadForces(m_nFormat, m_state, m_viewer);
+    RunPileHeadForces(m_nFormat, m_state, m_viewer);
 }
 
 void CDesignerDlg::OnTitlePage(int) {
@@ -195,7 +194,7 @@ void CDesignerDlg::OnTitlePage(int) {
             "Please unselect the Excel option, and re-click this button.");
         return;
     }
-    m_bOutputFailed = !RunTitlePage(m_nFormat);
+    RunTitlePage(m_nFormat);
     backend::EndWaitCursor();
 }
 

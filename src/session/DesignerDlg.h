@@ -29,9 +29,6 @@ class CDesignerDlg : public CDialog {
 
     // Whether the project was read to its end; false before that and after a failure.
     bool IsProjectLoaded() const { return m_bProjectLoaded; }
-    // Whether the file system refused a part of the last output file. The run goes on all the same and the
-    // viewer shows what is there; a program without a person in front of it needs to know.
-    bool OutputFailed() const { return m_bOutputFailed; }
 
     ViewerSettings m_viewer;
     int m_nFooterOn = 1, m_nFooterDate = 1, m_nFooterTime = 1, m_nFooterVersion = 1, m_nFooterFileName = 1;
@@ -67,7 +64,6 @@ class CDesignerDlg : public CDialog {
 
     ReportState m_state;
     bool m_bProjectLoaded = false;
-    bool m_bOutputFailed = false;
 };
 
 }  // namespace lumerin

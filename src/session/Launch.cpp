@@ -49,7 +49,7 @@ unsigned Launch(int reportFormat, const char* inputFile, const char* version, co
     {
         CDesignerDlg dialog;
         result = dialog.DoModal();
-        g_DataSet.FreePiers();
+        EndSessionProject(dialog.State());
     }
     return result == IDOK ? 1u : 0u;
 }

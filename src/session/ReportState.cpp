@@ -7,21 +7,79 @@
 
 namespace lumerin {
 
+namespace {
+
+SharedLoad* g_sharedLoad = nullptr;
+
+// The state of a dialog that opens on a project, without its forces.
+ReportState StartState(const CDataSet& data) {
+    ReportState state;
+    state.selection = CaseSelection(data);
+    state.results = ResultTables(data);
+    state.enabled = ApplicableTables(data, state.selection);
+    return state;
+}
+
+}  // namespace
+
+SharedLoad::SharedLoad() {
+    g_sharedLoad = this;
+}
+
+SharedLoad::~SharedLoad() {
+    g_sharedLoad = nullptr;
+    if (!m_projectBasePath.empty()) g_DataSet.FreePiers();
+}
+
+bool SharedLoad::Holds(const std::string& projectBasePath) const {
+    return !m_projectBasePath.empty() && m_projectBasePath == projectBasePath;
+}
+
+void SharedLoad::Keep(const std::string& projectBasePath, ReportState& state) {
+    m_projectBasePath = projectBasePath;
+    m_forces = std::move(state.forces);
+    m_pass = std::move(state.pass);
+}
+
+void SharedLoad::HandOver(ReportState& state) {
+    state.forces = std::move(m_forces);
+    state.pass = std::move(m_pass);
+    Forget();
+}
+
+void SharedLoad::Forget() {
+    m_projectBasePath.clear();
+    m_forces.clear();
+    m_pass.reset();
+}
+
 bool LoadSessionProject(ReportState& state) {
-    g_DataSet.Reset();
     state = ReportState();
+    if (g_sharedLoad != nullptr && g_sharedLoad->Holds(g_ProjectBasePath)) {
+        ReportState kept = StartState(g_DataSet);
+        g_sharedLoad->HandOver(kept);
+        state = std::move(kept);
+        return true;
+    }
+    if (g_sharedLoad != nullptr) g_sharedLoad->Forget();
+    g_DataSet.Reset();
     BoxMessages messages;
     std::optional<Project> project = LoadProject(g_ProjectBasePath, messages);
     if (!project) return false;
     // Whole before it is taken over: memory can run out for the tables as for the project.
-    ReportState loaded;
-    loaded.selection = CaseSelection(project->data);
+    ReportState loaded = StartState(project->data);
     loaded.forces = std::move(project->forces);
-    loaded.results = ResultTables(project->data);
-    loaded.enabled = ApplicableTables(project->data, loaded.selection);
     g_DataSet = std::move(project->data);
     state = std::move(loaded);
     return true;
+}
+
+void EndSessionProject(ReportState& state) {
+    if (g_sharedLoad == nullptr || state.forces.empty()) {
+        g_DataSet.FreePiers();
+        return;
+    }
+    g_sharedLoad->Keep(g_ProjectBasePath, state);
 }
 
 ReportOptions SessionOptions() {
@@ -49,11 +107,12 @@ void CollectSessionTable(TableId table, ReportState& state) {
     state.pass->Store(table, state.results);
 }
 
-bool RequireUnchangedForces(const ReportState& state) {
+bool RequireUnchangedForces(ReportState& state) {
     for (const std::unique_ptr<ForceSource>& forces : state.forces) {
         if (forces->IsUnchanged()) continue;
         AfxMessageBox(forces->Name() +
                       ": the file has changed since the project was opened. Open the project again.");
+        state.forcesChanged = true;
         return false;
     }
     return true;

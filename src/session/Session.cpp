@@ -34,7 +34,6 @@ constexpr std::size_t kExtensionLength = 3;
 }  // namespace
 
 void ResetSession() {
-    g_DataSet.Reset();
     g_FooterOn = g_FooterDate = g_FooterTime = g_FooterVersion = g_FooterFileName = 0;
     g_ReportFormat = kFormatSpreadsheet;
     g_AllLoadCases = true;

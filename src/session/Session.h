@@ -33,8 +33,8 @@ extern int g_FooterOn, g_FooterDate, g_FooterTime, g_FooterVersion, g_FooterFile
 extern int g_ReportFormat;   // copy of the format radio group; steers FormatCellText alone
 extern bool g_AllLoadCases;  // the radio button "All Load Cases" is the selected one
 
-// Start values for the project and for the options that go with it. g_DataLoaded becomes true, so that a
-// second show of the dialog in the same call skips the load.
+// Start values for the options that go with a project. g_DataLoaded becomes true, so that a second show of
+// the dialog in the same call skips the load.
 void ResetSession();
 
 // Removes one double quote from each end that has one.

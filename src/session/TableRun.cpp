@@ -39,16 +39,14 @@ Report MakeReport(const ReportState& state, const ReportOptions& options, RowRea
 
 // Closes the stream, then starts the viewer or reports that there is nothing to show. A document whose forces
 // were replaced meanwhile is given up: the earlier one stays.
-bool FinishRun(const ReportState& state, StoredStream& out, bool written, int format, const char* noResults) {
-    if (!RequireUnchangedForces(state)) return false;
+void FinishRun(ReportState& state, StoredStream& out, bool written, int format, const char* noResults) {
+    if (!RequireUnchangedForces(state)) return;
     out.Close();
-    const bool complete = !out.Failed();
     if (written) {
         ShowOutputFile(format);
     } else {
         AfxMessageBox(noResults);
     }
-    return complete;
 }
 
 int WriteTable(const TableRun& run, int format, const Report& report, StoredStream& out) {
@@ -128,22 +126,22 @@ const TableRun* FindTableRun(int button) {
     return nullptr;
 }
 
-bool RunTable(const TableRun& run, int format, ReportState& state, ViewerSettings& viewer) {
+void RunTable(const TableRun& run, int format, ReportState& state, ViewerSettings& viewer) {
     BuildOutputFilePath(static_cast<unsigned>(run.table), static_cast<unsigned>(format));
     ReadViewerSettings(viewer);
-    if (!RequireUnchangedForces(state)) return false;
+    if (!RequireUnchangedForces(state)) return;
     CollectSessionTable(run.table, state);
     StoredStream out(g_OutputFilePath);
     const ReportOptions options = SessionOptions();
     RowReader rows(state.forces);
     const bool written = WriteTable(run, format, MakeReport(state, options, rows), out) > 0;
-    return FinishRun(state, out, written, format, run.noResults);
+    FinishRun(state, out, written, format, run.noResults);
 }
 
-bool RunPileHeadForces(int format, ReportState& state, ViewerSettings& viewer) {
+void RunPileHeadForces(int format, ReportState& state, ViewerSettings& viewer) {
     BuildOutputFilePath(kTablePileHeads, static_cast<unsigned>(format));
     ReadViewerSettings(viewer);
-    if (!RequireUnchangedForces(state)) return false;
+    if (!RequireUnchangedForces(state)) return;
     StoredStream out(g_OutputFilePath);
     const ReportOptions options = SessionOptions();
     RowReader rows(state.forces);
@@ -155,12 +153,12 @@ bool RunPileHeadForces(int format, ReportState& state, ViewerSettings& viewer) {
             AfxMessageBox(kInvalidSheetText);
         }
     }
-    return FinishRun(state, out, written, format, kNoResultsText);
+    FinishRun(state, out, written, format, kNoResultsText);
 }
 
-bool RunFullReport(int format, ReportState& state, ViewerSettings& viewer) {
+void RunFullReport(int format, ReportState& state, ViewerSettings& viewer) {
     BuildOutputFilePath(kTableFullReport, static_cast<unsigned>(format));
-    if (!RequireUnchangedForces(state)) return false;
+    if (!RequireUnchangedForces(state)) return;
     for (const TableRun& run : kTableRuns) CollectSessionTable(run.table, state);
     StoredStream out(g_OutputFilePath);
     const ReportOptions options = SessionOptions();
@@ -181,10 +179,10 @@ bool RunFullReport(int format, ReportState& state, ViewerSettings& viewer) {
         default:
             break;
     }
-    return FinishRun(state, out, written, format, kNoResultsText);
+    FinishRun(state, out, written, format, kNoResultsText);
 }
 
-bool RunTitlePage(int format) {
+void RunTitlePage(int format) {
     BuildOutputFilePath(kTableTitlePage, static_cast<unsigned>(format));
     StoredStream out(g_OutputFilePath);
     const ReportOptions options = SessionOptions();
@@ -193,7 +191,6 @@ bool RunTitlePage(int format) {
     out.Close();
     // Opened by its type in either format.
     ShowOutputFile(kFormatText);
-    return !out.Failed();
 }
 
 bool RunEnvelopeFile(ReportState& state) {

@@ -7,8 +7,8 @@
 namespace lumerin {
 
 // The run of a table from the press of its button to the start of its viewer: name the file, collect, write,
-// show. The options are in the session by then. Each run returns whether the file system took all of the
-// output; the run goes to its end either way.
+// show. The options are in the session by then. A force file that was replaced since the load ends the run
+// with a message; the earlier document stays.
 
 // What the eight buttons of tables 0 to 7 differ in.
 struct TableRun {
@@ -22,10 +22,10 @@ struct TableRun {
 // Null when no table belongs to the button.
 const TableRun* FindTableRun(int button);
 
-bool RunTable(const TableRun& run, int format, ReportState& state, ViewerSettings& viewer);
-bool RunPileHeadForces(int format, ReportState& state, ViewerSettings& viewer);
-bool RunFullReport(int format, ReportState& state, ViewerSettings& viewer);
-bool RunTitlePage(int format);  // format 1 or 2
+void RunTable(const TableRun& run, int format, ReportState& state, ViewerSettings& viewer);
+void RunPileHeadForces(int format, ReportState& state, ViewerSettings& viewer);
+void RunFullReport(int format, ReportState& state, ViewerSettings& viewer);
+void RunTitlePage(int format);  // format 1 or 2
 // Writes the data file of the envelope plotter; g_OutputFilePath names it then. False: the forces were
 // replaced since the project was opened, and nothing was written.
 bool RunEnvelopeFile(ReportState& state);

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
+#include <limits>
 #include <sstream>
+#include <utility>
 
 #include "cli/ReportDriver.h"
 #include "support/SampleFolder.h"
@@ -182,6 +186,93 @@ TEST_F(ReportTest, AForceFileThatIsTooShortIsToldAndTheReportGoesOn) {
     EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitIncomplete);
     EXPECT_THAT(err.str(), HasSubstr("pier.vmd: 3 "));
     EXPECT_EQ(out.str(), base + "_Max_Axial_Forces_Pile_Heads.txt\n");
+}
+
+// A stream that does something once, after the first whole line.
+class WithAnEvent : public std::stringbuf {
+  public:
+    explicit WithAnEvent(std::function<void()> event) : m_event(std::move(event)) {}
+
+  protected:
+    int sync() override {
+        if (m_event && str().ends_with('\n')) std::exchange(m_event, nullptr)();
+        return 0;
+    }
+
+  private:
+    std::function<void()> m_event;
+};
+
+// Puts not-a-numbers over the whole force file without changing its length and time.
+void SpoilForces(const std::string& path) {
+    const auto time = fs::last_write_time(path);
+    const std::vector<float> words(fs::file_size(path) / sizeof(float),
+                                   std::numeric_limits<float>::quiet_NaN());
+    std::fstream file(path, std::ios::binary | std::ios::in | std::ios::out);
+    file.write(reinterpret_cast<const char*>(words.data()),
+               static_cast<std::streamsize>(words.size() * sizeof(float)));
+    file.close();
+    fs::last_write_time(path, time);
+}
+
+TEST_F(ReportTest, AllFormatsOfAProjectShareOneLoad) {
+    const std::string base = folder.Write("pier");
+    const std::string stem = base + "_Max_Axial_Forces_Pile_Heads";
+    options.formats = {2, 1, 0};
+    options.projects = {base + ".in"};
+    options.tables = {"axial"};
+    ApplyOptions(options.common);
+    WithAnEvent buffer([&] { EXPECT_TRUE(fs::remove(base + ".TWR")); });
+    std::ostream lines(&buffer);
+    EXPECT_EQ(RunReports(options, lines, err), kExitDone);
+    EXPECT_EQ(buffer.str(), stem + ".txt\n" + stem + ".pdf\n" + stem + ".xml\n");
+    EXPECT_EQ(err.str(), "");
+    // The next run loads again.
+    EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitNotLoaded);
+}
+
+TEST_F(ReportTest, AllTablesAndFormatsOfAProjectShareOnePassOverTheForces) {
+    const std::string base = folder.Write("pier");
+    options.formats = {2, 0};
+    options.projects = {base + ".in"};
+    options.tables = {"axial", "pile-dc"};
+    ApplyOptions(options.common);
+    WithAnEvent buffer([&] { SpoilForces(base + ".vmd"); });
+    std::ostream lines(&buffer);
+    // A second search would find that no number is finite, and no table would be valid.
+    EXPECT_EQ(RunReports(options, lines, err), kExitDone);
+    EXPECT_EQ(err.str(), "");
+    EXPECT_THAT(buffer.str(), HasSubstr(".xml\n"));
+    EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitIncomplete);
+    EXPECT_THAT(err.str(), HasSubstr("Invalid data."));
+}
+
+TEST_F(ReportTest, WhatALoadHasToSayIsSaidOnceForAllFormats) {
+    const std::string base = folder.Write("pier");
+    fs::resize_file(base + ".vmd", fs::file_size(base + ".vmd") - 3 * 68);
+    options.formats = {2, 1, 0};
+    EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitIncomplete);
+    EXPECT_EQ(std::ranges::count(err.str(), '\n'), 1) << err.str();
+}
+
+TEST_F(ReportTest, AForceFileThatChangesDuringTheRunEndsItWithThreeAndLeavesTheEarlierDocuments) {
+    const std::string base = folder.Write("pier"), other = folder.Write("bent");
+    const std::string stem = base + "_Max_Axial_Forces_Pile_Heads";
+    std::ofstream(stem + ".pdf") << "earlier";
+    options.formats = {2, 1, 0};
+    options.projects = {base + ".in", other + ".in"};
+    options.tables = {"axial"};
+    ApplyOptions(options.common);
+    WithAnEvent buffer([&] { fs::resize_file(base + ".vmd", fs::file_size(base + ".vmd") + 68); });
+    std::ostream lines(&buffer);
+    EXPECT_EQ(RunReports(options, lines, err), kExitNotLoaded);
+    EXPECT_EQ(Content(stem + ".pdf"), "earlier");
+    EXPECT_FALSE(fs::exists(stem + ".xml"));
+    EXPECT_EQ(err.str(),
+              base + ".in: " + base +
+                  ".vmd: the file has changed since the project was opened. Open the project again.\n");
+    // The other projects are done all the same.
+    EXPECT_THAT(buffer.str(), HasSubstr(other + "_Max_Axial_Forces_Pile_Heads.xml\n"));
 }
 
 TEST_F(ReportTest, ChosenCasesGoTheRoadOfTheDialog) {

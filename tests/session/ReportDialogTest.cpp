@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "session/ReportControls.h"
 #include "support/ReportDialogFixture.h"
 
 namespace lumerin {
@@ -564,6 +565,40 @@ TEST_F(ReportRunTest, EveryButtonRunsOnTheEmptyModelOfAFailedLoad) {
             EXPECT_TRUE(dialog.IsOpen());
         });
     }
+}
+
+// The host may analyse the bridge again while the dialog is open.
+TEST_F(ReportDialogTest, AForceFileThatWasReplacedStopsThePressAndChangesNothingElse) {
+    const SampleFolder folder;
+    const std::string base = folder.Write("pier"), forces = base + ".vmd";
+    const std::string document = base + "_Max_Axial_Forces_Pile_Heads.txt";
+    std::ofstream(document) << "earlier";
+    Launch(base + ".in", 2, [&](HeadlessDialog& dialog) {
+        const auto time = std::filesystem::last_write_time(forces);
+        const auto size = std::filesystem::file_size(forces);
+        const TableFlags valid = Report(dialog).State().results.valid;
+        sink.messages.clear();
+        std::filesystem::resize_file(forces, size + 68);
+        for (const int id : {IDC_MAX_AXIAL, IDC_PILE_DC, IDC_FULL_REPORT, IDC_CAP_ENVELOPES}) {
+            sink.messages.clear();
+            ASSERT_TRUE(dialog.Click(id));
+            ASSERT_EQ(sink.messages.size(), 1U) << id;
+            EXPECT_EQ(sink.messages[0].text, forces +
+                                                 ": the file has changed since the project was opened. "
+                                                 "Open the project again.");
+        }
+        EXPECT_TRUE(sink.starts.empty() && sink.calls.empty());
+        EXPECT_EQ(std::filesystem::file_size(document), 7U);
+        EXPECT_EQ(g_DataSet.m_nPiers, 1);
+        EXPECT_EQ(Report(dialog).State().results.valid, valid);
+        // With the file that was loaded back in its place the press works.
+        std::filesystem::resize_file(forces, size);
+        std::filesystem::last_write_time(forces, time);
+        sink.messages.clear();
+        ASSERT_TRUE(dialog.Click(IDC_MAX_AXIAL));
+        EXPECT_TRUE(sink.messages.empty());
+        EXPECT_GT(std::filesystem::file_size(document), 1000U);
+    });
 }
 
 }  // namespace

@@ -129,13 +129,11 @@ TEST(ProgramPaths, FoldersStopAtTheSeparator) {
 }
 
 TEST(ResetSession, ReturnsToTheStartValuesAndSkipsASecondLoad) {
-    g_DataSet.m_Piers.emplace_back();
     g_FooterOn = g_FooterDate = g_FooterTime = g_FooterVersion = g_FooterFileName = 1;
     g_ReportFormat = 2;
     g_AllLoadCases = false;
     g_DataLoaded = false;
     ResetSession();
-    EXPECT_TRUE(g_DataSet.IsPierless());
     EXPECT_EQ(g_FooterOn + g_FooterDate + g_FooterTime + g_FooterVersion + g_FooterFileName, 0);
     EXPECT_EQ(g_ReportFormat, 0);
     EXPECT_TRUE(g_AllLoadCases);
