@@ -1,6 +1,6 @@
-"""Reads the files that an analysis leaves beside a project, as far as the cap's envelopes need them.
+"""Reads the result files of a project, as far as the cap's envelopes need them.
 
-Written apart from the program, without its code, so that the two can be held against each other.
+Written without the program's code, so that the two can be compared.
 """
 import pathlib
 import re

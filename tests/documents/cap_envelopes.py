@@ -3,9 +3,8 @@
 
 usage: cap_envelopes.py BASE        prints it; BASE is the input file's path without its suffix
 
-Written apart from the program, without its code or its documents, so that the two can be held against each
-other. It goes about the work differently: it gathers all places of the cap with the elements that meet there and
-asks each for its extremes; nothing is kept between two questions.
+Written without the program's code and documents, so that the two can be compared. The way is another one: it collects all
+places of the cap with the elements that meet there and finds the extremes of each place by itself.
 """
 import pathlib
 import sys

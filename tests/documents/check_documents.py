@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Reads the documents of a report with other people's programs and holds them against the text form.
+"""Reads the documents of a report with other people's programs and compares them with the text form.
 
 usage: check_documents.py LUMERIN MAKE_SAMPLE
 
-- pdftotext opens every PDF of every sample project; line by line, its pages say what the text form says.
+- pdftotext opens every PDF of every sample project; its pages have the lines of the text form.
 - xmllint finds every workbook without a stray fragment well formed; sheet names have 31 characters or fewer.
-- soffice, where the machine has it, opens workbooks and gives back the numbers of the text form.
+- soffice, where the machine has it, opens workbooks and finds the numbers of the text form in them.
 """
 import csv
 import pathlib

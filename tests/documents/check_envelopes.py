@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Holds the envelope data file of every sample project with a cap against one worked out apart from the program.
+"""Compares the envelope data file of every sample project with a cap with one that is worked out without the program.
 
 usage: check_envelopes.py LUMERIN MAKE_SAMPLE
 """

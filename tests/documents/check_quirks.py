@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Holds that each entry of docs/quirks.md names sources and tests that exist.
+"""Checks that each entry of docs/quirks.md names sources and tests that exist.
 
 usage: check_quirks.py REPOSITORY
 
