@@ -47,7 +47,7 @@ std::string PresetHelp() {
 }
 
 struct Arguments {
-    std::string folder, name, cases, piles, seed, trials;
+    std::string folder, name, cases, filled, piles, seed, trials;
     SampleOptions options;
 };
 
@@ -56,6 +56,8 @@ void AddArguments(CLI::App& app, Arguments& arguments) {
     app.add_option("--name", arguments.name, "name of the project (default: that of the preset)");
     app.add_option("--preset", arguments.options.preset, "kind of project")->capture_default_str();
     app.add_option("--cases", arguments.cases, "load cases, combinations or time steps");
+    app.add_option("--filled", arguments.filled,
+                   "forces for the first and the last so many cases alone, a hole in the file between them");
     app.add_option("--piles", arguments.piles, "pile rows and columns, as in 4x6");
     app.add_option("--trials", arguments.trials, "trials of the embedment study (default: 8)");
     app.add_option("--seed", arguments.seed, "another seed gives other loads (default: 1)");
@@ -65,6 +67,7 @@ void AddArguments(CLI::App& app, Arguments& arguments) {
 void Run(const CLI::App& app, Arguments& arguments, std::ostream& out) {
     if (app.count("--name") > 0) arguments.options.name = arguments.name;
     if (app.count("--cases") > 0) arguments.options.cases = ParseNumber<int>(arguments.cases, "--cases");
+    if (app.count("--filled") > 0) arguments.options.filled = ParseNumber<int>(arguments.filled, "--filled");
     if (app.count("--piles") > 0) ParsePiles(arguments.piles, arguments.options);
     if (app.count("--seed") > 0)
         arguments.options.seed = ParseNumber<std::uint64_t>(arguments.seed, "--seed");

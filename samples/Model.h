@@ -164,6 +164,8 @@ struct Project {
     std::string title;
     std::uint64_t seed = 0;
     int cases = 0;
+    int filledCases =
+        0;  // with forces, at each end of a force file; zeros between them take no space on the disk
     CodeFamily family = CodeFamily::None;
     AnalysisMode mode = AnalysisMode::LoadCases;
     EmbedmentStudy study;

@@ -43,6 +43,11 @@ void OutputFile::Flush() {
     m_block.clear();
 }
 
+void OutputFile::Skip(std::int64_t bytes) {
+    Flush();
+    if (fseeko(m_file.get(), bytes, SEEK_CUR) != 0) Fail();
+}
+
 void OutputFile::Close() {
     Flush();
     if (std::fclose(m_file.release()) != 0) Fail();

@@ -2,6 +2,7 @@
 // A file that is written front to back in large blocks.
 #pragma once
 
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -37,6 +38,9 @@ class OutputFile {
 
     void Write(std::span<const char> bytes);
     void Write(std::string_view text) { Write(std::span<const char>(text.data(), text.size())); }
+
+    // Leaves a hole, which reads as zeros; something must follow it.
+    void Skip(std::int64_t bytes);
 
     // Stores what is still held back. A file that is not closed may lack its end.
     void Close();

@@ -308,6 +308,8 @@ Project MakeProject(const SampleOptions& options) {
     project.mode = preset.mode;
     CheckName(project.name);
     CheckRange("cases", project.cases, mostCases);
+    project.filledCases = options.filled.value_or(project.cases);
+    CheckRange("filled cases", project.filledCases, mostCases);
     CheckRange("pile rows", options.rows.value_or(1), mostPilesInLine);
     CheckRange("pile columns", options.columns.value_or(1), mostPilesInLine);
     CheckRange("trials", options.trials.value_or(1), mostTrials);

@@ -21,6 +21,7 @@ struct SampleOptions {
     std::optional<int> cases;  // nothing: the preset's own
     std::optional<int> rows;   // of piles; both or none
     std::optional<int> columns;
+    std::optional<int> filled;  // cases with forces at each end of the force files; a hole is between them
     std::optional<int> trials;  // of the embedment study, where the preset has one
 };
 

@@ -146,7 +146,13 @@ void WriteForces(const std::filesystem::path& path, const Project& project, std:
     OutputFile file(path);
     std::vector<float> words;
     std::string swapped;
+    const int endOfHole = project.cases - project.filledCases;
     for (int c = 0; c < project.cases; ++c) {
+        if (c == project.filledCases && c < endOfHole) {
+            const std::int64_t caseBytes = static_cast<std::int64_t>(words.size() * sizeof(float));
+            file.Skip((endOfHole - c) * caseBytes);
+            c = endOfHole;
+        }
         words.clear();
         model.Solve(c);
         model.AppendRecords(words);

@@ -127,6 +127,7 @@ int PlayScript(const HostOptions& options, ModuleExport launch, std::ostream& ou
     const UINT_PTR timer = SetTimer(nullptr, 0, kTickMilliseconds, OnTimer);
     std::string project = FullPath(options.project);
     for (bool more = true; more;) {
+        Driver()->BeginCall();
         const unsigned result = Call(launch, options, project);
         Driver()->EndCall(result);
         const ScriptAction* again = Driver()->TakeAgain();
@@ -216,7 +217,8 @@ int main(int argc, char** argv) {
     program.add_option("--text-a", options.textA, "The fourth argument of the export; nothing shows it");
     program.add_option("--text-b", options.textB, "The fifth argument; nothing shows it");
     program.add_option("--plot-argument", options.plotArgument, "The sixth argument, for the plot module");
-    program.add_flag("--waits", options.waits, "Tell the longest wait behind each action");
+    program.add_flag("--waits", options.waits,
+                     "Report the time to each dialog and the longest wait after each action");
     program
         .add_option("--rounds", options.rounds,
                     "Play the script so many times and tell what this process holds behind each")

@@ -88,6 +88,10 @@ void WindowDriver::NoteDialog(HWND dialog) {
         return;
     }
     m_open.push_back(dialog);
+    if (m_bTellWaits && m_open.size() == 1) {
+        const std::chrono::duration<double, std::milli> wait = std::chrono::steady_clock::now() - m_CallBegan;
+        std::cerr << "dialog after " << wait.count() << " ms" << std::endl;
+    }
     m_lines.Dialog(TextOf(dialog));
 }
 

@@ -21,9 +21,12 @@ class WindowDriver {
     WindowDriver(std::vector<ScriptAction> actions, std::ostream& out);
 
     void Tick();
-    // Tells on standard error the longest time that the dialogs kept the user waiting behind each action.
+    // Reports on standard error how long each call takes to open its dialog, and the longest time that the
+    // dialogs keep the user waiting after each action.
     void TellWaits() { m_bTellWaits = true; }
 
+    // Just before a call.
+    void BeginCall() { m_CallBegan = std::chrono::steady_clock::now(); }
     // Prints what the call left behind and its result.
     void EndCall(unsigned result);
     // The action that opens the dialog once more behind a call; null when another one is next, or none.
@@ -54,7 +57,7 @@ class WindowDriver {
     int m_nAnsweredTicks = 0;    // how long the answered box has stayed
     bool m_bAnswerYes = true;
     bool m_bTellWaits = false;
-    std::chrono::steady_clock::time_point m_LastTick{};
+    std::chrono::steady_clock::time_point m_CallBegan{}, m_LastTick{};
     std::chrono::steady_clock::duration m_LongestWait{};
 };
 

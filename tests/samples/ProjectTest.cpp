@@ -92,6 +92,26 @@ TEST(WholeProject, SameSeedGivesSameBytesAndAnotherSeedOtherForces) {
     }
 }
 
+TEST(WholeProject, AHoleInTheForcesReadsAsZerosBetweenFilledCases) {
+    const ScratchFolder folder;
+    samples::SampleOptions options;
+    options.preset = "group";
+    options.cases = 9;
+    samples::WriteProject(folder.Path() / "all", samples::MakeProject(options));
+    options.filled = 2;
+    samples::WriteProject(folder.Path() / "hole", samples::MakeProject(options));
+    const std::string all = folder.Read("all/group.vmd"), hole = folder.Read("hole/group.vmd");
+    ASSERT_EQ(hole.size(), all.size());
+    const std::size_t caseBytes = all.size() / 9;
+    EXPECT_EQ(hole.substr(0, 2 * caseBytes), all.substr(0, 2 * caseBytes));
+    EXPECT_EQ(hole.substr(2 * caseBytes, 5 * caseBytes), std::string(5 * caseBytes, '\0'));
+    EXPECT_EQ(hole.substr(7 * caseBytes), all.substr(7 * caseBytes));
+    // No hole where the two ends meet.
+    options.filled = 5;
+    samples::WriteProject(folder.Path() / "none", samples::MakeProject(options));
+    EXPECT_EQ(folder.Read("none/group.vmd"), all);
+}
+
 TEST(WholeProject, AnotherPresetUnderTheSameNameLeavesNothingOfTheFirst) {
     const SampleFolder folder;
     samples::SampleOptions options;
