@@ -6,6 +6,7 @@
 
 #include "fuzz/Playground.h"
 #include "script/Script.h"
+#include "session/ReportControls.h"
 
 using namespace lumerin;
 
@@ -13,7 +14,7 @@ extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, st
 
 namespace {
 
-constexpr int kFirstControl = 1001, kLastControl = 1047;
+constexpr int kFirstControl = IDC_FULL_REPORT, kLastControl = IDC_CASES_NONE;
 constexpr std::size_t kLongestScript = 4000;
 
 std::string Number(std::minstd_rand& random) {

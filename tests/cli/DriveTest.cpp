@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "cli/DriveCommand.h"
+#include "session/ReportControls.h"
 #include "session/Session.h"
 #include "support/SampleFolder.h"
 
@@ -65,19 +66,19 @@ TEST_F(DriveTest, DumpsTheNamedControlsInResourceOrder) {
     ASSERT_EQ(lines.size(), 29U);  // 27 controls of the 31 have an identifier
     EXPECT_THAT(lines[1], HasSubstr("{\"id\":1041,\"kind\":\"group\""));
     EXPECT_THAT(lines[27], HasSubstr("{\"id\":2,\"kind\":\"button\",\"text\":\"Cancel\""));
-    EXPECT_EQ(Control(1021)["checked"], true);
-    EXPECT_EQ(Control(1004).contains("checked"), false);
+    EXPECT_EQ(Control(IDC_FORMAT_EXCEL)["checked"], true);
+    EXPECT_EQ(Control(IDC_MAX_AXIAL).contains("checked"), false);
 }
 
 // Without a footer its parts are hidden; what they hold stays.
 TEST_F(DriveTest, DumpsWhatEachControlShows) {
     Drive(folder.Write("pier") + ".in", "click 1015\ndump\n");
-    EXPECT_EQ(Control(1017).dump(),
+    EXPECT_EQ(Control(IDC_FOOTER_DATE).dump(),
               R"({"checked":true,"enabled":true,"id":1017,"kind":"check","text":"Date","visible":false})");
-    EXPECT_EQ(Control(1015)["checked"], false);
-    EXPECT_EQ(Control(1015)["visible"], true);
-    EXPECT_EQ(Control(1039)["enabled"], false);
-    EXPECT_EQ(Control(1039)["visible"], true);
+    EXPECT_EQ(Control(IDC_FOOTER)["checked"], false);
+    EXPECT_EQ(Control(IDC_FOOTER)["visible"], true);
+    EXPECT_EQ(Control(IDC_CHOOSE_CASES)["enabled"], false);
+    EXPECT_EQ(Control(IDC_CHOOSE_CASES)["visible"], true);
 }
 
 TEST_F(DriveTest, ADisabledOrHiddenControlRefuses) {
@@ -156,8 +157,8 @@ TEST_F(DriveTest, TheLoadCaseDialogTakesTheActionsUntilItCloses) {
     EXPECT_THAT(lines, testing::Contains("{\"row\":0,\"cells\":[\"Load Comb\",\"Include\"]}"));
     EXPECT_THAT(lines, testing::Contains("{\"row\":1,\"cells\":[\"1\",\"0\"]}"));
     EXPECT_THAT(lines, testing::Contains("{\"row\":2,\"cells\":[\"2\",\"1\"]}"));
-    EXPECT_EQ(Control(1037)["checked"], true);
-    EXPECT_EQ(Control(1039)["enabled"], false);
+    EXPECT_EQ(Control(IDC_ALL_CASES)["checked"], true);
+    EXPECT_EQ(Control(IDC_CHOOSE_CASES)["enabled"], false);
 }
 
 TEST_F(DriveTest, AScriptThatEndsInAnInnerDialogClosesBoth) {
@@ -173,8 +174,8 @@ TEST_F(DriveTest, ABrokenProjectLeavesTheDialogToBeDriven) {
     EXPECT_EQ(Drive(base + ".in", "dump\nclick 1004\n"), kExitNotLoaded);
     EXPECT_THAT(lines.front(), HasSubstr(base + ".PLF: "));
     EXPECT_EQ(lines[1], "{\"dialog\":\"Lumerin Generator\"}");
-    EXPECT_EQ(Control(1006)["enabled"], true);
-    EXPECT_EQ(Control(1037)["text"], "All Load Cases");
+    EXPECT_EQ(Control(IDC_COLUMN_DC)["enabled"], true);
+    EXPECT_EQ(Control(IDC_ALL_CASES)["text"], "All Load Cases");
     EXPECT_THAT(lines[lines.size() - 2], HasSubstr("There are no results to view."));
     EXPECT_EQ(lines.back(), "{\"result\":1}");
 }
@@ -202,8 +203,9 @@ TEST_F(DriveTest, AgainEndsTheCallAndMakesAnother) {
     ASSERT_GE(lines.size(), 4U);
     EXPECT_EQ(lines[1], "{\"result\":0}");
     EXPECT_EQ(lines[2], lines[0]);
-    EXPECT_EQ(Control(1015)["checked"], true);
-    EXPECT_EQ(Control(1007)["text"], "Bent Cap Shear Design");  // the last dump is the other project's
+    EXPECT_EQ(Control(IDC_FOOTER)["checked"], true);
+    EXPECT_EQ(Control(IDC_CAP_SHEAR)["text"],
+              "Bent Cap Shear Design");  // the last dump is the other project's
     EXPECT_EQ(lines.back(), "{\"result\":1}");
     EXPECT_EQ(err.str(), "");
 }

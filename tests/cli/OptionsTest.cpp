@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "framework/headless/Headless.h"
+#include "session/ReportControls.h"
 
 namespace lumerin {
 
@@ -44,12 +45,12 @@ TEST(Options, FormatsAndTablesGoByTheirNames) {
     EXPECT_EQ(ReadFormat("pdf"), 1);
     EXPECT_EQ(ReadFormat("text"), 2);
     EXPECT_THROW(ReadFormat("xml"), std::invalid_argument);
-    EXPECT_EQ(TableButton("axial"), 1004);
-    EXPECT_EQ(TableButton("envelopes"), 1009);
-    EXPECT_EQ(TableButton("extra-members"), 1012);
-    EXPECT_EQ(TableButton("pile-heads"), 1013);
-    EXPECT_EQ(TableButton("full"), 1001);
-    EXPECT_EQ(TableButton("title"), 1002);
+    EXPECT_EQ(TableButton("axial"), IDC_MAX_AXIAL);
+    EXPECT_EQ(TableButton("envelopes"), IDC_CAP_ENVELOPES);
+    EXPECT_EQ(TableButton("extra-members"), IDC_EXTRA_MEMBERS);
+    EXPECT_EQ(TableButton("pile-heads"), IDC_PILE_HEADS);
+    EXPECT_EQ(TableButton("full"), IDC_FULL_REPORT);
+    EXPECT_EQ(TableButton("title"), IDC_TITLE_PAGE);
     EXPECT_EQ(TableButton("heads"), 0);
 }
 

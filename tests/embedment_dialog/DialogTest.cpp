@@ -5,6 +5,7 @@
 
 #include "embedment/SvgCanvas.h"
 #include "embedment/dialog/EmbedmentDialog.h"
+#include "session/ReportControls.h"
 #include "support/StudyDialogFixture.h"
 
 namespace lumerin {
@@ -59,18 +60,19 @@ TEST_F(EmbedmentDialogTest, OpensOnTheFirstCaseAndTheFirstQuantity) {
     WriteStudy();
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
         EXPECT_EQ(front.Title(), "Minimum Pile Tip Embedment - Substructure 2");
-        EXPECT_EQ(front.Find(1025)->text, "1");
-        EXPECT_EQ(front.Find(1026)->spinLow, 1);
-        EXPECT_EQ(front.Find(1026)->spinHigh, 3);
-        EXPECT_EQ(front.Find(1026)->spinPosition, 1);
-        EXPECT_THAT(front.Find(1027)->entries,
+        EXPECT_EQ(front.Find(IDC_STUDY_CASE)->text, "1");
+        EXPECT_EQ(front.Find(IDC_STUDY_SPIN)->spinLow, 1);
+        EXPECT_EQ(front.Find(IDC_STUDY_SPIN)->spinHigh, 3);
+        EXPECT_EQ(front.Find(IDC_STUDY_SPIN)->spinPosition, 1);
+        EXPECT_THAT(front.Find(IDC_STUDY_QUANTITY)->entries,
                     ElementsAre("Lateral Displacement", "Lateral X-Displacement", "Lateral Y-Displacement",
                                 "Max Axial Force", "Min Axial Force"));
-        EXPECT_THAT(front.Find(1035)->entries, ElementsAre("Max Envelope", "Min Envelope"));
-        EXPECT_EQ(front.Find(1027)->selection, 0);
-        EXPECT_EQ(front.Find(1035)->selection, 0);
-        EXPECT_FALSE(front.Find(1035)->enabled);
-        EXPECT_TRUE(front.Find(1033)->checked);
+        EXPECT_THAT(front.Find(IDC_STUDY_ENVELOPE_MODE)->entries,
+                    ElementsAre("Max Envelope", "Min Envelope"));
+        EXPECT_EQ(front.Find(IDC_STUDY_QUANTITY)->selection, 0);
+        EXPECT_EQ(front.Find(IDC_STUDY_ENVELOPE_MODE)->selection, 0);
+        EXPECT_FALSE(front.Find(IDC_STUDY_ENVELOPE_MODE)->enabled);
+        EXPECT_TRUE(front.Find(IDC_STUDY_INDIVIDUAL)->checked);
         EXPECT_FALSE(front.Find(1)->visible);
         EXPECT_EQ(dialog.m_Grid.GetRowCount(), 5);
         EXPECT_THAT(Row(dialog, 0), ElementsAre("Trial", "Load Case", "Pile", "Embedment", "Displacement"));
@@ -104,24 +106,25 @@ TEST_F(EmbedmentDialogTest, TheGridIsShadedReadOnlyAndNotEditable) {
 TEST_F(EmbedmentDialogTest, WordsFollowTheProject) {
     WriteStudy();
     Open([&](CMPTEDlg&, HeadlessDialog& front) {
-        EXPECT_EQ(front.Find(1030)->text, "Load Case");
-        EXPECT_EQ(front.Find(1033)->text, "Individual Load Case");
-        EXPECT_EQ(front.Find(1034)->text, "Envelope (All Load Cases)");
-        EXPECT_EQ(front.Find(1022)->text, "Excel");
-        EXPECT_THAT(front.Find(1031)->text,
+        EXPECT_EQ(front.Find(IDC_STUDY_CASE_LABEL)->text, "Load Case");
+        EXPECT_EQ(front.Find(IDC_STUDY_INDIVIDUAL)->text, "Individual Load Case");
+        EXPECT_EQ(front.Find(IDC_STUDY_ENVELOPE)->text, "Envelope (All Load Cases)");
+        EXPECT_EQ(front.Find(IDC_STUDY_EXPORT)->text, "Excel");
+        EXPECT_THAT(front.Find(IDC_STUDY_NOTES)->text,
                     HasSubstr("1. Results are presented for each load case and each embedment.\n\n2. The "
                               "\x91Lateral Displacement\x92, \x91Lateral X"));
-        EXPECT_THAT(front.Find(1031)->text, HasSubstr("all pile elements.\n\n"));
+        EXPECT_THAT(front.Find(IDC_STUDY_NOTES)->text, HasSubstr("all pile elements.\n\n"));
     });
     data.FirstPier().m_bCombinations = true;
     allCases = false;
     Open(
         [&](CMPTEDlg& dialog, HeadlessDialog& front) {
-            EXPECT_EQ(front.Find(1030)->text, "Load Comb");
-            EXPECT_EQ(front.Find(1033)->text, "Individual Load Combination");
-            EXPECT_EQ(front.Find(1034)->text, "Envelope (Custom Set of Load Combs)");
-            EXPECT_EQ(front.Find(1022)->text, "PDF");
-            EXPECT_THAT(front.Find(1031)->text, HasSubstr("for each load combination and each embedment."));
+            EXPECT_EQ(front.Find(IDC_STUDY_CASE_LABEL)->text, "Load Comb");
+            EXPECT_EQ(front.Find(IDC_STUDY_INDIVIDUAL)->text, "Individual Load Combination");
+            EXPECT_EQ(front.Find(IDC_STUDY_ENVELOPE)->text, "Envelope (Custom Set of Load Combs)");
+            EXPECT_EQ(front.Find(IDC_STUDY_EXPORT)->text, "PDF");
+            EXPECT_THAT(front.Find(IDC_STUDY_NOTES)->text,
+                        HasSubstr("for each load combination and each embedment."));
             EXPECT_EQ(Row(dialog, 0)[1], "Load Comb");
             EXPECT_THAT(Row(dialog, 1), ElementsAre("", "", "", "(m)", "(m)"));
             EXPECT_EQ(DrawnText(dialog, kGraphCaption), "Load Comb 1 - Embedment vs Lateral Displacement");
@@ -129,7 +132,7 @@ TEST_F(EmbedmentDialogTest, WordsFollowTheProject) {
             EXPECT_EQ(DrawnText(dialog, kGraphLabelY), "Lateral Displacement (m)");
         },
         1, kFormatPdf);
-    Open([&](CMPTEDlg&, HeadlessDialog& front) { EXPECT_EQ(front.Find(1022)->text, "Excel"); }, 0,
+    Open([&](CMPTEDlg&, HeadlessDialog& front) { EXPECT_EQ(front.Find(IDC_STUDY_EXPORT)->text, "Excel"); }, 0,
          kFormatText);
 }
 
@@ -137,7 +140,7 @@ TEST_F(EmbedmentDialogTest, TimeStepsAreLoadCasesInTheTitleAndTheHeadings) {
     WriteStudy();
     data.m_nAnalysisMode = 1;
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
-        EXPECT_EQ(front.Find(1030)->text, "Time Step");
+        EXPECT_EQ(front.Find(IDC_STUDY_CASE_LABEL)->text, "Time Step");
         EXPECT_EQ(Row(dialog, 0)[1], "Load Case");
         EXPECT_EQ(DrawnText(dialog, kGraphCaption), "Load Case 1 - Embedment vs Lateral Displacement");
     });
@@ -146,7 +149,7 @@ TEST_F(EmbedmentDialogTest, TimeStepsAreLoadCasesInTheTitleAndTheHeadings) {
 TEST_F(EmbedmentDialogTest, AQuantityChangesHeadingsTableAndPlot) {
     WriteStudy();
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
-        ASSERT_TRUE(front.SelectEntry(1027, 4));
+        ASSERT_TRUE(front.SelectEntry(IDC_STUDY_QUANTITY, 4));
         EXPECT_THAT(Row(dialog, 0), ElementsAre("Trial", "Load Case", "Pile", "Embedment", "Force"));
         EXPECT_THAT(Row(dialog, 1), ElementsAre("", "", "", "(ft)", "(kips)"));
         EXPECT_THAT(Row(dialog, 3), ElementsAre("2", "1", "1", "12.50", "-60.000000"));
@@ -178,13 +181,13 @@ TEST_F(EmbedmentDialogTest, ADrawingMakesItsCallsInOrder) {
 TEST_F(EmbedmentDialogTest, TheSpinButtonAndTheTextChooseTheCase) {
     WriteStudy();
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
-        ASSERT_TRUE(front.Spin(1026, true));
-        EXPECT_EQ(front.Find(1025)->text, "2");
+        ASSERT_TRUE(front.Spin(IDC_STUDY_SPIN, true));
+        EXPECT_EQ(front.Find(IDC_STUDY_CASE)->text, "2");
         EXPECT_EQ(dialog.m_nCase, 2);
         EXPECT_THAT(Row(dialog, 2), ElementsAre("1", "2", "2", "10.00", "0.700000"));
         EXPECT_EQ(DrawnText(dialog, kGraphCaption), "Load Case 2 - Embedment vs Lateral Displacement");
-        ASSERT_TRUE(front.TypeText(1025, "3"));
-        EXPECT_EQ(front.Find(1026)->spinPosition, 3);
+        ASSERT_TRUE(front.TypeText(IDC_STUDY_CASE, "3"));
+        EXPECT_EQ(front.Find(IDC_STUDY_SPIN)->spinPosition, 3);
         EXPECT_EQ(Row(dialog, 4)[4], "0.250000");
         EXPECT_EQ(DrawnPoints(dialog).size(), 3u);
     });
@@ -194,13 +197,13 @@ TEST_F(EmbedmentDialogTest, TheSpinButtonAndTheTextChooseTheCase) {
 TEST_F(EmbedmentDialogTest, ANumberOutsideTheCasesIsRefused) {
     WriteStudy();
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
-        front.TypeText(1025, "2");
+        front.TypeText(IDC_STUDY_CASE, "2");
         for (const char* text : {"0", "4", "-1", "99999999999", "x"}) {
             sink.messages.clear();
-            front.TypeText(1025, text);
+            front.TypeText(IDC_STUDY_CASE, text);
             EXPECT_THAT(Messages(), ElementsAre("Invalid load case.")) << text;
-            EXPECT_EQ(front.Find(1025)->text, "2") << text;
-            EXPECT_EQ(front.Find(1026)->spinPosition, 2) << text;
+            EXPECT_EQ(front.Find(IDC_STUDY_CASE)->text, "2") << text;
+            EXPECT_EQ(front.Find(IDC_STUDY_SPIN)->spinPosition, 2) << text;
             EXPECT_EQ(Row(dialog, 2)[1], "2") << text;
         }
         sink.messages.clear();
@@ -210,33 +213,34 @@ TEST_F(EmbedmentDialogTest, ANumberOutsideTheCasesIsRefused) {
 TEST_F(EmbedmentDialogTest, AnEmptyTextIsRefusedOnlyWhenTheFocusLeaves) {
     WriteStudy();
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
-        front.TypeText(1025, "3");
-        ASSERT_TRUE(front.Focus(1025));
-        front.TypeText(1025, "");
+        front.TypeText(IDC_STUDY_CASE, "3");
+        ASSERT_TRUE(front.Focus(IDC_STUDY_CASE));
+        front.TypeText(IDC_STUDY_CASE, "");
         EXPECT_TRUE(Messages().empty());
         EXPECT_EQ(Row(dialog, 2)[1], "3");
-        ASSERT_TRUE(front.Focus(1027));
+        ASSERT_TRUE(front.Focus(IDC_STUDY_QUANTITY));
         EXPECT_THAT(Messages(), ElementsAre("Invalid load case."));
-        EXPECT_EQ(front.Find(1025)->text, "3");
+        EXPECT_EQ(front.Find(IDC_STUDY_CASE)->text, "3");
     });
 }
 
 TEST_F(EmbedmentDialogTest, TheModesEnableTheirControls) {
     WriteStudy();
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
-        ASSERT_TRUE(front.Click(1034));
+        ASSERT_TRUE(front.Click(IDC_STUDY_ENVELOPE));
         EXPECT_EQ(dialog.m_nViewMode, 1);
-        EXPECT_FALSE(front.Find(1030)->enabled);
-        EXPECT_FALSE(front.Find(1025)->enabled);
-        EXPECT_TRUE(front.Find(1035)->enabled);
-        EXPECT_FALSE(front.TypeText(1025, "2"));
-        EXPECT_TRUE(front.Spin(1026, true));  // the spin button is not disabled, but turns no disabled number
-        EXPECT_EQ(front.Find(1025)->text, "1");
-        ASSERT_TRUE(front.Click(1033));
+        EXPECT_FALSE(front.Find(IDC_STUDY_CASE_LABEL)->enabled);
+        EXPECT_FALSE(front.Find(IDC_STUDY_CASE)->enabled);
+        EXPECT_TRUE(front.Find(IDC_STUDY_ENVELOPE_MODE)->enabled);
+        EXPECT_FALSE(front.TypeText(IDC_STUDY_CASE, "2"));
+        EXPECT_TRUE(front.Spin(IDC_STUDY_SPIN,
+                               true));  // the spin button is not disabled, but turns no disabled number
+        EXPECT_EQ(front.Find(IDC_STUDY_CASE)->text, "1");
+        ASSERT_TRUE(front.Click(IDC_STUDY_INDIVIDUAL));
         EXPECT_EQ(dialog.m_nViewMode, 0);
-        EXPECT_TRUE(front.Find(1030)->enabled);
-        EXPECT_TRUE(front.Find(1025)->enabled);
-        EXPECT_FALSE(front.Find(1035)->enabled);
+        EXPECT_TRUE(front.Find(IDC_STUDY_CASE_LABEL)->enabled);
+        EXPECT_TRUE(front.Find(IDC_STUDY_CASE)->enabled);
+        EXPECT_FALSE(front.Find(IDC_STUDY_ENVELOPE_MODE)->enabled);
         EXPECT_EQ(Row(dialog, 2)[4], "0.500000");
     });
 }
@@ -244,10 +248,10 @@ TEST_F(EmbedmentDialogTest, TheModesEnableTheirControls) {
 TEST_F(EmbedmentDialogTest, AnEnvelopeTakesTheFirstOfEqualCases) {
     WriteStudy();
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
-        front.Click(1034);
+        front.Click(IDC_STUDY_ENVELOPE);
         EXPECT_THAT(Row(dialog, 2), ElementsAre("1", "2", "2", "10.00", "0.700000"));  // case 3 has it too
         EXPECT_THAT(Row(dialog, 3), ElementsAre("2", "3", "3", "12.50", "0.650000"));
-        ASSERT_TRUE(front.SelectEntry(1035, 1));
+        ASSERT_TRUE(front.SelectEntry(IDC_STUDY_ENVELOPE_MODE, 1));
         EXPECT_THAT(Row(dialog, 2), ElementsAre("1", "1", "1", "10.00", "0.500000"));
         // The title keeps naming the one case.
         EXPECT_EQ(DrawnText(dialog, kGraphCaption), "Load Case 1 - Embedment vs Lateral Displacement");
@@ -264,20 +268,20 @@ TEST_F(EmbedmentDialogTest, AnEnvelopeTakesTheFirstOfEqualCases) {
 TEST_F(EmbedmentDialogTest, AnEnvelopesPlotHasTheRangeOfTheSingleCase) {
     WriteStudy();
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
-        front.SelectEntry(1027, kMaxAxial);
-        front.Click(1034);
+        front.SelectEntry(IDC_STUDY_QUANTITY, kMaxAxial);
+        front.Click(IDC_STUDY_ENVELOPE);
         // It starts at the last trial's envelope, 320, and takes the values of case 1: 100, 110, 120.
         EXPECT_EQ(dialog.m_dMinY, 100.0);
         EXPECT_EQ(dialog.m_dMaxY, 320.0);
-        front.SelectEntry(1035, 1);
+        front.SelectEntry(IDC_STUDY_ENVELOPE_MODE, 1);
         // 120 is the last trial's least; the greatest of case 1 is 120 as well.
         EXPECT_EQ(dialog.m_dMinY, 100.0);
         EXPECT_EQ(dialog.m_dMaxY, 120.0);
         EXPECT_EQ(DrawnPoints(dialog)[0].y, 100.0);
         // With case 3 chosen, 200 to 220, the envelope's 100 and 110 lie below the plot, 120 is its start.
-        front.Click(1033);
-        front.TypeText(1025, "3");
-        front.Click(1034);
+        front.Click(IDC_STUDY_INDIVIDUAL);
+        front.TypeText(IDC_STUDY_CASE, "3");
+        front.Click(IDC_STUDY_ENVELOPE);
         EXPECT_EQ(dialog.m_dMinY, 120.0);
         EXPECT_EQ(dialog.m_dMaxY, 220.0);
         EXPECT_EQ(DrawnPoints(dialog)[0].y, 100.0);
@@ -289,22 +293,22 @@ TEST_F(EmbedmentDialogTest, ACustomSetLeavesOtherCasesOutOfTheEnvelope) {
     selection.SetCaseSelected(1, false);
     allCases = false;
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
-        front.Click(1034);
+        front.Click(IDC_STUDY_ENVELOPE);
         EXPECT_EQ(Row(dialog, 2)[1], "3");
-        EXPECT_EQ(front.Find(1034)->text, "Envelope (Custom Set of Load Cases)");
+        EXPECT_EQ(front.Find(IDC_STUDY_ENVELOPE)->text, "Envelope (Custom Set of Load Cases)");
     });
     // With all cases the selection is ignored.
     allCases = true;
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
-        front.Click(1034);
+        front.Click(IDC_STUDY_ENVELOPE);
         EXPECT_EQ(Row(dialog, 2)[1], "2");
-        EXPECT_EQ(front.Find(1034)->text, "Envelope (All Load Cases)");
+        EXPECT_EQ(front.Find(IDC_STUDY_ENVELOPE)->text, "Envelope (All Load Cases)");
     });
     // None selected, which the load case dialog does not let happen.
     allCases = false;
     for (int i = 0; i < kCases; ++i) selection.SetCaseSelected(i, false);
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
-        front.Click(1034);
+        front.Click(IDC_STUDY_ENVELOPE);
         EXPECT_THAT(Row(dialog, 2), ElementsAre("1", "0", "0", "10.00", "0.000000"));
     });
 }
@@ -316,7 +320,7 @@ TEST_F(EmbedmentDialogTest, CasesThatTheProjectDoesNotHaveAreNotSelected) {
     selection = CaseSelection(data);
     allCases = false;
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
-        front.Click(1034);
+        front.Click(IDC_STUDY_ENVELOPE);
         EXPECT_EQ(Row(dialog, 2)[1], "1");
     });
 }
@@ -327,7 +331,7 @@ TEST_F(EmbedmentDialogTest, AnIncompleteTrialReadsNotAvailableAndHasNoPoint) {
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
         EXPECT_THAT(Row(dialog, 3), ElementsAre("2", "NA", "NA", "NA", "NA"));
         EXPECT_EQ(DrawnPoints(dialog).size(), 2u);
-        front.Click(1034);
+        front.Click(IDC_STUDY_ENVELOPE);
         EXPECT_THAT(Row(dialog, 3), ElementsAre("2", "NA", "NA", "NA", "NA"));
         EXPECT_EQ(Row(dialog, 4)[1], "2");
     });
@@ -356,7 +360,7 @@ TEST_F(EmbedmentDialogTest, WithNoCompleteTrialThePlotIsEmpty) {
         for (int row = 2; row < 4; ++row) EXPECT_EQ(Row(dialog, row)[1], "NA");
         EXPECT_TRUE(DrawnPoints(dialog).empty());
         EXPECT_THAT(DrawnRanges(dialog), ElementsAre(-1.0, 1.0, -1.0, 1.0));  // ranges of zeros
-        front.Click(1034);
+        front.Click(IDC_STUDY_ENVELOPE);
         EXPECT_THAT(DrawnRanges(dialog), ElementsAre(-1.0, 1.0, -1.0, 1.0));
         EXPECT_TRUE(front.ClickGraph(0.0));
         EXPECT_EQ(FocusRow(dialog), -1);
@@ -368,16 +372,16 @@ TEST_F(EmbedmentDialogTest, AStudyWithoutFilesStillOpens) {
         EXPECT_THAT(Messages(), ElementsAre("Error opening the base PEL results file."));
         EXPECT_EQ(dialog.m_Grid.GetRowCount(), 2);
         sink.messages.clear();
-        front.Click(1034);
-        front.SelectEntry(1027, 2);
+        front.Click(IDC_STUDY_ENVELOPE);
+        front.SelectEntry(IDC_STUDY_QUANTITY, 2);
         EXPECT_TRUE(Messages().empty());
-        front.Click(1033);
-        front.TypeText(1025, "5");
+        front.Click(IDC_STUDY_INDIVIDUAL);
+        front.TypeText(IDC_STUDY_CASE, "5");
         EXPECT_THAT(Messages(), ElementsAre("Invalid load case."));
         sink.messages.clear();
-        front.Spin(1026, true);  // no case is valid, the first one neither
+        front.Spin(IDC_STUDY_SPIN, true);  // no case is valid, the first one neither
         EXPECT_THAT(Messages(), ElementsAre("Invalid load case."));
-        EXPECT_EQ(front.Find(1025)->text, "1");
+        EXPECT_EQ(front.Find(IDC_STUDY_CASE)->text, "1");
     });
 }
 
@@ -386,7 +390,7 @@ TEST_F(EmbedmentDialogTest, APlotThatIsDisabledOrHiddenTakesNoClick) {
     Open([&](CMPTEDlg& dialog, HeadlessDialog& front) {
         ASSERT_TRUE(front.ClickGraph(10.0));
         const int row = FocusRow(dialog);
-        NativeWindow& plot = *front.Find(1029);
+        NativeWindow& plot = *front.Find(IDC_STUDY_GRAPH);
         plot.enabled = false;
         EXPECT_FALSE(front.ClickGraph(1000.0));
         plot.enabled = true;
@@ -446,9 +450,9 @@ TEST_F(EmbedmentDialogTest, OneCompleteTrialHasNoRowToClickOn) {
 TEST_F(EmbedmentDialogTest, ExcelWritesTheGridAsItStands) {
     WriteStudy();
     Open([&](CMPTEDlg&, HeadlessDialog& front) {
-        front.TypeText(1025, "2");
-        front.SelectEntry(1027, kMaxAxial);
-        ASSERT_TRUE(front.Click(1022));
+        front.TypeText(IDC_STUDY_CASE, "2");
+        front.SelectEntry(IDC_STUDY_QUANTITY, kMaxAxial);
+        ASSERT_TRUE(front.Click(IDC_STUDY_EXPORT));
     });
     ASSERT_EQ(sink.starts.size(), 1u);
     const std::string name = "a_LoadCase2-EmbedmentvsMaxAxialForce.xml";
@@ -466,7 +470,8 @@ TEST_F(EmbedmentDialogTest, ExcelWritesTheGridAsItStands) {
 
 TEST_F(EmbedmentDialogTest, PdfHandsTheGridAndThePictureToTheBuilder) {
     WriteStudy();
-    Open([&](CMPTEDlg&, HeadlessDialog& front) { ASSERT_TRUE(front.Click(1022)); }, 0, kFormatPdf);
+    Open([&](CMPTEDlg&, HeadlessDialog& front) { ASSERT_TRUE(front.Click(IDC_STUDY_EXPORT)); }, 0,
+         kFormatPdf);
     ASSERT_EQ(sink.starts.size(), 1u);
     EXPECT_THAT(sink.starts[0].file, HasSubstr("Jarlimex.exe"));
     EXPECT_EQ(sink.starts[0].parameters, '"' + (folder / "PdfTemp.txt").string() + '"');
@@ -493,7 +498,7 @@ TEST_F(EmbedmentDialogTest, TheReportDialogOpensItWithItsUnitsAndFormat) {
     std::string caption, title;
     headless::SetModalDriver([&](HeadlessDialog& front) {
         title = front.Title();
-        caption = front.Find(1022)->text;
+        caption = front.Find(IDC_STUDY_EXPORT)->text;
     });
     RunEmbedmentDialog({inputFile, data, selection, allCases}, kFormatPdf);
     EXPECT_EQ(title, "Minimum Pile Tip Embedment - Substructure 2");

@@ -2,6 +2,7 @@
 #include "framework/WholeFilePlatform.h"
 #include "reliability/FaultyCalls.h"
 #include "session/Launch.h"
+#include "session/ReportControls.h"
 #include "support/BrokenProject.h"
 
 namespace lumerin {
@@ -13,8 +14,32 @@ namespace {
 
 // Presses by identifier, the way a dialog's user would. A press that opens a dialog leaves the ones behind it
 // to that dialog, until it is closed.
-constexpr int kPresses[] = {1004, 1007, 1009, 1019, 1001, 1021, 1010, 1038, 1039, 1047, 1046, 1042, 1,
-                            1008, 1022, 1034, 1033, 1022, 2,    1020, 1001, 1011, 1002, 1019, 1002, 1};
+constexpr int kPresses[] = {IDC_MAX_AXIAL,
+                            IDC_CAP_SHEAR,
+                            IDC_CAP_ENVELOPES,
+                            IDC_FORMAT_PDF,
+                            IDC_FULL_REPORT,
+                            IDC_FORMAT_EXCEL,
+                            IDC_PILE_FORCES,
+                            IDC_CUSTOM_CASES,
+                            IDC_CHOOSE_CASES,
+                            IDC_CASES_NONE,
+                            IDC_CASES_ALL,
+                            IDC_CASE_EXPORT,
+                            1,
+                            IDC_CAP_MOMENT,
+                            IDC_EMBEDMENT,
+                            IDC_STUDY_ENVELOPE,
+                            IDC_STUDY_INDIVIDUAL,
+                            IDC_STUDY_EXPORT,
+                            2,
+                            IDC_FORMAT_TEXT,
+                            IDC_FULL_REPORT,
+                            IDC_COLUMN_FORCES,
+                            IDC_TITLE_PAGE,
+                            IDC_FORMAT_PDF,
+                            IDC_TITLE_PAGE,
+                            1};
 
 // Presses the buttons with the allocation of that number failing.
 class Presses {

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <vector>
 
+#include "session/ReportControls.h"
 #include "support/ReportDialogFixture.h"
 
 namespace lumerin {
@@ -31,7 +32,7 @@ class EnvelopeSamples : public ReportDialogTest {
     }
     void ExpectWorkedOut(const std::string& preset) {
         const std::string base = folder.Write(preset);
-        Launch(base + ".in", 2, [](HeadlessDialog& dialog) { dialog.Click(1009); });
+        Launch(base + ".in", 2, [](HeadlessDialog& dialog) { dialog.Click(IDC_CAP_ENVELOPES); });
         const std::vector<std::string> written = Lines(base + "_Envelopes.txt");
         const std::vector<std::string> expected =
             Lines(std::string(LUMERIN_SOURCE_DIR "/tests/session/goldens/") + preset + "-envelopes.txt");

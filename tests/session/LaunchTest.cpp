@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <thread>
 
+#include "session/ReportControls.h"
 #include "support/ReportDialogFixture.h"
 
 namespace lumerin {
@@ -52,7 +53,7 @@ TEST_F(LaunchTest, ACallDuringACallReturnsZeroAndChangesNothingOnAnyThread) {
 TEST_F(LaunchTest, EachCallStartsWithoutAWaitCursor) {
     const auto leave = [](HeadlessDialog& dialog) {
         EXPECT_EQ(backend::WaitCursorDepth(), 0);
-        dialog.Click(1002);
+        dialog.Click(IDC_TITLE_PAGE);
         EXPECT_EQ(backend::WaitCursorDepth(), 1);
     };
     // The cover sheet refuses the spreadsheet format and leaves its wait cursor.
@@ -95,7 +96,7 @@ TEST_F(LaunchTest, APathOfThreeCharactersOpensNoProject) {
     Launch("abc", 2, [this](HeadlessDialog& dialog) {
         EXPECT_EQ(g_ProjectBasePath, "");
         sink.messages.clear();
-        dialog.Click(1004);
+        dialog.Click(IDC_MAX_AXIAL);
         ASSERT_EQ(sink.messages.size(), 1U);
         EXPECT_EQ(sink.messages[0].text, "There is currently no input file selected.");
     });
@@ -138,17 +139,17 @@ TEST_F(LaunchTest, ASecondCallReadsItsOwnProject) {
     const std::string bent = folder.Write("bent");
     int pierCases = 0;
     Launch(pier + ".in", 2, [&](HeadlessDialog& dialog) {
-        EXPECT_EQ(Text(dialog, 1009), "Pier Cap Envelopes");
+        EXPECT_EQ(Text(dialog, IDC_CAP_ENVELOPES), "Pier Cap Envelopes");
         pierCases = g_DataSet.m_nLoadCases;
-        dialog.Click(1038);
+        dialog.Click(IDC_CUSTOM_CASES);
     });
     EXPECT_GT(pierCases, 0);
     Launch(bent + ".in", 2, [](HeadlessDialog& dialog) {
-        EXPECT_EQ(Text(dialog, 1009), "Bent Cap Envelopes");
+        EXPECT_EQ(Text(dialog, IDC_CAP_ENVELOPES), "Bent Cap Envelopes");
         EXPECT_EQ(g_DataSet.m_nStructureType, kTypePileBent);
         // The choice of the call before is forgotten.
         EXPECT_TRUE(g_AllLoadCases);
-        EXPECT_FALSE(Enabled(dialog, 1039));
+        EXPECT_FALSE(Enabled(dialog, IDC_CHOOSE_CASES));
     });
 }
 

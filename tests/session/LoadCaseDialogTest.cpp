@@ -13,6 +13,7 @@
 #include "grid/GridCellNumeric.h"
 #include "model/DataSet.h"
 #include "session/DesignerDlg.h"
+#include "session/ReportControls.h"
 #include "session/Session.h"
 #include "support/SampleFolder.h"
 
@@ -59,7 +60,7 @@ class LoadCaseDialog : public testing::Test {
     }
 
     static std::vector<std::string> Row(headless::HeadlessDialog& dialog, int row) {
-        return dialog.Find(1040)->grid->RowTexts(row);
+        return dialog.Find(IDC_CASE_GRID)->grid->RowTexts(row);
     }
     std::vector<int> Selection() const {
         std::vector<int> selected;
@@ -84,7 +85,7 @@ TEST_F(LoadCaseDialog, CaptionsFollowTheProjectsWord) {
     Run(kFormatText, [](auto& dialog) {
         EXPECT_EQ(dialog.Title(), "Choose Load Cases");
         EXPECT_THAT(Row(dialog, 0), ElementsAre("Load Case", "Include"));
-        EXPECT_EQ(dialog.Find(1040)->grid->RowCount(), 4);
+        EXPECT_EQ(dialog.Find(IDC_CASE_GRID)->grid->RowCount(), 4);
         EXPECT_THAT(Row(dialog, 3), ElementsAre("3", "1"));
     });
     BuildModel(kFamilyLrfd, {kStrength, kStrength});
@@ -105,7 +106,8 @@ TEST_F(LoadCaseDialog, TheExportButtonReadsPdfInThatFormatAlone) {
     const std::pair<int, const char*> captions[] = {
         {kFormatSpreadsheet, "Excel"}, {kFormatPdf, "PDF"}, {kFormatText, "Excel"}};
     for (const auto& [format, caption] : captions) {
-        Run(format, [caption = caption](auto& dialog) { EXPECT_EQ(dialog.Find(1042)->text, caption); });
+        Run(format,
+            [caption = caption](auto& dialog) { EXPECT_EQ(dialog.Find(IDC_CASE_EXPORT)->text, caption); });
     }
 }
 
@@ -168,7 +170,7 @@ TEST_F(LoadCaseDialog, HeadingsAndNumbersCannotBeTyped) {
 TEST_F(LoadCaseDialog, NoneThenOkAsksForOneInTheProjectsWord) {
     BuildModel(kFamilyLrfd, {kStrength, kStrength});
     EXPECT_FALSE(Run(kFormatText, [](auto& dialog) {
-        dialog.Click(1047);
+        dialog.Click(IDC_CASES_NONE);
         EXPECT_THAT(Row(dialog, 1), ElementsAre("1", "0"));
         dialog.Click(1);
         EXPECT_TRUE(dialog.IsOpen());
@@ -182,7 +184,7 @@ TEST_F(LoadCaseDialog, NoneThenOkAsksForOneInTheProjectsWord) {
     BuildModel(kFamilyNone, {kStrength});
     g_DataSet.m_nAnalysisMode = 1;
     Run(kFormatText, [](auto& dialog) {
-        dialog.Click(1047);
+        dialog.Click(IDC_CASES_NONE);
         dialog.Click(1);
     });
     ASSERT_EQ(sink.messages.size(), 2u);
@@ -202,8 +204,8 @@ TEST_F(LoadCaseDialog, AllAfterNoneIncludesEveryCase) {
     BuildModel(kFamilyNone, {kStrength, kStrength, kStrength});
     selection.SetCaseSelected(1, false);
     EXPECT_TRUE(Run(kFormatText, [](auto& dialog) {
-        dialog.Click(1047);
-        dialog.Click(1046);
+        dialog.Click(IDC_CASES_NONE);
+        dialog.Click(IDC_CASES_ALL);
         dialog.Click(1);
     }));
     EXPECT_THAT(Selection(), ElementsAre(1, 1, 1));
@@ -212,7 +214,7 @@ TEST_F(LoadCaseDialog, AllAfterNoneIncludesEveryCase) {
 TEST_F(LoadCaseDialog, CancelAfterNoneLeavesTheModel) {
     BuildModel(kFamilyNone, {kStrength, kStrength});
     EXPECT_FALSE(Run(kFormatText, [](auto& dialog) {
-        dialog.Click(1047);
+        dialog.Click(IDC_CASES_NONE);
         dialog.Click(2);
     }));
     EXPECT_THAT(Selection(), ElementsAre(1, 1));
@@ -231,7 +233,7 @@ TEST_F(LoadCaseDialog, TheSelectionIsShownAndGetsTheAnswer) {
 TEST_F(LoadCaseDialog, APastedValueAboveOneCountsAndComesBackAsOne) {
     BuildModel(kFamilyNone, {kStrength, kStrength});
     EXPECT_TRUE(Run(kFormatText, [](auto& dialog) {
-        dialog.Click(1047);
+        dialog.Click(IDC_CASES_NONE);
         CGridCtrl& grid = dynamic_cast<CChoseLoadCasesDlg&>(dialog.Dialog()).m_Grid;
         EXPECT_TRUE(grid.PasteAt(1, 1, "7x\nabc"));
         dialog.Click(1);
@@ -244,7 +246,7 @@ TEST_F(LoadCaseDialog, AnOpenEditorEndsWhenOkIsPressed) {
     BuildModel(kFamilyNone, {kStrength, kStrength});
     Run(kFormatText, [](auto& dialog) {
         CGridCtrl& grid = dynamic_cast<CChoseLoadCasesDlg&>(dialog.Dialog()).m_Grid;
-        dialog.Focus(1040);
+        dialog.Focus(IDC_CASE_GRID);
         grid.MoveFocusCell(1, 1);
         grid.OnChar('0', {});
         dialog.Click(1);
@@ -301,17 +303,18 @@ TEST_F(LoadCaseDialog, WithFatigueAloneOnlyTheMomentTableStays) {
     g_DataLoaded = true;
     g_AllLoadCases = false;
     headless::SetModalDriver([](headless::HeadlessDialog& dialog) {
-        if (dialog.ResourceId() == 1005) {
+        if (dialog.ResourceId() == IDC_PILE_DC) {
             dialog.TypeCell(1, 1, "0");
             dialog.Click(1);
             return;
         }
-        dialog.Click(1038);
-        ASSERT_TRUE(dialog.Click(1039));
-        for (const int id : {1004, 1005, 1006, 1007, 1010, 1011, 1012}) {
+        dialog.Click(IDC_CUSTOM_CASES);
+        ASSERT_TRUE(dialog.Click(IDC_CHOOSE_CASES));
+        for (const int id : {IDC_MAX_AXIAL, IDC_PILE_DC, IDC_COLUMN_DC, IDC_CAP_SHEAR, IDC_PILE_FORCES,
+                             IDC_COLUMN_FORCES, IDC_EXTRA_MEMBERS}) {
             EXPECT_FALSE(dialog.Find(id)->enabled) << id;
         }
-        EXPECT_TRUE(dialog.Find(1008)->enabled);
+        EXPECT_TRUE(dialog.Find(IDC_CAP_MOMENT)->enabled);
     });
     CDesignerDlg dialog;
     dialog.State().selection = selection;
@@ -332,7 +335,7 @@ TEST_F(LoadCaseDialog, TheExportShowsChangesThatOkHasNotConfirmed) {
     BuildModel(kFamilyNone, {kStrength, kStrength});
     Run(kFormatText, [](auto& dialog) {
         dialog.TypeCell(2, 1, "0");
-        dialog.Click(1042);
+        dialog.Click(IDC_CASE_EXPORT);
     });
     const std::string book = ReadAll(folder.Path() / "job_IncludedLoadCases.xml");
     EXPECT_THAT(book, testing::HasSubstr("<Worksheet ss:Name=\"IncludedLoadCases\">"));
@@ -350,7 +353,7 @@ TEST_F(LoadCaseDialog, InPdfFormatTheGridGoesToTheImageBuilder) {
     std::filesystem::create_directories(folder.Path());
     g_InputFilePath = (folder.Path() / "job.in").string();
     BuildModel(kFamilyNone, {kStrength, kStrength});
-    Run(kFormatPdf, [](auto& dialog) { dialog.Click(1042); });
+    Run(kFormatPdf, [](auto& dialog) { dialog.Click(IDC_CASE_EXPORT); });
     const std::string description = ReadAll(folder.Path() / "PdfTemp.txt");
     EXPECT_THAT(description, testing::StartsWith("[title]Included Load Cases\r\n"));
     EXPECT_THAT(description, testing::HasSubstr("[columnWidth]auto\r\n"));

@@ -17,8 +17,9 @@ using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
 
-constexpr int kFooterParts[] = {1017, 1016, 1014, 1018};
-constexpr int kTableButtons[] = {1004, 1005, 1006, 1007, 1008, 1010, 1011, 1012};
+constexpr int kFooterParts[] = {IDC_FOOTER_DATE, IDC_FOOTER_TIME, IDC_FOOTER_VERSION, IDC_FOOTER_FILE_NAME};
+constexpr int kTableButtons[] = {IDC_MAX_AXIAL,  IDC_PILE_DC,     IDC_COLUMN_DC,     IDC_CAP_SHEAR,
+                                 IDC_CAP_MOMENT, IDC_PILE_FORCES, IDC_COLUMN_FORCES, IDC_EXTRA_MEMBERS};
 constexpr const char* kNoProject = "There is currently no input file selected.";
 
 TEST_F(ReportDialogTest, HasThirtyOneControlsWithTheFourBoxTitlesUnnamed) {
@@ -28,7 +29,7 @@ TEST_F(ReportDialogTest, HasThirtyOneControlsWithTheFourBoxTitlesUnnamed) {
         int unnamed = 0;
         for (const auto& control : dialog.Controls()) unnamed += control->spec->id == kNoId ? 1 : 0;
         EXPECT_EQ(unnamed, 4);
-        EXPECT_FALSE(Enabled(dialog, 1039));
+        EXPECT_FALSE(Enabled(dialog, IDC_CHOOSE_CASES));
         EXPECT_FALSE(Visible(dialog, 2));
         EXPECT_EQ(Text(dialog, 1), "Close");
     });
@@ -37,14 +38,14 @@ TEST_F(ReportDialogTest, HasThirtyOneControlsWithTheFourBoxTitlesUnnamed) {
 TEST_F(ReportDialogTest, StartsOnTheFormatOfTheCallWithAllFooterPartsAndAllCases) {
     for (const int format : {0, 1, 2}) {
         ShowOverModel(format, [format](HeadlessDialog& dialog) {
-            EXPECT_EQ(Checked(dialog, 1021), format == 0);
-            EXPECT_EQ(Checked(dialog, 1019), format == 1);
-            EXPECT_EQ(Checked(dialog, 1020), format == 2);
-            EXPECT_TRUE(Checked(dialog, 1015));
-            EXPECT_TRUE(Enabled(dialog, 1015));
+            EXPECT_EQ(Checked(dialog, IDC_FORMAT_EXCEL), format == 0);
+            EXPECT_EQ(Checked(dialog, IDC_FORMAT_PDF), format == 1);
+            EXPECT_EQ(Checked(dialog, IDC_FORMAT_TEXT), format == 2);
+            EXPECT_TRUE(Checked(dialog, IDC_FOOTER));
+            EXPECT_TRUE(Enabled(dialog, IDC_FOOTER));
             for (const int id : kFooterParts) EXPECT_TRUE(Checked(dialog, id) && Visible(dialog, id)) << id;
-            EXPECT_TRUE(Checked(dialog, 1037));
-            EXPECT_FALSE(Checked(dialog, 1038));
+            EXPECT_TRUE(Checked(dialog, IDC_ALL_CASES));
+            EXPECT_FALSE(Checked(dialog, IDC_CUSTOM_CASES));
         });
     }
 }
@@ -54,7 +55,9 @@ TEST_F(ReportDialogTest, WithoutAProjectEveryRunIsRefusedBeforeAnyWaitCursor) {
         // The load of no project has failed; the buttons are as the resource has them.
         EXPECT_FALSE(Report(dialog).IsProjectLoaded());
         sink.messages.clear();
-        for (const int id : {1004, 1005, 1006, 1007, 1008, 1009, 1010, 1011, 1012, 1001, 1002, 1013, 1022}) {
+        for (const int id : {IDC_MAX_AXIAL, IDC_PILE_DC, IDC_COLUMN_DC, IDC_CAP_SHEAR, IDC_CAP_MOMENT,
+                             IDC_CAP_ENVELOPES, IDC_PILE_FORCES, IDC_COLUMN_FORCES, IDC_EXTRA_MEMBERS,
+                             IDC_FULL_REPORT, IDC_TITLE_PAGE, IDC_PILE_HEADS, IDC_EMBEDMENT}) {
             ASSERT_TRUE(dialog.Click(id)) << id;
             ASSERT_EQ(sink.messages.size(), 1U) << id;
             EXPECT_EQ(sink.messages[0].text, kNoProject);
@@ -71,14 +74,14 @@ TEST_F(ReportDialogTest, CaptionsTakeTheProjectsWord) {
     BuildModel({kTypePier}, kFamilyLrfd, {kStrength});
     ShowOverModel(0, [](HeadlessDialog& dialog) {
         Report(dialog).RefreshControls();
-        EXPECT_EQ(Text(dialog, 1041), "Load Combination Selection");
-        EXPECT_EQ(Text(dialog, 1037), "All Load Combinations");
-        EXPECT_EQ(Text(dialog, 1038), "Custom Set of Load Combinations");
-        EXPECT_EQ(Text(dialog, 1039), "Choose Load Combinations");
+        EXPECT_EQ(Text(dialog, IDC_CASE_SELECTION), "Load Combination Selection");
+        EXPECT_EQ(Text(dialog, IDC_ALL_CASES), "All Load Combinations");
+        EXPECT_EQ(Text(dialog, IDC_CUSTOM_CASES), "Custom Set of Load Combinations");
+        EXPECT_EQ(Text(dialog, IDC_CHOOSE_CASES), "Choose Load Combinations");
         g_DataSet.m_nAnalysisMode = 1;
         Report(dialog).RefreshControls();
-        EXPECT_EQ(Text(dialog, 1041), "Time Step Selection");
-        EXPECT_EQ(Text(dialog, 1039), "Choose Time Steps");
+        EXPECT_EQ(Text(dialog, IDC_CASE_SELECTION), "Time Step Selection");
+        EXPECT_EQ(Text(dialog, IDC_CHOOSE_CASES), "Choose Time Steps");
     });
 }
 
@@ -86,10 +89,14 @@ TEST_F(ReportDialogTest, APileGroupLosesColumnAndCapTables) {
     BuildModel({kTypePileGroup}, kFamilyNone, {});
     ShowOverModel(0, [](HeadlessDialog& dialog) {
         Report(dialog).RefreshControls();
-        for (const int id : {1006, 1007, 1008, 1009, 1011, 1012}) EXPECT_FALSE(Enabled(dialog, id)) << id;
-        for (const int id : {1004, 1005, 1010, 1001, 1002, 1013}) EXPECT_TRUE(Enabled(dialog, id)) << id;
-        EXPECT_EQ(Text(dialog, 1007), "Pier Cap Shear Design");
-        EXPECT_EQ(Text(dialog, 1009), "Pier Cap Envelopes");
+        for (const int id : {IDC_COLUMN_DC, IDC_CAP_SHEAR, IDC_CAP_MOMENT, IDC_CAP_ENVELOPES,
+                             IDC_COLUMN_FORCES, IDC_EXTRA_MEMBERS})
+            EXPECT_FALSE(Enabled(dialog, id)) << id;
+        for (const int id :
+             {IDC_MAX_AXIAL, IDC_PILE_DC, IDC_PILE_FORCES, IDC_FULL_REPORT, IDC_TITLE_PAGE, IDC_PILE_HEADS})
+            EXPECT_TRUE(Enabled(dialog, id)) << id;
+        EXPECT_EQ(Text(dialog, IDC_CAP_SHEAR), "Pier Cap Shear Design");
+        EXPECT_EQ(Text(dialog, IDC_CAP_ENVELOPES), "Pier Cap Envelopes");
     });
 }
 
@@ -97,11 +104,13 @@ TEST_F(ReportDialogTest, ABentHasItsCapWordAndNoColumnTables) {
     BuildModel({kTypePileBent}, kFamilyLfd, {});
     ShowOverModel(0, [](HeadlessDialog& dialog) {
         Report(dialog).RefreshControls();
-        EXPECT_EQ(Text(dialog, 1007), "Bent Cap Shear Design");
-        EXPECT_EQ(Text(dialog, 1008), "Bent Cap Moment Design");
-        EXPECT_EQ(Text(dialog, 1009), "Bent Cap Envelopes");
-        for (const int id : {1004, 1007, 1008, 1009}) EXPECT_TRUE(Enabled(dialog, id)) << id;
-        for (const int id : {1006, 1011, 1012}) EXPECT_FALSE(Enabled(dialog, id)) << id;
+        EXPECT_EQ(Text(dialog, IDC_CAP_SHEAR), "Bent Cap Shear Design");
+        EXPECT_EQ(Text(dialog, IDC_CAP_MOMENT), "Bent Cap Moment Design");
+        EXPECT_EQ(Text(dialog, IDC_CAP_ENVELOPES), "Bent Cap Envelopes");
+        for (const int id : {IDC_MAX_AXIAL, IDC_CAP_SHEAR, IDC_CAP_MOMENT, IDC_CAP_ENVELOPES})
+            EXPECT_TRUE(Enabled(dialog, id)) << id;
+        for (const int id : {IDC_COLUMN_DC, IDC_COLUMN_FORCES, IDC_EXTRA_MEMBERS})
+            EXPECT_FALSE(Enabled(dialog, id)) << id;
     });
 }
 
@@ -110,7 +119,7 @@ TEST_F(ReportDialogTest, ExtraMembersOfAnySubstructureEnableTheirTable) {
     g_DataSet.m_Piers[1].m_nExtraMembers = 1;
     ShowOverModel(0, [](HeadlessDialog& dialog) {
         Report(dialog).RefreshControls();
-        EXPECT_TRUE(Enabled(dialog, 1012));
+        EXPECT_TRUE(Enabled(dialog, IDC_EXTRA_MEMBERS));
     });
 }
 
@@ -119,9 +128,12 @@ TEST_F(ReportDialogTest, FatigueAloneLeavesTheMomentTableAndWhatIsNoTable) {
     g_DataSet.FirstPier().m_nExtraMembers = 1;
     ShowOverModel(0, [](HeadlessDialog& dialog) {
         Report(dialog).RefreshControls();
-        for (const int id : {1004, 1005, 1006, 1007, 1010, 1011, 1012})
+        for (const int id : {IDC_MAX_AXIAL, IDC_PILE_DC, IDC_COLUMN_DC, IDC_CAP_SHEAR, IDC_PILE_FORCES,
+                             IDC_COLUMN_FORCES, IDC_EXTRA_MEMBERS})
             EXPECT_FALSE(Enabled(dialog, id)) << id;
-        for (const int id : {1008, 1001, 1002, 1013, 1009}) EXPECT_TRUE(Enabled(dialog, id)) << id;
+        for (const int id :
+             {IDC_CAP_MOMENT, IDC_FULL_REPORT, IDC_TITLE_PAGE, IDC_PILE_HEADS, IDC_CAP_ENVELOPES})
+            EXPECT_TRUE(Enabled(dialog, id)) << id;
     });
 }
 
@@ -131,9 +143,11 @@ TEST_F(ReportDialogTest, AMastAloneOffersNoTableThoughItsFlagsWouldAllowSome) {
         BuildModel({type}, kFamilyNone, {});
         ShowOverModel(0, [&, type](HeadlessDialog& dialog) {
             Report(dialog).RefreshControls();
-            for (const int id : {1001, 1002, 1020}) EXPECT_FALSE(Enabled(dialog, id)) << type << ' ' << id;
-            for (int id = 1004; id <= 1018; ++id) EXPECT_FALSE(Enabled(dialog, id)) << type << ' ' << id;
-            for (const int id : {1019, 1021, 1037, 1038})
+            for (const int id : {IDC_FULL_REPORT, IDC_TITLE_PAGE, IDC_FORMAT_TEXT})
+                EXPECT_FALSE(Enabled(dialog, id)) << type << ' ' << id;
+            for (int id = IDC_MAX_AXIAL; id <= IDC_FOOTER_FILE_NAME; ++id)
+                EXPECT_FALSE(Enabled(dialog, id)) << type << ' ' << id;
+            for (const int id : {IDC_FORMAT_PDF, IDC_FORMAT_EXCEL, IDC_ALL_CASES, IDC_CUSTOM_CASES})
                 EXPECT_TRUE(Enabled(dialog, id)) << type << ' ' << id;
             // A button that can't be pressed decides before the flag.
             EXPECT_EQ(model.enabled[kTableCapShear], type == kTypeMast);
@@ -157,42 +171,43 @@ TEST_F(ReportDialogTest, SeveralSubstructuresNameTheirCapsTogether) {
             Report(dialog).RefreshControls();
             const std::string cap = entry.cap;
             // Without either word the captions keep their leading blank.
-            EXPECT_EQ(Text(dialog, 1007), cap + " Shear Design");
-            EXPECT_EQ(Text(dialog, 1008), cap + " Moment Design");
-            EXPECT_EQ(Text(dialog, 1009), cap + " Envelopes");
-            EXPECT_EQ(Enabled(dialog, 1006), entry.columnTables);
-            EXPECT_EQ(Enabled(dialog, 1011), entry.columnTables);
-            for (const int id : {1004, 1007, 1008, 1009}) EXPECT_TRUE(Enabled(dialog, id)) << id;
+            EXPECT_EQ(Text(dialog, IDC_CAP_SHEAR), cap + " Shear Design");
+            EXPECT_EQ(Text(dialog, IDC_CAP_MOMENT), cap + " Moment Design");
+            EXPECT_EQ(Text(dialog, IDC_CAP_ENVELOPES), cap + " Envelopes");
+            EXPECT_EQ(Enabled(dialog, IDC_COLUMN_DC), entry.columnTables);
+            EXPECT_EQ(Enabled(dialog, IDC_COLUMN_FORCES), entry.columnTables);
+            for (const int id : {IDC_MAX_AXIAL, IDC_CAP_SHEAR, IDC_CAP_MOMENT, IDC_CAP_ENVELOPES})
+                EXPECT_TRUE(Enabled(dialog, id)) << id;
         });
     }
 }
 
 TEST_F(ReportDialogTest, TheFooterBoxShowsAndHidesItsPartsAndLeavesTheirState) {
     ShowOverModel(0, [](HeadlessDialog& dialog) {
-        dialog.Click(1016);
-        dialog.Click(1015);
+        dialog.Click(IDC_FOOTER_TIME);
+        dialog.Click(IDC_FOOTER);
         EXPECT_EQ(Report(dialog).m_nFooterOn, 0);
         for (const int id : kFooterParts) EXPECT_FALSE(Visible(dialog, id)) << id;
-        dialog.Click(1015);
+        dialog.Click(IDC_FOOTER);
         EXPECT_EQ(Report(dialog).m_nFooterOn, 1);
         for (const int id : kFooterParts) EXPECT_TRUE(Visible(dialog, id)) << id;
-        EXPECT_FALSE(Checked(dialog, 1016));
-        EXPECT_TRUE(Checked(dialog, 1017));
+        EXPECT_FALSE(Checked(dialog, IDC_FOOTER_TIME));
+        EXPECT_TRUE(Checked(dialog, IDC_FOOTER_DATE));
     });
 }
 
 TEST_F(ReportDialogTest, TextTakesTheFooterAwayAndPdfDoesNotBringItBack) {
     BuildModel({kTypePier}, kFamilyNone, {});
     ShowOverModel(0, [](HeadlessDialog& dialog) {
-        dialog.Click(1020);
-        EXPECT_FALSE(Enabled(dialog, 1015));
-        EXPECT_FALSE(Checked(dialog, 1015));
+        dialog.Click(IDC_FORMAT_TEXT);
+        EXPECT_FALSE(Enabled(dialog, IDC_FOOTER));
+        EXPECT_FALSE(Checked(dialog, IDC_FOOTER));
         for (const int id : kFooterParts) EXPECT_FALSE(Visible(dialog, id) || Checked(dialog, id)) << id;
-        dialog.Click(1019);
-        EXPECT_TRUE(Enabled(dialog, 1015));
-        EXPECT_FALSE(Checked(dialog, 1015));
+        dialog.Click(IDC_FORMAT_PDF);
+        EXPECT_TRUE(Enabled(dialog, IDC_FOOTER));
+        EXPECT_FALSE(Checked(dialog, IDC_FOOTER));
         for (const int id : kFooterParts) EXPECT_FALSE(Visible(dialog, id)) << id;
-        dialog.Click(1015);
+        dialog.Click(IDC_FOOTER);
         for (const int id : kFooterParts) {
             EXPECT_TRUE(Visible(dialog, id)) << id;
             EXPECT_FALSE(Checked(dialog, id)) << id;
@@ -203,19 +218,19 @@ TEST_F(ReportDialogTest, TextTakesTheFooterAwayAndPdfDoesNotBringItBack) {
 TEST_F(ReportDialogTest, TheFooterBoxGoesByTheLastSubstructuresType) {
     BuildModel({kTypePier, kTypeWallA}, kFamilyNone, {});
     ShowOverModel(0, [](HeadlessDialog& dialog) {
-        dialog.Click(1019);
-        EXPECT_FALSE(Enabled(dialog, 1015));
+        dialog.Click(IDC_FORMAT_PDF);
+        EXPECT_FALSE(Enabled(dialog, IDC_FOOTER));
     });
 }
 
 TEST_F(ReportDialogTest, TheLoadCaseChoiceEnablesItsButtonAndLeavesTheSelection) {
     ShowOverModel(0, [](HeadlessDialog& dialog) {
-        dialog.Click(1038);
+        dialog.Click(IDC_CUSTOM_CASES);
         EXPECT_FALSE(g_AllLoadCases);
-        EXPECT_TRUE(Enabled(dialog, 1039));
-        dialog.Click(1037);
+        EXPECT_TRUE(Enabled(dialog, IDC_CHOOSE_CASES));
+        dialog.Click(IDC_ALL_CASES);
         EXPECT_TRUE(g_AllLoadCases);
-        EXPECT_FALSE(Enabled(dialog, 1039));
+        EXPECT_FALSE(Enabled(dialog, IDC_CHOOSE_CASES));
     });
 }
 
@@ -231,7 +246,7 @@ class ReportRunTest : public ReportDialogTest {
 TEST_F(ReportRunTest, ATablePressWritesItsFileAndStartsTheViewerOnIt) {
     const std::string base = Project("pier");
     Launch(base + ".in", 2, [&](HeadlessDialog& dialog) {
-        dialog.Click(1004);
+        dialog.Click(IDC_MAX_AXIAL);
         EXPECT_EQ(backend::WaitCursorDepth(), 0);
         const std::string path = base + "_Max_Axial_Forces_Pile_Heads.txt";
         EXPECT_EQ(g_OutputFilePath, path);
@@ -242,9 +257,9 @@ TEST_F(ReportRunTest, ATablePressWritesItsFileAndStartsTheViewerOnIt) {
         EXPECT_EQ(sink.starts[0].parameters, "");
         // This table alone sets the printer, in its text form alone.
         EXPECT_THAT(sink.orientations, ElementsAre(true));
-        dialog.Click(1005);
-        dialog.Click(1019);
-        dialog.Click(1004);
+        dialog.Click(IDC_PILE_DC);
+        dialog.Click(IDC_FORMAT_PDF);
+        dialog.Click(IDC_MAX_AXIAL);
         EXPECT_THAT(sink.orientations, ElementsAre(true));
         EXPECT_THAT(g_OutputFilePath, EndsWith(".pdf"));
         EXPECT_TRUE(sink.messages.empty());
@@ -254,7 +269,7 @@ TEST_F(ReportRunTest, ATablePressWritesItsFileAndStartsTheViewerOnIt) {
 TEST_F(ReportRunTest, TheSpreadsheetGoesToTheSpreadsheetProgram) {
     const std::string base = Project("pier");
     Launch(base + ".in", 0, [&](HeadlessDialog& dialog) {
-        dialog.Click(1008);
+        dialog.Click(IDC_CAP_MOMENT);
         ASSERT_EQ(sink.starts.size(), 1U);
         EXPECT_EQ(sink.starts[0].verb, "open");
         EXPECT_EQ(sink.starts[0].file, "Excel");
@@ -265,10 +280,10 @@ TEST_F(ReportRunTest, TheSpreadsheetGoesToTheSpreadsheetProgram) {
 TEST_F(ReportRunTest, TheOptionsReachTheSessionBeforeTheTable) {
     const std::string base = Project("pier");
     Launch(base + ".in", 1, [&](HeadlessDialog& dialog) {
-        dialog.Click(1016);
-        dialog.Click(1018);
+        dialog.Click(IDC_FOOTER_TIME);
+        dialog.Click(IDC_FOOTER_FILE_NAME);
         EXPECT_EQ(g_FooterOn, 0);  // a press copies them, nothing else
-        dialog.Click(1005);
+        dialog.Click(IDC_PILE_DC);
         EXPECT_EQ(g_FooterOn, 1);
         EXPECT_EQ(g_FooterDate, 1);
         EXPECT_EQ(g_FooterTime, 0);
@@ -281,10 +296,10 @@ TEST_F(ReportRunTest, TheOptionsReachTheSessionBeforeTheTable) {
 TEST_F(ReportRunTest, AStartOnTextLeavesTheFooterFlagsSet) {
     const std::string base = Project("pier");
     Launch(base + ".in", 2, [&](HeadlessDialog& dialog) {
-        dialog.Click(1005);
+        dialog.Click(IDC_PILE_DC);
         EXPECT_EQ(g_FooterOn, 1);
-        dialog.Click(1020);
-        dialog.Click(1005);
+        dialog.Click(IDC_FORMAT_TEXT);
+        dialog.Click(IDC_PILE_DC);
         EXPECT_EQ(g_FooterOn, 0);
     });
 }
@@ -293,13 +308,13 @@ TEST_F(ReportRunTest, AViewerThatFailsIsToldAndTheTableStays) {
     const std::string base = Project("pier");
     headless::State().shellCode = 2;
     Launch(base + ".in", 0, [&](HeadlessDialog& dialog) {
-        dialog.Click(1004);
+        dialog.Click(IDC_MAX_AXIAL);
         ASSERT_EQ(sink.messages.size(), 1U);
         EXPECT_EQ(sink.messages[0].text,
                   "The application specified to open the file was not found on this machine.");
         EXPECT_TRUE(std::filesystem::exists(base + "_Max_Axial_Forces_Pile_Heads.xml"));
         headless::State().shellCode = 0;
-        dialog.Click(1004);
+        dialog.Click(IDC_MAX_AXIAL);
         EXPECT_EQ(sink.messages.back().text, "");
     });
 }
@@ -307,11 +322,11 @@ TEST_F(ReportRunTest, AViewerThatFailsIsToldAndTheTableStays) {
 TEST_F(ReportRunTest, ASecondPressReplacesTheFile) {
     const std::string base = Project("pier");
     Launch(base + ".in", 2, [&](HeadlessDialog& dialog) {
-        dialog.Click(1002);
+        dialog.Click(IDC_TITLE_PAGE);
         const std::string path = base + "_Title Page.txt";
         const auto size = std::filesystem::file_size(path);
         std::ofstream(path, std::ios::app) << "more";
-        dialog.Click(1002);
+        dialog.Click(IDC_TITLE_PAGE);
         EXPECT_EQ(std::filesystem::file_size(path), size);
     });
 }
@@ -320,21 +335,21 @@ TEST_F(ReportRunTest, InvalidNumbersBlockTheSpreadsheetAlone) {
     const std::string base = Project("pier");
     Launch(base + ".in", 0, [&](HeadlessDialog& dialog) {
         Report(dialog).State().results.valid = TableFlags();
-        for (const int id : {1004, 1006, 1013}) {
+        for (const int id : {IDC_MAX_AXIAL, IDC_COLUMN_DC, IDC_PILE_HEADS}) {
             sink.messages.clear();
             dialog.Click(id);
             ASSERT_EQ(sink.messages.size(), 2U) << id;
             EXPECT_EQ(sink.messages[0].text, "Invalid data.  The EXCEL table cannot be displayed.");
             // The column ratios have a text of their own, with one blank.
             EXPECT_EQ(sink.messages[1].text,
-                      id == 1006 ? "There are no results to view. The table cannot be launched."
-                                 : "There are no results to view.  The table cannot be launched.");
+                      id == IDC_COLUMN_DC ? "There are no results to view. The table cannot be launched."
+                                          : "There are no results to view.  The table cannot be launched.");
         }
         EXPECT_TRUE(sink.starts.empty());
         EXPECT_EQ(backend::WaitCursorDepth(), 0);
         sink.messages.clear();
-        dialog.Click(1019);
-        dialog.Click(1004);
+        dialog.Click(IDC_FORMAT_PDF);
+        dialog.Click(IDC_MAX_AXIAL);
         EXPECT_TRUE(sink.messages.empty());
         EXPECT_EQ(sink.starts.size(), 1U);
     });
@@ -344,7 +359,7 @@ TEST_F(ReportRunTest, AFullWorkbookLeavesInvalidTablesOutInSilence) {
     const std::string base = Project("pier");
     Launch(base + ".in", 0, [&](HeadlessDialog& dialog) {
         Report(dialog).State().results.valid[kTablePileDc] = false;
-        dialog.Click(1001);
+        dialog.Click(IDC_FULL_REPORT);
         EXPECT_TRUE(sink.messages.empty());
         EXPECT_EQ(sink.starts.size(), 1U);
         std::ifstream file(base + "_Full_Report.xml", std::ios::binary);
@@ -364,8 +379,8 @@ TEST_F(ReportRunTest, AFullTextIsPaddedAfterEveryTableButTheExtraMembers) {
     // A page has 61 lines. The group's last table is that of the pile forces, and its page is filled.
     const std::string group = Project("group");
     Launch(group + ".in", 2, [](HeadlessDialog& dialog) {
-        dialog.Click(1001);
-        dialog.Click(1010);
+        dialog.Click(IDC_FULL_REPORT);
+        dialog.Click(IDC_PILE_FORCES);
     });
     const std::string padded = read(group + "_Full_Report.txt");
     const std::string forces = read(group + "_Max_Forces_For_All_Pile_Sects.txt");
@@ -374,8 +389,8 @@ TEST_F(ReportRunTest, AFullTextIsPaddedAfterEveryTableButTheExtraMembers) {
     EXPECT_THAT(padded, HasSubstr(forces + "\r\n\r\n"));
     const std::string bridge = Project("bridge");
     Launch(bridge + ".in", 2, [](HeadlessDialog& dialog) {
-        dialog.Click(1001);
-        dialog.Click(1012);
+        dialog.Click(IDC_FULL_REPORT);
+        dialog.Click(IDC_EXTRA_MEMBERS);
     });
     EXPECT_THAT(read(bridge + "_Full_Report.txt"), EndsWith(read(bridge + "_Max_Extra_Member_Forces.txt")));
 }
@@ -384,7 +399,7 @@ TEST_F(ReportRunTest, ATableThatIsNotEnabledHasNothingToShowAndLeavesAnEmptyFile
     const std::string base = Project("pier");
     Launch(base + ".in", 2, [&](HeadlessDialog& dialog) {
         Report(dialog).State().enabled[kTablePileDc] = false;
-        dialog.Click(1005);
+        dialog.Click(IDC_PILE_DC);
         ASSERT_EQ(sink.messages.size(), 1U);
         EXPECT_EQ(sink.messages[0].text, "There are no results to view.  The table cannot be launched.");
         EXPECT_TRUE(sink.starts.empty());
@@ -394,10 +409,11 @@ TEST_F(ReportRunTest, ATableThatIsNotEnabledHasNothingToShowAndLeavesAnEmptyFile
 
 TEST_F(ReportRunTest, AFormatThatIsNoneEndsInThePathMessageAndTheNoResultsMessage) {
     const std::string base = Project("pier");
-    for (const int id : {1004, 1001, 1013}) {
+    for (const int id : {IDC_MAX_AXIAL, IDC_FULL_REPORT, IDC_PILE_HEADS}) {
         sink.messages.clear();
         Launch(base + ".in", 7, [&](HeadlessDialog& dialog) {
-            for (const int format : {1019, 1020, 1021}) EXPECT_FALSE(Checked(dialog, format));
+            for (const int format : {IDC_FORMAT_PDF, IDC_FORMAT_TEXT, IDC_FORMAT_EXCEL})
+                EXPECT_FALSE(Checked(dialog, format));
             dialog.Click(id);
         });
         ASSERT_EQ(sink.messages.size(), 2U) << id;
@@ -410,18 +426,18 @@ TEST_F(ReportRunTest, AFormatThatIsNoneEndsInThePathMessageAndTheNoResultsMessag
 TEST_F(ReportRunTest, PileHeadsInPdfAskAndYesMovesTheFormatAlone) {
     const std::string base = Project("pier");
     Launch(base + ".in", 1, [&](HeadlessDialog& dialog) {
-        dialog.Click(1016);
-        dialog.Click(1013);
+        dialog.Click(IDC_FOOTER_TIME);
+        dialog.Click(IDC_PILE_HEADS);
         ASSERT_EQ(sink.messages.size(), 1U);
         EXPECT_EQ(
             sink.messages[0].text,
             "This table is currently available only in EXCEL format. Do you wish to change the format to "
             "EXCEL?");
         EXPECT_EQ(sink.messages[0].buttons, MessageButtons::yesNo);
-        EXPECT_TRUE(Checked(dialog, 1021));
-        EXPECT_FALSE(Checked(dialog, 1019));
-        EXPECT_TRUE(Checked(dialog, 1015));
-        EXPECT_FALSE(Checked(dialog, 1016));
+        EXPECT_TRUE(Checked(dialog, IDC_FORMAT_EXCEL));
+        EXPECT_FALSE(Checked(dialog, IDC_FORMAT_PDF));
+        EXPECT_TRUE(Checked(dialog, IDC_FOOTER));
+        EXPECT_FALSE(Checked(dialog, IDC_FOOTER_TIME));
         EXPECT_EQ(g_OutputFilePath, base + "_Axial_Pile_Heads_EachLoadCase.xml");
         EXPECT_EQ(sink.starts.size(), 1U);
     });
@@ -430,12 +446,12 @@ TEST_F(ReportRunTest, PileHeadsInPdfAskAndYesMovesTheFormatAlone) {
 TEST_F(ReportRunTest, PileHeadsBehindTextKeepTheFooterOff) {
     const std::string base = Project("pier");
     Launch(base + ".in", 0, [&](HeadlessDialog& dialog) {
-        dialog.Click(1020);
-        dialog.Click(1013);
-        EXPECT_TRUE(Checked(dialog, 1021));
-        EXPECT_FALSE(Enabled(dialog, 1015));
-        EXPECT_FALSE(Checked(dialog, 1015));
-        EXPECT_FALSE(Visible(dialog, 1017));
+        dialog.Click(IDC_FORMAT_TEXT);
+        dialog.Click(IDC_PILE_HEADS);
+        EXPECT_TRUE(Checked(dialog, IDC_FORMAT_EXCEL));
+        EXPECT_FALSE(Enabled(dialog, IDC_FOOTER));
+        EXPECT_FALSE(Checked(dialog, IDC_FOOTER));
+        EXPECT_FALSE(Visible(dialog, IDC_FOOTER_DATE));
     });
 }
 
@@ -443,9 +459,9 @@ TEST_F(ReportRunTest, NoInThePileHeadQuestionEndsThePress) {
     const std::string base = Project("pier");
     headless::State().answer = MessageAnswer::no;
     Launch(base + ".in", 2, [&](HeadlessDialog& dialog) {
-        dialog.Click(1013);
+        dialog.Click(IDC_PILE_HEADS);
         EXPECT_EQ(sink.messages.size(), 1U);
-        EXPECT_TRUE(Checked(dialog, 1020));
+        EXPECT_TRUE(Checked(dialog, IDC_FORMAT_TEXT));
         EXPECT_TRUE(sink.starts.empty());
         EXPECT_FALSE(std::filesystem::exists(base + "_Axial_Pile_Heads_EachLoadCase.xml"));
     });
@@ -454,7 +470,7 @@ TEST_F(ReportRunTest, NoInThePileHeadQuestionEndsThePress) {
 TEST_F(ReportRunTest, TheTitlePageRefusesTheSpreadsheetAndLeavesAWaitCursor) {
     const std::string base = Project("pier");
     Launch(base + ".in", 0, [&](HeadlessDialog& dialog) {
-        dialog.Click(1002);
+        dialog.Click(IDC_TITLE_PAGE);
         ASSERT_EQ(sink.messages.size(), 1U);
         EXPECT_EQ(sink.messages[0].text,
                   "The Title Page can only be created in the Text and PDF formats.  \n"
@@ -467,9 +483,9 @@ TEST_F(ReportRunTest, TheTitlePageRefusesTheSpreadsheetAndLeavesAWaitCursor) {
 TEST_F(ReportRunTest, TheTitlePageIsOpenedByItsTypeInEveryFormat) {
     const std::string base = Project("pier");
     Launch(base + ".in", 1, [&](HeadlessDialog& dialog) {
-        dialog.Click(1002);
-        dialog.Click(1020);
-        dialog.Click(1002);
+        dialog.Click(IDC_TITLE_PAGE);
+        dialog.Click(IDC_FORMAT_TEXT);
+        dialog.Click(IDC_TITLE_PAGE);
         ASSERT_EQ(sink.starts.size(), 2U);
         EXPECT_EQ(sink.starts[0].file, "\"" + base + "_Title Page.pdf\"");
         EXPECT_EQ(sink.starts[1].file, "\"" + base + "_Title Page.txt\"");
@@ -479,7 +495,7 @@ TEST_F(ReportRunTest, TheTitlePageIsOpenedByItsTypeInEveryFormat) {
 
 TEST_F(ReportRunTest, EnvelopesCallThePlotModuleWithEightArguments) {
     const std::string base = Project("pier");
-    headless::SetModalDriver([](HeadlessDialog& dialog) { dialog.Click(1009); });
+    headless::SetModalDriver([](HeadlessDialog& dialog) { dialog.Click(IDC_CAP_ENVELOPES); });
     LaunchLumerin(2, (base + ".in").c_str(), "5.2.1", "", "", " plot it ");
     ASSERT_EQ(sink.calls.size(), 1U);
     EXPECT_EQ(sink.calls[0].module, "Sorvane.dll");
@@ -501,12 +517,12 @@ TEST_F(ReportRunTest, AMissingPlotModuleIsToldByNameOrByTheSystem) {
     sink.moduleResult = services::PlotModuleResult::moduleMissing;
     sink.moduleText = "The specified procedure could not be found.";
     Launch(base + ".in", 0, [&](HeadlessDialog& dialog) {
-        dialog.Click(1009);
+        dialog.Click(IDC_CAP_ENVELOPES);
         EXPECT_EQ(sink.calls.back().call.format, 0);
         EXPECT_EQ(sink.messages.back().text,
                   "Pier Cap Envelopes could not be displayed.  Please contact Ovrelle.");
         sink.moduleResult = services::PlotModuleResult::exportMissing;
-        dialog.Click(1009);
+        dialog.Click(IDC_CAP_ENVELOPES);
         EXPECT_EQ(sink.messages.back().text, "The specified procedure could not be found.");
         // A second press loads the module again.
         EXPECT_EQ(sink.calls.size(), 2U);
@@ -516,12 +532,16 @@ TEST_F(ReportRunTest, AMissingPlotModuleIsToldByNameOrByTheSystem) {
 TEST_F(ReportRunTest, HelpOpensThePageOrSaysThatThereIsNone) {
     headless::State().modulePath = "  C:\\Program Files\\Host\\Lumerin.dll";
     ShowOverModel(0, [&](HeadlessDialog& dialog) {
-        for (const int id : {1001, 1002, 1004, 1012, 1014, 1021}) dialog.PressHelp(id);
+        for (const int id : {IDC_FULL_REPORT, IDC_TITLE_PAGE, IDC_MAX_AXIAL, IDC_EXTRA_MEMBERS,
+                             IDC_FOOTER_VERSION, IDC_FORMAT_EXCEL})
+            dialog.PressHelp(id);
         EXPECT_EQ(sink.starts.size(), 6U);
         EXPECT_EQ(sink.starts[0].verb, "open");
         EXPECT_EQ(sink.starts[0].file, "\"file:///C:\\Program Files\\Host\\HelpFiles\\Default.htm\"");
         EXPECT_TRUE(sink.messages.empty());
-        for (const int id : {1013, 1022, 1037, 1039, 1041, 1}) dialog.PressHelp(id);
+        for (const int id :
+             {IDC_PILE_HEADS, IDC_EMBEDMENT, IDC_ALL_CASES, IDC_CHOOSE_CASES, IDC_CASE_SELECTION, 1})
+            dialog.PressHelp(id);
         EXPECT_EQ(sink.starts.size(), 6U);
         ASSERT_EQ(sink.messages.size(), 6U);
         EXPECT_EQ(sink.messages[0].text,
@@ -544,7 +564,7 @@ TEST_F(ReportRunTest, AMissingFileIsNamedAndTheDialogStaysWithAnEmptyModel) {
         EXPECT_EQ(CountTables(Report(dialog).State().enabled), 0U);
         EXPECT_TRUE(g_DataSet.IsPierless());
         EXPECT_EQ(backend::WaitCursorDepth(), 0);
-        EXPECT_EQ(Text(dialog, 1037), "All Load Cases");
+        EXPECT_EQ(Text(dialog, IDC_ALL_CASES), "All Load Cases");
         for (const int id : kTableButtons) EXPECT_TRUE(Enabled(dialog, id)) << id;
     });
 }
@@ -561,7 +581,9 @@ TEST_F(ReportRunTest, EveryButtonRunsOnTheEmptyModelOfAFailedLoad) {
                 EXPECT_THAT(sink.messages[0].text, HasSubstr("There are no results to view.")) << id;
             }
             sink.starts.clear();
-            for (const int id : {1001, 1002, 1009, 1013, 1022, 1038, 1039}) dialog.Click(id);
+            for (const int id : {IDC_FULL_REPORT, IDC_TITLE_PAGE, IDC_CAP_ENVELOPES, IDC_PILE_HEADS,
+                                 IDC_EMBEDMENT, IDC_CUSTOM_CASES, IDC_CHOOSE_CASES})
+                dialog.Click(id);
             EXPECT_TRUE(dialog.IsOpen());
         });
     }

@@ -10,6 +10,7 @@
 #include "framework/headless/Headless.h"
 #include "session/DesignerDlg.h"
 #include "session/Launch.h"
+#include "session/ReportControls.h"
 #include "session/Session.h"
 #include "support/SampleFolder.h"
 
@@ -81,7 +82,7 @@ class ReportDialogTest : public testing::Test {
   private:
     void Install(Press press) {
         headless::SetModalDriver([press = std::move(press)](headless::HeadlessDialog& dialog) {
-            if (press && dialog.ResourceId() == 1000) press(dialog);
+            if (press && dialog.ResourceId() == IDD_REPORT) press(dialog);
         });
     }
 };

@@ -8,6 +8,7 @@
 #include <cstring>
 
 #include "host/HostWindows.h"
+#include "session/ReportControls.h"
 
 using namespace lumerin;
 
@@ -151,9 +152,9 @@ bool PressAndAttack() {
     HWND report = nullptr;
     for (int i = 0; i < 1000 && report == nullptr; ++i, Sleep(10))
         report = FindWindowA(nullptr, kReportTitle);
-    Press(report, 1038);
-    const bool cases = Within(report, 1039, kGridClass, AttackCases);
-    const bool study = Within(report, 1022, kGraphClass, AttackStudy);
+    Press(report, IDC_CUSTOM_CASES);
+    const bool cases = Within(report, IDC_CHOOSE_CASES, kGridClass, AttackCases);
+    const bool study = Within(report, IDC_EMBEDMENT, kGraphClass, AttackStudy);
     Press(report, kOk);
     return cases && study;
 }

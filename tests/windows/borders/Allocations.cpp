@@ -7,22 +7,29 @@
 
 #include "FailingMemory.h"
 #include "Stage.h"
+#include "session/ReportControls.h"
 
 namespace lumerin {
 
 namespace {
 
 enum ReportControl {
-    kCustom = 1038,
-    kChoose = 1039,
-    kText = 1020,
-    kPdf = 1019,
-    kExcel = 1021,
-    kStudy = 1022
+    kCustom = IDC_CUSTOM_CASES,
+    kChoose = IDC_CHOOSE_CASES,
+    kText = IDC_FORMAT_TEXT,
+    kPdf = IDC_FORMAT_PDF,
+    kExcel = IDC_FORMAT_EXCEL,
+    kStudy = IDC_EMBEDMENT
 };
-enum CaseControl { kCaseGrid = 1040, kCaseExport = 1042, kAll = 1046 };
-enum StudyControl { kCase = 1025, kQuantity = 1027, kStudyGrid = 1028, kGraph = 1029, kEnvelope = 1034 };
-constexpr int kFullReport = 1001, kOk = 1;
+enum CaseControl { kCaseGrid = IDC_CASE_GRID, kCaseExport = IDC_CASE_EXPORT, kAll = IDC_CASES_ALL };
+enum StudyControl {
+    kCase = IDC_STUDY_CASE,
+    kQuantity = IDC_STUDY_QUANTITY,
+    kStudyGrid = IDC_STUDY_GRID,
+    kGraph = IDC_STUDY_GRAPH,
+    kEnvelope = IDC_STUDY_ENVELOPE
+};
+constexpr int kFullReport = IDC_FULL_REPORT, kOk = 1;
 
 // One by one at first, in growing steps further on: a report makes some ten thousands.
 long Next(long number) {
@@ -195,9 +202,10 @@ class Work {
         trial.Each("open the study", false, [&] { Press(dialog, kStudy); });
         m_work = [&](HWND study) { WorkOnStudy(trial, study); };
         Press(dialog, kStudy);
-        for (const int button : {1004, 1005, 1006, 1007, 1008, 1009, 1010, 1011, 1002}) {
+        for (const int button : {IDC_MAX_AXIAL, IDC_PILE_DC, IDC_COLUMN_DC, IDC_CAP_SHEAR, IDC_CAP_MOMENT,
+                                 IDC_CAP_ENVELOPES, IDC_PILE_FORCES, IDC_COLUMN_FORCES, IDC_TITLE_PAGE}) {
             const int format = button % 3 == 0 ? kText : button % 3 == 1 ? kPdf : kExcel;
-            Press(dialog, button == 1002 ? kPdf : format);
+            Press(dialog, button == IDC_TITLE_PAGE ? kPdf : format);
             trial.Each(("button " + std::to_string(button)).c_str(), true, [&] { Press(dialog, button); });
         }
         Press(dialog, kText);

@@ -9,12 +9,19 @@
 #include <thread>
 
 #include "Stage.h"
+#include "session/ReportControls.h"
 
 namespace lumerin {
 
 namespace {
 
-enum Control { kCustom = 1038, kChoose = 1039, kGrid = 1040, kStudy = 1022, kOk = 1 };
+enum Control {
+    kCustom = IDC_CUSTOM_CASES,
+    kChoose = IDC_CHOOSE_CASES,
+    kGrid = IDC_CASE_GRID,
+    kStudy = IDC_EMBEDMENT,
+    kOk = 1
+};
 
 constexpr std::chrono::seconds kLongestRefusal{5};
 
@@ -44,7 +51,7 @@ void TestSecondCall(const Words& words) {
             Cancel(dialog);
             return;
         }
-        caption = TitleOf(GetDlgItem(dialog, 1041));
+        caption = TitleOf(GetDlgItem(dialog, IDC_CASE_SELECTION));
         Check(again() == 0, "a second call on the dialog's thread gives 0");
         auto onThread = std::async(std::launch::async, again);
         if (onThread.wait_for(kLongestRefusal) != std::future_status::ready) {
@@ -53,10 +60,10 @@ void TestSecondCall(const Words& words) {
         }
         Check(onThread.get() == 0, "a second call on another thread gives 0");
         Check(opened == 1, "no second dialog opens");
-        Check(TitleOf(GetDlgItem(dialog, 1041)) == caption, "the captions stay");
+        Check(TitleOf(GetDlgItem(dialog, IDC_CASE_SELECTION)) == caption, "the captions stay");
         // The text format is still chosen, and the project still open.
-        Check(IsDlgButtonChecked(dialog, 1020) == BST_CHECKED, "the format stays");
-        Press(dialog, 1001);
+        Check(IsDlgButtonChecked(dialog, IDC_FORMAT_TEXT) == BST_CHECKED, "the format stays");
+        Press(dialog, IDC_FULL_REPORT);
         Press(dialog, kOk);
     });
     Check(module.launch(2, words.at(0).c_str(), "4.17", "", "", "") == 1, "the first call ends by Close");
@@ -150,7 +157,7 @@ void TestThreads(const Words& words) {
         int opened = 0;
         Visits visits([&](HWND dialog) {
             ++opened;
-            if (GetDlgItem(dialog, 1001) == nullptr) {
+            if (GetDlgItem(dialog, IDC_FULL_REPORT) == nullptr) {
                 Cancel(dialog);
                 return;
             }

@@ -2,12 +2,13 @@
 // The wait cursor: up while a handler works, also beside a box; what a handler leaves of it lasts until the
 // mouse moves.
 #include "Stage.h"
+#include "session/ReportControls.h"
 
 namespace lumerin {
 
 namespace {
 
-enum Control { kCoverSheet = 1002, kExcel = 1021, kOk = 1 };
+enum Control { kCoverSheet = IDC_TITLE_PAGE, kExcel = IDC_FORMAT_EXCEL, kOk = 1 };
 constexpr WORD kWait = 32514;
 constexpr DWORD kMoveMilliseconds = 150;
 

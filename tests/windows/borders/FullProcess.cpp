@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Stage.h"
+#include "session/ReportControls.h"
 
 namespace lumerin {
 
@@ -12,7 +13,7 @@ namespace {
 
 constexpr std::size_t kMegabyte = 1 << 20;
 constexpr std::size_t kText = 32 * kMegabyte;
-enum Control { kCustom = 1038, kChoose = 1039, kGrid = 1040, kOk = 1 };
+enum Control { kCustom = IDC_CUSTOM_CASES, kChoose = IDC_CHOOSE_CASES, kGrid = IDC_CASE_GRID, kOk = 1 };
 
 void FillClipboard() {
     const HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, kText + 1);

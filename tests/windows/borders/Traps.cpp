@@ -7,6 +7,7 @@
 
 #include "FailingMemory.h"
 #include "Stage.h"
+#include "session/ReportControls.h"
 
 namespace lumerin {
 
@@ -71,8 +72,9 @@ void TestTraps(const Words& words) {
         if (again) {
             Check(Call(module.launch, project, "a refused call") == 0, "the second call is refused");
         }
-        for (const int button :
-             {1019, 1004, 1005, 1006, 1007, 1008, 1010, 1011, 1009, 1021, 1013, 1020, 1001}) {
+        for (const int button : {IDC_FORMAT_PDF, IDC_MAX_AXIAL, IDC_PILE_DC, IDC_COLUMN_DC, IDC_CAP_SHEAR,
+                                 IDC_CAP_MOMENT, IDC_PILE_FORCES, IDC_COLUMN_FORCES, IDC_CAP_ENVELOPES,
+                                 IDC_FORMAT_EXCEL, IDC_PILE_HEADS, IDC_FORMAT_TEXT, IDC_FULL_REPORT}) {
             Press(dialog, button);
         }
         if (way == Way::close) Press(dialog, 1);
