@@ -7,6 +7,7 @@
 #include "framework/File.h"
 #include "text/Format.h"
 #include "text/KeyedLine.h"
+#include "text/OutOfRange.h"
 #include "text/Paths.h"
 
 namespace lumerin {
@@ -37,7 +38,7 @@ int Truncated(double value, int fallback) {
 
 void RequireCount(const std::string& path, const char* what, int count, int most) {
     if (count >= 0 && count <= most) return;
-    throw CFileException(CFileException::badCount, path, FormatInt(count) + " " + what + " cannot be");
+    throw CFileException(CFileException::badCount, path, OutOfRange(what, count, 0, most));
 }
 
 }  // namespace
@@ -46,8 +47,8 @@ CEmbedmentResults::CEmbedmentResults(const std::string& inputFile, Messages& mes
     : m_inputFile(inputFile), m_messages(messages) {
     ReadGlobalData();
     const std::string path = EmbedmentBaseFile(m_inputFile);
-    RequireCount(path, "embedment trials", m_nTrials, kMostTrials);
-    RequireCount(path, "load cases", m_nCases, kMostCases);
+    RequireCount(path, "embedment trial count", m_nTrials, kMostTrials);
+    RequireCount(path, "load case count", m_nCases, kMostCases);
     m_nTableCases = m_nCases;
     const auto trials = static_cast<std::size_t>(m_nTrials);
     m_pppValues.resize(trials);

@@ -57,8 +57,8 @@ BearingRows ReadBearings(const std::string& basePath, int number) {
     CSeqFile file(SubstructureFile(basePath, ".pls", number));
     const std::array<int, 12> counts = file.ReadInts<12>("bearing counts");
     const int left = counts[0], right = counts[1];
-    file.CheckCount(left, 24, "bearing entries");
-    file.CheckCount(right, 24, "bearing entries");
+    file.CheckCount("bearing count", left, 24);
+    file.CheckCount("bearing count", right, 24);
     const std::vector<Entry> leftEntries = ReadEntries(file, left);
     const std::vector<Entry> rightEntries = ReadEntries(file, right);
     const std::vector<int> leftNodes = ReadNodes(file, left);

@@ -26,10 +26,7 @@ constexpr int kMaxSubstructures = 10000;
 int ReadSubstructureCount(const std::string& basePath) {
     CSeqFile file(ProjectFile(basePath, ".TWR"));
     const int count = file.ReadInts<1>("substructure count")[0];
-    if (count < 1 || count > kMaxSubstructures) {
-        file.Fail(CFileException::badCount,
-                  "says " + std::to_string(count) + " substructures, which can't be");
-    }
+    file.RequireRange("substructure count", count, 1, kMaxSubstructures);
     return count;
 }
 

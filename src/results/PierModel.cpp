@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
-#include <climits>
 #include <cstring>
 #include <span>
 
 #include "results/PierModel.h"
 #include "results/PileFile.h"
 #include "results/ProjectFiles.h"
+#include "text/OutOfRange.h"
 
 namespace lumerin {
 
@@ -44,20 +44,20 @@ using ModelHeader = std::array<int, kHeaderWords>;
 
 struct WordLimit {
     HeaderWord word;
-    int low, high;
+    long long low, high;
     int none;  // what counts as nothing of it
     const char* what;
 };
 constexpr WordLimit kFrameLimits[] = {
-    {kColumnsWord, 0, kMaxInteriorNodes, 0, "columns"},
-    {kCantileverNodesWord, -1, kMaxInteriorNodes, -1, "cantilever nodes"},
-    {kColumnNodesWord, -1, kMaxInteriorNodes, -1, "column nodes"},
-    {kSpanNodesWord, -1, kMaxInteriorNodes, -1, "span nodes"},
-    {kColumnSectionsWord, INT_MIN, kMaxPropertyNumbers, 1, "column sections"},
+    {kColumnsWord, 0, kMaxInteriorNodes, 0, "column count"},
+    {kCantileverNodesWord, -1, kMaxInteriorNodes, -1, "cantilever node count"},
+    {kColumnNodesWord, -1, kMaxInteriorNodes, -1, "column node count"},
+    {kSpanNodesWord, -1, kMaxInteriorNodes, -1, "span node count"},
+    {kColumnSectionsWord, kNoLowest, kMaxPropertyNumbers, 1, "column section count"},
 };
 constexpr WordLimit kExtraLimits[] = {
-    {kExtraMembersWord, INT_MIN, kMaxInteriorNodes, 0, "extra members"},
-    {kExtraSectionsWord, INT_MIN, kMaxPropertyNumbers, 0, "extra member sections"},
+    {kExtraMembersWord, kNoLowest, kMaxInteriorNodes, 0, "extra member count"},
+    {kExtraSectionsWord, kNoLowest, kMaxPropertyNumbers, 0, "extra member section count"},
 };
 
 bool IsWithin(const ModelHeader& words, const WordLimit& limit) {
@@ -66,9 +66,7 @@ bool IsWithin(const ModelHeader& words, const WordLimit& limit) {
 
 void RequireWithin(const CSeqFile& file, const ModelHeader& words, std::span<const WordLimit> limits) {
     for (const WordLimit& limit : limits) {
-        if (IsWithin(words, limit)) continue;
-        file.Fail(CFileException::badCount,
-                  "says " + std::to_string(words[limit.word]) + " " + limit.what + ", which can't be");
+        file.RequireRange(limit.what, words[limit.word], limit.low, limit.high);
     }
 }
 
@@ -125,16 +123,13 @@ bool ReadPileModelCounts(CSeqFile& file, Messages& messages, PierCounts& counts,
     counts.pileTableSize = words[5];
     counts.piles = words[6];
     counts.pileNodes = words[8];
-    file.CheckCount(counts.pileTableSize, 8, "table entries");
-    file.CheckCount(counts.piles, 4, "piles");
-    file.CheckCount(std::max(rows.a, 0), 4, "pile rows");
-    file.CheckCount(std::max(rows.b, 0), 4, "pile rows");
+    file.CheckCount("pile table size", counts.pileTableSize, 8);
+    file.CheckCount("pile count", counts.piles, 4);
+    file.CheckCount("pile row count", std::max(rows.a, 0), 4);
+    file.CheckCount("pile column count", std::max(rows.b, 0), 4);
     if (counts.piles > 0) {
-        if (counts.pileNodes < 2) {
-            file.Fail(CFileException::badCount,
-                      "says " + std::to_string(counts.pileNodes) + " nodes of one pile, which can't be");
-        }
-        file.CheckCount(static_cast<long long>(counts.pileNodes - 1) * counts.piles, 4, "pile elements");
+        file.RequireRange("node count of a pile", counts.pileNodes, 2, kNoHighest);
+        file.CheckCount("pile element count", static_cast<long long>(counts.pileNodes - 1) * counts.piles, 4);
     }
     counts.pilesFromNodes = counts.pileNodes > 0 ? counts.pileNodesTotal / counts.pileNodes : 0;
     counts.pileElements = counts.piles > 0 ? (counts.pileNodes - 1) * counts.piles : 0;
@@ -148,16 +143,15 @@ bool ReadConvergence(const std::string& basePath, Messages& messages, PierCounts
     if (file.Read(&cases, 4) == 0) {
         // Nothing but the mark: the count of the pile model file stays.
         constexpr int kEmptyFile = 2;
-        if (file.Length() > kEmptyFile) file.Fail(CFileException::endOfFile, "ends before its case count");
+        if (file.Length() > kEmptyFile)
+            file.Fail(CFileException::endOfFile, "ends before its load case count");
         return true;
     }
     if (cases == 0) {
         messages.Show("No load cases converged. Results cannot be viewed.");
         return false;
     }
-    if (cases < 0) {
-        file.Fail(CFileException::badCount, "says " + std::to_string(cases) + " load cases, which can't be");
-    }
+    file.RequireRange("load case count", cases, 0, kNoHighest);
     counts.loadCases = cases;
     // Nothing uses these three, so they may be absent.
     std::array<char, 16> unused{};
@@ -213,7 +207,7 @@ void ReadNodes(CSeqFile& file, int skipped, PierModel& model) {
 
 std::vector<CElementRow> ReadElementTable(CSeqFile& file) {
     const int elements = file.ReadInts<2>("element count")[1];
-    file.CheckCount(elements, 28, "elements");
+    file.CheckCount("element count", elements, 28);
     std::vector<CElementRow> table;
     table.reserve(static_cast<std::size_t>(elements));
     for (int i = 0; i < elements; ++i) {
@@ -238,16 +232,11 @@ long long CountGaps(const std::vector<CElementRow>& table) {
 std::vector<std::uint8_t> BuildElementMask(const CSeqFile& file, const std::vector<CElementRow>& table,
                                            long long maskBytes) {
     const long long size = static_cast<long long>(table.size()) + CountGaps(table);
-    if (size < 0 || size > kMaxElementNumber || maskBytes + size > kMaxMaskBytes) {
-        file.Fail(CFileException::badCount,
-                  "numbers its elements up to " + std::to_string(size) + ", which can't be");
-    }
+    file.RequireRange("highest element number", size, 0,
+                      std::min<long long>(kMaxElementNumber, kMaxMaskBytes - maskBytes));
     std::vector<std::uint8_t> mask(static_cast<std::size_t>(size), 1);
     for (const CElementRow& row : table) {
-        if (row.number < 1 || row.number > size) {
-            file.Fail(CFileException::badFormat, "has the element number " + std::to_string(row.number) +
-                                                     " outside its table of " + std::to_string(size));
-        }
+        file.RequireRange("element number", row.number, 1, size);
         mask[static_cast<std::size_t>(row.number - 1)] = 0;
     }
     return mask;
@@ -273,10 +262,7 @@ std::vector<std::vector<int>> ReadPileSections(CSeqFile& file, const PierCounts&
 
 StructureType StructureTypeOf(const CSeqFile& file, StructureType fileType, const PileRows& rows) {
     if (fileType == kTypeDerived) return rows.a == 1 && rows.b == 1 ? kTypeSinglePile : kTypePileGroup;
-    if (fileType < 0 || fileType >= kStructureTypes) {
-        file.Fail(CFileException::badFormat,
-                  "has the structure type " + std::to_string(fileType) + ", which is none");
-    }
+    file.RequireRange("structure type", fileType, kTypeDerived, kStructureTypes - 1);
     return fileType;
 }
 
@@ -300,7 +286,7 @@ std::optional<PierModel> ReadPierModel(const PierRead& read, Messages& messages)
     if (!ReadPileModelCounts(modelFile, messages, counts, rows)) return std::nullopt;
     if (!ReadConvergence(read.basePath, messages, counts)) return std::nullopt;
     counts.type = StructureTypeOf(pileFile, fileType, rows);
-    pileFile.CheckCount(counts.nodes, kNodeBytes, "nodes");
+    pileFile.CheckCount("node count", counts.nodes, kNodeBytes);
     ReadNodes(pileFile, SplitNodes(model), model);
     model.elementTable = ReadElementTable(pileFile);
     counts.elements = static_cast<int>(model.elementTable.size());

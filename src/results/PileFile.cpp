@@ -26,19 +26,15 @@ CSectionRecord ReadSectionRecord(CSeqFile& file) {
 CPileFileHead ReadPileFileHead(CSeqFile& file) {
     CPileFileHead head;
     head.blocks = file.ReadInts<1>("section block count")[0];
-    file.CheckCount(head.blocks, 4, "section blocks");
+    file.CheckCount("section block count", head.blocks, 4);
     std::vector<int> sizes(static_cast<std::size_t>(head.blocks));
     file.ReadRecord(sizes.data(), static_cast<unsigned>(sizes.size() * 4), "section block sizes");
     long long records = 0;
     for (const int size : sizes) {
-        file.CheckCount(size, kSectionRecordBytes, "section records in a block");
+        file.CheckCount("section record count of a block", size, kSectionRecordBytes);
         records += size;
     }
-    if (records > kMaxSectionRecords) {
-        file.Fail(CFileException::badCount, "says " + std::to_string(records) +
-                                                " section records, more than " +
-                                                std::to_string(kMaxSectionRecords));
-    }
+    file.RequireRange("section record count", records, 0, kMaxSectionRecords);
     for (long long i = 0; i < records; ++i) head.sections.push_back(ReadSectionRecord(file));
     std::array<char, kTitleBytes> title{};
     file.ReadRecord(title.data(), kTitleBytes, "title");

@@ -6,6 +6,8 @@
 #include <cstring>
 #include <vector>
 
+#include "text/OutOfRange.h"
+
 namespace lumerin {
 
 namespace {
@@ -61,10 +63,9 @@ void CSeqFile::ReadRecord(void* buffer, unsigned count, const char* record) {
     }
 }
 
-void CSeqFile::CheckCount(long long count, long long bytesEach, const char* what) const {
-    if (count >= 0 && count * bytesEach <= Length()) return;
-    Fail(CFileException::badCount,
-         std::string("says ") + std::to_string(count) + " " + what + ", which it can't hold");
+void CSeqFile::RequireRange(const char* what, long long value, long long lowest, long long highest) const {
+    if (value >= lowest && value <= highest) return;
+    Fail(CFileException::badCount, OutOfRange(what, value, lowest, highest));
 }
 
 void CSeqFile::Fail(CFileException::Cause cause, const std::string& fault) const {

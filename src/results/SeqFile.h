@@ -32,8 +32,12 @@ class CSeqFile : public CFile {
         return values;
     }
 
-    // Throws when a count read from the file is negative or names more than the file's bytes can hold.
-    void CheckCount(long long count, long long bytesEach, const char* what) const;
+    // Throws when a number read from the file is out of its range. `what` names it in the message.
+    void RequireRange(const char* what, long long value, long long lowest, long long highest) const;
+    // The same for a count of things of which each takes bytes of the file.
+    void CheckCount(const char* what, long long count, long long bytesEach) const {
+        RequireRange(what, count, 0, Length() / bytesEach);
+    }
     [[noreturn]] void Fail(CFileException::Cause cause, const std::string& fault) const;
 };
 

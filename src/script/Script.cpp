@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "script/Border.h"
+#include "text/OutOfRange.h"
 
 namespace lumerin {
 
@@ -205,7 +206,7 @@ void ReadSpot(LineReader& line, MouseAction& mouse) {
 
 int ReadCount(LineReader& line, int lowest, int highest) {
     const int count = line.Integer("a number of times");
-    if (count < lowest || count > highest) line.Fail(std::to_string(count) + " is out of range");
+    if (count < lowest || count > highest) line.Fail(OutOfRange("count", count, lowest, highest));
     return count;
 }
 

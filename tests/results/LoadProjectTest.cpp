@@ -114,25 +114,25 @@ TEST(LoadProject, CountsThatLieAreNamed) {
     ResultProject project;
     project.Write();
     project.WriteFile(".TWR", SeqBytes().Ints({-1}).End());
-    ExpectFault(project, "p.TWR", "-1 substructures");
+    ExpectFault(project, "p.TWR", "p.TWR: substructure count -1 is out of range (1 to 10000)");
     project.WriteFile(".TWR", SeqBytes().Ints({2000000000}).End());
-    ExpectFault(project, "p.TWR", "2000000000 substructures");
+    ExpectFault(project, "p.TWR", "substructure count 2000000000 is out of range (1 to 10000)");
     project.Write();
     project.WriteFile(".ncv", ResultProject::Convergence(2000000000).End());
     ExpectFault(project, "p.vmd", "2000000000 load cases");
     project.WriteFile(".ncv", ResultProject::Convergence(-4).End());
-    ExpectFault(project, "p.ncv", "-4 load cases");
+    ExpectFault(project, "p.ncv", "load case count -4 is out of range (0 or more)");
     project.Write();
     project.WriteFile(".PLF", SeqBytes().Ints({1 << 30}).End());
-    ExpectFault(project, "p.PLF", "1073741824 section blocks");
+    ExpectFault(project, "p.PLF", "section block count 1073741824 is out of range (0 to ");
     project.substructures[0] = MakePier();
     project.substructures[0].columns = 1 << 30;
     project.Write();
-    ExpectFault(project, "p.PLF", "1073741824 columns");
+    ExpectFault(project, "p.PLF", "column count 1073741824 is out of range (0 to 1000000)");
     project.substructures[0] = ResultSubstructure{};
     project.substructures[0].type = 12;
     project.Write();
-    ExpectFault(project, "p.PLF", "structure type 12");
+    ExpectFault(project, "p.PLF", "structure type 12 is out of range (-1 to 8)");
 }
 
 TEST(LoadProject, AForceFileThatCannotBeOpenedIsToldAsThatWhateverTheModelsSize) {
@@ -189,7 +189,7 @@ TEST(LoadProject, ATruncatedFileIsNamedWithTheRecordThatIsMissing) {
     ExpectFault(project, "p.PIL", "pile model counts");
     project.Write();
     std::filesystem::resize_file(project.Path(".ncv"), 3);
-    ExpectFault(project, "p.ncv", "case count");
+    ExpectFault(project, "p.ncv", "ends before its load case count");
 }
 
 TEST(LoadProject, EveryTruncationOfEverySequentialFileLoadsOrIsNamed) {

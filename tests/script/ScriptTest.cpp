@@ -122,10 +122,10 @@ TEST(Script, NamesAFaultOfTheMouse) {
     EXPECT_EQ(FaultOf("mouse click 1 1 left"), "script line 1: expected right or bottom, not left");
     EXPECT_EQ(FaultOf("mouse click beside 1"), "script line 1: unexpected text behind the action: 1");
     EXPECT_EQ(FaultOf("mouse wheel"), "script line 1: expected a number of times");
-    EXPECT_EQ(FaultOf("mouse wheel 201"), "script line 1: 201 is out of range");
+    EXPECT_EQ(FaultOf("mouse wheel 201"), "script line 1: count 201 is out of range (-200 to 200)");
     EXPECT_EQ(FaultOf("mouse scroll"), "script line 1: expected a part of the scroll bar");
     EXPECT_EQ(FaultOf("mouse scroll sideways"), "script line 1: sideways is no part of the scroll bar");
-    EXPECT_EQ(FaultOf("mouse scroll down 0"), "script line 1: 0 is out of range");
+    EXPECT_EQ(FaultOf("mouse scroll down 0"), "script line 1: count 0 is out of range (1 to 1000)");
 }
 
 TEST(Script, EachControlHasItsKeys) {
