@@ -23,7 +23,7 @@ step() {
 }
 
 build() {
-    cmake --preset "$1" >/dev/null && cmake --build --preset "$1" -j "$jobs" -- --quiet
+    cmake --preset "$1" >/dev/null && cmake --build --preset "$1" -j "$jobs" "${@:2}" -- --quiet
 }
 
 # The tests write thousands of small files: in memory, where there is room for that.
@@ -35,7 +35,8 @@ fi
 trap '[[ -z ${windows_job:-} ]] || kill "$windows_job"; rm -rf "$scratch"' EXIT
 
 run_tests() {
-    TMPDIR=$scratch ctest --test-dir "build/$1" --output-on-failure -j "$jobs"
+    TMPDIR=$scratch ctest --preset "$1" -j "$jobs" --progress >"$scratch/ctest.log" || { cat "$scratch/ctest.log"; return 1; }
+    grep 'tests passed' "$scratch/ctest.log"
 }
 
 format() {
@@ -43,7 +44,17 @@ format() {
 }
 
 install() {
-    tools/install test && tools/install fuzz && tools/install windows
+    tools/install sanitize && tools/install windows
+}
+
+# The test of two projects in two threads alone; tools/nightly runs the others under the thread sanitizer too.
+two_threads() {
+    build threads && TMPDIR=$scratch build/threads/test-threads --gtest_brief=1
+}
+
+# The lint of the module reads the compile commands of its build.
+lints() {
+    cmake --preset windows >/dev/null && tools/lint
 }
 
 # The module's tests wait most of their time for windows, so they run beside the builds.
@@ -72,11 +83,12 @@ step "layers of the libraries" tools/check-layers build/native
 step "native tests" run_tests native
 step "speed ratios" bench/check-ratios
 start_windows
-step "sanitizer build" build sanitize
+step "sanitizer build, tests and fuzz targets" build sanitize --target all fuzz
 step "tests under the sanitizers" run_tests sanitize
 # From a fixed seed, so that a run is like the one before it.
 LUMERIN_FUZZ_SEED=1 step "fuzz targets, a few seconds each" tools/fuzz.sh all 2
-step "lints" tools/lint
+step "two threads under the thread sanitizer" two_threads
+step "lints" lints
 step "the module under Wine" finish_windows
 
 for what in "${skipped[@]:-}"; do

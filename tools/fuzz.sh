@@ -1,19 +1,21 @@
 #!/bin/bash
-# tools/fuzz.sh TARGET|all SECONDS: builds the fuzz targets and lets one of them (or each in turn) look for inputs
+# tools/fuzz.sh TARGET|all SECONDS: builds the fuzz targets and lets one of them (or each, as many at a time as
+# there are processors) look for inputs
 # that end the program. It starts from the sample maker's projects and from what earlier runs found. New inputs
 # stay in build/fuzz-corpus/TARGET; those that fail in build/fuzz-faults/TARGET.
 #
 # tools/fuzz.sh keep: writes the inputs that matter into tests/fuzz-corpus, within its size.
 set -euo pipefail
+self=$(readlink -f "$0")
 cd "$(dirname "$0")/.."
 
-build=${LUMERIN_FUZZ_BUILD:-build/fuzz}
+build=${LUMERIN_FUZZ_BUILD:-build/sanitize}
 corpus=build/fuzz-corpus
 kept=tests/fuzz-corpus
 
 prepare() {
-    tools/install fuzz
-    cmake --preset fuzz -B "$build" >/dev/null
+    tools/install sanitize
+    cmake --preset sanitize -B "$build" >/dev/null
     cmake --build "$build" --target fuzz -j "$(nproc)" -- --quiet
     "$build/make-seeds" "$corpus"
 }
@@ -71,11 +73,18 @@ if (( $# < 1 )); then
     echo "usage: tools/fuzz.sh TARGET|all SECONDS, or tools/fuzz.sh keep" >&2
     exit 2
 fi
+if [[ $1 == __one ]]; then
+    # One of several at a time: what it says comes in one piece.
+    status=0
+    said=$(run "$2" "$3" 2>&1) || status=1
+    printf '%s\n' "$said"
+    exit "$status"
+fi
 prepare
 case $1 in
     keep) keep ;;
     all)
-        for target in $(targets); do run "$target" "${2:-10}"; done
+        targets | xargs -P "$(nproc)" -I{} "$self" __one {} "${2:-10}"
         ;;
     *) run "$1" "${2:-60}" ;;
 esac

@@ -23,7 +23,7 @@ namespace lumerin {
 
 // The sanitizers make every step several times slower, so the tests that walk through all bytes or all
 // allocations take wider steps under them, and leave the process's memory alone.
-#ifdef __SANITIZE_ADDRESS__
+#ifdef LUMERIN_SANITIZED
 inline constexpr bool kSanitized = true;
 #else
 inline constexpr bool kSanitized = false;
