@@ -201,11 +201,8 @@ HostExit Run(const HostOptions& options) {
     return kDone;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-    // The lines end as they do on every platform.
-    _setmode(_fileno(stdout), _O_BINARY);
+// The exit status.
+int RunCommandLine(int argc, char** argv) {
     HostOptions options;
     CLI::App program("Stand-in for the host program of Lumerin.dll");
     program.add_option("PROJECT", options.project, "Input file of a project (.in), or \"\" for none")
@@ -232,8 +229,16 @@ int main(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return program.exit(error) == 0 ? kDone : kUsage;
     }
+    return Run(options);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    // The lines end as they do on every platform.
+    _setmode(_fileno(stdout), _O_BINARY);
     try {
-        return Run(options);
+        return RunCommandLine(argc, argv);
     } catch (const std::exception& error) {
         std::cerr << "Tarnsway: " << error.what() << std::endl;
         return kUsage;

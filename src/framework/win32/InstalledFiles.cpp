@@ -118,12 +118,12 @@ std::string FindLibrary(const std::string& name, const std::string& excluded) {
     const std::string host = services::HostProgramPath();
     for (const std::string& folder :
          {host.substr(0, host.rfind('\\') + 1), SystemFolder(), WindowsFolder()}) {
-        const std::string path = FileIn(folder, name);
+        std::string path = FileIn(folder, name);
         if (!path.empty()) return path;
     }
     const FolderIdentity current("."), other(excluded);
     for (const std::string& folder : SearchPath()) {
-        const std::string path = FileIn(folder, name);
+        std::string path = FileIn(folder, name);
         if (path.empty()) continue;
         const FolderIdentity identity(folder);
         if (identity.IsKnown() && !identity.IsSame(current) && !identity.IsSame(other)) return path;
@@ -134,7 +134,7 @@ std::string FindLibrary(const std::string& name, const std::string& excluded) {
 std::string FindRegisteredProgram(const std::string& name) {
     for (const HKEY root : {HKEY_CURRENT_USER, HKEY_LOCAL_MACHINE}) {
         for (const REGSAM view : {REGSAM{0}, REGSAM{KEY_WOW64_64KEY}}) {
-            const std::string path = WithoutQuotes(DefaultText(root, kProgramPaths + name, view));
+            std::string path = WithoutQuotes(DefaultText(root, kProgramPaths + name, view));
             if (IsFullPath(path) && IsFile(path)) return path;
         }
     }

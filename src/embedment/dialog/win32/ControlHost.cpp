@@ -68,7 +68,7 @@ class Variant {
         MultiByteToWideChar(kWesternCodePage, 0, text.data(), bytes, wide, length);
         return wide;
     }
-    VARIANT m_value;
+    VARIANT m_value{};
 };
 
 // The container of ActiveX controls that comes with the platform, loaded when it is first wanted. Its
@@ -272,6 +272,7 @@ void ControlHost::Call(int dispatchId, std::span<const GraphValue> arguments) {
     std::vector<Variant> owned;
     for (auto at = arguments.rbegin(); at != arguments.rend(); ++at) owned.emplace_back(dispatchId, *at);
     std::vector<VARIANT> values;
+    values.reserve(owned.size());
     for (Variant& argument : owned) values.push_back(argument.Value());
     DISPPARAMS parameters{values.empty() ? nullptr : values.data(), nullptr, static_cast<UINT>(values.size()),
                           0};

@@ -18,6 +18,7 @@ namespace lumerin {
 // nowhere else; but this module throws by its own copy of that library, which then finds no handler and ends
 // the process. So they are registered in the own copy too where it does not know them.
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the linker's and the compiler's own names
 extern "C" {
 
 extern IMAGE_DOS_HEADER __ImageBase;
@@ -31,6 +32,7 @@ const void* _Unwind_Find_FDE(void* address, FrameBases* bases);
 void __register_frame_info(const void* table, void* object);
 void* __deregister_frame_info(const void* table);
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 
@@ -71,11 +73,13 @@ const void* FindTable() {
 // is used once while there is memory, which needs an allocation that is refused: all of the module's come
 // through here.
 
+// NOLINTBEGIN(bugprone-reserved-identifier): the linker's names for a function that is wrapped
 extern "C" {
 
 void* __real_malloc(std::size_t bytes);
 void* __wrap_malloc(std::size_t bytes);
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 
@@ -107,9 +111,11 @@ extern "C" void* __wrap_malloc(std::size_t bytes) {
 
 bool PrepareRuntime() noexcept {
     // Volatile, or the compiler takes the two calls for one that does nothing.
+    // NOLINTBEGIN(cppcoreguidelines-no-malloc): the reserve of malloc itself is what is made here
     void* volatile memory = std::malloc(kPrepared);
     if (memory == nullptr) return false;
     std::free(memory);
+    // NOLINTEND(cppcoreguidelines-no-malloc)
     static std::atomic_flag used;
     if (!used.test_and_set()) UseReserve();
     MakeLocalStatic();
