@@ -8,10 +8,10 @@
 
 namespace lumerin {
 
-// What a control takes by dispatch id, as calls that can be recorded and read back by a driver.
+// The calls that a control takes by dispatch id, as values that can be recorded and read back by a driver.
 
-// A type of its own: libstdc++ 12 takes a variant with std::string for one that always has a value, and reads
-// past it where a copy fails for lack of memory.
+// A type of its own in place of a std::variant: libstdc++ 12 assumes that a variant with std::string always
+// has a value, and reads out of bounds when a copy fails for lack of memory.
 struct GraphText : std::string {
     GraphText(std::string text) : std::string(std::move(text)) {}
     GraphText(const char* text) : std::string(text) {}
@@ -25,15 +25,14 @@ struct GraphCall {
     std::vector<GraphValue> values;
 };
 
-// A plot control as a driver of its dialog sees it: it remembers the properties and methods of its last
-// drawing.
+// A plot control, as a driver of its dialog sees it. It keeps the properties and methods of its last drawing.
 class GraphPeer {
   public:
     virtual ~GraphPeer() = default;
 
     // Everything that the dialog set and called for the drawing that is shown, in order.
     virtual std::vector<GraphCall> LastDrawing() const = 0;
-    // A click at that x, with the dialog's notice.
+    // Clicks the plot at that x and notifies the dialog.
     virtual void Click(double x) = 0;
 };
 

@@ -7,8 +7,9 @@
 
 namespace lumerin {
 
-// What a backend offers to the framework's classes. Two exist and one is linked: win32/ maps these calls
-// to windows, headless/ keeps each control as plain state and hands events to a sink.
+// The functions that a backend provides for the framework's classes. There are two backends, and a program
+// links one: win32/ maps these calls to windows, headless/ keeps each control as plain state and passes
+// events to a sink.
 
 class CDialog;
 class CWnd;
@@ -27,8 +28,8 @@ struct LocalTime {
 
 namespace backend {
 
-// Around one call of the export, on its thread. The platform's state that belongs to the host is as the
-// module needs it between the two, and as it was behind them.
+// Called at the start and at the end of each call of the export, on its thread. Between the two, the state of
+// the platform that belongs to the host is as the module needs it; after the end it is as it was before.
 void EnterCall() noexcept;
 void LeaveCall() noexcept;
 
@@ -72,37 +73,38 @@ int WaitCursorDepth();
 
 }  // namespace backend
 
-// Services of the platform that the product asks for by what they do.
+// Services of the platform, named for what they do for the product.
 namespace services {
 
 // Starts `file` (the full path of a program, or a document in quotes) by the shell; an empty verb is the
-// default one. Returns the shell's code: above 32 is success, the others are told in session/OutputFiles.h.
+// default one. Returns the shell's code: above 32 is success, the other codes are listed in
+// session/OutputFiles.h.
 int ShellOpen(const std::string& verb, const std::string& file, const std::string& parameters);
 
 // Starts the program that is registered on the machine under that name ("Excel") with a document in quotes;
 // no other program of that name. Returns the shell's code: 2 where none is registered.
 int StartProgram(const std::string& program, const std::string& document);
 
-// Full path of the process's program, and of the module that the product lives in.
+// Full path of the process's program, and of the module that contains the product.
 std::string HostProgramPath();
 std::string ModulePath();
 
-// The text viewer's settings, by value name. False: there is no such value (the argument stays).
+// The text viewer's settings, by value name. False: there is no such value, and the argument is unchanged.
 bool ReadViewerNumber(const char* name, int& value);
-// Text values arrive only when they fit into `capacity` bytes, the terminating zero included.
+// A text value is returned only when it fits into `capacity` bytes, the terminating zero included.
 bool ReadViewerText(const char* name, unsigned capacity, std::string& value);
 
 LocalTime Now();
 
-// Tells that a file could not be opened for writing or took less than all. The dialogs say nothing of it; a
-// program without a screen names the file.
+// Reports that a file could not be opened for writing or was not stored completely. The dialogs show no
+// message for it; a program without a screen names the file.
 void TellOutputFailed(const std::string& path);
 
 // Sets the application's default printer to landscape or portrait, where it has one.
 void SetPrinterLandscape(bool landscape);
 
-// Loads the plot module from where the host, the system or the machine's PATH has it, never from the current
-// folder or that of the data file, and calls its export with the eight arguments of the plot call.
+// Loads the plot module from the host's folder, the system's folders or the machine's PATH, never from the
+// current folder or that of the data file, and calls its export with the eight arguments of the plot call.
 enum class PlotModuleResult { called, moduleMissing, exportMissing };
 struct PlotModuleCall {
     int format = 0;  // 0 spreadsheet, 1 otherwise

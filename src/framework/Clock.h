@@ -7,11 +7,11 @@
 
 namespace lumerin {
 
-// Reads "YYYY-MM-DDTHH:MM:SS" and works out the weekday. False: the text is no such moment.
+// Reads "YYYY-MM-DDTHH:MM:SS" and works out the weekday. False: the text is not in this form.
 bool ParseClock(std::string_view text, LocalTime& time);
 
-// The moment that the environment variable LUMERIN_CLOCK holds still, so that two runs give the same bytes.
-// False: the variable is not set, or is no moment.
+// The fixed time in the environment variable LUMERIN_CLOCK, with which two runs write the same bytes. False:
+// the variable is not set, or is not a date and time.
 bool ReadClockFromEnvironment(LocalTime& time);
 
 }  // namespace lumerin

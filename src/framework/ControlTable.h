@@ -4,7 +4,7 @@
 //     #include "framework/ControlTable.h"
 //     #include "session/dialogs/ReportDialog.inc"
 //     };
-// No include guard: each list wants the macros.
+// No include guard: the macros are defined again for each list.
 #define NO_ID kNoId
 #define GROUP_BOX(id, text, x, y, w, h) {ControlKind::group, id, text, x, y, w, h, 0},
 #define RADIO_FIRST(id, text, x, y, w, h) {ControlKind::radio, id, text, x, y, w, h, kFirstOfGroup},

@@ -77,7 +77,7 @@ void DDX_Text(CDataExchange& exchange, int id, int& value) {
         if (std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc()) value = number;
         return;
     }
-    // A text that stays as it is gives no change notice.
+    // Setting the text that is already there sends no change notice.
     const std::string wanted = std::to_string(value);
     if (text != wanted) backend::SetText(window, wanted);
 }
@@ -131,7 +131,7 @@ void CDialog::OnFileException(const std::string& text) {
 
 namespace {
 
-// Made when the program starts: where memory is out, these words take none.
+// Made when the program starts, so that reporting a lack of memory needs no memory.
 const std::string kNoMemoryText = "There is not enough memory for this operation.";
 
 void ReportThrown(CDialog& dialog) {

@@ -16,7 +16,7 @@ inline constexpr int IDCANCEL = 2;
 
 enum class Notice { clicked, textChanged, focusLost, selectionChanged };
 
-// Moves values between a dialog's members and its controls, in the direction that it carries.
+// Moves values between a dialog's members and its controls; m_bSave is the direction.
 class CDataExchange {
   public:
     CDataExchange(CDialog& dialog, bool saveAndValidate) : m_dialog(dialog), m_bSave(saveAndValidate) {}
@@ -70,13 +70,13 @@ class CDialog : public CWnd {
     virtual void OnOK() { EndDialog(IDOK); }
     virtual void OnCancel() { EndDialog(IDCANCEL); }
     virtual void DoDataExchange(CDataExchange&) {}
-    // A failure that a handler threw: told in a message box, the dialog lives on.
+    // A failure that a handler threw: it is reported in a message box, and the dialog stays open.
     virtual void OnFileException(const std::string& text);
 
     void EndDialog(int result) { backend::EndDialog(m_hWnd, result); }
 
   protected:
-    // Runs the first entry that fits. False: none does.
+    // Runs the first entry that matches. False: there is none.
     template <class Dialog, std::size_t N>
     static bool Dispatch(Dialog& dialog, const CommandEntry<Dialog> (&map)[N], int id, Notice notice) {
         for (const CommandEntry<Dialog>& entry : map) {
@@ -95,12 +95,12 @@ class CDialog : public CWnd {
 inline const CRuntimeClass CDialog::classCDialog{"CDialog", &CWnd::classCWnd};
 
 // Reports the exception that is being handled by the dialog's OnFileException; to be called from a catch
-// clause. Where memory is out even for the words, nothing is reported.
+// clause. When there is no memory even for the text, nothing is reported.
 void ReportFailure(CDialog& dialog) noexcept;
 
 // Runs one step of a dialog's message dispatch: no exception leaves it. A failure that the step throws is
-// reported and the dialog lives on; false then. The border itself takes no memory, so that it holds where
-// none is left.
+// reported, the dialog stays open, and the result is false. This function allocates no memory, so that it
+// works when none is left.
 template <class Step>
 bool RunGuarded(CDialog& dialog, Step&& step) noexcept {
     try {

@@ -9,8 +9,8 @@
 
 namespace lumerin {
 
-// A failure of the result file layer. It carries the file and what is wrong with it; no reader catches it,
-// the dialog that is being shown tells it in a message box and lives on.
+// A failure of the result file layer. It carries the file and what is wrong with it; no reader catches it.
+// The dialog that is being shown reports it in a message box and stays open.
 class CFileException : public std::exception {
   public:
     enum Cause { none, generic, fileNotFound, accessDenied, endOfFile, badFormat, badCount };
@@ -25,12 +25,12 @@ class CFileException : public std::exception {
     std::string m_strText;  // "<file>: <fault>"
 };
 
-// Where an existing file lies: `path` itself, or on a file system that tells case from case the one whose
+// The path of an existing file: `path` itself or, on a file system with case-sensitive names, the file whose
 // folders and name differ from it in case alone. Empty: there is none.
 std::string FindFileAnyCase(const std::string& path);
 bool IsFolder(const std::string& path);
 
-// What tells a file from another one, or from what it was before, without reading it.
+// Identifies a file and its version without reading it.
 struct FileStamp {
     std::int64_t length = -1;   // -1: there is no such file
     std::int64_t modified = 0;  // in ticks of the platform
@@ -41,19 +41,20 @@ struct FileStamp {
 // The stamp of the file at the path, found whatever the case of its name.
 FileStamp StampOf(const std::string& path);
 
-// A file opened for reading with sharing allowed for all. Reading fails with CFileException.
+// A file that is opened for reading; other programs may open it meanwhile, too. Reading fails with
+// CFileException.
 class CFile {
   public:
     CFile() = default;
-    explicit CFile(const std::string& path);  // throws when the file can't be opened
+    explicit CFile(const std::string& path);  // throws when the file cannot be opened
 
-    // False: the file can't be opened; `error`, when given, tells why.
+    // False: the file cannot be opened; `error`, when given, receives the reason.
     bool Open(const std::string& path, CFileException* error = nullptr);
     void Close() { m_file.reset(); }
     bool IsOpen() const { return m_file != nullptr; }
 
-    // Bytes read: fewer than `count` only at the end of the file. Throws on a closed file; where the file
-    // could not be opened the fault is told then.
+    // Bytes read: fewer than `count` only at the end of the file. Throws on a closed file; when the file
+    // could not be opened, the message gives the reason.
     unsigned ReadBytes(void* buffer, unsigned count);
     void Seek(std::int64_t position);  // from the start; throws when negative
     std::int64_t Length() const;

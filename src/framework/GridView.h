@@ -5,7 +5,7 @@
 
 namespace lumerin {
 
-// Where a grid stands: its focus cell, the cells around its selection and its open editor.
+// The visible state of a grid: focus cell, selection, open editor and title tip.
 struct GridView {
     int row = -1, column = -1;  // the focus cell; -1: none
     int top = -1, left = -1, bottom = -1, right = -1;

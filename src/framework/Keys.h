@@ -3,10 +3,10 @@
 
 namespace lumerin {
 
-// Keys of the keyboard, by the platform's codes. The codes below 128 that are characters too carry the same
-// number, and a letter's key has the code of its capital.
+// Keys of the keyboard, by the platform's codes. A key that is also a character below 128 has the code of
+// that character; a letter's key has the code of the capital.
 enum KeyCode : unsigned {
-    kKeyMouse = 1,  // stands for a start by the mouse
+    kKeyMouse = 1,  // an edit that the mouse started
     kKeyBackspace = 8,
     kKeyTab = 9,
     kKeyReturn = 13,

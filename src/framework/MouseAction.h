@@ -5,7 +5,8 @@
 
 namespace lumerin {
 
-// What a hand does with the mouse on a grid and beside it. The scripts of both drivers are made of these.
+// What a user does with the mouse on a grid and beside it. The mouse actions of scripts are made of these, in
+// both drivers.
 
 // Where the pointer goes, seen from the grid of the front dialog.
 enum class MousePlace {
@@ -33,15 +34,15 @@ enum class MouseDeed {
     release,
     click,        // press and release
     doubleClick,  // two clicks within the double click time
-    shakyDouble,  // the same by a hand that moves the mouse a little between the two
+    shakyDouble,  // the same, with a small move of the mouse between the two
     rightClick,
     wheel,   // count: notches, above 0 away from the hand
-    scroll,  // the vertical scroll bar: part, count times
-    lose,    // another window takes the capture of the mouse
-    cancel,  // the platform breaks off what the mouse is doing, as it does for a message box
+    scroll,  // the vertical scroll bar: `part`, `count` times
+    lose,    // another window captures the mouse
+    cancel,  // the platform ends the mouse action, as it does for a message box
 };
 
-// A part of the scroll bar: the arrows, the area beside the slider, and the slider drawn to an end.
+// A part of the scroll bar: the arrows, the area beside the slider, and the slider dragged to an end.
 enum class ScrollPart { lineUp, lineDown, pageUp, pageDown, first, last };
 
 struct MouseAction {

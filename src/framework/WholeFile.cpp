@@ -14,7 +14,7 @@ constexpr std::size_t kDigits = 6;
 constexpr std::string_view kHexDigits = "0123456789ABCDEF";
 constexpr int kNameTries = 100;
 
-// Names need not be hard to guess: a new file is made under none that is taken.
+// The names may be easy to guess: a new file is never made under a name that exists.
 std::uint32_t NextNumber() {
     static auto number =
         static_cast<std::uint32_t>(std::chrono::steady_clock::now().time_since_epoch().count());
@@ -22,7 +22,7 @@ std::uint32_t NextNumber() {
     return number >> 8u;
 }
 
-// Looking through a folder for every document would take a batch longer than writing them.
+// A search of the folder for every document would take a batch longer than writing the documents.
 struct ClearedFolder {
     bool known = false;
     std::string name;
@@ -84,7 +84,7 @@ bool WholeFile::CreateBeside(const std::string& folder) {
 }
 
 bool WholeFile::Write(const void* bytes, std::size_t count) {
-    // After a gap the rest would only hide that something is missing.
+    // After a failed write nothing more is written: bytes after a gap would hide that some are missing.
     if (!IsOpen() || m_bFailed) return false;
     m_bFailed = !wholefile::Write(m_handle, bytes, count);
     return !m_bFailed;

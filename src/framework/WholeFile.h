@@ -7,14 +7,14 @@
 
 namespace lumerin {
 
-// A document while it is written. The bytes go to a new file beside `path`, which takes the place of whatever
-// has that name once all of them are stored. Until then, and for good when a write fails, an exception comes
-// or the process is ended, the earlier file stays as it was. A link or a pipe of that name is replaced, never
-// followed. What a killed process has left in a folder is cleared by the first document that the next run
-// makes there.
+// A document while it is written. The bytes go to a new file in the folder of `path`. It replaces the file of
+// that name after all bytes are stored. Until then the earlier file is unchanged, and it stays so when a
+// write fails, an exception is thrown or the process ends. A link or a pipe of that name is replaced, never
+// followed. The temporary files of a killed process are removed by the first document that the next run makes
+// in the folder.
 //
-// A file that may be written but not replaced (another program has it open, its folder is protected) gets the
-// bytes in place, when all of them are there.
+// A file that may be written but not replaced (another program has it open, its folder is protected) is
+// overwritten in place, after all bytes are complete.
 class WholeFile {
   public:
     WholeFile() = default;
@@ -22,19 +22,21 @@ class WholeFile {
     WholeFile& operator=(const WholeFile&) = delete;
     ~WholeFile() { Discard(); }
 
-    // An open document is discarded first. False: nothing can be written under that name, as there is no such
-    // folder, or a folder, a device or a file that is protected against writing has it.
+    // An open document is discarded first. False: nothing can be written under that name, because its folder
+    // does not exist, or the name belongs to a folder, a device or a file that is protected against writing.
     bool Open(const std::string& path);
     bool IsOpen() const { return m_handle != kNoHandle; }
-    // False: the file system took less than all of it, and the document will never be put in its place.
+    // False: the file system stored only a part, and the document will not replace the earlier one.
     bool Write(const void* bytes, std::size_t count);
-    // Closes the document and puts it in its place. False: it is gone and the earlier file stays. A file that
-    // is written in place can be left with a part of the new bytes when the disk fills.
+    // Closes the document and puts it in its place. False: the document is discarded and the earlier file is
+    // unchanged. A file that is written in place can be left with a part of the new bytes when the disk
+    // fills.
     bool Commit();
-    // Leaves the earlier file as it was.
+    // Discards the document; the earlier file is unchanged.
     void Discard() noexcept;
 
-    // A call of the module, or a project of a batch, begins: folders may hold left-overs again.
+    // Called at the start of a call of the module or of a project of a batch: temporary files of killed
+    // processes are searched for again.
     static void BeginRun() noexcept;
 
   private:
@@ -44,7 +46,7 @@ class WholeFile {
 
     std::intptr_t m_handle = kNoHandle;
     std::string m_path;
-    std::string m_temporary;  // empty: the bytes lie in a file without a name
+    std::string m_temporary;  // empty: the bytes are in a file without a name
     bool m_bFailed = false;
 };
 

@@ -23,8 +23,8 @@ class CWnd : public CObject {
     bool IsWindowVisible() const { return backend::IsVisible(m_hWnd); }
     void SetFocus() { backend::SetFocus(m_hWnd); }
 
-    // Called when a dialog binds this object to one of its controls; a control with behaviour of its own
-    // (the grid, a link label) attaches itself to the window here. May be called again for the same window.
+    // Called when a dialog binds this object to one of its controls; a control with its own behaviour (the
+    // grid, a link label) attaches itself to the window here. May be called again for the same window.
     virtual void OnAttach() {}
 
     WindowHandle m_hWnd = nullptr;

@@ -13,7 +13,7 @@ TableFlags ApplicableTables(const CDataSet& data, const CaseSelection& selection
     const bool columnTables = several ? data.HasStructureType(kTypePier)
                                       : type != kTypePileGroup && type != kTypeSinglePile &&
                                             type != kTypeOtherGroup && type != kTypePileBent;
-    // Several substructures keep the cap tables whatever their types: bents beside piers share one report.
+    // Several substructures keep the cap tables whatever their types: bents and piers can be in one report.
     const bool capTables = several || type == kTypePier || type == kTypeMast || type == kTypePileBent;
 
     TableFlags tables;
@@ -24,7 +24,7 @@ TableFlags ApplicableTables(const CDataSet& data, const CaseSelection& selection
         tables[table] = columnTables && !onlyFatigue;
     }
     tables[kTableCapShear] = capTables && !onlyFatigue;
-    // Moments are designed for fatigue too.
+    // Moments are also designed for fatigue.
     tables[kTableCapMoment] = capTables;
     tables[kTableExtraMembers] = data.HasExtraMembers() && !onlyFatigue;
     return tables;

@@ -7,7 +7,7 @@ namespace lumerin {
 
 namespace {
 
-// Appends cap points, never more than the cap's elements can join.
+// Appends cap points, at most as many as the cap's elements can join.
 class CapPointList {
   public:
     explicit CapPointList(CPier& pier) : m_pier(pier) {
@@ -22,7 +22,7 @@ class CapPointList {
         m_pier.m_CapPointX.push_back(NodeListX(m_pier, position));
         m_pier.m_CapPointNode.push_back(node);
     }
-    // A run of nodes that stand one after the other in the node list.
+    // A run of consecutive nodes of the node list.
     void AppendRun(long long position, long long count) {
         const long long foundation = m_pier.m_nStructureType == kTypePier ? m_pier.m_nFoundationNodes : 0;
         for (long long i = 0; i < count && !IsFull(); ++i) {
@@ -35,7 +35,7 @@ class CapPointList {
     std::size_t m_nLimit = 0;
 };
 
-// Where the runs of cap nodes between the supports begin in the node list.
+// The first indices of the runs of cap nodes between the supports in the node list.
 struct CapRuns {
     explicit CapRuns(const CPier& pier)
         : m_pier(pier),
@@ -44,7 +44,7 @@ struct CapRuns {
           m_bBent(pier.m_nStructureType == kTypePileBent) {}
 
     long long LeftCantilever() const { return m_bBent ? m_nSupports : pier().m_nColumnNodes + 2LL; }
-    // The nodes right of a support; behind the last one those of the right cantilever.
+    // The nodes right of a support; after the last support those of the right cantilever.
     long long RightOf(int support) const {
         if (m_bBent)
             return m_nSupports + m_nCantilever + static_cast<long long>(support) * pier().m_nSpanNodes;
@@ -74,7 +74,7 @@ int BearingsOfRow(const CPier& pier, std::size_t row) {
     return row < pier.m_BearingRows.size() ? static_cast<int>(pier.m_BearingRows[row].m_Bearings.size()) : 0;
 }
 
-// The bearings of the first row, and those of the second that stand on no node of the first.
+// The bearings of the first row, and those of the second that are at no node of the first.
 int CountBearingLocations(const CPier& pier) {
     int count = BearingsOfRow(pier, 0);
     if (pier.m_BearingRows.size() < 2) return count;
@@ -87,8 +87,8 @@ int CountBearingLocations(const CPier& pier) {
     return count;
 }
 
-// The counts go by the number of supports alone. Without cantilevers the shear list is two short of the
-// sections that exist, and a face that a short cantilever does not have leaves an entry unused.
+// The counts depend only on the number of supports. Without cantilevers the shear list has two entries fewer
+// than there are sections, and a face that a short cantilever does not have leaves an entry unused.
 void CountCapSections(CPier& pier) {
     const int supports = CapSupportCount(pier);
     const bool cantilevers = HasCantilevers(pier);

@@ -41,7 +41,7 @@ bool FindOnChain(const CPier& pier, int node, int end, CCapPlace& place) {
     return true;
 }
 
-// The stretch of cap points on which a face lies, and the member that it runs along.
+// The range of cap points that contains a face, and the member along which it runs.
 struct Stretch {
     int kind = kCapSpan;
     long long index = 0;

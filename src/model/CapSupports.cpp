@@ -16,7 +16,8 @@ int NodeNumber(long long number) {
     return number < INT_MIN || number > INT_MAX ? -1 : static_cast<int>(number);
 }
 
-// Whether a face or centreline exists; the moment and the shear list differ in the number of the right face.
+// Whether a face or centreline exists. The right face has another number in the moment list than in the shear
+// list.
 bool IsSection(const CPier& pier, int support, int kind, int rightFace) {
     const bool mast = pier.m_nStructureType == kTypeMast;
     if (!mast && !HasCapTables(pier)) return true;
@@ -47,11 +48,11 @@ double NodeListX(const CPier& pier, long long position) {
 
 long long SupportPosition(const CPier& pier, int support) {
     if (support < 0 || support >= CapSupportCount(pier)) return -1;
-    // The pile heads of a bent stand first in the list.
+    // The pile heads of a bent are first in the list.
     if (pier.m_nStructureType != kTypePier) return support;
     const long long c = support;
     long long position = (c + 1) * (pier.m_nColumnNodes + 1LL) + c * (pier.m_nSpanNodes + 1LL);
-    // The nodes of the left cantilever stand behind those of the first column.
+    // The nodes of the left cantilever follow those of the first column.
     if (c > 0 && HasCantilevers(pier)) position += pier.m_nCantileverNodes + 1LL;
     return position;
 }
@@ -69,8 +70,8 @@ int CPier::GetSupportNode(int support) const {
     if (m_nStructureType != kTypePier) return -1;
     const long long first = withoutCantilevers - 2 * cantilever + 1;
     if (c == 0) return NodeNumber(m_nColumnNodes + 1LL + first);
-    // Without cantilevers this is one past the column's top. It stands, and the sections there find what that
-    // node has: the tables of such caps depend on it.
+    // Without cantilevers this is one node after the column's top. It is kept, and the sections there have
+    // the forces of that node: the tables of such caps depend on it.
     const long long shift = HasCantilevers(*this) ? m_nCantileverNodes : 0;
     return NodeNumber((column + span) * c + first + column + shift);
 }

@@ -29,8 +29,8 @@ class CaseSelection {
     void SetCaseSelected(int index, bool selected);
     int CaseCount() const { return static_cast<int>(m_selected.size()); }
 
-    // Looks for the first selected case of each limit class again, by the cases of the first substructure.
-    // Wanted after the last SetCaseSelected. Families other than AASHTO-LRFD and AREMA have no classes.
+    // Finds the first selected case of each limit class again, by the cases of the first substructure. To be
+    // called after the last SetCaseSelected. Families other than AASHTO-LRFD and AREMA have no classes.
     void FindFirstCases(const CDataSet& data);
     // Index of the first selected case of a class; -1: the class has none.
     int FirstOfClass(LimitClass limitClass) const;

@@ -21,9 +21,9 @@ struct CElementRow {
     int last = 0;                         // not used
 };
 
-// The project being reported, as its files describe it. The load fills it; nothing changes it afterwards. The
-// fields from m_nExtraMembers on hold the values of the last substructure, by which a project of one is
-// judged.
+// The project being reported, as its files describe it. The load fills it, and it does not change afterwards.
+// The fields from m_nExtraMembers on hold the values of the last substructure; they are used for projects
+// with one substructure.
 class CDataSet : public CObject {
   public:
     static const CRuntimeClass classCDataSet;
@@ -33,7 +33,7 @@ class CDataSet : public CObject {
     void Reset() { *this = CDataSet(); }
     void FreePiers() { m_Piers.clear(); }
 
-    // The word for one row of a report: "Load Case", "Load Combination" ("Load Comb") or "Time Step".
+    // The term for one case in a report: "Load Case", "Load Combination" ("Load Comb") or "Time Step".
     std::string GetLoadLabel(bool shortForm, bool plural) const;
     bool HasExtraMembers() const;
     bool HasStructureType(StructureType type) const;
@@ -41,7 +41,7 @@ class CDataSet : public CObject {
     bool IsExtraMemberSection(std::size_t pier, int section) const;
     // Whether the block of a further limit class follows that of the given one in a table.
     bool HasLaterSection(const CaseSelection& selection, LimitClass limitClass, bool includeFatigue) const;
-    // Nothing but fatigue combinations: true for AASHTO-LRFD when that class alone has a case.
+    // True for AASHTO-LRFD when fatigue is the only class with a case.
     bool HasOnlyFatigue(const CaseSelection& selection) const;
 
     bool IsPierless() const { return m_Piers.empty(); }

@@ -12,7 +12,7 @@ inline constexpr int kComponents = 7;
 inline constexpr int kNoTieBreak = 7;
 enum ElementEnd { kEndI = 0, kEndJ = 1, kInsideElement = 2 };
 
-// Floats that one element keeps for one load case: the seven components at I, then the seven at J.
+// Floats of one element in one load case: the seven components at I, then the seven at J.
 inline constexpr std::size_t kForcesPerElement = std::size_t{2} * kComponents;
 using ElementForces = std::span<const float, kForcesPerElement>;
 
@@ -23,7 +23,7 @@ inline double GetForce(ElementForces forces, int end, int component) {
         forces[static_cast<std::size_t>(end) * kComponents + static_cast<std::size_t>(component)]);
 }
 
-// The identity of one beam element. It is the same in every load case, so it lives once.
+// The identity of one beam element. It is the same in every load case, so it is stored once.
 struct CElement {
     int m_nSection = 0;        // property (cross-section) number; -1: the model has no such element
     int m_nElementNumber = 0;  // shown in tables
@@ -33,7 +33,7 @@ struct CElement {
     int Node(int end) const { return end == kEndI ? m_nNodeI : m_nNodeJ; }
 };
 
-// What the input file says of the cross-section of a column or cap element; only the width is used.
+// The cross-section of a column or cap element in the input file; only the width is used.
 struct CSectionData {
     int m_nShape = 0;
     double m_dD = 0.0, m_dWidth = 0.0, m_dZ = 0.0, m_dG = 0.0;

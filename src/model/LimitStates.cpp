@@ -28,13 +28,13 @@ const std::array<std::array<const char*, 3>, 18> g_LimitStateNames = {{
 
 namespace {
 
-// Limit state codes run from these; the names are in three columns of g_LimitStateNames.
+// The first limit state code of each family; the names are in the three columns of g_LimitStateNames.
 struct CodeBlock {
     int first, count;
     std::size_t column;
 };
 constexpr CodeBlock kCodeBlocks[] = {{101, 13, 0}, {201, 11, 1}, {301, 18, 2}};
-// The host's list gives this code the name of 307; reports name it as the host does.
+// The host's list gives this code the name of code 307; reports use the same name.
 constexpr int kMisnamedCode = 305, kNamedAsCode = 307;
 
 struct ClassRange {

@@ -8,8 +8,8 @@
 
 namespace lumerin {
 
-// The members of a substructure. Every load case has the same members, so they stand once, each naming its
-// run of elements in the substructure's element list; CPier keeps the forces of all cases.
+// The members of a substructure. Every load case has the same members, so they are stored once; each refers
+// to a range of the substructure's element list. The forces of all cases are not here.
 
 // A run of elements from left to right, or from the head down.
 struct CMember {
@@ -23,10 +23,10 @@ struct CPile : CMember {
     double m_dDimension = 0.0;  // width, as its first element's section record has it
 };
 
-// The element at index m_nColumnNodes of the substructure is the one that reaches the cap.
+// The element at index m_nColumnNodes of the substructure is the one at the cap.
 struct CColumn : CMember {};
 
-// The elements of all cap spans in a row, span after span from left to right.
+// The elements of all cap spans, span after span from left to right.
 struct CBeam : CMember {};
 
 struct CCantilever : CMember {};

@@ -35,8 +35,8 @@ void CPier::AllocateMembers(const CMemberCounts& counts, int loadCases) {
     m_Frame.m_Columns.assign(static_cast<std::size_t>(AtLeastZero(counts.columns)), CColumn{});
     for (CColumn& column : m_Frame.m_Columns) {
         PlaceMember(column, AtLeastZero(counts.columnNodes + 1), next);
-        // A column without interior nodes has its one element allocated but a count of 0; only the walks
-        // that go by the pier's own node count see it.
+        // A column without interior nodes has one allocated element but a count of 0. Only loops that use the
+        // pier's own node count reach the element.
         if (counts.columnNodes <= 0) column.m_nElements = 0;
     }
     PlaceMember(m_Frame.m_Cantilevers[0], AtLeastZero(counts.cantileverElements), next);

@@ -32,7 +32,8 @@ class CPier {
     CElement& Element(int element) { return m_Elements.at(static_cast<std::size_t>(element)); }
     const CElement& Element(int element) const { return m_Elements.at(static_cast<std::size_t>(element)); }
 
-    // The widths of the columns and the cap; element is an index of the element list behind the piles.
+    // The widths of the columns and the cap; element is an index of the element list, counted from the end of
+    // the piles.
     CSectionData& SectionData(int element) {
         return m_SectionData.at(static_cast<std::size_t>(element - m_nFirstFrameElement));
     }
@@ -50,7 +51,8 @@ class CPier {
     int PileElement(int pile, int element) const {
         return m_Piles[static_cast<std::size_t>(pile)].m_nFirstElement + element;
     }
-    // Elements that each column has room for: one without interior nodes has one, with -1 of them none.
+    // Allocated elements of each column: one when the column has no interior nodes, none when their count is
+    // -1.
     int ColumnElements() const { return std::max(m_nColumnNodes, -1) + 1; }
     int ColumnElement(int column, int element) const {
         return m_Frame.m_Columns[static_cast<std::size_t>(column)].m_nFirstElement + element;
@@ -62,12 +64,13 @@ class CPier {
     // ---- limit classes
 
     // Whether the selection's limit classes are exactly the chosen set; each argument is its own class number
-    // (0, 1, 2, 3) to ask for the class, anything else (by habit -1) to demand that it is absent.
+    // (0, 1, 2, 3) to ask for the class, anything else (callers pass -1) to require that it is absent.
     bool HasOnlyLimitClasses(const CaseSelection& selection, int a, int b, int c, int d) const;
     // Slots of the result tables, one a limit class: 4 for AASHTO-LRFD, 2 for AREMA, otherwise 1.
     int SlotCount() const;
     std::span<const LimitClass> Slots() const;
-    // The slot in which a case (from 0) is searched: its limit class, and slot 0 without combinations.
+    // The slot in which a case (from 0) is searched: its limit class, or slot 0 when the cases are not
+    // combinations.
     int SlotOf(int loadCase) const {
         return m_bCombinations ? m_LoadCases[static_cast<std::size_t>(loadCase)].m_nLimitClass : 0;
     }
@@ -81,7 +84,7 @@ class CPier {
     double GetCantileverEndX(int side) const;  // -999999.0 without cantilevers
     bool IsMomentSection(int support, int kind) const;
     bool IsShearSection(int support, int kind) const;
-    // `support` counts from 1; mode 1 shear, 4 moment. False: x lies outside the searched stretch.
+    // `support` counts from 1; mode 1 shear, 4 moment. False: x is outside the searched range.
     bool LocateOnCap(int support, int kind, double x, int mode, CCapPlace& place) const;
     bool FindElementAtNode(int node, CCapPlace& place, int end) const;
     // The element of the list that has `node` at `end`; -1 after the message.
@@ -100,7 +103,7 @@ class CPier {
     CFrame m_Frame;
     std::vector<std::array<double, 3>> m_dNodes;  // the substructure's own nodes, foundation nodes left out
     std::vector<CBearingRow> m_BearingRows;       // none, 1 or 2
-    std::vector<std::uint8_t> m_ElementMask;      // 1: that element number (less one) has no row in the table
+    std::vector<std::uint8_t> m_ElementMask;      // 1: no row (index: number - 1)
 
     std::vector<CBearingLocation> m_BearingList;
     std::vector<double> m_BearingX;

@@ -25,7 +25,7 @@ enum TableId : int {
     kTableTitlePage = 10,
 };
 
-// The dialog's format radio group; kFormatEnvelopes is known to the path builder alone.
+// The dialog's format radio group; kFormatEnvelopes is used only for the path of the envelope file.
 enum ReportFormat : int { kFormatSpreadsheet = 0, kFormatPdf = 1, kFormatText = 2, kFormatEnvelopes = 3 };
 
 // Structure type codes, as the pile file has them.

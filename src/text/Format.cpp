@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
 
-// Room for the longest "%.*f" of a double: 309 digits before the point, sign, point and the decimals.
+// Length of the longest "%.*f" of a double: 309 digits before the point, sign, point and the decimals.
 constexpr std::size_t kLongestFixed = 512;
 
 void AppendPadded(std::string& out, std::string_view digits, int width) {
@@ -46,9 +46,9 @@ char* PutSixDigits(char* at, std::uint32_t number) {
     return PutPair(PutPair(PutPair(at, number % 100), number / 100 % 100), number / 10000);
 }
 
-// The form of nearly every number of a table, at a fraction of the exact way's cost. The product is off by
-// less than the margin, so away from the half between two hundredths the rounding is certain; false leaves
-// halves, big numbers and those that are not finite to the exact way.
+// Two decimals, the form of nearly every number of a table, much faster than the exact conversion. The error
+// of the product is less than the margin, so that the rounding is certain away from the half between two
+// hundredths. False: halves, big numbers and numbers that are not finite, which the exact conversion takes.
 bool AppendHundredths(std::string& out, double value, int width) {
     constexpr double kLimit = 1e7;
     constexpr double kMargin = 1e-6;
@@ -83,8 +83,8 @@ bool AppendTwelveDecimals(std::string& out, double value, int width) {
     const double billionths = (millionths - static_cast<double>(upper)) * kMillion;
     auto lower = static_cast<std::uint32_t>(billionths);
     const double rest = billionths - static_cast<double>(lower);
-    // Halves go to the even digit. A carry ends in the upper half: no float lies closer below a whole number
-    // than 2^-24.
+    // Halves go to the even digit. A carry ends in the upper half: the gap between a float and the next whole
+    // number above is at least 2^-24.
     if (rest > 0.5 || (rest == 0.5 && lower % 2 != 0)) ++lower;
     if (lower == kMillion) {
         lower = 0;

@@ -8,7 +8,7 @@
 namespace lumerin {
 
 // Numbers to text by the rules of the printf formats named below, exact and locale-free on every platform.
-// The Append forms write behind what the text holds and take no other memory.
+// The Append functions write at the end of `out` and allocate no other memory.
 
 void AppendInt(std::string& out, long long value, int width = 0);       // "%<width>d"
 void AppendIntBlankZero(std::string& out, long long value, int width);  // "%<width>.i": 0 prints as blanks
@@ -31,8 +31,8 @@ std::string_view Trim(std::string_view text);
 std::string Blanks(std::size_t count);
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
 
-// Whether "%.5f" of the value is a plain number: no letter or symbol, "-" in first place only, one ".".
-// That holds for exactly the finite values.
+// Whether "%.5f" of the value is a plain number: no letter or symbol, "-" in first place only, one ".". True
+// for exactly the finite values.
 bool IsValidNumber(double value);
 
 }  // namespace lumerin

@@ -16,7 +16,7 @@ char Upper(char c) {
     return static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
 }
 
-// The text behind the first occurrence of the key.
+// The text after the first occurrence of the key.
 bool FindBehindKey(std::string_view text, std::string_view key, std::string_view& rest) {
     std::string wanted(key);
     if (wanted.size() == 1) wanted += '=';
@@ -31,14 +31,14 @@ void SkipBlanks(std::string_view& text) {
     while (!text.empty() && static_cast<unsigned char>(text.front()) <= 32) text.remove_prefix(1);
 }
 
-// Takes a leading "+" that the number readers of the standard library leave to the caller.
+// Removes a leading "+", which std::from_chars does not accept.
 std::string_view WithoutPlus(std::string_view text) {
     if (text.size() > 1 && text[0] == '+' && text[1] != '-' && text[1] != '+') text.remove_prefix(1);
     return text;
 }
 
-// Extracts one number from the front as a stream's extraction does: false when there is none, and for an
-// integer outside the range of int.
+// Extracts one number from the front, as a stream does. False: there is none, or an integer is outside the
+// range of int.
 bool Extract(std::string_view& text, int& value) {
     const std::string_view digits = WithoutPlus(text);
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
@@ -49,7 +49,7 @@ bool Extract(std::string_view& text, int& value) {
 
 bool Extract(std::string_view& text, double& value) {
     const std::string_view digits = WithoutPlus(text);
-    // "inf" and "nan" are words, not numbers, to a stream.
+    // A stream does not read "inf" and "nan" as numbers.
     const std::size_t first = digits.find_first_not_of('-');
     if (first == std::string_view::npos || first > 1 ||
         (std::isdigit(static_cast<unsigned char>(digits[first])) == 0 && digits[first] != '.')) {
@@ -86,7 +86,7 @@ int ReadKeyedValues(std::string_view text, std::string_view key, std::span<Value
 
 ifstreamex::ifstreamex(const std::string& path) {
     const std::string found = FindFileAnyCase(path);
-    // A folder can be opened on some platforms, and fails when it is read.
+    // On some platforms a folder can be opened, and fails when it is read.
     if (found.empty() || IsFolder(found)) {
         setstate(std::ios::failbit);
     } else {
@@ -102,7 +102,7 @@ bool ifstreamex::ReadPhysicalLine(std::string& line, int maxLength, char delimit
     try {
         return TakeLine(line, maxLength, delimiter);
     } catch (const std::ios_base::failure&) {
-        setstate(std::ios::badbit);  // the buffer throws for a file that can't be read
+        setstate(std::ios::badbit);  // the buffer throws for a file that cannot be read
         return false;
     }
 }

@@ -5,7 +5,7 @@
 
 namespace lumerin {
 
-// What a reader or a search has to say to the engineer while it runs, in the words of a message box. The
+// Receives what a reader or a search reports to the engineer while it runs, as the text of a message box. The
 // dialog shows a box; a program without a screen prints a line. The caller of a load or a search owns the
 // sink.
 class Messages {

@@ -28,7 +28,7 @@ void StoredStream::Open(const std::string& path) {
 void StoredStream::Write(std::string_view text) {
     if (m_bFailed || !IsOpen()) return;
     while (!text.empty()) {
-        // A line feed takes two bytes, so a piece always leaves room for its own.
+        // A line feed is stored as two bytes, so a piece always leaves space for the second one.
         if (m_buffer.size() - m_nUsed < 2) Flush();
         const std::size_t room = m_buffer.size() - m_nUsed;
         const std::string_view head = text.substr(0, room - 1);
@@ -62,12 +62,12 @@ void StoredStream::Close() {
     if (m_bFailed) TellFailure();
 }
 
-// Called on the way out of a failure, so it has none of its own.
+// Called while another failure is handled, so it must not fail.
 void StoredStream::TellFailure() const {
     try {
         services::TellOutputFailed(m_strPath);
     } catch (const std::exception&) {
-        // There is no memory left for the words either.
+        // There is no memory for the message either.
     }
 }
 

@@ -11,9 +11,9 @@
 namespace lumerin {
 
 // An output file in which every line feed is stored as carriage return and line feed, on every platform, and
-// which knows the stored position. The file gets its name, and replaces an earlier one, when it is closed
-// without a fault; a stream that is given up without a close leaves the earlier file as it was. A stream that
-// failed swallows what is written to it.
+// which counts the stored bytes. The file gets its name, and replaces an earlier one, when it is closed
+// without a fault; a stream that is destroyed without a close leaves the earlier file unchanged. A failed
+// stream ignores what is written to it.
 class StoredStream {
   public:
     StoredStream() = default;
@@ -32,7 +32,7 @@ class StoredStream {
     // Bytes stored so far, those in the buffer included.
     std::int64_t Position() const { return m_nPosition; }
     // Puts the file in its place. Sets the fail state when the file system has refused a part of it; the
-    // earlier file stays then.
+    // earlier file is unchanged then.
     void Close();
     bool IsOpen() const { return m_file.IsOpen(); }
     bool Failed() const { return m_bFailed; }

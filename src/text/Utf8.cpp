@@ -8,13 +8,14 @@ namespace lumerin {
 
 namespace {
 
-// Code points of the Western code page's bytes 0x80 to 0x9F; the five unused bytes keep their value.
+// Code points of the Western code page's bytes 0x80 to 0x9F; the five unused bytes have their own value as
+// code point.
 constexpr unsigned kUpperControls[32] = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                          0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
                                          0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                          0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
 
-// Length of the UTF-8 sequence that the text begins with; 0 when it begins with none.
+// Length of the UTF-8 sequence that the text begins with; 0: it does not begin with one.
 std::size_t SequenceLength(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned first = byte(0);

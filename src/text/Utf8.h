@@ -6,15 +6,15 @@
 
 namespace lumerin {
 
-// Between UTF-8, which terminals and Linux's file names are in, and the Western code page, which documents
-// and the dialogs' texts are in: one byte a character, so that a text is as wide as it is long.
+// Conversion between UTF-8, the encoding of terminals and of Linux's file names, and the Western code page,
+// that of documents and dialogs: one byte a character, so that the number of bytes is the width of a text.
 
-// A text of the code page as UTF-8. What is a UTF-8 sequence already stays: a message holds the path of a
-// file as it was given.
+// A text of the code page as UTF-8. UTF-8 sequences in it are unchanged, because a message contains the path
+// of a file as it was given.
 std::string ToUtf8(std::string_view text);
 
-// A UTF-8 text in the code page, with a "?" for each character that it does not have. Bytes that are no UTF-8
-// sequence are taken for the code page's own.
+// A UTF-8 text in the code page, with a "?" for each character that the code page does not have. Bytes that
+// are not a UTF-8 sequence are taken as bytes of the code page.
 std::string ToWestern(std::string_view text);
 
 }  // namespace lumerin

@@ -46,7 +46,7 @@ void FocusFirst(NativeWindow& window) {
     }
 }
 
-// The objects may outlive the windows; none keeps a handle of a window that is gone.
+// The objects may outlive the windows, so their handles are cleared.
 void Unbind(NativeWindow& window) {
     for (const auto& control : window.controls) {
         if (control->object != nullptr) control->object->m_hWnd = nullptr;
@@ -54,7 +54,7 @@ void Unbind(NativeWindow& window) {
     window.dialog->m_hWnd = nullptr;
 }
 
-// The dialog that the next one belongs to.
+// The owner of the next dialog.
 NativeWindow*& Front() {
     static NativeWindow* front = nullptr;
     return front;
@@ -228,7 +228,7 @@ bool HeadlessDialog::ClickGraph(double x) {
 
 bool HeadlessDialog::PressEscape() {
     if (!IsOpen()) return false;
-    // A hidden Cancel button still takes the key, a disabled one does not.
+    // A hidden Cancel button still receives the Esc key, a disabled one does not.
     const NativeWindow* cancel = Find(IDCANCEL);
     if (cancel != nullptr && !cancel->enabled) return false;
     Run([this] { Dialog().OnCommand(IDCANCEL, Notice::clicked); });
@@ -253,7 +253,7 @@ bool HeadlessDialog::PressReturn() {
 bool HeadlessDialog::PressHelp(int id) {
     if (!IsOpen() || Find(id) == nullptr) return false;
     EndTips();
-    // As Windows does it, a dialog that has no answer leaves the key to the one that opened it.
+    // As on Windows, a key that a dialog does not handle goes to the dialog that opened it.
     bool handled = false;
     for (NativeWindow* window = &m_window; window != nullptr && !handled; window = window->owner) {
         CDialog& dialog = *window->dialog;

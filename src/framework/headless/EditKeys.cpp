@@ -36,7 +36,7 @@ void Copy(EditBox edit) {
                                                    static_cast<std::size_t>(edit.caret - edit.anchor));
 }
 
-// One line alone goes into an edit window of one line.
+// An edit window of one line takes the first line of the text alone.
 void Paste(EditBox& edit) {
     std::string text = headless::State().clipboard;
     if (text.empty()) return;

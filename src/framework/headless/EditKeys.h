@@ -7,8 +7,8 @@
 
 namespace lumerin {
 
-// How the platform's edit window answers the keyboard. It keeps the two ends of its selection apart: the one
-// that stays, and the caret, which the Shift key moves alone.
+// The keyboard behaviour of the platform's edit window. The two ends of its selection differ: one is fixed,
+// the other is the caret, which moves alone while Shift is held.
 struct EditBox {
     std::string& text;
     int& anchor;
@@ -18,10 +18,10 @@ struct EditBox {
 
 namespace headless {
 
-// A key without a character. Cut, copy and paste go over the clipboard of the process.
+// Handles a key without a character. Cut, copy and paste use the clipboard of the process.
 void PressEditKey(EditBox edit, unsigned key, KeyState keys);
-// A character: Backspace deletes, those of Ctrl and a letter are the commands of the clipboard, a printing
-// one takes the place of the selection.
+// Handles a character: Backspace deletes, the characters of Ctrl and a letter are the clipboard's commands, a
+// printable one replaces the selection.
 void TypeEditCharacter(EditBox edit, unsigned character);
 // The character that the keyboard makes of a key without a text of its own; 0: none.
 unsigned CharacterOfKey(unsigned key, KeyState keys);

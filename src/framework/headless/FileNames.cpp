@@ -11,7 +11,7 @@
 
 namespace lumerin {
 
-// Files on a file system that tells upper from lower case.
+// File names on a file system that distinguishes upper from lower case.
 
 namespace {
 
@@ -33,10 +33,10 @@ bool SameButForCase(const std::string& a, const std::string& b) {
     return true;
 }
 
-// The entry of `folder` that is called `name` but for case; of several the first in byte order, so that the
-// choice does not depend on the file system's order. Empty: there is none.
+// The entry of `folder` whose name differs from `name` in case alone; of several the first in byte order, so
+// that the choice does not depend on the file system's order. Empty: there is none.
 std::string EntryAnyCase(const fs::path& folder, const std::string& name) {
-    // The standard library's walk of a folder ends the process where memory runs out.
+    // Not the standard library's directory iterator: it ends the process when memory runs out.
     const std::unique_ptr<DIR, FolderCloser> open(opendir(folder.empty() ? "." : folder.c_str()));
     std::string found;
     while (const dirent* entry = open == nullptr ? nullptr : readdir(open.get())) {

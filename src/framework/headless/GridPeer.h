@@ -12,23 +12,23 @@
 
 namespace lumerin {
 
-// What a grid shows to the headless backend, which knows no cells: the grid attaches its peer to the record
-// of its control when the dialog binds it, and the driver types and reads through the peer. The peer belongs
-// to the grid, which outlives the run of its dialog.
+// The interface of a grid for the headless backend, which has no type for cells. The grid attaches its peer
+// to the record of its control when the dialog binds it, and the driver types and reads through the peer. The
+// grid owns the peer and outlives the run of its dialog.
 class GridPeer {
   public:
     virtual ~GridPeer() = default;
 
-    // Puts the focus on the cell and types the text and a Return, by the keys that a person would press.
-    // False: there is no such cell.
+    // Puts the focus on the cell and types the text and a Return, key by key. False: there is no such cell.
     virtual bool TypeCell(int row, int column, const std::string& text) = 0;
-    // A character or a key of the keyboard while the grid or its editor has the focus. A key that the grid
-    // leaves to the dialog gives false.
+    // A character or a key of the keyboard while the grid or its editor has the focus. False: the grid leaves
+    // the key to the dialog.
     virtual void TypeChar(unsigned character, KeyState keys) = 0;
     virtual bool PressKey(unsigned key, KeyState keys) = 0;
-    // The mouse. False: the place is not there or not visible, or the bar has nothing to scroll.
+    // Acts with the mouse. False: the place does not exist or is not visible, or the bar has nothing to
+    // scroll.
     virtual bool Mouse(const MouseAction& action) = 0;
-    // Takes the title tip away, as any key does, wherever the focus is.
+    // Removes the title tip, as any key does, whichever control has the focus.
     virtual void EndTip() = 0;
     virtual void GainFocus() = 0;
     // The focus leaves the grid for another control; an open editor ends.

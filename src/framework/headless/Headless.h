@@ -16,9 +16,9 @@
 
 namespace lumerin {
 
-// The backend without a screen: a window is a record of its state, and whatever would leave the process
-// (message boxes, viewer starts, module calls) goes to a sink. The program `lumerin` and the tests install
-// the sink and the driver that presses the dialogs' buttons.
+// The backend without a screen. A window is a record of its state, and all effects outside the process
+// (message boxes, viewer starts, module calls) go to a sink. The program `lumerin` and the tests install the
+// sink and the driver that presses the dialogs' buttons.
 
 struct NativeWindow {
     const ControlSpec* spec = nullptr;  // null: the dialog itself
@@ -76,9 +76,9 @@ class HeadlessDialog {
     const NativeWindow* Focused() const { return m_window.focus; }
     bool PressKey(unsigned key, KeyState keys);
     bool TypeChar(unsigned character);
-    // An action of a control with behaviour of its own, with the dispatch's care for failures.
+    // Runs an action of a control with its own behaviour; failures are reported as in the message dispatch.
     void Run(const std::function<void()>& step);
-    // Ends the dialog as a user would who wants to leave: by its button "Close", else by Cancel.
+    // Ends the dialog as a user would: by its button "Close", else by Cancel.
     void Close();
 
   private:
@@ -95,8 +95,8 @@ struct Message {
     MessageButtons buttons = MessageButtons::ok;
 };
 
-// Where everything goes that would leave the process. The base accepts all of it in silence: questions get
-// State().answer, viewer starts State().shellCode, the plot module is there.
+// Receives all effects outside the process. The base class accepts everything silently: questions get
+// State().answer, viewer starts State().shellCode, and the plot module is present.
 class Sink {
   public:
     Sink() = default;
@@ -104,7 +104,7 @@ class Sink {
     Sink& operator=(const Sink&) = delete;
     virtual ~Sink() = default;
 
-    virtual void OnDialogOpened(HeadlessDialog&) {}  // behind the dialog's initialisation
+    virtual void OnDialogOpened(HeadlessDialog&) {}  // after the dialog's initialisation
     virtual MessageAnswer OnMessage(const Message& message);
     virtual int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters);
     virtual services::PlotModuleResult OnPlotModule(const std::string& module,
@@ -117,12 +117,12 @@ class Sink {
 // Moves the focus of the window's dialog to the next or previous control that Tab stops at.
 void MoveFocusByTab(WindowHandle window, bool backwards);
 
-// Presses the buttons of a dialog that was just opened; may return with the dialog open, which closes it.
-// A dialog that is opened by a press calls the driver again, inside the press.
+// Presses the buttons of a dialog that was just opened. A dialog that is still open when this returns is
+// closed. A dialog that is opened by a press calls the driver again, inside the press.
 using ModalDriver = std::function<void(HeadlessDialog&)>;
 void SetModalDriver(ModalDriver driver);
 
-// Null takes the sink away. The caller keeps it alive as long as it is installed.
+// Null removes the sink. The caller owns the sink and keeps it alive while it is installed.
 void SetSink(Sink* sink);
 
 struct Settings {
@@ -138,10 +138,10 @@ struct Settings {
     int waitCursorDepth = 0;
 };
 Settings& State();
-// All settings back to their first values, sink and driver included.
+// Resets all settings to their initial values and removes sink and driver.
 void ResetState();
 
-// Keeps what it was told, for tests.
+// A sink that keeps what it received, for tests.
 class RecordingSink : public Sink {
   public:
     struct ShellStart {

@@ -17,7 +17,7 @@ void TellChange(NativeWindow& edit, const std::string& before) {
     if (edit.text != before) edit.parent->dialog->OnCommand(edit.spec->id, Notice::textChanged);
 }
 
-// Of a group of radio buttons Tab stops at the checked one alone.
+// In a group of radio buttons Tab stops only at the checked one.
 bool IsTabStop(const NativeWindow& control) {
     if (!control.enabled || !control.visible) return false;
     switch (control.spec->kind) {
@@ -94,7 +94,7 @@ bool HeadlessDialog::PressKeyInEdit(NativeWindow& edit, unsigned key, KeyState k
     const bool hasSpin = std::next(at) != controls.end() && (*std::next(at))->spec->kind == ControlKind::spin;
     if (hasSpin && (key == kKeyUp || key == kKeyDown)) {
         const bool done = Spin((*std::next(at))->spec->id, key == kKeyUp);
-        // The mouse leaves the new number selected, the keys leave the caret before it.
+        // After a click of the mouse the new number is selected, after a key the caret is before it.
         backend::SelectEditText(&edit, 0, 0);
         return done;
     }

@@ -69,8 +69,8 @@ int StartProgram(const std::string& program, const std::string& document) {
     return CurrentSink().OnShellOpen("open", program, document);
 }
 
-// The native program is its own host and holds the module's code itself. What lies beside either is looked
-// for beside the program, by the names whose letters the product trims off.
+// The native program is its own host and contains the module's code. Files beside host or module are looked
+// for beside the program; host and module have the file names from which the product cuts the last letters.
 std::string HostProgramPath() {
     const std::string& path = headless::State().programPath;
     return path.empty() ? ProgramFolder() + "Tarnsway.exe" : path;

@@ -20,7 +20,7 @@ const std::string_view kTemporaryEnding = ".LML";
 
 namespace {
 
-constexpr mode_t kNewFile = 0666;  // less what the user's mask takes away
+constexpr mode_t kNewFile = 0666;  // reduced by the user's mask
 constexpr mode_t kRights = 0777;
 constexpr std::size_t kPiece = 16384;
 
@@ -32,7 +32,7 @@ struct FolderCloser {
     void operator()(DIR* folder) const { closedir(folder); }
 };
 
-// A live file is locked by its process, and the lock ends with the process.
+// A file that is being written is locked by its process, and the lock ends with the process.
 bool LockIsFree(int file) {
     return flock(file, LOCK_EX | LOCK_NB) == 0;
 }
@@ -44,7 +44,7 @@ Target LookAt(const std::string& path) {
     if (lstat(path.c_str(), &found) != 0) return Target::absent;
     if (S_ISDIR(found.st_mode) || S_ISCHR(found.st_mode) || S_ISBLK(found.st_mode)) return Target::refused;
     if (!S_ISREG(found.st_mode)) return Target::replaceable;
-    // The system's own answer, whatever rights, marks and file systems it comes from.
+    // The system decides: rights, attributes and the file system can all forbid writing.
     const int file = open(path.c_str(), O_WRONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (file < 0) return Target::refused;
     close(file);
@@ -59,7 +59,7 @@ Handle CreateNew(const std::string& path, bool& taken) {
     const int file = open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kNewFile);
     taken = file < 0 && errno == EEXIST;
     if (file < 0) return kNoHandle;
-    // Between the two calls another process may have taken it for a left-over.
+    // Between the two calls another process may have deleted it as a left-over.
     const bool cleared = !LockIsFree(file) && errno == EWOULDBLOCK;
     struct stat made {};
     taken = cleared || fstat(file, &made) != 0 || made.st_nlink == 0;
@@ -81,10 +81,11 @@ Handle CreateNameless() {
 void CopyRights(Handle handle, const std::string& from) noexcept {
     struct stat earlier {};
     if (lstat(from.c_str(), &earlier) != 0 || !S_ISREG(earlier.st_mode)) return;
-    // Root alone may give a file away; anyone else keeps it, with the group where he is a member of it.
+    // Only root may change a file's owner. Another user stays the owner, and sets the group if he is a member
+    // of it.
     if (fchown(Descriptor(handle), earlier.st_uid, earlier.st_gid) != 0 &&
         fchown(Descriptor(handle), static_cast<uid_t>(-1), earlier.st_gid) != 0) {
-        // The rights of the group would go to another one.
+        // Otherwise the rights of the group would apply to another group.
         earlier.st_mode &= ~static_cast<mode_t>(S_IRWXG);
     }
     fchmod(Descriptor(handle), earlier.st_mode & kRights);
@@ -102,7 +103,8 @@ bool Write(Handle handle, const void* bytes, std::size_t count) noexcept {
     return true;
 }
 
-// A network's file system reports at a close what it could not store; the file itself stays open, and locked.
+// A network file system reports at a close that it could not store the data. A copy of the handle is closed,
+// so that the file stays open and locked.
 bool Settle(Handle handle) noexcept {
     const int copy = fcntl(Descriptor(handle), F_DUPFD_CLOEXEC, 0);
     return copy >= 0 && close(copy) == 0;

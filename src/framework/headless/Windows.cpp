@@ -116,8 +116,8 @@ void SpinSetPosition(WindowHandle window, int position) {
     const int low = std::min(window->spinLow, window->spinHigh);
     const int high = std::max(window->spinLow, window->spinHigh);
     window->spinPosition = std::clamp(position, low, high);
-    // The edit gives a change notice only when its text really changes; a handler that sets the position it
-    // has just read would otherwise call itself for ever.
+    // The edit control sends a change notice only when its text changes. Otherwise a handler that sets the
+    // position that it has just read would call itself for ever.
     NativeWindow* buddy = BuddyOf(window);
     const std::string text = std::to_string(window->spinPosition);
     if (buddy != nullptr && buddy->text != text) SetText(buddy, text);

@@ -6,8 +6,8 @@
 
 namespace lumerin {
 
-// Which object belongs to which control. The objects may outlive the windows; none keeps a handle of a window
-// that is gone.
+// Which object belongs to which control. The objects may outlive the windows, so their handles are cleared
+// before.
 namespace win32 {
 
 void Bind(HWND control, CWnd& object);

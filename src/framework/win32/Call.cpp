@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "framework/win32/Windows32.h"
-// OLE and the processor's control words want windows.h before them.
+// These headers need windows.h before them.
 #include <ole2.h>
 #include <xmmintrin.h>
 
@@ -8,15 +8,16 @@
 
 namespace lumerin {
 
-// What one call of the export borrows from the host and its thread, and gives back.
+// Changes the state of the host and its thread for one call of the export, and restores it.
 
 namespace {
 
-// How the processor treats floating-point faults and rounding, of both of its units. The flags of faults that
-// happened are in it.
+// The control words of both floating-point units of the processor: masks of faults, flags of faults that
+// happened, and rounding.
 class FloatingPoint {
   public:
-    // All faults masked, 64 bits of mantissa, rounding to nearest: what numbers were checked with.
+    // All faults masked, 64 bits of mantissa, rounding to nearest: the setting with which the numbers were
+    // checked.
     void SaveAndMask() {
         asm volatile("fnstenv %0" : "=m"(m_environment));
         m_sse = _mm_getcsr();
@@ -24,7 +25,7 @@ class FloatingPoint {
         asm volatile("fnclex\n\tfldcw %0" : : "m"(control));
         _mm_setcsr(0x1f80);
     }
-    // A fault that was flagged meanwhile must not become one of the host's.
+    // A fault flag that was set during the call must not be seen by the host.
     void Restore() const {
         asm volatile("fnclex\n\tfldenv %0" : : "m"(m_environment));
         _mm_setcsr(m_sse);
@@ -71,7 +72,7 @@ void LeaveCall() noexcept {
 namespace win32 {
 
 bool UseOle() noexcept {
-    // Where the host has initialised it already this counts one more.
+    // When the host has initialised OLE already, this increases its count.
     if (!State().usesOle) State().usesOle = SUCCEEDED(OleInitialize(nullptr));
     return State().usesOle;
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "framework/win32/Windows32.h"
-// The common controls want windows.h before them.
+// This header needs windows.h before it.
 #include <commctrl.h>
 
 #include <algorithm>
@@ -50,7 +50,7 @@ void Show(WindowHandle window, bool visible) {
     if (window != nullptr) ShowWindow(ToHwnd(window), visible ? SW_SHOW : SW_HIDE);
 }
 
-// A control's own state: that its dialog is not shown yet makes no difference.
+// The control's own flag, whether or not its dialog is shown yet.
 bool IsVisible(WindowHandle window) {
     return window != nullptr && HasStyle(window, WS_VISIBLE);
 }

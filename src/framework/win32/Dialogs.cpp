@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "framework/win32/Windows32.h"
-// The common controls want windows.h before them.
+// This header needs windows.h before it.
 #include <commctrl.h>
 
 #include "framework/Dialog.h"
@@ -14,7 +14,8 @@ namespace lumerin {
 
 namespace {
 
-// A dialog that is being run, on the stack of the call that runs it: opening one takes no memory.
+// A dialog that is being run. It is on the stack of the call that runs it, so that opening a dialog allocates
+// no memory.
 class RunningDialog {
   public:
     explicit RunningDialog(CDialog& dialog) : m_dialog(dialog), m_below(Front()) { Front() = this; }
@@ -26,13 +27,13 @@ class RunningDialog {
         static RunningDialog* front = nullptr;
         return front;
     }
-    // Null: its window is not made yet, or is gone already.
+    // Null: its window is not made yet, or is destroyed.
     HWND m_window = nullptr;
     CDialog& m_dialog;
     RunningDialog* const m_below;
 };
 
-// Runs one step of a dialog's own; what it throws is reported.
+// Runs one step of the dialog; an exception is reported.
 template <class Step>
 void RunHandler(CDialog& dialog, const Step& step) noexcept {
     const win32::HandlerScope handler;
@@ -43,7 +44,8 @@ CDialog* DialogOf(HWND window) {
     return reinterpret_cast<CDialog*>(GetWindowLongPtrA(window, DWLP_USER));
 }
 
-// What the notification code of a command means for this kind of control. False: nothing to the dialogs.
+// The notice for the notification code of a command from this kind of control. False: the dialogs ignore the
+// code.
 bool ReadNotice(ControlKind kind, unsigned code, Notice& notice) {
     switch (kind) {
         case ControlKind::edit:
@@ -70,15 +72,14 @@ bool OnCommandMessage(CDialog& dialog, WPARAM wParam) {
     const int id = static_cast<short>(LOWORD(wParam));
     Notice notice = Notice::clicked;
     if (!ReadNotice(KindOf(dialog.Spec(), id), HIWORD(wParam), notice)) return false;
-    // A loss of focus may come from the box of a failure.
+    // The message box of a failure may cause the loss of focus.
     if (notice != Notice::focusLost) win32::NoteMessage(WM_COMMAND);
     bool handled = false;
     RunHandler(dialog, [&] { handled = dialog.OnCommand(id, notice); });
     return handled;
 }
 
-// The module carries no icon, so the window gets none: it shows the platform's, and so does its minimised
-// form.
+// The module has no icon, so the window gets none; the window and its minimised form show the platform's.
 void OnInit(HWND window, LPARAM lParam) {
     auto& running = *reinterpret_cast<RunningDialog*>(lParam);
     CDialog& dialog = running.m_dialog;
@@ -141,13 +142,13 @@ INT_PTR CALLBACK DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARA
 }
 
 BOOL CALLBACK TakeMainWindow(HWND window, LPARAM found) noexcept {
-    // A window that another one owns is a tool of it.
+    // A window with an owner is a tool window.
     if (!IsWindowVisible(window) || GetWindow(window, GW_OWNER) != nullptr) return TRUE;
     *reinterpret_cast<HWND*>(found) = window;
     return FALSE;
 }
 
-// The host's main window on this thread; null when it has none to see.
+// The host's main window on this thread; null when it has no visible one.
 HWND MainWindow() {
     HWND window = nullptr;
     EnumThreadWindows(GetCurrentThreadId(), TakeMainWindow, reinterpret_cast<LPARAM>(&window));

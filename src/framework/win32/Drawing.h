@@ -5,10 +5,11 @@
 
 namespace lumerin {
 
-// What drawing borrows from the platform and gives back on every way out.
+// Owners of drawing objects of the platform; each releases its object when it goes out of scope.
 namespace win32 {
 
-// From BeginPaint to EndPaint: a paint that fails is over too, and the platform does not ask for it for ever.
+// From BeginPaint to EndPaint. A paint that throws is ended too; otherwise the platform would request it
+// again for ever.
 class Painting {
   public:
     explicit Painting(HWND window) : m_window(window), m_dc(BeginPaint(window, &m_paint)) {}
@@ -40,7 +41,7 @@ class WindowContext {
     HDC m_dc;
 };
 
-// A bitmap of a size in pixels with a context of its own to draw on it.
+// A bitmap, its size in pixels, and a device context that draws on it.
 class BitmapContext {
   public:
     BitmapContext(HDC compatibleTo, int width, int height)
@@ -57,7 +58,7 @@ class BitmapContext {
 
     HDC Context() const { return m_dc; }
     HBITMAP Bitmap() const { return m_bitmap; }
-    // Takes the bitmap off the context: only then its pixels can be read.
+    // Removes the bitmap from the context; only then its pixels can be read.
     void Release() {
         if (m_before != nullptr) SelectObject(m_dc, m_before);
         m_before = nullptr;

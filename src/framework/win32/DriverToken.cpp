@@ -22,7 +22,7 @@ std::uint32_t ReadToken() {
     return fault == std::errc() && at == end ? token : kNoToken;
 }
 
-// Read while the module is loaded: the driver takes it out of the environment again, so that the programs
+// Read when the module is loaded: the driver removes it from the environment afterwards, so that the programs
 // that the module starts do not get it.
 const std::uint32_t g_driverToken = ReadToken();
 

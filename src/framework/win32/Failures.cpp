@@ -19,7 +19,8 @@ Report& Pending() {
     return report;
 }
 
-// The release of a key or button is none: the one that closes a box is released over the dialog.
+// The release of a key or button is not an action of the user: the key that closes a box is released over the
+// dialog.
 bool IsUserAction(UINT message) {
     switch (message) {
         case WM_KEYDOWN:

@@ -7,26 +7,26 @@
 
 namespace lumerin {
 
-// The border between the platform and the code that it calls back: procedures of windows, and methods that
-// other programs call. No exception crosses it, and the border itself takes no memory.
+// The functions around all code that the platform calls back: window procedures, and methods that other
+// programs call. No exception leaves them, and they allocate no memory themselves.
 namespace win32 {
 
-// A message of the platform is being worked off. What the user did may be reported again when it fails; what
-// the platform repeats by itself, such as painting, is reported once until then, or the user would never get
-// out of the boxes.
+// Called for each message of the platform. A failure is reported again after the user has acted. Before that,
+// a message that the platform repeats by itself, such as painting, is reported once; otherwise the boxes
+// would never end.
 void NoteMessage(UINT message) noexcept;
 
 // Keeps the exception that is being handled; to be called from a catch clause. The front dialog reports it
-// when the platform's call is over, as a box inside of a paint or a change of focus would disturb it.
+// after the platform's call, because a message box inside a paint or a change of focus would disturb that.
 void ReportLater() noexcept;
 
 // The number of the message by which the front dialog is asked to report.
 inline constexpr UINT kReportFailure = WM_APP + 1;
 // Throws what ReportLater kept; nothing happens when there is nothing.
 void ThrowKept();
-// The box of the failure is gone: the next one may be reported.
+// The box of the failure was closed: the next failure may be reported.
 void EndReport() noexcept;
-// Forgets what was kept; between two calls of the export.
+// Forgets what was kept. Called between two calls of the export.
 void ForgetFailures() noexcept;
 
 // Runs one step that the platform called for. False: it threw, and that is reported later.
@@ -41,7 +41,7 @@ bool RunBorder(Step&& step) noexcept {
     }
 }
 
-// One method that another program calls: a failure is that program's to report.
+// Runs one method that another program calls; a failure is returned to that program, which reports it.
 template <class Step>
 HRESULT RunMethod(Step&& step) noexcept {
     try {

@@ -4,8 +4,8 @@
 
 namespace lumerin {
 
-// Windows finds files whatever their case. A path is bytes of the code page here, which the standard
-// library's paths would take for another encoding.
+// Windows finds files whatever their case. A path is bytes of the code page here; std::filesystem::path would
+// assume another encoding.
 
 std::string FindFileAnyCase(const std::string& path) {
     return GetFileAttributesA(path.c_str()) == INVALID_FILE_ATTRIBUTES ? std::string() : path;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* kProgramPaths = "SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\App Paths\\";
 constexpr DWORD kAllShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-// What a library wants in its turn comes from its own folder or the system's, never from the current one.
+// The libraries that a library needs come from its own folder or the system's, never from the current one.
 constexpr DWORD kOwnFoldersAlone = LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_DEFAULT_DIRS;
 
 bool IsSeparator(char c) {
@@ -37,7 +37,7 @@ bool IsFile(const std::string& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
 }
 
-// A folder by what it is; it can have many names.
+// The identity of a folder, which can have many names.
 class FolderIdentity {
   public:
     explicit FolderIdentity(const std::string& folder) {
@@ -89,7 +89,7 @@ std::vector<std::string> SearchPath() {
 std::string FileIn(const std::string& folder, const std::string& name) {
     if (folder.empty()) return {};
     std::string path = IsSeparator(folder.back()) ? folder + name : folder + '\\' + name;
-    std::replace(path.begin(), path.end(), '/', '\\');  // the loader takes no others
+    std::replace(path.begin(), path.end(), '/', '\\');  // the loader accepts no others
     return IsFile(path) ? path : std::string();
 }
 
@@ -98,7 +98,7 @@ std::string DefaultText(HKEY root, const std::string& name, REGSAM view) {
     HKEY key = nullptr;
     if (RegOpenKeyExA(root, name.c_str(), 0, KEY_QUERY_VALUE | view, &key) != ERROR_SUCCESS) return {};
     std::array<char, 4 * MAX_PATH> text{}, expanded{};
-    auto size = static_cast<DWORD>(text.size() - 1);  // the value may lack its end
+    auto size = static_cast<DWORD>(text.size() - 1);  // the value may have no terminating zero
     DWORD type = REG_NONE;
     const LSTATUS read =
         RegQueryValueExA(key, nullptr, nullptr, &type, reinterpret_cast<BYTE*>(text.data()), &size);

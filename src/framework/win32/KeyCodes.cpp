@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The codes of Keys.h are the platform's own; a wrong one would be another key.
+// Checks that the codes of Keys.h are those of the platform.
 #include "framework/Keys.h"
 #include "framework/win32/Windows32.h"
 

@@ -23,7 +23,7 @@ UINT IconStyle(MessageIcon icon) {
 struct WaitCursor {
     int depth = 0;
     HCURSOR before = nullptr;
-    int handlers = 0;  // that are running, one inside the box or dialog of another
+    int handlers = 0;  // running handlers; one can run inside a box or dialog of another
 };
 
 WaitCursor& Waiting() {

@@ -14,7 +14,7 @@ using PlotExport = int(WINAPI*)(int format, const char* dataFile, const char* pl
                                 const char* version, const char* zeroA, const char* zeroB,
                                 const char* argument);
 
-// The system's words for an error, in the user's language.
+// The system's text for an error, in the user's language.
 std::string SystemText(DWORD error) {
     char* text = nullptr;
     FormatMessageA(
@@ -44,7 +44,7 @@ PlotModuleResult CallPlotModule(const char* module, const char* exportName, cons
     const auto launch = reinterpret_cast<PlotExport>(reinterpret_cast<void*>(address));
     launch(call.format, call.dataFile.c_str(), call.plot.c_str(), call.family.c_str(), call.version.c_str(),
            call.zeroA.c_str(), call.zeroB.c_str(), call.argument.c_str());
-    // The module stays loaded: its windows live on behind the call.
+    // The module stays loaded: its windows stay open after the call.
     return PlotModuleResult::called;
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "framework/win32/Windows32.h"
-// The spooler wants windows.h before it.
+// This header needs windows.h before it.
 #include <winspool.h>
 
 #include <array>
@@ -9,8 +9,8 @@
 
 namespace lumerin {
 
-// The application's own copy of the default printer's settings. Only this copy is changed: neither the
-// printer nor the host takes notice.
+// The application's own copy of the default printer's settings. Only this copy is changed; the printer and
+// the host are not affected.
 
 namespace {
 
@@ -36,7 +36,7 @@ std::string DefaultPrinter() {
     return GetDefaultPrinterA(name.data(), &size) ? std::string(name.data()) : std::string();
 }
 
-// Bytes of a DEVMODE with the driver's part behind it; empty where the machine has no default printer.
+// Bytes of a DEVMODE followed by the driver's part; empty where the machine has no default printer.
 std::vector<char> ReadDefaults() {
     std::string name = DefaultPrinter();
     if (name.empty()) return {};

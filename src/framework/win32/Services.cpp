@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "framework/win32/Windows32.h"
-// The shell wants windows.h before it.
+// This header needs windows.h before it.
 #include <shellapi.h>
 
 #include <array>
@@ -11,15 +11,14 @@
 
 namespace lumerin {
 
-// What the product asks of the platform beyond its windows: the shell, paths, the text viewer's settings, the
-// clock.
+// Services of the platform other than windows: the shell, paths, the text viewer's settings, the clock.
 
 namespace {
 
 constexpr int kProgramMissing = 2;  // the shell's code
 constexpr const char* kViewerKey = "SOFTWARE\\Microsoft\\Notepad";
 
-// The text viewer's settings of the current user; nothing writes there.
+// The text viewer's settings of the current user. The product only reads them.
 class ViewerKey {
   public:
     ViewerKey() { RegOpenKeyExA(HKEY_CURRENT_USER, kViewerKey, 0, KEY_READ, &m_key); }
@@ -85,7 +84,7 @@ bool ReadViewerText(const char* name, unsigned capacity, std::string& value) {
     return true;
 }
 
-// The module says nothing of it, as the engineers know it.
+// The module shows no message here; engineers do not expect one.
 void TellOutputFailed(const std::string& /*path*/) {}
 
 LocalTime Now() {

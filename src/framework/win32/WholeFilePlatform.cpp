@@ -31,8 +31,8 @@ Handle FromHandle(HANDLE handle) {
     return handle == INVALID_HANDLE_VALUE ? kNoHandle : reinterpret_cast<Handle>(handle);
 }
 
-// In the code page that the platform's calls for files read their names in. Those calls themselves take no
-// path of more than 260 characters, where their wide forms may.
+// From the code page in which the platform's file functions read names. Those functions accept no path of
+// more than 260 characters; their wide forms may.
 std::wstring Wide(const std::string& path) {
     const UINT page = AreFileApisANSI() ? CP_ACP : CP_OEMCP;
     std::wstring wide(path.size(), L'\0');
@@ -42,7 +42,7 @@ std::wstring Wide(const std::string& path) {
     return wide;
 }
 
-// For names that our own are to be found among.
+// For file names among which our temporary files are searched; those are plain ASCII.
 std::string Narrow(std::wstring_view wide) {
     std::string text;
     for (const wchar_t c : wide) text += c < 0x80 ? static_cast<char>(c) : '?';
@@ -67,8 +67,8 @@ bool IsPlainFile(DWORD attributes) {
 Target LookAt(const std::string& path) {
     const DWORD attributes = GetFileAttributesW(Wide(path).c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) {
-        // Under Wine the folder may hold what Windows has no word for, such as a pipe. It cannot be removed
-        // from here, and opening it could wait for ever.
+        // Under Wine the folder may contain files that Windows does not have, such as a pipe. It cannot be
+        // removed from here, and opening it could block for ever.
         const DWORD error = GetLastError();
         const bool absent = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
         return absent ? Target::absent : Target::refused;
@@ -77,7 +77,8 @@ Target LookAt(const std::string& path) {
     if (!IsPlainFile(attributes)) return Target::replaceable;
     const HANDLE file = OpenForWriting(path);
     if (file == INVALID_HANDLE_VALUE) {
-        // Who has it open may let it go until the document is ready, or let it be replaced.
+        // The program that has it open may close it before the document is ready, or may allow it to be
+        // replaced.
         return GetLastError() == ERROR_SHARING_VIOLATION ? Target::file : Target::refused;
     }
     CloseHandle(file);
@@ -88,7 +89,7 @@ std::string FolderPart(const std::string& path) {
     return path.substr(0, path.find_last_of("\\/:") + 1);
 }
 
-// Nobody may delete it meanwhile, so that it is no left-over for another process.
+// Sharing of deletion is refused, so that no other process removes it as a left-over.
 Handle CreateNew(const std::string& path, bool& taken) {
     const HANDLE file = CreateFileW(Wide(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE,
                                     FILE_SHARE_READ, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -106,7 +107,7 @@ Handle CreateNameless() {
     return FromHandle(file);
 }
 
-// A new file takes the rights of its folder, as the one before it did.
+// A new file inherits the rights of its folder, as the earlier one did.
 void CopyRights(Handle, const std::string&) noexcept {}
 
 bool Write(Handle handle, const void* bytes, std::size_t count) noexcept {
@@ -121,7 +122,7 @@ bool Write(Handle handle, const void* bytes, std::size_t count) noexcept {
     return true;
 }
 
-// What a server could not store shows here at the latest.
+// A server that could not store the data reports it here at the latest.
 bool Settle(Handle handle) noexcept {
     return FlushFileBuffers(ToHandle(handle)) != FALSE;
 }
@@ -175,7 +176,7 @@ void RemoveLeftOvers(const std::string& folder) {
     if (first == INVALID_HANDLE_VALUE) return;
     const std::unique_ptr<void, SearchCloser> search(first);
     do {
-        // One that is still written does not let itself be deleted.
+        // A file that is still being written cannot be deleted.
         if (IsPlainFile(found.dwFileAttributes) && IsTemporaryName(Narrow(found.cFileName)))
             DeleteFileW((wideFolder + found.cFileName).c_str());
     } while (FindNextFileW(search.get(), &found));

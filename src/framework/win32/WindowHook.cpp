@@ -23,7 +23,7 @@ LRESULT CallProcedure(WNDPROC procedure, HWND window, UINT message, WPARAM wPara
 
 LRESULT CALLBACK HookProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) noexcept {
     auto* target = static_cast<win32::MessageTarget*>(GetPropA(window, kTargetProperty));
-    const WNDPROC own = OwnProcedure(window);  // the message may take the hook away
+    const WNDPROC own = OwnProcedure(window);  // the message may remove the hook
     if (message == WM_NCDESTROY) {
         win32::UnhookWindow(window);
         if (target != nullptr) target->OnGone();
@@ -55,7 +55,7 @@ void HookWindow(HWND window, MessageTarget& target) {
 
 void UnhookWindow(HWND window) noexcept {
     RemovePropA(window, kTargetProperty);
-    // Where another hook came later, it calls ours on; ours passes all to the window then.
+    // When another hook was set later, it still calls ours, which then passes everything to the window.
     if (GetWindowLongPtrA(window, GWLP_WNDPROC) != reinterpret_cast<LONG_PTR>(&HookProcedure)) return;
     const HANDLE own = RemovePropA(window, kProcedureProperty);
     SetWindowLongPtrA(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(own));

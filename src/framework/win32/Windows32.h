@@ -33,25 +33,25 @@ inline constexpr WORD kWaitCursor = 32514;
 
 namespace win32 {
 
-// The module that this code lives in, whatever program loaded it; its resources are looked up here.
+// The module that contains this code, whichever program loaded it; resources are loaded from it.
 HINSTANCE ModuleInstance();
 
 // Initialises OLE on this thread until the call of the export ends. False: the platform refuses it; the next
-// try is a new one.
+// call tries again.
 bool UseOle() noexcept;
 
 // No wait cursor is held and no handler runs.
 void ResetWaitCursor() noexcept;
 
-// The dialog of ours that was opened last and is still open; null when there is none.
+// The product's dialog that was opened last and is still open; null when there is none.
 HWND FrontDialog();
 
 // The window that owns the next dialog or message box: the front dialog, else the host's active window, else
-// its main window on this thread. Null where the thread has no window that could be disabled.
+// its main window on this thread. Null: the thread has no window that could be disabled.
 HWND OwnerWindow();
 
-// A handler of a dialog begins, and ends. When the last one ends, a wait cursor that it left is no longer
-// held: the next move of the mouse takes it away.
+// Called at the start and at the end of a dialog's handler. After the last one has ended, a wait cursor that
+// it left is not held any more, and the next move of the mouse removes it.
 class HandlerScope {
   public:
     HandlerScope();
