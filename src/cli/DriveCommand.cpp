@@ -25,7 +25,7 @@ bool ReadScript(const std::string& path, std::string& script) {
     return !file.bad();
 }
 
-// Another file of the folder that `path` lies in.
+// Another file in the folder of `path`.
 std::string Beside(const std::string& path, const std::string& name) {
     const std::size_t separator = path.find_last_of("/\\");
     return path.substr(0, separator == std::string::npos ? 0 : separator + 1) + name;
@@ -69,7 +69,7 @@ ExitStatus DriveScript(const DriveOptions& options, const std::string& script, s
             LaunchLumerin(options.format, project.c_str(), options.common.version.c_str(),
                           options.textA.c_str(), options.textB.c_str(), options.plotArgument.c_str());
         JsonLines(out).Result(result);
-        // Without a project the dialog is all there is to drive; that is no failure.
+        // Without a project only the dialog is driven; that is not a failure.
         allLoaded = allLoaded && (loaded || project.empty());
         const ScriptAction* again = driver.TakeAgain();
         more = again != nullptr;

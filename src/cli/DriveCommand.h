@@ -19,9 +19,9 @@ struct DriveOptions {
     CommonOptions common;
 };
 
-// Calls of the export under a script, one and another for each line "again"; the JSON lines go to `out`.
+// Calls the export under a script, once and again for each line "again"; the JSON lines go to `out`.
 ExitStatus RunDrive(const DriveOptions& options, std::ostream& out, std::ostream& err);
-// The same with the script's text at hand.
+// The same with the script's text.
 ExitStatus DriveScript(const DriveOptions& options, const std::string& script, std::ostream& out,
                        std::ostream& err);
 

@@ -35,7 +35,8 @@ std::vector<std::size_t> ColumnWidths(const Rows& rows) {
     return widths;
 }
 
-// The one file whose name the user gives. It may be a device, or a pipe of his shell, which takes the bytes.
+// The only file whose name the user gives. It may be a device or a pipe of the shell, which is written
+// directly.
 bool WritePictureFile(const std::string& path, const std::string& picture) {
     std::error_code ignored;
     const std::filesystem::file_status status = std::filesystem::status(path, ignored);
@@ -96,7 +97,7 @@ void EmbedmentDriver::DriveReport(headless::HeadlessDialog& dialog) {
 }
 
 void EmbedmentDriver::DriveStudy(headless::HeadlessDialog& dialog, const CMPTEDlg& study) {
-    // An opening that had something to say shows a study that is not whole.
+    // A message while the dialog opens means that the study is incomplete.
     if (m_nMessages > 0) m_status = std::max(m_status, kExitIncomplete);
     if (!ChooseView(dialog)) return;
     PrintTable(dialog, study);
@@ -127,7 +128,7 @@ void EmbedmentDriver::PrintTable(headless::HeadlessDialog& dialog, const CMPTEDl
     Rows rows;
     for (int row = 0; row < grid->grid->RowCount(); ++row) rows.push_back(grid->grid->RowTexts(row));
     const std::vector<std::size_t> widths = ColumnWidths(rows);
-    // The plot's caption names the one case, in an envelope too.
+    // The plot's caption names the single case, also for an envelope.
     const NativeWindow* quantity = dialog.Find(IDC_STUDY_QUANTITY);
     const NativeWindow* envelope = dialog.Find(IDC_STUDY_ENVELOPE_MODE);
     m_out << (m_options.envelope >= 0 ? envelope->text + " - Embedment vs " + quantity->text

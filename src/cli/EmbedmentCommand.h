@@ -17,14 +17,14 @@ struct EmbedmentOptions {
     std::string project;
     int loadCase = 1;
     int quantity = 0;       // as in the dialog's list
-    int envelope = -1;      // 0 greatest, 1 least; -1: the one case
+    int envelope = -1;      // 0 greatest, 1 least; -1: the single case
     std::string picture;    // the SVG file; empty: none
     bool workbook = false;  // press the dialog's "Excel"
     CommonOptions common;
 };
 
 // The study of one project: one call of the export in which the embedment dialog is opened, set and read. The
-// table goes to `out`, and behind it the path of each file that was written; messages go to `err`.
+// table goes to `out`, followed by the path of each file that was written; messages go to `err`.
 class EmbedmentDriver : public headless::Sink {
   public:
     EmbedmentDriver(const EmbedmentOptions& options, std::ostream& out, std::ostream& err);

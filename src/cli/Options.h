@@ -16,7 +16,7 @@ struct CommonOptions {
     int fontSize = 0;     // of the text viewer in points; 0: it has no such setting
     std::string clock;    // empty: the machine's
 };
-// Hands font size and clock to the services.
+// Sets font size and clock of the services.
 void ApplyOptions(const CommonOptions& options);
 
 // Numbers of cases from 1, as ranges of first and last.

@@ -64,7 +64,7 @@ void ReportDriver::DriveReport(headless::HeadlessDialog& dialog, CDesignerDlg& r
         Worsen(kExitNotLoaded);
         return;
     }
-    // A load that had something to say went on with data that are not whole.
+    // A message during the load means that the data are incomplete.
     if (m_nMessages > 0) Worsen(kExitIncomplete);
     SetFooter(dialog);
     if (!m_options.cases.empty()) {
@@ -79,7 +79,7 @@ void ReportDriver::DriveReport(headless::HeadlessDialog& dialog, CDesignerDlg& r
     for (const std::string& table : m_options.tables) {
         PressTable(dialog, report, table);
         if (!report.State().forcesChanged) continue;
-        // Tables of two states of the project must not lie side by side as one report.
+        // Tables of two states of the project must not form one report.
         Worsen(kExitNotLoaded);
         return;
     }
@@ -132,7 +132,7 @@ void ReportDriver::PressTable(headless::HeadlessDialog& dialog, CDesignerDlg& re
     } else if (!m_sWritten.empty()) {
         m_out << m_sWritten << std::endl;
     }
-    // The table of the pile heads moves the format to the spreadsheet for good.
+    // The table of the pile heads changes the format to the spreadsheet, and it stays so.
     if (report.m_nFormat != m_nFormat) dialog.Click(kFormatButtons[m_nFormat]);
 }
 
@@ -149,7 +149,7 @@ void ReportDriver::OnOutputFailed(const std::string& path) {
 int ReportDriver::OnShellOpen(const std::string&, const std::string& file, const std::string& parameters) {
     const int code = ShellCodeOfDocument(file, parameters);
     const std::string document = OpenedDocument(file, parameters);
-    // What was not written is not shown: an earlier file of that name has other numbers.
+    // A file that was not written is not shown: an earlier file of that name has other numbers.
     if (code <= 32 || !m_sFailed.empty() || !IsDocumentThere(document)) return code;
     m_sWritten = document;
     return m_options.open ? StartViewer(m_sWritten) : code;

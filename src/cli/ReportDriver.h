@@ -64,7 +64,7 @@ class ReportDriver : public headless::Sink {
 };
 
 // All projects in all formats; the worst exit status of all. A project is loaded once for all its formats,
-// and its forces are read once for all its tables; what there is to say about the load is said once.
+// and its forces are read once for all its tables; messages of the load are reported once.
 ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostream& err);
 
 }  // namespace lumerin

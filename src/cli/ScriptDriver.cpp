@@ -135,7 +135,7 @@ bool ScriptDriver::PressKey(const ScriptAction& action, headless::HeadlessDialog
 bool ScriptDriver::Type(const std::string& text, headless::HeadlessDialog& dialog) {
     const NativeWindow* focus = dialog.Focused();
     if (focus == nullptr || !TakesText(focus->spec->kind)) return false;
-    // The characters behind one that brings a message go to the message box, which has no use for them.
+    // The characters after one that opens a message box go to that box, which ignores them.
     const int messages = m_nMessages;
     for (const char c : text) {
         if (messages == m_nMessages) dialog.TypeChar(static_cast<unsigned char>(c));
@@ -182,7 +182,7 @@ MessageAnswer ScriptDriver::OnMessage(const headless::Message& message) {
 
 int ScriptDriver::OnShellOpen(const std::string&, const std::string& file, const std::string& parameters) {
     const int code = ShellCodeOfDocument(file, parameters);
-    // A start that fails reaches no program, so there is nothing to tell of it but the message that follows.
+    // A start that fails reaches no program, so only the message that follows is reported.
     if (code == kShellSuccess) m_lines.Open(file, parameters);
     return code;
 }

@@ -12,19 +12,19 @@
 
 namespace lumerin {
 
-// Plays a script on the dialogs of one call and tells every event as a JSON line. The action at hand goes to
-// the front dialog; a dialog that a press opens takes the actions that follow, until it is closed.
+// Plays a script on the dialogs of one call and reports every event as a JSON line. The current action goes
+// to the front dialog; a dialog that a press opens takes the actions that follow, until it is closed.
 class ScriptDriver : public headless::Sink {
   public:
     ScriptDriver(std::vector<ScriptAction> actions, std::ostream& out);
 
     // Plays until the dialog is closed or the script ends.
     void Drive(headless::HeadlessDialog& dialog);
-    // The action that opens the dialog once more behind a call; null when another one is next, or none.
+    // The action that opens the dialog once more after a call; null when another one is next, or none.
     const ScriptAction* TakeAgain();
-    // Without the plot module a press that wants it fails as on a machine that lacks it.
+    // Without the plot module a press that needs it fails as on a machine without it.
     void SetHasPlotModule(bool has) { m_bHasPlotModule = has; }
-    // The action that found no open dialog any more; null when all were played.
+    // The first action for which no dialog was open; null when all were played.
     const ScriptAction* FirstLeftOver() const;
 
     // Files that could not be written whole, in order.

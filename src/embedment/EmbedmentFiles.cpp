@@ -12,9 +12,9 @@ namespace lumerin {
 namespace {
 
 constexpr std::size_t kLongestLine = 256;
-constexpr int kProblemLines = 9;  // the lines behind "PROBLEM" that are passed over
+constexpr int kProblemLines = 9;  // the lines after "PROBLEM" that are skipped
 
-// The lines of the input file. A longer line than the host writes ends the reading behind its first part.
+// The lines of the input file. A line longer than the host's ends the reading after its first part.
 class InputLines {
   public:
     explicit InputLines(const std::string& path) : m_stream(path, std::ios::binary) {}
@@ -27,7 +27,7 @@ class InputLines {
         if (c == std::char_traits<char>::eof()) return false;
         while (c != std::char_traits<char>::eof() && c != '\n') {
             if (m_line.size() == kLongestLine) {
-                // The carriage return of a line's end is none of its characters.
+                // The carriage return at a line's end is removed.
                 m_bEnded = c != '\r' || m_stream.peek() != '\n';
                 if (m_bEnded) break;
             }
@@ -51,7 +51,8 @@ class InputLines {
 std::string EmbedmentBaseFile(const std::string& inputFile) {
     const std::size_t point = inputFile.rfind('.');
     for (std::size_t at = point; at < inputFile.size(); ++at) {
-        if (services::IsFolderSeparator(inputFile[at])) return inputFile + ".PEL";  // the point is a folder's
+        if (services::IsFolderSeparator(inputFile[at]))
+            return inputFile + ".PEL";  // the point is in a folder's name
     }
     return inputFile.substr(0, point) + ".PEL";
 }

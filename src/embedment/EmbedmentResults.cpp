@@ -30,7 +30,7 @@ enum HeaderPlace {
 };
 constexpr std::size_t kDataPlaces = 1 + 2 * kQuantityCount;
 
-// Trial files write their integers as reals. What is no int reads as `fallback`.
+// Trial files write their integers as reals. A value that is not an int gives `fallback`.
 int Truncated(double value, int fallback) {
     constexpr double kLow = std::numeric_limits<int>::min(), kHigh = std::numeric_limits<int>::max();
     return value >= kLow && value <= kHigh ? static_cast<int>(value) : fallback;

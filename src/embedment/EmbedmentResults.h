@@ -26,8 +26,9 @@ enum EmbedmentQuantity {
 // file gave are 0, whatever trial or case is asked for.
 class CEmbedmentResults {
   public:
-    // Reads the counts of the base file beside the project's input file; without it the table is empty. Both
-    // stay the caller's, for the life of the object. Throws CFileException for counts that no study has.
+    // Reads the counts of the base file beside the project's input file; without it the table is empty. The
+    // caller owns both and keeps them as long as the object. Throws CFileException for counts that no study
+    // has.
     CEmbedmentResults(const std::string& inputFile, Messages& messages);
 
     bool ReadGlobalData();  // false: the message was shown and the counts stay
@@ -49,7 +50,7 @@ class CEmbedmentResults {
     int GetLocation(int trial, int loadCase, int quantity) const;  // the pile where the value was found
     bool IsTrialIncomplete(int trial) const;
 
-    // The next complete trial behind `trial`, or before it; -1: there is none.
+    // The next complete trial after `trial`, or before it; -1: there is none.
     int FindAdjacentTrial(int trial, bool backwards) const;
     int FirstTrial() const { return FindAdjacentTrial(-1, false); }
 
@@ -73,7 +74,7 @@ class CEmbedmentResults {
     int m_nSubstructure = 1;
     int m_nTableCases = 0;  // cases that a trial's table can hold, from the base file
     // Rows that the tables may still grow by. Each line of a file brings its own; the rest serves studies
-    // that leave cases out, and keeps a broken number from taking memory that no file stands behind.
+    // that leave cases out, and prevents a wrong number from using memory without a file of that size.
     long long m_nFreeRows = 200000;
     // By trial; a trial's table grows to the last case that its file has.
     std::vector<TrialTable<double>> m_pppValues;

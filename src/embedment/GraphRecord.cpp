@@ -7,8 +7,8 @@ namespace lumerin {
 
 namespace {
 
-// A line is "set" or "call", the dispatch id and the values, each of them behind kFieldEnd; a value begins
-// with the letter of its type.
+// A line is "set" or "call", the dispatch id and the values, each preceded by kFieldEnd; a value begins with
+// the letter of its type.
 constexpr char kFieldEnd = '\x1f';
 constexpr std::string_view kSet = "set", kCall = "call";
 

@@ -262,7 +262,7 @@ void CPlot::DrawSeries(PlotCanvas& canvas, const Layout& layout, const std::vect
                               frame.bottom - frame.Height() * layout.y.Share(point.y)};
         if (IsFinite(place)) places.push_back(place);
     }
-    // Lines end at the frame, so that a point outside it still shows where its line goes.
+    // Lines are cut at the frame, so that the line to a point outside is still shown.
     std::vector<PlotPoint> line;
     const auto flush = [&] {
         if (line.size() > 1) canvas.Polyline(line, std::max(1.3, em * 0.15), kSeries);

@@ -35,8 +35,8 @@ enum GraphMember {
     kGraphPlotPoint = 60,
 };
 
-// The module's own plot: it answers the ids of the graph control and draws what they told it on any canvas,
-// at any size. Ids that it has no use for keep their value.
+// The module's own plot: it accepts the ids of the graph control and draws on any canvas, at any size. Ids
+// that it does not use only keep their value.
 class CPlot {
   public:
     void Set(int dispatchId, const GraphValue& value) { m_Properties[dispatchId] = value; }

@@ -30,7 +30,7 @@ bool StartsDecimal(std::string_view text) {
 }
 
 // The power of ten of the first digit that is not 0, of digits with at most one point and an exponent: it
-// tells a number that is too large from one that is too small.
+// distinguishes a number that is too large from one that is too small.
 bool IsTooLarge(std::string_view digits) {
     long scale = 0;
     bool point = false, leading = true;

@@ -5,8 +5,8 @@
 
 namespace lumerin {
 
-// A cell's text read as a number: leading white space, a sign and the digits count, what follows is passed
-// over, and a text that starts with no number reads as 0.
+// A cell's text read as a number: leading white space, a sign and the digits are read, what follows is
+// ignored, and a text that starts with no number reads as 0.
 
 // Values beyond the range of int read as the nearest one.
 int ReadCellInt(std::string_view text);

@@ -18,7 +18,7 @@ FilterResult FilterPoint(const EditText& edit, int mode) {
     const std::size_t point = edit.text.find('.');
     if (point == std::string::npos) return FilterResult::passed;
     const int at = static_cast<int>(point);
-    // The point that stands already is about to be replaced with its selection.
+    // The existing point is in the selection, which the typed one replaces.
     return at >= edit.start && at < edit.end ? FilterResult::passed : FilterResult::refused;
 }
 
@@ -26,7 +26,7 @@ FilterResult ToggleSign(EditText& edit, int mode) {
     if (mode != kSignedDigits && mode != kReal) return FilterResult::refused;
     const bool negative = edit.text.find('-') != std::string::npos;
     const int step = negative ? -1 : 1;
-    // Wherever the sign stands, it is the first character that goes.
+    // Wherever the sign is, the first character is removed.
     if (negative) {
         edit.text.erase(0, 1);
     } else {

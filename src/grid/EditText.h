@@ -39,7 +39,7 @@ enum class FilterResult {
     replaced,  // the text was changed here; the character itself is dropped
 };
 
-// Judges one typed character against the text, in the order that the rules depend on each other.
+// Decides on one typed character, given the text. The rules depend on each other's order.
 FilterResult FilterNumber(EditText& edit, int mode, unsigned character);
 
 }  // namespace lumerin

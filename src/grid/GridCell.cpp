@@ -112,7 +112,7 @@ void CGridCell::CopyFrom(const CGridCellBase& other) {
         CGridCellBase::CopyFrom(other);
         return;
     }
-    // The fields themselves, so that what comes from the defaults goes on coming from there.
+    // Copies the fields, not the getters' results, so that a default value still comes from the default cell.
     m_sText = cell->m_sText;
     m_nUserValue = cell->m_nUserValue;
     m_nImage = cell->m_nImage;
@@ -143,7 +143,7 @@ bool CGridCell::OpenEditor(std::unique_ptr<CInPlaceEdit> editor, const GridRect&
     try {
         opened = m_pGrid->Host().OpenEditor(std::move(editor), rect);
     } catch (...) {
-        EndEdit();  // the editor is gone with its window
+        EndEdit();  // the editor was destroyed with its window
         throw;
     }
     if (!opened) EndEdit();

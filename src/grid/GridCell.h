@@ -14,7 +14,7 @@ class CGridCtrl;
 class CGridDefaultCell;
 class CInPlaceEdit;
 
-// Bits of a cell's state. The fixed bits say which default cell serves it; the grid keeps them.
+// Bits of a cell's state. The fixed bits select the default cell; the grid maintains them.
 enum CellStateBits : unsigned {
     kCellFocus = 1,
     kCellSelected = 2,
@@ -28,8 +28,8 @@ enum CellStateBits : unsigned {
 
 inline constexpr unsigned kDefaultFormat = 0xffffffff;  // the default cell's format
 
-// What the grid asks of a cell. A property that a class does not keep reads as its start value, and setting
-// it does nothing.
+// The interface of a cell for the grid. A property that a class does not store has its initial value, and
+// setting it does nothing.
 class CGridCellBase : public CObject {
   public:
     static const CRuntimeClass classCGridCellBase;
@@ -127,7 +127,7 @@ class CGridCell : public CGridCellBase {
 
   protected:
     const CGridDefaultCell* DefaultCell() const;
-    // Marks the cell as being edited and hands the editor to the grid's window.
+    // Marks the cell as being edited and passes ownership of the editor to the grid's window.
     bool OpenEditor(std::unique_ptr<CInPlaceEdit> editor, const GridRect& rect);
 
     std::string m_sText;
@@ -142,7 +142,7 @@ class CGridCell : public CGridCellBase {
     CInPlaceEdit* m_pEditor = nullptr;  // the open editor, which belongs to its window
 };
 
-// The values that a class of cells takes where a cell has none of its own.
+// The values that cells use when they have none of their own.
 class CGridDefaultCell : public CGridCell {
   public:
     static const CRuntimeClass classCGridDefaultCell;
@@ -150,7 +150,7 @@ class CGridDefaultCell : public CGridCell {
     CGridDefaultCell();
 
     void SetFont(const FontRecord* font) override;
-    void SetState(unsigned) override {}  // a default is in no state
+    void SetState(unsigned) override {}  // a default cell has no state
     const FontRecord& GetFont() const override { return m_font; }
     unsigned GetFormat() const override { return m_nFormat; }
     Colour GetTextColour() const override { return m_crText; }

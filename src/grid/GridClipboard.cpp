@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char* kCellEnds = "\t,";
 
-// Takes the text up to the first of `ends` off `text`; `text` starts behind it then.
+// Removes the text up to the first of `ends` from `text`, with that character, and returns it.
 std::string_view TakeUpTo(std::string_view& text, std::string_view ends) {
     const std::size_t end = text.find_first_of(ends);
     const std::string_view part = text.substr(0, end);

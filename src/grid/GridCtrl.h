@@ -15,8 +15,8 @@
 namespace lumerin {
 
 // The table control of the two small dialogs: a store of cell objects with a focus cell and a selection,
-// keys, mouse, clipboard and editors. Its window scrolls by whole rows and columns. Setters refuse quietly: a
-// cell out of range gives false and changes nothing.
+// keys, mouse, clipboard and editors. Its window scrolls by whole rows and columns. Setters show no message:
+// for a cell out of range they return false and change nothing.
 class CGridCtrl : public CWnd {
   public:
     static const CRuntimeClass classCGridCtrl;
@@ -36,7 +36,7 @@ class CGridCtrl : public CWnd {
     int GetColumnCount() const { return m_nCols; }
     int GetFixedRowCount() const { return m_nFixedRows; }
     int GetFixedColumnCount() const { return m_nFixedCols; }
-    // Pixels; 0 hides the row or column from the keyboard.
+    // Pixels; 0: the keyboard skips the row or column.
     bool SetRowHeight(int row, int pixels);
     bool SetColumnWidth(int column, int pixels);
     // Throw std::invalid_argument out of range.
@@ -54,7 +54,7 @@ class CGridCtrl : public CWnd {
     // ---- attributes of a cell (GridStore.cpp)
     bool SetCellText(int row, int column, const std::string& text);
     std::string GetCellText(int row, int column) const;
-    // The class must derive from CGridCellBase and make objects; the cell's content goes over.
+    // The class must derive from CGridCellBase and make objects; the new cell gets the content.
     bool SetCellClass(int row, int column, const CRuntimeClass& cellClass);
     bool SetCellBackground(int row, int column, Colour colour);
     bool SetCellState(int row, int column, unsigned state);
@@ -115,7 +115,7 @@ class CGridCtrl : public CWnd {
     void OnMouseMove(GridPoint point, bool leftDown);
     void OnLeftUp(GridPoint point);
     void OnDoubleClick(GridPoint point);
-    // The mouse is not the grid's any more: what it was doing ends, with what it has done so far.
+    // The grid has lost the mouse: the action of the mouse ends, and its effects so far remain.
     void OnCaptureLost();
     void OnDragTimer();
     void OnMouseWheel(int steps);  // above 0: towards the first row
@@ -148,9 +148,9 @@ class CGridCtrl : public CWnd {
     // Whether the cell takes the text; true if the cell is not there.
     virtual bool AcceptEdit(int row, int column, const std::string& text) const;
     CInPlaceEdit* OpenEditor() const;  // null: no cell is being edited
-    // Ends an open edit as a loss of focus does.
+    // Ends an open edit, as a loss of focus does.
     void EndOpenEdit();
-    // The editor could not hand its text over: the cell keeps its own.
+    // The editor could not return its text; the cell keeps the old one.
     void AbandonEdit();
     int EditorTextWidth(int row, int column, const std::string& text) const;
 

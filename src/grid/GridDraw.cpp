@@ -39,7 +39,7 @@ void CGridCtrl::DrawRow(CDC& dc, int row, int top, int clientWidth) {
     for (int column = LeftColumn(); column < m_nCols && left < clientWidth; ++column) draw(column);
 }
 
-// The lines lie on the right and bottom pixels of a cell; the cell draws the rest.
+// The lines are the right and bottom pixels of a cell; the cell draws the rest.
 GridRect CGridCtrl::WithoutLines(GridRect rect) const {
     if ((m_nLineMode & 1) != 0) --rect.bottom;
     if ((m_nLineMode & 2) != 0) --rect.right;

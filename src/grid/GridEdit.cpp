@@ -34,7 +34,7 @@ void CGridCtrl::FinishCellEdit(int row, int column, const std::string& text) {
     m_EditCell = {};
     CGridCellBase* cell = GetCell(row, column);
     if (cell == nullptr) return;
-    cell->EndEdit();  // first: where memory runs out the edit is over and the cell keeps its text
+    cell->EndEdit();  // first: when memory runs out, the edit has ended and the cell keeps its text
     if (text != cell->GetText() && AcceptEdit(row, column, text)) {
         SetCellText(row, column, text);
         SetCellState(row, column, cell->GetState() | kCellChanged);
@@ -50,7 +50,7 @@ void CGridCtrl::AbandonEdit() {
 void CGridCtrl::OnNotify(const EditNotice& notice) {
     if (notice.id != kEditorId || notice.code != kEditEnded) return;
     FinishCellEdit(notice.row, notice.column, notice.text);
-    if (notice.lastKey == 0) return;  // the focus has gone where it went
+    if (notice.lastKey == 0) return;  // the focus went to another control already
     m_pHost->TakeFocus();
     const bool moves =
         notice.lastKey == kKeyTab || (notice.lastKey >= kKeyPageUp && notice.lastKey <= kKeyDown);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The focus cell and how the keys move it. Rows and columns of size 0 are passed over.
+// The focus cell and how the keys move it. Rows and columns of size 0 are skipped.
 #include <algorithm>
 
 #include "grid/GridCtrl.h"
@@ -78,7 +78,7 @@ CCellID CGridCtrl::TabTarget(bool backwards) const {
         cell.column = backwards ? NextColumn(m_nCols, -1) : NextColumn(m_nFixedCols - 1, 1);
     }
     if (!cell.IsValid()) return {};
-    // The host's load table computes this column; Tab never rests on it.
+    // The host's load table computes this column; Tab skips it.
     if (cell.column == kComputedLoadColumn && m_pHost->WindowText() == kLoadTableText) --cell.column;
     return cell;
 }
@@ -143,8 +143,8 @@ bool CGridCtrl::MoveByKey(unsigned key, KeyState keys) {
 }
 
 void CGridCtrl::OnGotFocus() {
-    // Coming in by Tab there must be a cell that the keys act on. A click brings its own, and nothing may
-    // scroll away under it.
+    // After Tab there must be a cell for the keys. A click sets its own cell, and the grid must not scroll
+    // before.
     if (!m_FocusCell.IsValid() && !m_bTakingFocus) GoTo(FirstCell(), false);
 }
 

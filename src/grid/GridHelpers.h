@@ -8,7 +8,7 @@
 
 namespace lumerin {
 
-// What both dialogs do to their grids, and what their drivers read.
+// Functions that both dialogs use for their grids, and the state that the drivers read.
 
 // The first `rows` rows and the first `columns` columns get the face colour and become read-only.
 void ShadeFixedCells(CGridCtrl& grid, int rows, int columns);

@@ -13,7 +13,7 @@ namespace lumerin {
 
 class CGridCtrl;
 
-// Where a scroll bar stands, in rows or columns.
+// The position of a scroll bar, in rows or columns.
 struct ScrollPlace {
     int count = 0, page = 0, position = 0;
     bool operator==(const ScrollPlace&) const = default;
@@ -29,7 +29,7 @@ class GridHost {
     virtual std::string WindowText() const { return {}; }
     virtual void Invalidate(const GridRect&) {}
     virtual void InvalidateAll() {}
-    // A bar that has nothing to scroll goes away, unless it is forced to stay.
+    // A bar that has nothing to scroll is hidden, unless it is forced.
     virtual void SetScrollBar(bool /*vertical*/, const ScrollPlace&) {}
     virtual void ForceScrollBar(bool /*vertical*/, bool /*forced*/) {}
 
@@ -43,7 +43,7 @@ class GridHost {
     virtual std::string Clipboard() const { return {}; }  // empty: no text on it
 
     // Makes a window at the rectangle for the editor, keeps both, and starts the editor. False: no window
-    // could be made, and the editor is gone.
+    // could be made, and the editor was destroyed.
     virtual bool OpenEditor(std::unique_ptr<CInPlaceEdit>, const GridRect&) { return false; }
     virtual void ShowTip(const GridRect&, const std::string&, const FontRecord&) {}
     virtual void HideTip() {}

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Where cells lie in the window, and scrolling. Fixed rows and columns stay at the top and left; behind them
-// the window shows whole rows and columns from FirstVisibleCell on. All walks end at the window's edge, so
-// that the work of one redraw does not grow with the number of rows.
+// Positions of cells in the window, and scrolling. Fixed rows and columns stay at the top and left; after
+// them the window shows whole rows and columns from FirstVisibleCell on. All loops end at the window's edge,
+// so that the time of a redraw does not grow with the number of rows.
 #include <algorithm>
 
 #include "grid/GridCtrl.h"
@@ -23,7 +23,8 @@ int Sum(const std::vector<unsigned>& sizes, int first, int last) {
     return sum;
 }
 
-// The first entry from which all entries to the end fit into `room`; the last entry when not even that fits.
+// The first entry from which all entries to the end fit into `room`; the last entry when even that does not
+// fit.
 int FirstOfLastPage(const std::vector<unsigned>& sizes, int lowest, int room) {
     const int count = static_cast<int>(sizes.size());
     int first = count;
@@ -34,8 +35,8 @@ int FirstOfLastPage(const std::vector<unsigned>& sizes, int lowest, int room) {
     return std::max(std::min(first, count - 1), lowest);
 }
 
-// The near edge of an entry, or -1 when it is scrolled out: fixed ones lie at the start, the others behind
-// them from `top` on.
+// The near edge of an entry, or -1 when it is scrolled out: fixed ones are at the start, the others follow
+// from `top` on.
 int NearEdge(const std::vector<unsigned>& sizes, int index, int fixed, int top, int room) {
     if (index < fixed) return Sum(sizes, 0, index);
     if (index < top) return -1;

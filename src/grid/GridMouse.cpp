@@ -54,14 +54,14 @@ void CGridCtrl::TakeFocusByMouse() {
         ~Taking() { flag = false; }
     } taking(m_bTakingFocus);
     m_pHost->TakeFocus();
-    // A click beside the cells leaves the keys the first cell in sight.
+    // After a click beside the cells the first visible cell is the focus cell.
     if (!m_FocusCell.IsValid()) {
         const CCellID first{NextRow(TopRow() - 1, 1), NextColumn(LeftColumn() - 1, 1)};
         if (first.IsValid()) Choose(first, false);
     }
 }
 
-// A click on a heading selects what the heading stands over.
+// A click on a heading selects its row or column.
 void CGridCtrl::ClickOnHeadingRow(CCellID cell) {
     if (m_bFixedRowClickSelects && cell.column >= m_nFixedCols) {
         SelectRange(m_nFixedRows, cell.column, m_nRows - 1, cell.column, false, true);
@@ -107,8 +107,8 @@ void CGridCtrl::OnMouseMove(GridPoint point, bool leftDown) {
     m_MousePoint = point;
     if (m_MouseMode != MouseMode::none && !leftDown) OnLeftUp(point);
     if (m_MouseMode == MouseMode::none) {
-        // The platform repeats the last place when a window over it goes: a tip that a key took away would
-        // come back at once.
+        // The platform repeats the last position of the mouse when a window above it closes; a tip that a key
+        // removed would come back at once.
         if (point == m_TipEndPoint) return;
         m_TipEndPoint = kNoPoint;
         ShowTipOf(CellAt(point));
@@ -137,7 +137,7 @@ void CGridCtrl::OnDragTimer() {
         std::clamp(m_MousePoint.x, FixedWidth(), std::max(client.width - 1, FixedWidth())),
         std::clamp(m_MousePoint.y, FixedHeight(), std::max(client.height - 1, FixedHeight()))};
     CCellID cell{RowAt(inside.y), ColumnAt(inside.x)};
-    // Where the rows end before the window does, the last one is meant.
+    // When the rows end above the window's lower edge, the last row is used.
     if (cell.row < 0) cell.row = m_nRows - 1;
     if (cell.column < 0) cell.column = m_nCols - 1;
     if (cell.IsValid()) ExtendSelectionTo(cell);

@@ -34,7 +34,7 @@ void CGridCtrl::PrintBegin(CDC& dc, GridSize page) {
 
 int CGridCtrl::PrintRowsPerPage() const {
     if (m_nPrintRowHeight <= 0) return 1;
-    // Header, heading and footer take a line each, the heading rows theirs.
+    // Header, heading and footer take a line each, and each heading row takes one.
     return std::max(m_PrintPage.height / m_nPrintRowHeight - 3 - m_nFixedRows, 1);
 }
 

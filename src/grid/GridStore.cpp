@@ -198,7 +198,7 @@ bool CGridCtrl::SetCellText(int row, int column, const std::string& text) {
     if (m_bNoStore || cell == nullptr) return false;
     cell->SetText(text);
     RedrawCell(row, column);
-    // A tip over the cell shows the new text, or goes where that fits.
+    // A tip over the cell shows the new text, or is removed when the text fits.
     if (m_TitleTip.Cell() == CCellID{row, column}) ShowTipOf({row, column});
     return true;
 }

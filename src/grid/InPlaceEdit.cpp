@@ -9,7 +9,7 @@ namespace lumerin {
 
 namespace {
 
-// An edit that ended takes its window away, whatever the grid made of it.
+// The end of an edit destroys its window, whatever the grid did with the text.
 struct Closing {
     EditorWindow& window;
     ~Closing() { window.Close(); }

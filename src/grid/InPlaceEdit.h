@@ -23,7 +23,7 @@ struct EditNotice {
     KeyState keys;
 };
 
-// The window of an editor: a real edit window on Windows, the bare text without a screen.
+// The window of an editor: a real edit window on Windows, only a text when there is no screen.
 class EditorWindow {
   public:
     virtual ~EditorWindow() = default;
@@ -32,15 +32,15 @@ class EditorWindow {
     virtual GridRect Place() const = 0;
     virtual void Move(const GridRect& rect) = 0;
     virtual void TakeFocus() = 0;
-    // Sends a character or a key to this window, behind what waits for it already.
+    // Sends a character or a key to this window, after the messages that are waiting for it.
     virtual void PostChar(unsigned character) = 0;
     virtual void PostKey(unsigned key) = 0;
-    // The window goes, and the editor behind it.
+    // Destroys the window, which then destroys the editor.
     virtual void Close() = 0;
 };
 
-// The editor of one cell, from the key or click that opened it to the key or loss of focus that ends it. It
-// belongs to its window and goes with it; the grid never frees it.
+// The editor of one cell, from the key or click that opened it to the key or loss of focus that ends it. Its
+// window owns it and destroys it; the grid never frees it.
 class CInPlaceEdit : public CEdit {
   public:
     static const CRuntimeClass classCInPlaceEdit;
@@ -48,7 +48,7 @@ class CInPlaceEdit : public CEdit {
 
     CInPlaceEdit(CGridCtrl& grid, int row, int column, int id, const std::string& text, unsigned startKey);
 
-    // Called once when the window stands at the cell: sets text and selection and acts on the starting key.
+    // Called once when the window is at the cell: sets text and selection and acts on the starting key.
     void Start(EditorWindow& window);
 
     // Events of the window. True: done here; false: the edit window goes on with it.

@@ -8,7 +8,7 @@ namespace lumerin {
 namespace Ovrelle {
 
 // Drawing goes to a bitmap of the target's size and reaches the target in one step when this object ends, so
-// that nothing half-drawn is ever seen.
+// that an unfinished drawing is never visible.
 class CMemDC : public CDC {
   public:
     static const CRuntimeClass classCMemDC;

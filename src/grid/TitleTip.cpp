@@ -21,7 +21,7 @@ void CTitleTip::Hide(GridHost& host) {
 }
 
 bool CTitleTip::IsSecondPress(CCellID cell, unsigned time, bool onTip) {
-    // The difference is right across the wrap of the clock.
+    // The difference is also right when the clock has wrapped.
     const bool inTime = time - m_nPressTime <= gridplatform::DoubleClickTime();
     const bool second = cell.IsValid() && cell == m_PressedCell && inTime && (onTip || m_bPressedTip);
     m_PressedCell = second ? CCellID{} : cell;

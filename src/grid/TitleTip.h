@@ -29,8 +29,9 @@ class CTitleTip : public CWnd {
     void Hide(GridHost& host);
 
     // The left button went down over a cell at a time in milliseconds, on the tip or on the grid itself.
-    // True: it is the second press of a double click. The platform sees none where one of the two hit the
-    // tip, which the first press has taken away; two presses on the grid itself are left to the platform.
+    // True: it is the second press of a double click. When one of the presses hit the tip, which the first
+    // press removes, the platform reports no double click. Two presses on the grid itself are left to the
+    // platform.
     bool IsSecondPress(CCellID cell, unsigned time, bool onTip);
     // The next press is a first one.
     void ForgetPress() { m_PressedCell = {}; }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "host/Actions.h"
-// The common controls want windows.h before them.
+// This header needs windows.h before it.
 #include <commctrl.h>
 
 #include "host/GraphReader.h"
@@ -59,7 +59,7 @@ bool Click(HWND dialog, int id) {
     if (control == nullptr) return false;
     const ControlKind kind = KindOf(control);
     if (IsPressable(kind)) {
-        // A button that a mouse presses is the one that Return presses next.
+        // A button that the mouse pressed becomes the one that Return presses.
         if (kind == ControlKind::button) MoveFocus(dialog, control);
         PostMessageA(control, BM_CLICK, 0, 0);
     } else if (kind == ControlKind::edit || (kind == ControlKind::text && HasStyle(control, SS_NOTIFY))) {
@@ -137,7 +137,7 @@ bool ClickGraph(HWND dialog, double x) {
 bool PressHelp(HWND dialog, int id) {
     const HWND control = GetDlgItem(dialog, id);
     if (control == nullptr) return false;
-    // A radio button takes the focus as a press, and a text takes none: they get what the key would send.
+    // A radio button takes the focus as a press, and a text takes none: they get the message of the key.
     const ControlKind kind = KindOf(control);
     if (FindUsable(dialog, id) != nullptr && TakesFocus(kind) && kind != ControlKind::radio) {
         MoveFocus(dialog, control);

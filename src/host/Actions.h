@@ -9,7 +9,7 @@
 namespace lumerin {
 
 // What a user does to a control. Each returns false when it is refused: no such control, or a disabled or
-// hidden one. A press is posted, and worked off behind the return.
+// hidden one. A press is posted and handled after the return.
 namespace actions {
 
 bool Click(HWND dialog, int id);
@@ -19,7 +19,7 @@ bool SelectEntry(HWND dialog, int id, int entry);
 bool Spin(HWND dialog, int id, bool up);
 // Puts the focus on the cell of the grid; the text is typed on the keyboard then.
 bool TypeCell(HWND dialog, int row, int column, const std::string& text);
-// The key, and the text, go to the control that has the focus; refused when it has no use for them.
+// The key, and the text, go to the control that has the focus; refused when it does not use them.
 bool PressKey(HWND dialog, const ScriptKey& key);
 bool Type(HWND dialog, const std::string& text);
 // The grid that the mouse can reach; null: there is none.

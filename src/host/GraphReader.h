@@ -8,10 +8,10 @@
 
 namespace lumerin {
 
-// The plot, asked of its window.
+// Reads the plot from its window.
 namespace graphreader {
 
-// The calls of the last drawing; empty when the window does not tell them.
+// The calls of the last drawing; empty when the window does not report them.
 std::vector<GraphCall> ReadDrawing(HWND graph);
 
 // Posts a click of the mouse at that x of the data. False: the place is not on the plot.

@@ -9,7 +9,7 @@
 
 namespace lumerin {
 
-// The grid's cells, asked of its window.
+// Reads the grid's cells from its window.
 namespace gridreader {
 
 // The texts of all cells, row by row.
@@ -17,7 +17,7 @@ std::vector<std::vector<std::string>> ReadRows(HWND grid);
 
 GridView ReadView(HWND grid);
 
-// Where the cell lies in the client area; the last ones may lie partly outside of it. False: there is no such
+// The place of the cell in the client area; the last cells may be partly outside. False: there is no such
 // cell, or it is scrolled away.
 bool FindCell(HWND grid, int row, int column, RECT& area);
 

@@ -5,8 +5,8 @@ namespace lumerin {
 
 namespace {
 
-// The keys between letters and number pad. Without their mark they would be those of the pad, which lose
-// Shift while the pad is locked to numbers.
+// The keys between letters and number pad. Without the extended-key flag they would be the keys of the pad,
+// which lose Shift while Num Lock is on.
 bool IsExtended(WORD key) {
     return (key >= VK_PRIOR && key <= VK_DOWN) || key == VK_INSERT || key == VK_DELETE;
 }

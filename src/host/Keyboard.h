@@ -11,7 +11,7 @@ namespace lumerin {
 // while after the call.
 namespace keyboard {
 
-// Presses a key and keeps it down, or lets it go.
+// Presses a key and keeps it down, or releases it.
 void Hold(WORD key, bool down);
 void Press(WORD key, bool shift = false, bool control = false);
 // Types characters that the keyboard's layout has; false for one that it has not, which ends the typing.

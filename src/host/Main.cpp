@@ -20,8 +20,8 @@
 
 using namespace lumerin;
 
-// Stands in for the host program: it loads the module that lies beside it, calls the export, and can play a
-// script on the module's real windows. It carries the host's name, which the module trims off its path.
+// Replaces the host program in tests: it loads the module beside it, calls the export, and can play a script
+// on the module's real windows. It has the host's name, which the module cuts off its path.
 
 namespace {
 
@@ -53,7 +53,7 @@ std::string FolderOf(const std::string& path) {
     return path.substr(0, path.find_last_of('\\') + 1);
 }
 
-// Where the dialogs are to be driven, the module answers this process.
+// When the dialogs are driven, the module answers this process.
 ModuleExport LoadModule(bool drives) {
     std::array<char, MAX_PATH> program{};
     GetModuleFileNameA(nullptr, program.data(), static_cast<DWORD>(program.size()));
@@ -79,7 +79,7 @@ unsigned Call(ModuleExport launch, const HostOptions& options, const std::string
                   options.textA.c_str(), options.textB.c_str(), options.plotArgument.c_str());
 }
 
-// The text viewer's font size as it stands in the registry, for the time of the run.
+// The text viewer's font size in the registry, set for the run and restored after it.
 class ViewerFont {
   public:
     explicit ViewerFont(int points) : m_bSet(points > 0) {
@@ -106,7 +106,7 @@ void CALLBACK OnTimer(HWND, UINT, UINT_PTR, DWORD) {
     try {
         Driver()->Tick();
     } catch (const std::exception& error) {
-        // Nothing may unwind the platform's frames.
+        // No exception may pass through the platform's stack frames.
         std::cerr << "Tarnsway: " << error.what() << std::endl;
         ExitProcess(kBroken);
     }
@@ -118,7 +118,7 @@ std::string ReadScript(const std::string& path) {
     return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
-// The line of the script that found no open dialog any more; 0 when all were played.
+// The first line of the script for which no dialog was open; 0 when all were played.
 int PlayScript(const HostOptions& options, ModuleExport launch, std::ostream& out) {
     Driver() = std::make_unique<WindowDriver>(ParseScript(ReadScript(options.script)), out);
     if (options.waits) Driver()->TellWaits();
@@ -162,8 +162,8 @@ std::string Difference(const std::string& first, const std::string& round) {
     return got + " in the place of " + wanted;
 }
 
-// Many plays in one process, each of which tells what the process holds behind it. What the dialogs said is
-// the same in every round, or something was not played.
+// Plays the script many times in one process and reports after each round what the process holds. The output
+// of the dialogs must be the same in every round; otherwise an action was not played.
 HostExit DriveRounds(const HostOptions& options, ModuleExport launch) {
     std::string first;
     for (int round = 1; round <= options.rounds; ++round) {
@@ -235,7 +235,7 @@ int RunCommandLine(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    // The lines end as they do on every platform.
+    // Line feeds only, as on every platform.
     _setmode(_fileno(stdout), _O_BINARY);
     try {
         return RunCommandLine(argc, argv);

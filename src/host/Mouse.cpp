@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kOutside = 12;     // pixels from the grid's window to a place beside it
 constexpr int kInside = 3;       // pixels from the last row into the area below it
-constexpr int kShake = 2;        // pixels that a hand moves between two clicks
+constexpr int kShake = 2;        // pixels that the mouse moves between two clicks
 constexpr POINT kFarAway{1, 1};  // on the screen
 // Pixels between two presses that cannot be a double click: they are on different cells.
 constexpr int kNearX = 200, kNearY = 32;

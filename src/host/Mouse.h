@@ -21,11 +21,11 @@ class Mouse {
     bool IsBusy() const { return !m_steps.empty(); }
     // Takes the next step, or looks whether what it waits for has come.
     void Step();
-    // Ends a press that the script left open.
+    // Releases a button that the script left pressed.
     void LetGo();
 
   private:
-    // What the pointer leaves running: a drag past the edge scrolls for a while.
+    // Waits for what the pointer started: a drag past the edge scrolls for a while.
     struct Stillness {
         GridView view;
         DWORD since = 0;

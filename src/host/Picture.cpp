@@ -66,7 +66,7 @@ struct OverlayTarget {
     Picture* picture;
 };
 
-// Lays the picture of a window over that of its owner.
+// Copies the picture of a window onto that of its owner.
 BOOL CALLBACK OverlayOwned(HWND window, LPARAM data) {
     const auto& target = *reinterpret_cast<const OverlayTarget*>(data);
     if (GetWindow(window, GW_OWNER) != target.window || !IsWindowVisible(window)) return TRUE;
@@ -115,7 +115,7 @@ std::string BitmapBytes(const Picture& picture) {
 }  // namespace
 
 Picture TakePicture(HWND window) {
-    // The title bar of the window that has the focus, drawn as such even where no window manager said so.
+    // The title bar of the window that has the focus, drawn as such even without a window manager.
     SendMessageA(window, WM_NCACTIVATE, GetActiveWindow() == window ? TRUE : FALSE, 0);
     Picture picture = ReadPicture(window);
     // A tip is a window of its own above the dialog.

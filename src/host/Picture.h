@@ -16,7 +16,7 @@ struct Picture {
 };
 
 Picture TakePicture(HWND window);
-// As a PNG file, or as a bitmap file when the name ends in ".bmp". False: the file can't be written.
+// As a PNG file, or as a bitmap file when the name ends in ".bmp". False: the file cannot be written.
 bool SavePicture(HWND window, const std::string& path);
 
 }  // namespace lumerin

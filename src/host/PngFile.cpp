@@ -9,7 +9,7 @@
 
 namespace lumerin {
 
-// Windows are mostly runs of one colour over many rows. So each row is told by its difference to the row
+// Windows are mostly runs of one colour over many rows. So each row is stored as its difference to the row
 // above, and the compressor looks for one thing only: repetitions of the last byte.
 
 namespace {
@@ -91,7 +91,7 @@ class BitWriter {
     int m_nBits = 0;
 };
 
-// A length's symbol and the extra bits behind it.
+// A length's symbol and the extra bits after it.
 void AppendRun(BitWriter& bits, std::size_t length) {
     if (length == kLongestRun) {
         bits.Symbol(285);
@@ -134,7 +134,7 @@ std::string PngBytes(int width, int height, std::span<const std::uint8_t> pixels
     const std::size_t rowBytes = static_cast<std::size_t>(width) * kBytesPerPixel;
     std::string rows;
     for (std::size_t y = 0; y < static_cast<std::size_t>(height); ++y) {
-        rows.push_back(2);  // told by the row above
+        rows.push_back(2);  // filter: difference to the row above
         for (std::size_t x = 0; x < rowBytes; ++x) {
             const unsigned above = y == 0 ? 0u : pixels[(y - 1) * rowBytes + x];
             rows.push_back(static_cast<char>((pixels[y * rowBytes + x] - above) & 0xffu));

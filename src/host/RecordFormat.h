@@ -3,7 +3,7 @@
 
 namespace lumerin {
 
-// One line a record: its kind and its fields, each behind the character kRecordFieldEnd.
+// One line a record: its kind and its fields, each preceded by the character kRecordFieldEnd.
 //     open    program ("" for the program of the document's type), document
 //     module  file name, then the eight arguments
 

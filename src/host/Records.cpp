@@ -8,7 +8,7 @@
 
 #include "host/HostWindows.h"
 #include "host/RecordFormat.h"
-// The process list wants windows.h before it.
+// This header needs windows.h before it.
 #include <tlhelp32.h>
 
 namespace lumerin {
@@ -59,7 +59,7 @@ Records::Records(JsonLines& lines) : m_lines(lines) {
     GetTempPathA(MAX_PATH, folder);
     GetTempFileNameA(folder, "rec", 0, path);
     m_sPath = path;
-    // The run-time passes it on to the platform, from which started programs take it.
+    // The run-time library sets it in the process's environment, which started programs inherit.
     _putenv_s(kRecordVariable, path);
 }
 

@@ -7,8 +7,8 @@
 
 namespace lumerin {
 
-// What leaves the module for another program is told by that program: the recorder, in the place of a viewer,
-// and the recording plot module append a line to a file that the environment names.
+// What the module passes to other programs is reported by those programs: the recorder, which replaces a
+// viewer, and the recording plot module append a line to a file that the environment names.
 class Records {
   public:
     // Makes the file and names it in the environment, for this process and those that it starts.

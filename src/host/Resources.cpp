@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "host/HostWindows.h"
-// The process figures want windows.h before them.
+// This header needs windows.h before it.
 #include <psapi.h>
 
 namespace lumerin {
@@ -21,7 +21,7 @@ constexpr UINT_PTR kHandleStep = 4;
 constexpr int kHandleGap = 512;
 constexpr std::size_t kLeakedBytes = 16 << 10;
 
-// Windows tells its counts. Wine has the call and answers 0, but takes handles without their stamp, so that
+// Windows reports its counts. Wine has the call but returns 0, but takes handles without their stamp, so that
 // every number can be tried.
 template <typename Handle, typename IsOne>
 unsigned CountNumbers(UINT_PTR step, IsOne isOne) {
@@ -69,7 +69,7 @@ BOOL CALLBACK CountTopWindow(HWND window, LPARAM count) {
     return TRUE;
 }
 
-// Trying every number takes a second here, as the server is asked for each; so they are walked through.
+// Trying every number takes a second here, as the server is asked for each; so they are enumerated.
 unsigned CountWindows() {
     unsigned count = 0;
     EnumWindows(CountTopWindow, reinterpret_cast<LPARAM>(&count));
@@ -120,7 +120,7 @@ std::size_t CountHeap() {
     return bytes;
 }
 
-// Wine tells them under the older name alone.
+// Wine exports the function only under the older name.
 std::size_t PrivateBytes() {
     PROCESS_MEMORY_COUNTERS_EX counters{};
     GetProcessMemoryInfo(GetCurrentProcess(), reinterpret_cast<PROCESS_MEMORY_COUNTERS*>(&counters),

@@ -6,8 +6,8 @@
 
 namespace lumerin {
 
-// What this process holds of the machine, the loaded modules' share included. What is never given back shows
-// as counts that grow from round to round.
+// The resources of the machine that this process holds, those of loaded modules included. A resource that is
+// never released shows as a count that grows from round to round.
 struct Resources {
     unsigned gdi = 0;        // pens, brushes, fonts, bitmaps, device contexts
     unsigned user = 0;       // windows, menus, icons, accelerator tables
@@ -22,7 +22,7 @@ Resources CountResources();
 // A line of JSON for a round that was played.
 void PrintRound(std::ostream& out, int round, const Resources& resources);
 
-// Takes one of each and never gives it back: what the counts must show.
+// Takes one of each and never releases it; the counts must show it.
 void LeakOneOfEach();
 
 }  // namespace lumerin

@@ -5,14 +5,14 @@
 
 namespace lumerin {
 
-// The token by which the module knows this driver's questions.
+// The token by which the module recognises this driver's queries.
 namespace token {
 
 // Chooses one at random and puts it into the environment; the module that is loaded next reads it there.
 void Publish();
-// Takes it out of the environment again, before any other program is started.
+// Removes it from the environment, before any other program is started.
 void Withdraw();
-// The first parameter of every question.
+// The first parameter of every query.
 WPARAM Get();
 
 }  // namespace token

@@ -33,7 +33,7 @@ bool UsesKeyboard(ScriptVerb verb) {
 WindowDriver::WindowDriver(std::vector<ScriptAction> actions, std::ostream& out)
     : m_actions(std::move(actions)), m_lines(out), m_records(m_lines) {}
 
-// A tick comes when the loop has nothing else to do, so a late one tells how long messages and painting took.
+// A tick comes when the loop has nothing else to do, so a late one shows how long messages and painting took.
 void WindowDriver::NoteTime() {
     const auto now = std::chrono::steady_clock::now();
     if (m_LastTick.time_since_epoch().count() != 0) m_LongestWait = std::max(m_LongestWait, now - m_LastTick);
@@ -100,7 +100,7 @@ void WindowDriver::PlayNext(HWND dialog) {
         CloseDialog(dialog);
         return;
     }
-    // The action is over before it is played: it may open a window, whose loop ticks on.
+    // The action is removed before it is played: it may open a window, in whose loop the ticks continue.
     const ScriptAction& action = m_actions[m_nNext++];
     TellWait(action.line);
     if (!Perform(action, dialog)) {
@@ -177,8 +177,8 @@ void WindowDriver::Dump(HWND dialog) {
     }
 }
 
-// As a user would who wants to leave: by the button "Close", else by Cancel. A dialog that stays all the same
-// is ended.
+// Closes the dialog as a user would: by the button "Close", else by Cancel. A dialog that stays open is
+// ended.
 void WindowDriver::CloseDialog(HWND dialog) {
     if (m_hClosing == dialog) {
         EndDialog(dialog, IDCANCEL);

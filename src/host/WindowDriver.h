@@ -13,9 +13,9 @@
 
 namespace lumerin {
 
-// Plays a script on the module's real windows. It lives on the thread of the dialogs: a timer calls Tick in
-// whatever modal loop is running, and only when that loop has nothing else to do, so that a press has been
-// worked off, or has opened another window, by the time of the next tick.
+// Plays a script on the module's real windows. It runs on the thread of the dialogs: a timer calls Tick in
+// the current modal loop, only when that loop has nothing else to do, so that a press has been handled, or
+// has opened another window, before the next tick.
 class WindowDriver {
   public:
     WindowDriver(std::vector<ScriptAction> actions, std::ostream& out);
@@ -27,11 +27,11 @@ class WindowDriver {
 
     // Just before a call.
     void BeginCall() { m_CallBegan = std::chrono::steady_clock::now(); }
-    // Prints what the call left behind and its result.
+    // Prints what was recorded during the call, and its result.
     void EndCall(unsigned result);
-    // The action that opens the dialog once more behind a call; null when another one is next, or none.
+    // The action that opens the dialog once more after a call; null when another one is next, or none.
     const ScriptAction* TakeAgain();
-    // The action that found no open dialog any more; null when all were played.
+    // The first action for which no dialog was open; null when all were played.
     const ScriptAction* FirstLeftOver() const;
 
   private:
@@ -50,7 +50,7 @@ class WindowDriver {
     JsonLines m_lines;
     Records m_records;
     Mouse m_mouse;
-    std::vector<HWND> m_open;    // the dialogs that were told, the front one last
+    std::vector<HWND> m_open;    // the dialogs that were reported, the front one last
     HWND m_hAnswered = nullptr;  // a message box whose button was pressed
     HWND m_hClosing = nullptr;   // a dialog whose "Close" was pressed
     int m_nSettle = 0;           // ticks to let pass: keys or the mouse are on their way

@@ -9,7 +9,7 @@
 
 namespace lumerin {
 
-// What is really on the screen: dialogs, message boxes and controls, read from their windows.
+// The contents of the screen: dialogs, message boxes and controls, read from their windows.
 
 struct MessageBoxState {
     std::string text, title;

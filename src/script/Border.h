@@ -9,16 +9,16 @@
 
 namespace lumerin {
 
-// The border between the user and the product. Options, scripts and lines on the terminal are UTF-8. Inside,
-// a text is bytes of the Western code page, which documents and dialogs count their columns in; paths of
-// files alone stay as they were given, on the way in and on the way out.
+// Conversion between the user's encoding and the product's. Options, scripts and lines on the terminal are
+// UTF-8. Inside, a text is bytes of the Western code page, which documents and dialogs count their columns
+// in; only paths of files stay as they were given, in input and output.
 
 // A text of an option or of a script: one for a document or for a control.
 inline std::string FromUser(std::string_view text) {
     return ToWestern(text);
 }
 
-// What the product says, with the paths in it.
+// A text of the product, with the paths in it, for the terminal.
 inline std::string ForUser(std::string_view text) {
     return ToUtf8(text);
 }

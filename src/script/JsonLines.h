@@ -13,8 +13,8 @@
 
 namespace lumerin {
 
-// The events and states of driven dialogs as JSON, one object a line, in fixed key order. The same lines come
-// from every face of the product, so that two outputs can be compared byte for byte.
+// The events and states of driven dialogs as JSON, one object a line, in fixed key order. Both backends print
+// the same lines, so that two outputs can be compared byte for byte.
 
 // What a control shows.
 struct ControlState {
@@ -25,7 +25,7 @@ struct ControlState {
     int selection = -1;                                    // combo boxes alone
 };
 
-// Where the keyboard is: the control that has the focus, and what the keys act on in it.
+// The focus of the keyboard: the control that has it, and the part that the keys act on.
 struct FocusState {
     int id = 0;
     ControlKind kind = ControlKind::button;
@@ -41,7 +41,7 @@ class JsonLines {
     void Dialog(std::string_view title);
     void Control(const ControlState& state);
     void Message(std::string_view text, std::string_view title, MessageIcon icon);
-    // A viewer start as the shell is asked for it: a document, or a program with a document as its parameter.
+    // A viewer start as it is passed to the shell: a document, or a program with a document as its parameter.
     // Quotes around the document and the program's folder are left out.
     void Open(const std::string& file, const std::string& parameters);
     void Module(std::string_view module, const services::PlotModuleCall& call);
@@ -49,7 +49,7 @@ class JsonLines {
     void Focus(const FocusState& state);
     void Plot(const std::vector<GraphCall>& calls);
     void Result(unsigned result);
-    // The one line that is no JSON: an action that a user could not have done.
+    // The only line that is not JSON: an action that a user could not have done.
     void Refused(std::string_view what);
 
   private:

@@ -53,7 +53,7 @@ class LineReader {
         if (fault != std::errc() || at != end || !std::isfinite(value)) Fail(word + " is not " + what);
         return value;
     }
-    // What is left of the line, with nothing taken off.
+    // The rest of the line, unchanged.
     std::string_view Ahead() const { return m_rest; }
     std::string Rest() {
         std::string rest(m_rest);

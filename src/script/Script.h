@@ -12,9 +12,9 @@
 
 namespace lumerin {
 
-// The script that drives the dialogs, the same for every face of the product: one action a line, "#" at a
-// line's start or behind a blank begins a comment. It is read whole before the first action runs. A script is
-// UTF-8; texts for controls come out of it in the code page, names of files as they are.
+// The script that drives the dialogs, the same for both backends: one action a line; "#" at a line's start or
+// after a blank begins a comment. It is read whole before the first action runs. A script is UTF-8; texts for
+// controls are returned in the code page, names of files as they are.
 
 enum class ScriptVerb {
     click,       // id
@@ -53,8 +53,8 @@ struct ScriptAction {
     MouseAction mouse;
 };
 
-// Whether a control of that kind has a use for the key, or takes typed texts, when it has the focus. Esc,
-// Return and Tab are the dialog's where the control leaves them.
+// Whether a control of that kind uses the key, or accepts typed texts, when it has the focus. Esc, Return and
+// Tab are the dialog's where the control leaves them.
 bool TakesKey(ControlKind focused, const ScriptKey& key);
 bool TakesText(ControlKind focused);
 

@@ -21,7 +21,7 @@ constexpr std::array<std::array<std::string_view, 4>, 2> kShearBearings = {{
 }};
 constexpr std::array<std::string_view, 4> kMomentBearings = {"Brg %i LR", "Brg %i RR", "Brg %i", "Brg %i"};
 
-// The key below its lines for the words of the supports; the member word stands behind each left text.
+// The key below its lines for the words of the supports; the member word follows each left text.
 struct KeyForm {
     const char* leftShort;
     const char* leftLong;

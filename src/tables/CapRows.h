@@ -20,7 +20,7 @@ struct CCapRow {
     const CCapEntry* pEntry = nullptr;  // never null during a walk
     bool bBearing = false;
     bool bSideHasResult = true;  // false on bearing rows of the shear table alone
-    int nPoint = 0;              // of the pier's merged points, where the row's x stands
+    int nPoint = 0;              // of the pier's merged points, with the row's x
     CSupportLocation support;    // of a support row
     CBearingLocation bearing;    // of a bearing row
     int nSide = 0;               // of a bearing row of the shear table: 0 left, 1 right

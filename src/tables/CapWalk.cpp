@@ -8,7 +8,7 @@
 namespace lumerin {
 
 // Tables 3 and 4: for each design section of the cap, in order of position, the case with the maximum and the
-// case with the minimum, and all that acts there in the same case.
+// case with the minimum, and all forces there in the same case.
 namespace {
 
 constexpr std::size_t kKeyColumn = 43;
@@ -146,7 +146,7 @@ class CCapWalk {
     CLineSink& m_sink;
     bool m_bLimitStates;
     ColumnHead m_head;
-    std::string m_row;  // both are reused, so that a row takes no memory
+    std::string m_row;  // both are reused, so that a row allocates no memory
     std::string m_nodes;
 };
 

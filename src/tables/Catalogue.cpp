@@ -11,7 +11,7 @@ namespace lumerin {
 
 namespace {
 
-// What heads the block of one slot. The section tables 0, 1 and 2 carry the word MAXIMUM, the cap tables and
+// What heads the block of one slot. The section tables 0, 1 and 2 have the word MAXIMUM, the cap tables and
 // the force tables do not.
 struct SlotHeading {
     CodeFamily family;

@@ -39,7 +39,7 @@ int TitlePageBlankLines(const ReportOptions& options);
 // The title page's lines, not yet centred.
 std::array<std::string, 5> TitlePageLines(const ReportOptions& options);
 
-// Mode 0: month, day, year; 1: the same behind the day's name; 2: digits, for stamps.
+// Mode 0: month, day, year; 1: the same after the day's name; 2: digits, for stamps.
 std::string DateText(int mode, const LocalTime& now);
 // Mode 0: two-digit minutes and seconds with AM or PM; 1: plain numbers.
 std::string TimeText(int mode, const LocalTime& now);

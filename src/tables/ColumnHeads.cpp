@@ -83,8 +83,7 @@ void AddSteppedLines(ColumnHead& head, const HeadTexts& texts, const CPier& firs
     const bool combinations = first.m_bCombinations;
     const StepWords words = StepWordsOf(texts, combinations, mode);
     if (words.upper == nullptr) {
-        // The cap tables end their head with the line feed of the block, so it is there for an empty head
-        // too.
+        // The cap tables end their head with the line feed of the block, also when the head is empty.
         if (cap) head.lines.emplace_back();
         return;
     }
@@ -121,7 +120,7 @@ ColumnHead BuildColumnHead(const CDataSet& data, const TableLayout& layout) {
     }
     const bool cap = layout.table == kTableCapShear || layout.table == kTableCapMoment;
     AddSteppedLines(head, layout.head, first, mode, us, cap);
-    // An empty head of a section table takes its empty line with it.
+    // A section table with an empty head has no empty line after it either.
     if (head.lines.empty()) head.linesBehind = 0;
     return head;
 }

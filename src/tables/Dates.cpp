@@ -14,8 +14,8 @@ void AppendTwoDigits(std::string& out, int value) {
     AppendInt(out, value);
 }
 
-// The day names stand directly behind the month names and are looked up by the weekday counted from Sunday,
-// so a report made on a Sunday says "December" where the day's name belongs.
+// The day names follow the month names directly and are looked up by the weekday counted from Sunday, so a
+// report made on a Sunday has "December" in place of the day's name.
 const char* DayWord(int weekday) {
     if (weekday <= 0) return g_MonthNames.back();
     return g_DayNames[static_cast<std::size_t>(std::min(weekday, 7) - 1)];

@@ -61,7 +61,7 @@ constexpr std::array<StatusLine, 11> kStatusLines{{
 
 constexpr std::array<const char*, 4> kShearKinds = {" %i LF", " %i LCL", " %i RCL", " %i RF"};
 constexpr std::array<const char*, 3> kMomentKinds = {" %i LF", " %i CL", " %i RF"};
-// By side and row code. Unlike in the tables the two sides of a row's bearing read alike when there are two
+// By side and row code. Unlike in the tables, both sides of a bearing have the same text when there are two
 // rows.
 constexpr std::array<std::array<const char*, 4>, 2> kShearBearings = {{
     {"Brg %i LR", "Brg %i RR", "Brg %i L", "Brg %i L"},

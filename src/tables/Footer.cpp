@@ -12,7 +12,7 @@ std::string FirstCharacters(const std::string& text, int count) {
     return text.substr(0, static_cast<std::size_t>(std::max(0, count)));
 }
 
-// The project's file name, fitted to `room` characters.
+// The project's file name, fitted to `room` characters, its space in the line.
 std::string FittedFileName(const ReportOptions& options, int room) {
     std::string full = options.projectBasePath + g_ExtensionInput;
     if (static_cast<int>(full.size()) <= room) return full;
@@ -20,7 +20,7 @@ std::string FittedFileName(const ReportOptions& options, int room) {
     // The dots and the ending take seven characters; the ending is the report's, whatever the project's is.
     if (nameLength > room)
         return FirstCharacters(options.projectFileName, room - 3 - 4) + "..." + g_ExtensionText;
-    // The dots come on top of the room: such a line is four characters too long.
+    // The dots are added to that width: such a line is four characters too long.
     if (nameLength < room)
         return FirstCharacters(options.projectFolder, room - nameLength) + "...\\" + options.projectFileName;
     return {};

@@ -10,14 +10,14 @@
 
 namespace lumerin {
 
-// How an empty stretch of a table is shown; the text form knows one way, the PDF form three.
+// How an empty stretch of a table is shown; the text form has one way, the PDF form three.
 enum class GapStyle { empty, lineFeed, blank };
 
 // Places before which a page may end.
 enum class BreakPoint { pierHeading, columnHead, key };
 
-// Where a walk over a table puts what it finds. The walk tells lines, heads and gaps once; a sink for text
-// writes them as they come, a sink for PDF sets them on pages. Both keep the running count of lines.
+// The output of a walk over a table. The walk passes lines, heads and gaps once; a sink for text writes them
+// in order, a sink for PDF places them on pages. Both keep the running count of lines.
 class CLineSink {
   public:
     CLineSink() = default;

@@ -9,7 +9,7 @@
 namespace lumerin {
 
 // Tables 1, 2, 5, 6 and 7: for every property of piles, columns or extra members the place of the greatest
-// ratio, or of the greatest and the least of each force, with all that acts there in the same case.
+// ratio, or of the greatest and the least of each force, with all forces there in the same case.
 namespace {
 
 class CMemberWalk {
@@ -167,7 +167,7 @@ class CMemberWalk {
     ColumnHead m_head;
     std::array<std::string, kPrintedExtremes> m_extremeNames;
     std::array<std::string, kPrintedExtremes> m_missingValues;
-    std::string m_row;  // reused, so that a row takes no memory
+    std::string m_row;  // reused, so that a row allocates no memory
 };
 
 }  // namespace

@@ -110,7 +110,7 @@ class CPileHeadWalk {
     CLineSink& m_sink;
     bool m_bLimitStates;
     ColumnHead m_head;
-    std::string m_row;  // reused, so that a row takes no memory
+    std::string m_row;  // reused, so that a row allocates no memory
 };
 
 }  // namespace

@@ -22,10 +22,10 @@ struct FooterParts {
     bool date = false, time = false, version = false, fileName = false;
 };
 
-// What a report says besides its numbers, as the dialog or the command line has it at one press.
+// What a report contains besides its numbers, as set in the dialog or on the command line at one press.
 struct ReportOptions {
     FooterParts footer;
-    ReportFormat format = kFormatSpreadsheet;  // steers FormatCellText alone
+    ReportFormat format = kFormatSpreadsheet;  // used only by FormatCellText
     std::string versionText;                   // the host's version
     std::string versionLabel;                  // "v" and the version, for the footer
     // As documents show them, in the Western code page.
@@ -66,8 +66,8 @@ struct Report {
 
     RowReader& rows;  // the forces of the rows that are shown
 
-    // The fourteen forces of an element of a substructure in a load case; all three are known to exist.
-    // Throws CFileException.
+    // The fourteen forces of an element of a substructure in a load case; all three exist. Throws
+    // CFileException.
     ForceRow Forces(const CPier& pier, int loadCase, int element) const {
         return rows.At(static_cast<std::size_t>(&pier - data.m_Piers.data()), loadCase, element);
     }

@@ -8,7 +8,7 @@
 
 namespace lumerin {
 
-// Pieces of a row that go behind what it holds, without a text of their own.
+// Functions that append pieces to a row without a temporary text.
 
 inline void AppendLeftPadded(std::string& out, std::string_view text, std::size_t width) {
     if (text.size() < width) out.append(width - text.size(), ' ');

@@ -13,9 +13,9 @@ namespace lumerin {
 
 // The layouts of tables 0 to 7 as data: one row of one description for each table. The walks over the result
 // tables read margins, heads, fillers and column widths from here, so that the text and the PDF form of a
-// table, and tables that are alike, can't drift apart.
+// table, and similar tables, cannot differ by mistake.
 
-// What stands to the left of a table's title.
+// The blanks to the left of a table's title.
 struct TitleMargin {
     bool tab = false;
     std::size_t blanks = 0;
@@ -24,20 +24,21 @@ struct TitleMargin {
 struct TitleMargins {
     TitleMargin wide = {};    // the rows carry the limit state column
     TitleMargin narrow = {};  // they do not
-    // The column tables go by the number of substructures in place of the limit state column: one is wide.
+    // The column tables choose by the number of substructures in place of the limit state column: one is
+    // wide.
     bool byPierCount = false;
     // Blanks before the second and third title line, which table 0 alone has.
     std::array<std::size_t, 2> furtherWide = {0, 0};
     std::array<std::size_t, 2> furtherNarrow = {0, 0};
 };
 
-// The two lines of a column head, up to the step column and behind it.
+// The two lines of a column head, up to the step column and after it.
 struct HeadTexts {
     const char* opening = "";       // upper line up to the step column
     const char* openingType8 = "";  // the same where the first substructure calls its piles columns
     const char* lowerOpening = "";
-    const char* columns = "";  // upper line behind the limit state column
-    const char* unitsUs = "";  // lower line behind the limit state column
+    const char* columns = "";  // upper line after the limit state column
+    const char* unitsUs = "";  // lower line after the limit state column
     const char* unitsSi = "";
     std::size_t aremaWidth = 15;  // of the limit state column's heading
     bool mode2IsTimeStep = false;
@@ -54,13 +55,13 @@ struct MemberRowTexts {
     bool blankBeforeMember = false;
     int memberWidth = 5;
     const char* valueGap = " ";  // before each value but the last
-    const char* missing = "";    // behind the property, where a force has no result
-    // Behind property, member, element and node of a ratio without result, plain and with limit states.
+    const char* missing = "";    // after the property, where a force has no result
+    // After property, member, element and node of a ratio without result, plain and with limit states.
     std::array<const char*, 2> missingRatio = {"", ""};
     const char* pierHeading = "";
     const char* pierHeadingType8 = "";
     const char* pierHeadingBent = "";  // for a pile bent, which then has no blocks; empty: no such rule
-    bool gapBehindPier = false;        // two further empty lines behind a substructure
+    bool gapBehindPier = false;        // two further empty lines after a substructure
 };
 
 // The words of tables 3 and 4.
@@ -83,18 +84,18 @@ struct TableLayout {
     HeadTexts head = {};
     MemberRowTexts member = {};  // tables 1, 2, 5, 6, 7
     CapTexts cap = {};           // tables 3, 4
-    // The table that stands in for this one when the first substructure's members are in the pile arrays.
+    // The table that replaces this one when the first substructure's members are in the pile arrays.
     std::optional<TableId> handOverType8 = {};
 };
 
 const TableLayout& LayoutOf(TableId table);  // 0 to 7
 
-// The column head of a table for the project as it stands.
+// The column head of a table for the current project.
 struct ColumnHead {
     std::vector<std::string> lines;
-    int linesBehind = 0;       // empty lines behind it on every page
+    int linesBehind = 0;       // empty lines after it on every page
     int linesBehindFirst = 0;  // further ones at a block's start
-    int counted = 0;           // lines that the page arithmetic takes for it at a block's start
+    int counted = 0;           // lines that the page arithmetic counts for it at a block's start
 };
 ColumnHead BuildColumnHead(const CDataSet& data, const TableLayout& layout);
 

@@ -12,8 +12,8 @@ namespace lumerin {
 
 namespace {
 
-// Lines as they come, each ended by a line feed. Some counts differ from the line feeds: an empty head counts
-// its lines all the same, and the padding of the full report goes by the count.
+// Lines in order, each ended by a line feed. Some counts differ from the line feeds: an empty head counts its
+// lines all the same, and the padding of the full report goes by the count.
 class CTextSink : public CLineSink {
   public:
     explicit CTextSink(StoredStream& out) : m_out(out) {}

@@ -5,7 +5,7 @@
 
 namespace lumerin {
 
-// The three walks; a project with a substructure is there when one of them runs.
+// The three walks; they need a project with a substructure.
 void WalkPileHeads(const Report& report, const TableLayout& layout, CLineSink& sink);  // table 0
 void WalkMembers(const Report& report, const TableLayout& layout, CLineSink& sink);    // tables 1, 2, 5, 6, 7
 void WalkCapTable(const Report& report, const TableLayout& layout, CLineSink& sink);   // tables 3, 4

@@ -23,7 +23,7 @@ constexpr const char* kHeads = "Internal Forces at Pile Heads";
 
 }  // namespace
 
-// "Title Page" is written with a blank in the file's name; the files that users keep carry it.
+// "Title Page" is written with a blank in the file's name; the files that users keep have it.
 const TextList11 g_TableFileNames = {
     "Max_Axial_Forces_Pile_Heads",
     "Max_DC_For_Pile_Sections",

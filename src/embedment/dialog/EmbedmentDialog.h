@@ -8,7 +8,7 @@
 
 namespace lumerin {
 
-// What the study's dialog is opened on. The caller keeps all of it for the call.
+// The data of the study's dialog. The caller owns all of it and keeps it during the call.
 struct EmbedmentInput {
     const std::string& inputFile;  // of the project
     const CDataSet& data;

@@ -18,7 +18,7 @@ struct ScreenRect {
     bool IsEmpty() const { return right <= left || bottom <= top; }
 };
 
-// What stands in the window of the graph: a control of the machine, or the module's own plot.
+// The content of the graph's window: a control of the machine, or the module's own plot.
 class GraphHost {
   public:
     virtual ~GraphHost() = default;
@@ -28,12 +28,12 @@ class GraphHost {
     virtual void Call(int dispatchId, std::span<const GraphValue> arguments) = 0;
     // All calls of a drawing were made; until then nothing has to be shown.
     virtual void EndDrawing() {}
-    // A click at that x of the data, as a person would make it. The host tells it to the graph.
+    // Clicks at that x of the data, as a user would. The host notifies the graph.
     virtual void Click(double x) = 0;
     virtual ScreenRect Place() const { return {}; }  // empty where there is no screen
 };
 
-// The module's own plot without a window. The graph keeps the plot, so there is nothing to hand on.
+// The module's own plot without a window. The graph itself has the plot, so nothing is passed on.
 class PlotGraphHost : public GraphHost {
   public:
     PlotGraphHost(const CPlot& plot, std::function<void()> clicked)

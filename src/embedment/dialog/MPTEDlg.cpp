@@ -70,7 +70,7 @@ bool CMPTEDlg::OnCommand(int id, Notice notice) {
 }
 
 void CMPTEDlg::DoDataExchange(CDataExchange& exchange) {
-    // The text first: its change notice finds no spin button at the start and is passed over.
+    // The text first: its change notice is ignored as long as there is no spin button.
     DDX_Text(exchange, IDC_STUDY_CASE, m_nCase);
     DDX_Control(exchange, IDC_STUDY_SPIN, m_spinCase);
     DDX_Control(exchange, IDC_STUDY_QUANTITY, m_cmbQuantity);
@@ -176,7 +176,7 @@ void CMPTEDlg::TakeCase(bool emptyIsInvalid) {
 }
 
 void CMPTEDlg::RestoreCase() {
-    // Set back on every way out: otherwise a failure would end the choice of cases for good.
+    // Reset also after an exception: otherwise no case could be chosen after a failure.
     struct Restoring {
         bool& on;
         ~Restoring() { on = false; }

@@ -29,7 +29,7 @@ class CMPTEDlg : public CDialog {
   public:
     explicit CMPTEDlg(const EmbedmentInput& input);
 
-    // Both by the caller before DoModal: the unit system (0 US, anything else SI) and the report format.
+    // The caller sets both before DoModal: the unit system (0 US, anything else SI) and the report format.
     void SetUnits(int units) { m_nUnits = units; }
     void SetFormat(int format) { m_nFormat = format; }
 
@@ -37,7 +37,7 @@ class CMPTEDlg : public CDialog {
     bool OnCommand(int id, Notice notice) override;
     void DoDataExchange(CDataExchange& exchange) override;
 
-    // The case with the greatest (mode 0) or least (mode 1) value; a tie stays with the earlier one. Quantity
+    // The case with the greatest (mode 0) or least (mode 1) value; of equal values the earlier case. Quantity
     // and mode of -1 are those of the combo boxes.
     CEnvelopePoint GetEnvelopePoint(int trial, int quantity, int mode) const;
 
@@ -96,7 +96,7 @@ class CMPTEDlg : public CDialog {
     bool m_bRestoring = false;  // the case's text is being put back; its change notice is no choice
 };
 
-// Writes the lines into a text control, each with an empty line behind it.
+// Writes the lines into a text control, each followed by an empty line.
 void SetNotesText(CWnd& control, std::span<const std::string> lines);
 
 }  // namespace lumerin

@@ -193,7 +193,7 @@ void CMPTEDlg::DrawPlot() {
     SetPlotAxes();
     int before = -1;
     for (int i = m_pResults.FirstTrial(); i >= 0; i = m_pResults.FindAdjacentTrial(i, false)) {
-        // A trial that is missing between two others is no straight line.
+        // No line is drawn across a missing trial.
         if (i > before + 1) m_Graph.LeaveGap();
         before = i;
         const CEnvelopePoint point = PointOf(i);
@@ -216,7 +216,7 @@ int CMPTEDlg::GridRowForX(double clicked) const {
         if (next < 0) break;
         const double there = sign * AsShown(m_pResults.GetEmbedment(next));
         if (x <= here || x >= there) continue;
-        // Half-way stays with the earlier trial, in either direction.
+        // Half-way counts as the earlier trial, in either direction.
         const bool nearNext =
             sign > 0.0 ? (x - here) / (there - here) > 0.5 : (there - x) / (there - here) < 0.5;
         return (nearNext ? next : i) + kHeadingRows;

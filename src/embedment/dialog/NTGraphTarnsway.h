@@ -34,7 +34,7 @@ class CNTGraphTarnsway : public CWnd, public GraphPeer {
     const CPlot& Plot() const { return m_plot; }
     ScreenRect Place() const { return m_pHost->Place(); }
 
-    // Called for each click, behind the change of the clicked x.
+    // Called for each click, after the clicked x has changed.
     std::function<void()> m_onClick;
     void OnClicked() {
         if (m_onClick) m_onClick();

@@ -5,10 +5,10 @@
 
 namespace lumerin {
 
-// What the driver of the dialogs can ask the window of the graph. wParam is the driver's token
-// (DriverToken.h), lParam the address of a record in the same process, which holds the question and receives
-// the answer. The result is TRUE for an answered question; without the token nothing is read and nothing is
-// written.
+// The messages by which the driver of the dialogs queries the window of the graph. wParam is the driver's
+// token (DriverToken.h), lParam the address of a record in the same process, which holds the question and
+// receives the answer. The result is TRUE for an answered question; without the token nothing is read and
+// nothing is written.
 
 // The window class of the place that the dialog keeps for the graph.
 inline constexpr const char* kGraphWindowClass = "LumerinGraph";

@@ -166,7 +166,7 @@ bool HeadlessGrid::PressKey(unsigned key, KeyState keys) {
     const bool isDialogs = key == kKeyEscape || (key == kKeyReturn && !m_grid.IsEditable()) ||
                            (key == kKeyTab && !m_grid.TabMoves());
     if (isDialogs) return false;
-    // A key that the grid has no use for becomes a character.
+    // A key that the grid does not use becomes a character.
     const bool hasCharacter = key == kKeyReturn || key == kKeyBackspace || key == kKeyTab;
     if (!m_grid.OnKeyDown(key, keys) && hasCharacter) m_grid.OnChar(key, keys);
     return true;

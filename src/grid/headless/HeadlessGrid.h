@@ -11,7 +11,7 @@
 
 namespace lumerin {
 
-// The window of an editor without a screen: the bare text. Characters that the editor lets through are typed
+// The window of an editor without a screen: only a text. Characters that the editor lets through are typed
 // into it as an edit window would.
 class HeadlessEditor : public EditorWindow {
   public:

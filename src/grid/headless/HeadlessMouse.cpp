@@ -84,7 +84,7 @@ void HeadlessMouse::MoveTo(GridPoint place) {
     }
     if (wasOnTip) m_grid.OnTipLeave();
     if (target == Target::grid) m_grid.OnMouseMove(place, m_bDown);
-    // A tip that came up under the mouse has it from now on.
+    // A tip that opened under the mouse receives it from now on.
     if (TargetAt(place) == Target::tip) m_grid.OnTipMove(place);
 }
 

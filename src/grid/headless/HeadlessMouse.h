@@ -9,9 +9,9 @@ namespace lumerin {
 class CGridCtrl;
 class HeadlessGrid;
 
-// The mouse over a grid without a screen. Which window gets what is the platform's rule: the tip lies over
-// the cells, an editor over its cell, and a captured mouse is the grid's wherever it goes. Two presses are a
-// double click when the script says so and one window got both.
+// The mouse over a grid without a screen. Events go to windows by the platform's rules: the tip is above the
+// cells, an editor above its cell, and a captured mouse belongs to the grid everywhere. Two presses are a
+// double click when the script has one and one window received both.
 class HeadlessMouse {
   public:
     HeadlessMouse(CGridCtrl& grid, HeadlessGrid& window) : m_grid(grid), m_window(window) {}

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // The clipboard as OLE has it: a data object that offers one text.
 #include "framework/win32/Windows32.h"
-// OLE wants windows.h before it.
+// This header needs windows.h before it.
 #include <ole2.h>
 
 #include <cstring>
@@ -40,7 +40,7 @@ HGLOBAL GlobalText(const std::string& text) {
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
 
-// An object that counts its own references, as OLE demands, and goes with the last one.
+// An object that counts its own references, as OLE requires, and is deleted with the last one.
 template <class Interface, const IID& interfaceId>
 class Counted : public Interface {
   public:
@@ -67,7 +67,7 @@ class Counted : public Interface {
     ULONG m_references = 1;
 };
 
-// The list of the one format. The shell has such a list to give away, but Wine's never goes: it starts with a
+// The list of the one format. The shell offers such a list, but Wine's is never freed: it starts with one
 // reference too many.
 class FormatList final : public Counted<IEnumFORMATETC, IID_IEnumFORMATETC> {
   public:
@@ -149,7 +149,7 @@ void ThrowIfMemoryIsOut(HRESULT result) {
     if (result == E_OUTOFMEMORY || result == STG_E_MEDIUMFULL) throw std::bad_alloc();
 }
 
-// What a data object handed out. It may be as big as the clipboard, so it goes on every way out.
+// Owns what a data object returned, which may be as large as the clipboard, and releases it.
 class Medium {
   public:
     Medium() = default;

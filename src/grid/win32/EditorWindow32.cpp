@@ -51,7 +51,7 @@ void EditorWindow32::Move(const GridRect& rect) {
 }
 
 void EditorWindow32::Close() {
-    // This may run inside one of the window's own messages: it goes with the next one.
+    // This may run inside a message of the window, so the window is destroyed by the next message.
     ShowWindow(m_window, SW_HIDE);
     PostMessageA(m_window, WM_CLOSE, 0, 0);
 }

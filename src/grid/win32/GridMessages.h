@@ -5,9 +5,10 @@
 
 namespace lumerin {
 
-// What the driver of the dialogs can ask a grid's window. wParam is the driver's token (DriverToken.h),
-// lParam the address of a record in the same process, which holds the question and receives the answer. The
-// result is TRUE for an answered question; without the token nothing is read and nothing is written.
+// The messages by which the driver of the dialogs queries a grid's window. wParam is the driver's token
+// (DriverToken.h), lParam the address of a record in the same process, which holds the question and receives
+// the answer. The result is TRUE for an answered question; without the token nothing is read and nothing is
+// written.
 
 inline constexpr UINT kGridCounts = WM_USER + 1;    // GridCounts
 inline constexpr UINT kGridCellText = WM_USER + 2;  // GridCellText; FALSE: no such cell
@@ -34,7 +35,7 @@ struct GridCellText {
     int length = 0;  // of the whole text
 };
 
-// Where a cell lies in the client area of the window; the last rows and columns may lie partly outside.
+// The place of a cell in the client area of the window; the last rows and columns may be partly outside.
 struct GridCellArea {
     int row = 0, column = 0;
     RECT area{};

@@ -227,7 +227,7 @@ bool GridWindow::OnMouse(UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
         case WM_LBUTTONDOWN:
             m_grid.OnLeftDown(point, win32::MouseKeys(wParam), win32::EventTime());
-            // A handler may have shown a message meanwhile, which saw the button come up.
+            // A handler may have shown a message meanwhile, which received the release of the button.
             if (!win32::IsButtonDown()) m_grid.OnCaptureLost();
             return true;
         case WM_LBUTTONUP:
@@ -309,7 +309,7 @@ void GridWindow::OnScrollMessage(bool vertical, WPARAM wParam) {
     m_grid.OnScroll(vertical, position);
 }
 
-// Nothing behind lParam is touched before the token is known to be the driver's.
+// The record at lParam is not touched before the token is checked.
 bool GridWindow::OnQuestion(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) {
     if (message < kGridCounts || message > kGridView) return false;
     if (!win32::IsFromDriver(wParam) || lParam == 0) return true;

@@ -34,7 +34,7 @@ void PaintLabel(HWND window, const CLabel& label) {
                     label.TextColour());
 }
 
-// The messages of a label's window. It belongs to the window and goes with it.
+// The messages of a label's window. The window owns it and destroys it.
 class LabelWindow final : public win32::MessageTarget {
   public:
     LabelWindow(CLabel& label, HWND window) : m_label(label), m_window(window) {}
@@ -74,7 +74,7 @@ void AttachLabel(CLabel& label) {
     if (label.m_hWnd == nullptr) return;
     auto window = std::make_unique<LabelWindow>(label, ToHwnd(label.m_hWnd));
     win32::HookWindow(ToHwnd(label.m_hWnd), *window);
-    static_cast<void>(window.release());  // goes with the window
+    static_cast<void>(window.release());  // the window owns it
 }
 
 void RedrawLabel(CLabel& label) {

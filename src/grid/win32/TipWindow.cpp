@@ -103,7 +103,7 @@ void TipWindow::EndWatch() {
 LRESULT CALLBACK TipWindow::WatchMessage(int code, WPARAM wParam, LPARAM lParam) noexcept {
     const auto& message = *reinterpret_cast<const MSG*>(lParam);
     TipWindow* tip = Shown();
-    // What hits the tip itself is its own affair.
+    // The tip's own procedure handles what hits the tip.
     if (code == HC_ACTION && wParam == PM_REMOVE && tip != nullptr && message.hwnd != tip->m_window &&
         IsPress(message.message)) {
         win32::RunBorder([tip] { tip->m_grid.HideTip(); });
@@ -155,7 +155,7 @@ POINT TipWindow::InOwner(LPARAM lParam) const {
     return point;
 }
 
-// The grid has no use for the other buttons but to pass them on; a key is the grid's.
+// The other buttons are passed on to the grid's window; keys go to the grid.
 void TipWindow::OnOtherButton(UINT message, WPARAM wParam, LPARAM lParam) {
     const POINT point = InOwner(lParam);
     const bool isKey = message == WM_KEYDOWN || message == WM_SYSKEYDOWN;

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// Stands where a viewer would: it writes down under which name and with which document it was started.
+// Replaces a viewer: it records under which name and with which document it was started.
 //     recorder.exe  registered for the types of documents
 //     Excel.exe     registered as the spreadsheet program
-//     Jarlimex.exe  lies beside the host
+//     Jarlimex.exe  beside the host
 #include <array>
 #include <cstdio>
 #include <cstdlib>
@@ -22,7 +22,7 @@ std::string OwnFileName() {
     return text.substr(text.rfind('\\') + 1);
 }
 
-// The name that the program was asked for by.
+// The name under which the program was started.
 std::string AskedFor(const std::string& fileName) {
     if (lstrcmpiA(fileName.c_str(), "recorder.exe") == 0) return "";
     if (lstrcmpiA(fileName.c_str(), "Excel.exe") == 0) return "Excel";

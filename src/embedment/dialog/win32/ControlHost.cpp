@@ -30,7 +30,7 @@ bool IsShort(int dispatchId) {
            std::end(kShortMembers);
 }
 
-// An argument of a call, which frees what it holds.
+// An argument of a call; it frees its value.
 class Variant {
   public:
     Variant() { VariantInit(&m_value); }
@@ -123,13 +123,13 @@ bool IsRegistered() {
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wnon-virtual-dtor"  // interfaces of the platform have no destructor
 
-// Takes the control's events; only the click is of interest. It goes with the last reference to it.
+// Receives the control's events; only the click is used. It is deleted with its last reference.
 class ControlHost::EventSink final : public IDispatch {
   public:
-    // Comes with one reference.
+    // Has one reference at the start.
     EventSink(CNTGraphTarnsway& graph, const IID& events) : m_graph(&graph), m_events(events) {}
     virtual ~EventSink() = default;
-    // The graph is going away; later events find nobody.
+    // The graph is being destroyed; later events are ignored.
     void Forget() { m_graph = nullptr; }
 
     HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
@@ -180,7 +180,7 @@ ControlWindow::ControlWindow(HWND place) : m_place(place) {
 }
 
 ControlWindow::~ControlWindow() {
-    // It is gone already where the dialog went first, and its handle may be another window's.
+    // When the dialog was destroyed first, this window is gone, and its handle may belong to another window.
     if (IsWindow(m_window) && GetParent(m_window) == m_place) DestroyWindow(m_window);
 }
 
@@ -195,7 +195,8 @@ std::unique_ptr<ControlHost> ControlHost::Create(CNTGraphTarnsway& graph, HWND p
     if (FAILED(container.get(window->Get(), &object)) || object == nullptr) return nullptr;
     const ComPointer<IUnknown> unknown(object);
     ComPointer<IDispatch> control = Ask<IDispatch>(*unknown, IID_IDispatch);
-    // Without it nothing could be drawn: the control goes with its window and leaves the place to the plot.
+    // Without it nothing could be drawn: the control is destroyed with its window, and the plot takes its
+    // place.
     if (control == nullptr) return nullptr;
     return std::make_unique<ControlHost>(std::move(window), std::move(control), graph);
 }

@@ -5,7 +5,7 @@
 
 #include "embedment/dialog/GraphHost.h"
 #include "framework/win32/Windows32.h"
-// The interfaces want windows.h before them.
+// These headers need windows.h before them.
 #include <ocidl.h>
 
 namespace lumerin {
@@ -17,7 +17,7 @@ struct ComRelease {
 template <class Interface>
 using ComPointer = std::unique_ptr<Interface, ComRelease>;
 
-// A child that fills the graph's window and gives the control its place. The control goes with it.
+// A child that fills the graph's window and gives the control its place. It destroys the control.
 class ControlWindow {
   public:
     explicit ControlWindow(HWND place);  // throws where the platform refuses a window

@@ -84,7 +84,7 @@ ScreenRect GraphWindow::Place() const {
             static_cast<int>(place.bottom)};
 }
 
-// Nothing behind lParam is touched before the token is known to be the driver's.
+// The record at lParam is not touched before the token is checked.
 bool GraphWindow::OnQuestion(UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result) const {
     if (message != kGraphDrawing && message != kGraphPointOf) return false;
     if (!win32::IsFromDriver(wParam) || lParam == 0) return true;

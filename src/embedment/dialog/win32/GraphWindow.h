@@ -7,8 +7,8 @@
 
 namespace lumerin {
 
-// The graph's place in the dialog: it answers what other programs ask and shows the module's own plot, unless
-// a control of the machine took the place.
+// The graph's place in the dialog: it answers the driver's queries and shows the module's own plot, unless a
+// control of the machine is used.
 class GraphWindow : public PlotGraphHost, private win32::MessageTarget {
   public:
     GraphWindow(CNTGraphTarnsway& graph, HWND window);
