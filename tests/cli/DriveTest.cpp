@@ -50,7 +50,7 @@ class DriveTest : public testing::Test {
     std::vector<std::string> lines;
 };
 
-TEST_F(DriveTest, TellsDialogViewerStartAndResultInOrder) {
+TEST_F(DriveTest, ReportsDialogViewerStartAndResultInOrder) {
     const std::string base = folder.Write("pier");
     EXPECT_EQ(Drive(base + ".in", "click 1020\nclick 1004\n"), kExitDone);
     ASSERT_EQ(lines.size(), 3U);
@@ -89,7 +89,7 @@ TEST_F(DriveTest, ADisabledOrHiddenControlRefuses) {
                                               "refused cell 1 1", "refused 1004"));
 }
 
-TEST_F(DriveTest, CharactersBehindOneThatBringsAMessageAreLost) {
+TEST_F(DriveTest, CharactersAfterOneThatShowsAMessageAreLost) {
     Drive(folder.Write("pier") + ".in", "click 1022\nfocus 1025\ntype 992\nwhere\n");
     // 9 is a case, 99 is none; the 2 goes to the message box.
     ASSERT_GE(lines.size(), 4U);
@@ -107,7 +107,7 @@ TEST_F(DriveTest, EscGivesZeroAndCloseOne) {
     EXPECT_EQ(lines.back(), "{\"result\":1}");
 }
 
-TEST_F(DriveTest, ActionsBehindTheLastDialogAreToldAndNotPlayed) {
+TEST_F(DriveTest, ActionsAfterTheLastDialogAreReportedAndNotPlayed) {
     EXPECT_EQ(Drive(folder.Write("pier") + ".in", "key Esc\nclick 1004\n"), kExitDone);
     EXPECT_THAT(err.str(), HasSubstr("script line 2"));
     EXPECT_EQ(lines.size(), 2U);
@@ -138,7 +138,7 @@ TEST_F(DriveTest, ABadLineEndsBeforeTheFirstAction) {
     EXPECT_FALSE(std::filesystem::exists(base + "_Max_Axial_Forces_Pile_Heads.txt"));
 }
 
-TEST_F(DriveTest, QuestionsAreAnsweredAsTheScriptSays) {
+TEST_F(DriveTest, QuestionsGetTheAnswersOfTheScript) {
     const std::string base = folder.Write("pier");
     Drive(base + ".in", "answer no\nclick 1013\nanswer yes\nclick 1013\n");
     ASSERT_EQ(lines.size(), 5U);
@@ -186,7 +186,7 @@ TEST_F(DriveTest, WithoutAProjectTheTablesRefuse) {
                                      "\"title\":\"Lumerin\",\"icon\":\"exclamation\"}"));
 }
 
-TEST_F(DriveTest, HelpAndThePlotModuleAreTold) {
+TEST_F(DriveTest, HelpAndThePlotModuleAreReported) {
     const std::string base = folder.Write("bent");
     Drive(base + ".in", "key F1 1001\nkey F1 1013\nclick 1009\n", 0);
     EXPECT_THAT(lines[1], HasSubstr("{\"open\":\"file:///"));
@@ -219,7 +219,7 @@ TEST_F(DriveTest, AgainInAnInnerDialogClosesBothFirst) {
     EXPECT_EQ(lines, wanted);
 }
 
-TEST_F(DriveTest, WithoutThePlotModuleThePressIsTold) {
+TEST_F(DriveTest, WithoutThePlotModuleThePressIsReported) {
     DriveOptions options;
     options.project = folder.Write("pier") + ".in";
     options.format = 2;

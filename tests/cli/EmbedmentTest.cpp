@@ -75,7 +75,7 @@ TEST_F(EmbedmentCommandTest, AnEnvelopeIsNamedForWhatItIs) {
     EXPECT_THROW(ReadEnvelope("mean"), std::invalid_argument);
 }
 
-TEST_F(EmbedmentCommandTest, WritesPictureAndWorkbookAndTellsTheirPaths) {
+TEST_F(EmbedmentCommandTest, WritesPictureAndWorkbookAndPrintsTheirPaths) {
     options.picture = folder.Base("curve.svg");
     options.workbook = true;
     options.loadCase = 2;
@@ -131,14 +131,14 @@ TEST_F(EmbedmentCommandTest, ACaseThatTheStudyDoesNotHaveIsWrongUse) {
     EXPECT_TRUE(out.str().empty());
 }
 
-TEST_F(EmbedmentCommandTest, APictureThatCannotBeWrittenIsTold) {
+TEST_F(EmbedmentCommandTest, APictureThatCannotBeWrittenIsReported) {
     options.picture = folder.Base("nowhere/curve.svg");
     EXPECT_EQ(Run(), kExitIncomplete);
     EXPECT_THAT(err.str(), HasSubstr("curve.svg could not be written"));
     EXPECT_THAT(out.str(), Not(HasSubstr("curve.svg")));
 }
 
-TEST_F(EmbedmentCommandTest, AProjectWithoutAStudyIsTold) {
+TEST_F(EmbedmentCommandTest, AProjectWithoutAStudyIsReported) {
     std::filesystem::remove(base + ".PEL");
     EXPECT_EQ(Run(), kExitIncomplete);
     EXPECT_THAT(err.str(), HasSubstr("no embedment study"));

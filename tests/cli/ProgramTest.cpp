@@ -35,7 +35,7 @@ Outcome RunProgram(const std::string& arguments) {
 }
 
 // Whoever hands the program on hands on what its licences ask for.
-TEST(Program, TheLicencesLieBesideIt) {
+TEST(Program, TheLicencesAreBesideIt) {
     const auto read = [](const std::string& path) {
         std::ifstream file(path, std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(file), {});
@@ -122,7 +122,7 @@ TEST(Program, WhatIsSaidIsUtf8) {
     }
 }
 
-TEST(Program, ReportsDrivesAndTellsWhatWentWrong) {
+TEST(Program, ReportsDrivesAndNamesWhatWentWrong) {
     const SampleFolder folder;
     const std::string base = folder.Write("pier");
     const Outcome report = RunProgram("report " + base + ".in --table axial --clock 2026-11-14T08:30:00");

@@ -137,7 +137,7 @@ TEST_F(ReportTest, TheTitlePageAsASpreadsheetIsRefusedAloud) {
     EXPECT_EQ(out.str(), "");
 }
 
-TEST_F(ReportTest, ThePileHeadsMoveToTheSpreadsheetAndTheTablesBehindThemDoNot) {
+TEST_F(ReportTest, ThePileHeadsUseTheSpreadsheetAndTheTablesAfterThemDoNot) {
     const std::string base = folder.Write("pier");
     EXPECT_EQ(Report({base + ".in"}, {"pile-heads", "axial"}), kExitDone);
     EXPECT_EQ(out.str(),
@@ -171,7 +171,7 @@ TEST_F(ReportTest, TenProjectsOfWhichTwoAreBrokenGiveEight) {
     EXPECT_THAT(err.str(), HasSubstr("p7.PIL: "));
 }
 
-TEST_F(ReportTest, ABrokenProjectIsToldOnceForAllFormats) {
+TEST_F(ReportTest, ABrokenProjectIsReportedOnceForAllFormats) {
     const std::string base = folder.Write("pier");
     fs::remove(base + ".PLF");
     options.formats = {2, 1, 0};
@@ -179,7 +179,7 @@ TEST_F(ReportTest, ABrokenProjectIsToldOnceForAllFormats) {
     EXPECT_EQ(err.str(), base + ".in: " + base + ".PLF: the file was not found\n");
 }
 
-TEST_F(ReportTest, AForceFileThatIsTooShortIsToldAndTheReportGoesOn) {
+TEST_F(ReportTest, AForceFileThatIsTooShortIsReportedAndTheTablesAreWritten) {
     const std::string base = folder.Write("pier");
     const std::string forces = base + ".vmd";
     fs::resize_file(forces, fs::file_size(forces) - 3 * 68);
@@ -275,7 +275,7 @@ TEST_F(ReportTest, AForceFileThatChangesDuringTheRunEndsItWithThreeAndLeavesTheE
     EXPECT_THAT(buffer.str(), HasSubstr(other + "_Max_Axial_Forces_Pile_Heads.xml\n"));
 }
 
-TEST_F(ReportTest, ChosenCasesGoTheRoadOfTheDialog) {
+TEST_F(ReportTest, CasesAreChosenInTheDialog) {
     const std::string base = folder.Write("history");
     const std::string path = base + "_Max_Axial_Forces_Pile_Heads.txt";
     Report({base + ".in"}, {"axial"});

@@ -72,7 +72,7 @@ bool MustBeExpected(const std::string& line) {
     return line.starts_with("{\"focus\"") || line.starts_with("{\"message\"") || line.starts_with("refused");
 }
 
-TEST_P(ScriptFiles, SaysWhatItsScriptExpects) {
+TEST_P(ScriptFiles, PrintsWhatTheScriptExpects) {
     const ScriptFile script(fs::path(LUMERIN_SOURCE_DIR) / "tests/scripts" / GetParam());
     const SampleFolder folder;
     const bool wide = script.project == "wide-study";

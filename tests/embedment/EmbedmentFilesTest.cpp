@@ -32,7 +32,7 @@ TEST_F(EmbedmentFilesTest, TheBaseFileHasTheInputFilesNameWithItsOwnExtension) {
     EXPECT_FALSE(HasEmbedmentFile(inputFile));
 }
 
-TEST_F(EmbedmentFilesTest, TheStudyIsAskedForBehindTheProblemSection) {
+TEST_F(EmbedmentFilesTest, TheStudyIsRequestedAfterTheProblemSection) {
     EXPECT_TRUE(Requested(kProblem + "MPTE\nM= 1\n"));
     EXPECT_TRUE(Requested(kProblem + "9\n10\nMPTE study\nN= 4 m=1\n"));
     EXPECT_TRUE(Requested("TITLE\n" + kProblem + "MPTE\r\nM= 1\r\n"));

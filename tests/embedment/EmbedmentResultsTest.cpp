@@ -138,7 +138,7 @@ TEST_F(EmbedmentResultsTest, ABlankFirstLineLeavesATrialsHeaderUnread) {
     EXPECT_FALSE(results.IsTrialIncomplete(0));
 }
 
-TEST_F(EmbedmentResultsTest, LinesBehindTheEndMarkStillCount) {
+TEST_F(EmbedmentResultsTest, LinesAfterTheEndMarkStillCount) {
     WriteBase(std::string(" 1 1 0 2 10\nEOF\n") + kCaseOne);
     CEmbedmentResults results(inputFile, messages);
     results.LoadTrials();
@@ -146,7 +146,7 @@ TEST_F(EmbedmentResultsTest, LinesBehindTheEndMarkStillCount) {
     EXPECT_EQ(results.GetValue(0, 0, kMinAxial), 5.5);
 }
 
-TEST_F(EmbedmentResultsTest, TheEndMarkMayStandBehindBlanksAndBeforeNothing) {
+TEST_F(EmbedmentResultsTest, TheEndMarkMayFollowBlanksAndEndsTheLine) {
     Write("blanks", "  \tEOF\r\n");
     Write("behind", "EOF \n");
     Write("word", "EOFX\n");
@@ -182,7 +182,7 @@ TEST_F(EmbedmentResultsTest, FilesAreFoundWhateverTheCaseOfTheirNames) {
     EXPECT_FALSE(results.IsTrialIncomplete(1));
 }
 
-TEST_F(EmbedmentResultsTest, AMissingBaseFileIsTold) {
+TEST_F(EmbedmentResultsTest, AMissingBaseFileIsReported) {
     CEmbedmentResults results(inputFile, messages);
     EXPECT_THAT(messages.texts, ElementsAre("Error opening the base PEL results file."));
     EXPECT_EQ(results.GetTrialCount(), 0);
@@ -192,14 +192,14 @@ TEST_F(EmbedmentResultsTest, AMissingBaseFileIsTold) {
     EXPECT_EQ(results.GetTrialOrder(), CEmbedmentResults::kNoOrder);
 }
 
-TEST_F(EmbedmentResultsTest, ABaseFileWithoutANumberIsTold) {
+TEST_F(EmbedmentResultsTest, ABaseFileWithoutANumberIsReported) {
     WriteBase("\nno number here\n\n");
     CEmbedmentResults results(inputFile, messages);
     EXPECT_THAT(messages.texts, ElementsAre("Error reading PEL global data."));
     EXPECT_EQ(results.GetTrialCount(), 0);
 }
 
-TEST_F(EmbedmentResultsTest, AMissingTrialFileIsToldWhenItIsReadAllTheSame) {
+TEST_F(EmbedmentResultsTest, AMissingTrialFileIsReportedWhenItIsRead) {
     WriteBase(" 1 1 0 2 10\n");
     CEmbedmentResults results(inputFile, messages);
     results.ReadTrialFile((folder / "missing").string(), 0);

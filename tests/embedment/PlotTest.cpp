@@ -88,7 +88,7 @@ RecordingCanvas Drawn(const CPlot& plot) {
 
 }  // namespace
 
-TEST(Plot, AnswersTheIdsThatItWasTold) {
+TEST(Plot, ReturnsTheValuesThatWereSet) {
     CPlot plot;
     EXPECT_EQ(std::get<int>(plot.Get(kGraphElementCount)), 0);
     plot.Call(kGraphAddElement, {});
@@ -188,7 +188,7 @@ TEST(Plot, AZeroBetweenTheEndsHasALine) {
     EXPECT_EQ(zeroLines(-4.0, 0.0, 29.0), 2);
 }
 
-TEST(Plot, EverythingLiesInsideTheDrawing) {
+TEST(Plot, EverythingIsInsideTheDrawing) {
     for (const double width : {120.0, 580.0, 3000.0}) {
         for (const double height : {90.0, 306.0, 2000.0}) {
             RecordingCanvas canvas;

@@ -447,7 +447,7 @@ TEST_F(EmbedmentDialogTest, OneCompleteTrialHasNoRowToClickOn) {
     });
 }
 
-TEST_F(EmbedmentDialogTest, ExcelWritesTheGridAsItStands) {
+TEST_F(EmbedmentDialogTest, ExcelWritesTheGridAsItIs) {
     WriteStudy();
     Open([&](CMPTEDlg&, HeadlessDialog& front) {
         front.TypeText(IDC_STUDY_CASE, "2");
@@ -468,7 +468,7 @@ TEST_F(EmbedmentDialogTest, ExcelWritesTheGridAsItStands) {
                           "<Cell ss:StyleID=\"s74\"><Data ss:Type=\"String\">300.000000</Data></Cell>\r\n"));
 }
 
-TEST_F(EmbedmentDialogTest, PdfHandsTheGridAndThePictureToTheBuilder) {
+TEST_F(EmbedmentDialogTest, PdfPassesTheGridAndThePictureToTheBuilder) {
     WriteStudy();
     Open([&](CMPTEDlg&, HeadlessDialog& front) { ASSERT_TRUE(front.Click(IDC_STUDY_EXPORT)); }, 0,
          kFormatPdf);

@@ -47,7 +47,7 @@ TEST(ResultTables, AreSizedBySectionsSlotsAndExtremesAndHoldZeros) {
 }
 
 // [support][slot][kind], and by bearing for each of its rows.
-TEST(ResultTables, HaveRoomForTheSectionsOfACap) {
+TEST(ResultTables, HaveEntriesForTheSectionsOfACap) {
     CapShape shape = TwoColumns();
     shape.bearingNodes = {{7, 8}, {8}};
     shape.family = kFamilyArema;

@@ -92,7 +92,7 @@ TEST(SectionMaxima, EqualEndsGiveJForForcesAndIForTheRatio) {
     EXPECT_EQ(model.results.pileDc.At(0, 0), RecordAt(0, 0, 0, 0, kEndI));
 }
 
-TEST(SectionMaxima, OnATieTheEarliestCaseMemberAndElementStand) {
+TEST(SectionMaxima, OnATieTheEarliestCaseMemberAndElementAreKept) {
     SearchedPier model(Piles(2, 2, 2));
     // 9.0 at: case 0 pile 1 element 0 I, then J of the same element, pile 1 element 1, case 1 pile 0.
     model.SetForce(0, 2, kEndI, kF22, 9.0F);
@@ -131,7 +131,7 @@ TEST(SectionMaxima, RatioExtremeOfTheForceTableMayBeFarBelowZero) {
     ExpectNothing(model.results.pileDc, 0, 0);
 }
 
-TEST(SectionMaxima, NotANumberIsSkippedBehindTheSeed) {
+TEST(SectionMaxima, NotANumberIsSkippedAfterTheSeed) {
     SearchedPier model(Piles(1, 2, 1));
     model.SetForce(0, 0, kEndI, kF22, kNaN);
     model.SetForce(0, 1, kEndJ, kF22, kNaN);
@@ -144,7 +144,7 @@ TEST(SectionMaxima, NotANumberIsSkippedBehindTheSeed) {
     EXPECT_EQ(model.results.pileDc.At(0, 0), RecordAt(0, 0, 0, 0, kEndJ));
 }
 
-TEST(SectionMaxima, NotANumberAsTheSeedStands) {
+TEST(SectionMaxima, NotANumberAsTheSeedIsKept) {
     SearchedPier model(Piles(1, 2, 2));
     model.SetForce(0, 0, kEndJ, kAxial, kNaN);
     model.SetForce(0, 1, kEndJ, kAxial, 1000.0F);

@@ -104,7 +104,7 @@ TEST_F(DialogTest, ALinkTextReportsItsClickAndAPlainTextDoesNot) {
     });
 }
 
-TEST_F(DialogTest, AnEditThatLosesTheFocusSaysSoBeforeTheButtonIsPressed) {
+TEST_F(DialogTest, AnEditReportsTheLossOfFocusBeforeTheButtonIsPressed) {
     TestDialog dialog;
     Run(dialog, [&](HeadlessDialog& front) {
         front.Focus(18);
@@ -132,7 +132,7 @@ TEST_F(DialogTest, ASpinStepMovesItsEditAndStopsAtTheEndOfItsRange) {
     });
 }
 
-TEST_F(DialogTest, AComboChoiceIsTold) {
+TEST_F(DialogTest, AComboChoiceIsNotified) {
     TestDialog dialog;
     Run(dialog, [&](HeadlessDialog& front) {
         dialog.combo.AddString("one");
@@ -220,7 +220,7 @@ TEST_F(DialogTest, ADialogOpenedByAPressIsDrivenInsideThePress) {
     EXPECT_EQ(sink.dialogs.size(), 2U);
 }
 
-TEST_F(DialogTest, AFileFaultInAHandlerIsToldAndTheDialogLivesOn) {
+TEST_F(DialogTest, AFileFaultInAHandlerIsReportedAndTheDialogStaysOpen) {
     TestDialog dialog;
     dialog.onCommand = [](int id, Notice) {
         if (id == 15) throw CFileException(CFileException::badFormat, "p.PLF", "the mark is wrong");

@@ -58,7 +58,7 @@ TEST_F(FileTest, AnExactNameGoesBeforeOthersAndByteOrderDecidesAmongThem) {
     EXPECT_EQ(FindFileAnyCase(Path("a.Plf")), upper);
 }
 
-TEST_F(FileTest, ReadsSeeksAndTellsItsLength) {
+TEST_F(FileTest, ReadsSeeksAndReturnsItsLength) {
     CFile file(Write("data", "0123456789"));
     std::array<char, 16> buffer{};
     EXPECT_EQ(file.Length(), 10);

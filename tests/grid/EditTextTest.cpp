@@ -43,7 +43,7 @@ TEST(NumberFilter, InModeFourNothingElsePasses) {
     EXPECT_EQ(TypedAtEnd(kZeroOrOne, "1", "5-.a2\b"), "1");
 }
 
-TEST(NumberFilter, TheCaretStandsBehindADigitOfModeFour) {
+TEST(NumberFilter, TheCaretIsAfterADigitOfModeFour) {
     EditText edit{"0", 0, 1};
     EXPECT_EQ(FilterNumber(edit, kZeroOrOne, '1'), FilterResult::replaced);
     EXPECT_EQ(edit.start, 1);

@@ -61,7 +61,7 @@ TEST_F(GridClipboard, PastingOnAReadOnlyHeadingChangesNothing) {
     }
 }
 
-TEST_F(GridClipboard, PastingPassesReadOnlyCellsByBehindTheStart) {
+TEST_F(GridClipboard, PastingSkipsReadOnlyCellsAfterTheStart) {
     Build(1, 3);
     m_grid.SetCellState(0, 1, kCellReadOnly);
     EXPECT_TRUE(m_grid.PasteAt(0, 0, "a\tb\tc"));

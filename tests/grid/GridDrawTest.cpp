@@ -107,7 +107,7 @@ TEST_F(GridDraw, HeadingsHaveTheColourOfButtonsUnlessACellHasItsOwn) {
     EXPECT_EQ(background(50, 20), "fill 654321");
 }
 
-TEST_F(GridDraw, ATextWithoutRoomIsLeftOut) {
+TEST_F(GridDraw, ATextWithoutSpaceIsLeftOut) {
     Build(1, 3);
     m_grid.SetColumnWidth(0, 8);  // 7 without its line, 1 within the margins
     m_grid.SetColumnWidth(1, 7);  // 6 and none

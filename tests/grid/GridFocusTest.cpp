@@ -187,7 +187,7 @@ TEST_F(GridFocus, ScrollingIntoViewMovesNoFurtherThanNeeded) {
     EXPECT_EQ(m_grid.FirstVisibleCell(), (CCellID{2, 1}));
 }
 
-TEST_F(GridFocus, CellsLieBehindTheFixedOnes) {
+TEST_F(GridFocus, CellsFollowTheFixedOnes) {
     Build(50, 3, {250, 200});
     m_grid.SetFixedRowCount(1);
     m_grid.ScrollCellIntoView(30, 0);

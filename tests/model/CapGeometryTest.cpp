@@ -91,7 +91,7 @@ TEST(CapGeometry, CountsThatTheModelDoesNotHoldAllocateNothing) {
     EXPECT_LE(model.pier.m_CapPointX.size(), 7U);
 }
 
-TEST(CapBearings, OneRowStandsInItsOwnOrderWithCode2) {
+TEST(CapBearings, OneRowKeepsItsOwnOrderWithCode2) {
     CapShape shape = TwoColumns();
     shape.bearingNodes = {{8, 6, 13, 99}};
     const CapModel model(shape);

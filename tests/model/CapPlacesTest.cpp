@@ -38,7 +38,7 @@ Found Step(const CPier& pier, int direction, CCapPlace place) {
 
 }  // namespace
 
-TEST(CapPlaces, FacesLieInTheMemberOfTheirSide) {
+TEST(CapPlaces, FacesAreInTheMemberOfTheirSide) {
     const CapModel model(TwoColumns());
     EXPECT_EQ(Locate(model.pier, 1, 0, 8, kShear), (Found{0, 0, 1, 0.6}));    // (8 - 5) / 5
     EXPECT_EQ(Locate(model.pier, 1, 3, 12, kShear), (Found{1, 0, 0, 0.2}));   // (12 - 10) / 10
@@ -112,7 +112,7 @@ TEST(CapPlaces, CantileversAreSearchedBeforeSpans) {
     EXPECT_EQ(Of(place), (Found{0, 1, 1, 0.0}));
 }
 
-TEST(CapPlaces, MissingElementsAreTold) {
+TEST(CapPlaces, MissingElementsAreReported) {
     const CapModel model(TwoColumns());
     RecordedMessages messages;
     EXPECT_EQ(model.pier.GetElementFromNode(99, 0, messages), -1);
@@ -161,7 +161,7 @@ TEST(CapPlaces, StepsOverASingleSupportGoFromCantileverToCantilever) {
     EXPECT_EQ(Step(model.pier, 0, {0, 0, 1, 1.0}), (Found{0, 1, 0, 0.0}));
 }
 
-TEST(CapPlaces, StepBehindTheLastSpanStaysWithoutCantilevers) {
+TEST(CapPlaces, StepAfterTheLastSpanStaysWithoutCantilevers) {
     const CapModel model(TwoColumnsWithoutCantilevers());
     EXPECT_EQ(Step(model.pier, 0, {1, 0, 1, 1.0}), (Found{1, 0, 1, 0.0}));
 }

@@ -101,7 +101,7 @@ TEST_F(DataSet, RowsOfCombinationsHaveAShortForm) {
     EXPECT_EQ(data.GetLoadLabel(true, true), "Load Combs");
 }
 
-TEST_F(DataSet, OnlyTheFirstPierTellsOfCombinations) {
+TEST_F(DataSet, OnlyTheFirstPierDecidesOnCombinations) {
     AddPier();
     AddPier().m_bCombinations = true;
     EXPECT_EQ(data.GetLoadLabel(false, false), "Load Case");

@@ -56,7 +56,7 @@ TEST(NewPier, DiesInPeaceWithoutLoadCases) {
     EXPECT_EQ(pier.m_nCapShearPoints, 0);
 }
 
-TEST(Members, StandInTheElementListOneBehindTheOther) {
+TEST(Members, FollowOneAnotherInTheElementList) {
     const CPier pier = Allocated(AllMembers(), 1);
     // piles 0-2, 3-5; columns 6-7, 8-9; left cantilever 10-12; spans 13-17; right 18-20; extra 21, 22
     EXPECT_EQ(pier.ElementCount(), 23);

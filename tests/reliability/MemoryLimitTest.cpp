@@ -31,7 +31,7 @@ int StatusWithRoom(const BrokenProject& project, rlim_t bytes) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
 }
 
-TEST(MemoryLimit, AForceFileMayBeLargerThanTheRoomOfTheProcess) {
+TEST(MemoryLimit, AForceFileMayBeLargerThanTheMemoryOfTheProcess) {
     if (kSanitized) GTEST_SKIP() << "the sanitizers reserve terabytes";
     const BrokenProject project("pier", kManyCases);
     const auto fileBytes = std::filesystem::file_size(project.Base() + ".vmd");

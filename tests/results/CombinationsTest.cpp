@@ -124,7 +124,7 @@ TEST(Combinations, LoadFactorDesignHasOneClassAndNoFirstCases) {
     EXPECT_THAT(FirstCases(project), testing::ElementsAre(-1, -1, -1, -1));
 }
 
-TEST(Combinations, AnUnknownCodeIsToldForEachCombinationAndCountsAsService) {
+TEST(Combinations, AnUnknownCodeIsReportedForEachCombinationAndCountsAsService) {
     ResultProject project;
     WithFamily(project, 2, 3, "101 1 2\n318 3 1\n");
     ASSERT_TRUE(project.Load());
@@ -133,7 +133,7 @@ TEST(Combinations, AnUnknownCodeIsToldForEachCombinationAndCountsAsService) {
     EXPECT_EQ(First(project).m_LoadCases[2].m_sLimitState, "SLD-GROUP-VIII");
 }
 
-TEST(Combinations, AnUnknownCodeIsToldOnceForACombinationThatManyRowsTake) {
+TEST(Combinations, AnUnknownCodeIsReportedOnceForACombinationThatManyRowsUse) {
     ResultProject project;
     project.substructures[0].piles = 0;
     project.substructures[0].pileSections.clear();
@@ -148,7 +148,7 @@ TEST(Combinations, AnUnknownCodeIsToldOnceForACombinationThatManyRowsTake) {
     EXPECT_EQ(First(project).m_LoadCases[1999].m_nLimitClass, 1);
 }
 
-TEST(Combinations, AnUnknownCodeIsToldForEachSubstructure) {
+TEST(Combinations, AnUnknownCodeIsReportedForEachSubstructure) {
     ResultProject project;
     project.substructures.resize(3);
     project.substructures[1].codeFamily = 1;  // every code has the one class there

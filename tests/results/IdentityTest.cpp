@@ -34,7 +34,7 @@ ResultSubstructure MakeBent() {
 
 }  // namespace
 
-TEST(Identity, PilesAreNumberedBehindTheFrame) {
+TEST(Identity, PilesAreNumberedAfterTheFrame) {
     ResultProject project;
     project.substructures[0] = MakePier();
     project.Write();
@@ -126,7 +126,7 @@ TEST(Identity, AColumnWithoutInteriorNodesHasOneElementAndACountOfNone) {
     EXPECT_EQ(pier.Element(pier.m_Frame.m_Beam.m_nFirstElement).m_nNodeI, 4);
 }
 
-TEST(Identity, AMastsAndWallsSectionsStandInTheFirstColumnAlone) {
+TEST(Identity, AMastsAndWallsSectionsAreInTheFirstColumnAlone) {
     ResultProject project;
     ResultSubstructure& sub = project.substructures[0];
     sub = MakePier();

@@ -110,7 +110,7 @@ TEST(LoadProject, AFileWithoutItsMarkIsNamed) {
     }
 }
 
-TEST(LoadProject, CountsThatLieAreNamed) {
+TEST(LoadProject, WrongCountsAreNamed) {
     ResultProject project;
     project.Write();
     project.WriteFile(".TWR", SeqBytes().Ints({-1}).End());
@@ -135,7 +135,7 @@ TEST(LoadProject, CountsThatLieAreNamed) {
     ExpectFault(project, "p.PLF", "structure type 12 is out of range (-1 to 8)");
 }
 
-TEST(LoadProject, AForceFileThatCannotBeOpenedIsToldAsThatWhateverTheModelsSize) {
+TEST(LoadProject, AForceFileThatCannotBeOpenedIsReportedAsThatWhateverTheModelsSize) {
     // 14 elements and 2,000,010 of them: their forces in two cases are 1,568 bytes and 224 MB.
     for (const int columnNodes : {1, 999999}) {
         ResultProject project;

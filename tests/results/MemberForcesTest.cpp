@@ -198,7 +198,7 @@ TEST(MemberForces, AFirstGroupKeepsTheFramesOfLaterSubstructuresUnread) {
     EXPECT_NE(GetForce(project.Forces(0, pier.PileElement(0, 0), 1), kEndI, kAxial), 0.0);
 }
 
-TEST(MemberForces, AShortFileRepeatsTheRecordBeforeAndSaysSoOnce) {
+TEST(MemberForces, AShortFileRepeatsTheRecordBeforeAndIsReportedOnce) {
     ResultProject project;
     project.Write();
     std::filesystem::resize_file(project.Path(".vmd"), 68 * 6 + 20);

@@ -88,7 +88,7 @@ TEST(PierHeader, TheLastSubstructuresUnitsHeadAllTables) {
     EXPECT_EQ(project.Pier().m_nUnits, 1);
 }
 
-TEST(PierHeader, UnitsThreeStandForUsUnits) {
+TEST(PierHeader, UnitsThreeAreUsUnits) {
     ResultProject project;
     for (const auto& [word, units, force, moment] : {std::tuple{3, 0, "kips", "kip-ft"},
                                                      {0, 0, "kips", "kip-ft"},
@@ -114,7 +114,7 @@ TEST(PierHeader, APilesWidthComesFromItsFirstElementsRecord) {
     EXPECT_EQ(project.Pier().m_Piles[1].m_dDimension, 12.0);
 }
 
-TEST(PierHeader, NoColumnSectionsStandAsOne) {
+TEST(PierHeader, NoColumnSectionsCountAsOne) {
     ResultProject project;
     project.Write();
     ASSERT_TRUE(project.Load());
@@ -168,7 +168,7 @@ TEST(PierHeader, AllWordsOfAnUnreadFrameTogetherTakeNoMemory) {
     }
 }
 
-TEST(PierHeader, APierBehindAGroupKeepsItsFrameAndALieLeavesItOut) {
+TEST(PierHeader, APierAfterAGroupKeepsItsFrameAndAWrongTypeLeavesItOut) {
     ResultProject project;
     project.substructures = {ResultSubstructure{}, MakePier()};
     project.Write();
@@ -338,7 +338,7 @@ TEST(PierHeader, AGroupHasNoMask) {
     EXPECT_EQ(project.Data().m_nElementGaps, 2);
 }
 
-TEST(PierHeader, APiersOwnNodesStandWithoutItsFoundations) {
+TEST(PierHeader, APiersOwnNodesAreReadWithoutItsFoundations) {
     ResultProject project;
     project.substructures[0] = MakePier();
     project.Write();

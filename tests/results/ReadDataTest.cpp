@@ -107,7 +107,7 @@ TEST(PierSections, ATaperedColumnGoesOnHalfAStep) {
     EXPECT_EQ(last.m_dG, 2.0);
 }
 
-TEST(PierSections, SquaredWidthsBecomeTheirRootsWhereAZStandsOnTheLine) {
+TEST(PierSections, SquaredWidthsBecomeTheirRootsOnALineWithAZ) {
     ResultProject project;
     ASSERT_TRUE(LoadPier(project,
                          "PIERXSEC\nP= 1 L= 1\nskipped\nN= 3\nC= 0 B= 0 R= 0\nW= 1296.0 Z= 16.0 G= 4\n"
@@ -119,7 +119,7 @@ TEST(PierSections, SquaredWidthsBecomeTheirRootsWhereAZStandsOnTheLine) {
     EXPECT_EQ(Width(project, Frame(project).m_Beam.m_nFirstElement), 49.0);
 }
 
-TEST(PierSections, ALineMayGoOnBehindABackslashAndKeysMayBeSmall) {
+TEST(PierSections, ALineMayContinueAfterABackslashAndKeysMayBeSmall) {
     ResultProject project;
     ASSERT_TRUE(LoadPier(project,
                          "PIERXSEC\nP= 1 L= 0\nskipped\nN= 3\nc= 0 B= 0 R= 0\n s= 3 d= 48.0 \\ dropped\n"
@@ -139,7 +139,7 @@ TEST(PierSections, AValueThatIsNoNumberLeavesTheField) {
     EXPECT_EQ(Width(project, project.Pier().ColumnElement(0, 1)), 0.0);
 }
 
-TEST(PierSections, ABentsBlockHasItsOneColumnLineAndFlagsStand) {
+TEST(PierSections, ABentsBlockHasItsOneColumnLineAndFlagsAreKept) {
     ResultProject project;
     project.substructures = {MakePier(), MakePier()};
     project.Write();

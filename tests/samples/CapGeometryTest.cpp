@@ -99,7 +99,7 @@ TEST(CapPoints, BentStopsInsideItsFirstPile) {
     EXPECT_TRUE(Has(x, 396.0));     // right face of the last, 384 + 12
 }
 
-TEST(CapPoints, CapWithoutCantileversSaysMinusOneNode) {
+TEST(CapPoints, CapWithoutCantileversHasMinusOneNode) {
     const SampleFolder folder;
     const auto model = reader::ReadModel(folder.Write("history"), 0);
     EXPECT_EQ(model.cantilevers, 0);

@@ -190,7 +190,7 @@ TEST_P(Samples, PilesAreMostlyInCompression) {
     }
 }
 
-TEST_P(Samples, RatiosLieBetweenZeroAndALittleOverOne) {
+TEST_P(Samples, RatiosAreBetweenZeroAndALittleOverOne) {
     for (std::size_t k = 0; k < m_models.size(); ++k) {
         double most = 0.0;
         for (int c = 0; c < m_cases; ++c) {

@@ -29,7 +29,7 @@ class Framing : public testing::Test {
     SampleFolder m_folder;
 };
 
-TEST_F(Framing, IntegerStandsLowByteFirstBetweenItsLengths) {
+TEST_F(Framing, IntegerIsStoredLowByteFirstBetweenItsLengths) {
     SequentialFile file(m_folder.Base("file"));
     file.Write(Record().Int(0x01020304));
     file.Write(Record().Int(-2));
@@ -38,7 +38,7 @@ TEST_F(Framing, IntegerStandsLowByteFirstBetweenItsLengths) {
     EXPECT_EQ(reader::ReadAll(m_folder.Base("file")), expected);
 }
 
-TEST_F(Framing, RealStandsAsAnIeeeDouble) {
+TEST_F(Framing, RealIsStoredAsAnIeeeDouble) {
     SequentialFile file(m_folder.Base("file"));
     file.Write(Record().Real(-2.0));  // sign and exponent: 0xC000...
     file.Close();
@@ -80,7 +80,7 @@ TEST_F(Framing, RecordsOfManySizesComeBackFromTheReader) {
     EXPECT_EQ(reader::Records(reader::ReadAll(m_folder.Base("file"))), written);
 }
 
-TEST_F(Framing, FullDeviceIsToldByName) {
+TEST_F(Framing, FullDeviceIsReportedByName) {
     if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no full device here";
     samples::OutputFile file("/dev/full");
     file.Write(std::string_view("x"));
@@ -93,7 +93,7 @@ TEST_F(Framing, FullDeviceIsToldByName) {
     }
 }
 
-TEST_F(Framing, FolderThatIsMissingIsToldByName) {
+TEST_F(Framing, FolderThatIsMissingIsReportedByName) {
     EXPECT_THROW(samples::OutputFile(m_folder.Base("missing/file")), samples::SampleError);
 }
 

@@ -128,7 +128,7 @@ TEST(WholeProject, AnotherPresetUnderTheSameNameLeavesNothingOfTheFirst) {
     EXPECT_EQ(AllFiles(folder.Path()), expected);
 }
 
-TEST(WholeProject, SubstructuresBehindTheFirstCarryTheirNumber) {
+TEST(WholeProject, SubstructuresAfterTheFirstHaveTheirNumber) {
     const SampleFolder folder;
     const std::string base = folder.Write("bridge");
     for (const char* suffix : {".PLF", ".PIL", ".pls", ".ash", ".vmd"}) {
@@ -153,7 +153,7 @@ Outcome RunWith(std::vector<std::string> arguments) {
     return outcome;
 }
 
-TEST(CommandLine, WritesTheProjectAndTellsItsInputFile) {
+TEST(CommandLine, WritesTheProjectAndPrintsItsInputFile) {
     const SampleFolder folder;
     const auto outcome = RunWith({folder.Path().string(), "--preset", "group", "--name", "quay", "--cases",
                                   "3", "--piles", "2x5", "--seed", "9"});

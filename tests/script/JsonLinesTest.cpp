@@ -15,7 +15,7 @@ class JsonLinesTest : public testing::Test {
     JsonLines lines{out};
 };
 
-TEST_F(JsonLinesTest, KeysStandInTheirFixedOrder) {
+TEST_F(JsonLinesTest, KeysAreInTheirFixedOrder) {
     lines.Dialog("Lumerin Generator");
     lines.Message("a\n\"b\"", "Lumerin", MessageIcon::exclamation);
     lines.Row(0, {"Load Case", "Include"});
@@ -27,7 +27,7 @@ TEST_F(JsonLinesTest, KeysStandInTheirFixedOrder) {
               "{\"result\":1}\n");
 }
 
-TEST_F(JsonLinesTest, CheckedStandsForRadioAndCheckAndSelectionForACombo) {
+TEST_F(JsonLinesTest, CheckedIsForRadioAndCheckAndSelectionForACombo) {
     ControlState state;
     state.id = 1004;
     state.text = "Go";

@@ -123,7 +123,7 @@ TEST_F(LaunchTest, TrimsTheModuleNamesCharactersOffTheHostPath) {
     EXPECT_EQ(g_HostProgramPath, "C:\\Hosts\\Tarnsway.ex");
 }
 
-TEST_F(LaunchTest, TheModelIsReleasedBehindTheDialog) {
+TEST_F(LaunchTest, TheModelIsReleasedAfterTheDialog) {
     const SampleFolder folder;
     const std::string base = folder.Write("pier");
     Launch(base + ".in", 2, [](HeadlessDialog& dialog) {

@@ -126,7 +126,7 @@ TEST_F(OutputFiles, WorkbooksOfGridsOpenInTheSpreadsheetProgram) {
     EXPECT_EQ(Messages(), Texts{});
 }
 
-TEST_F(OutputFiles, AWorkbookThatDoesNotOpenIsToldInTheWordsOfTheStart) {
+TEST_F(OutputFiles, AWorkbookThatDoesNotOpenIsReportedInTheWordsOfTheStart) {
     headless::State().shellCode = 2;
     OpenInSpreadsheet("C:\\jobs\\pier_Name.xml");
     EXPECT_EQ(Messages(), Texts{"The application specified to open the file was not found on this machine."});
@@ -198,7 +198,7 @@ TEST_F(OutputFiles, StayWhenTheSpreadsheetProgramIsMissing) {
     EXPECT_TRUE(scratch.Has("table.xml"));
 }
 
-TEST_F(OutputFiles, FailedStartsAreToldInTheirWords) {
+TEST_F(OutputFiles, FailedStartsAreReportedInTheirWords) {
     const std::vector<std::pair<int, std::string>> failures{
         {2, "The application specified to open the file was not found on this machine."},
         {3, "The specified path was not found."},

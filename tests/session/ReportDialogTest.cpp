@@ -304,7 +304,7 @@ TEST_F(ReportRunTest, AStartOnTextLeavesTheFooterFlagsSet) {
     });
 }
 
-TEST_F(ReportRunTest, AViewerThatFailsIsToldAndTheTableStays) {
+TEST_F(ReportRunTest, AViewerThatFailsIsReportedAndTheTableStays) {
     const std::string base = Project("pier");
     headless::State().shellCode = 2;
     Launch(base + ".in", 0, [&](HeadlessDialog& dialog) {
@@ -443,7 +443,7 @@ TEST_F(ReportRunTest, PileHeadsInPdfAskAndYesMovesTheFormatAlone) {
     });
 }
 
-TEST_F(ReportRunTest, PileHeadsBehindTextKeepTheFooterOff) {
+TEST_F(ReportRunTest, PileHeadsAfterTextKeepTheFooterOff) {
     const std::string base = Project("pier");
     Launch(base + ".in", 0, [&](HeadlessDialog& dialog) {
         dialog.Click(IDC_FORMAT_TEXT);
@@ -512,7 +512,7 @@ TEST_F(ReportRunTest, EnvelopesCallThePlotModuleWithEightArguments) {
     EXPECT_TRUE(sink.starts.empty());
 }
 
-TEST_F(ReportRunTest, AMissingPlotModuleIsToldByNameOrByTheSystem) {
+TEST_F(ReportRunTest, AMissingPlotModuleIsReportedByNameOrByTheSystem) {
     const std::string base = Project("bent");
     sink.moduleResult = services::PlotModuleResult::moduleMissing;
     sink.moduleText = "The specified procedure could not be found.";
@@ -529,7 +529,7 @@ TEST_F(ReportRunTest, AMissingPlotModuleIsToldByNameOrByTheSystem) {
     });
 }
 
-TEST_F(ReportRunTest, HelpOpensThePageOrSaysThatThereIsNone) {
+TEST_F(ReportRunTest, HelpOpensThePageOrReportsThatThereIsNone) {
     headless::State().modulePath = "  C:\\Program Files\\Host\\Lumerin.dll";
     ShowOverModel(0, [&](HeadlessDialog& dialog) {
         for (const int id : {IDC_FULL_REPORT, IDC_TITLE_PAGE, IDC_MAX_AXIAL, IDC_EXTRA_MEMBERS,

@@ -157,7 +157,7 @@ TEST_F(Catalogue, CentredTextHasHalfTheRestBeforeIt) {
     EXPECT_EQ(CenterText(14, std::string(90, 'x')), std::string(90, 'x'));
 }
 
-TEST_F(Catalogue, TheTitlePageStandsInTheMiddleOfAPage) {
+TEST_F(Catalogue, TheTitlePageIsInTheMiddleOfAPage) {
     StoredStream out(Path());
     WriteTitlePageText(options, out);
     out.Close();

@@ -54,7 +54,7 @@ TEST_F(ColumnHeads, CombinationsNameTheirFamily) {
         "  (Ratio)\n");
 }
 
-TEST_F(ColumnHeads, AremasWordIsABlankWiderInTheColumnRatiosAndNarrowerBehindTheTension) {
+TEST_F(ColumnHeads, AremasWordIsABlankWiderInTheColumnRatiosAndNarrowerAfterTheTension) {
     MakeCombinations(Pier(), kFamilyArema, {});
     EXPECT_EQ(Lines(kTableColumnDc).substr(0, 58),
               " PROP  COLUMN  ELEM  NODE  LOAD           AREMA  I/J      ");

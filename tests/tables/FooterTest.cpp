@@ -25,7 +25,7 @@ TEST_F(Footer, IsEmptyWhenItIsOff) {
     EXPECT_EQ(FooterText(options), "");
 }
 
-TEST_F(Footer, PartsStandInAFixedOrderWithTheirSeparators) {
+TEST_F(Footer, PartsAreInAFixedOrderWithTheirSeparators) {
     options.footer.date = options.footer.time = options.footer.version = options.footer.fileName = true;
     options.projectBasePath = "C:\\b\\p";
     EXPECT_EQ(FooterText(options), "Saturday, November 14, 2026 8:30:05 AM, v5.2.1, C:\\b\\p.in");
@@ -53,7 +53,7 @@ TEST_F(Footer, ALongFileNameIsCutAndEndsInTxt) {
     EXPECT_EQ(FooterText(options), std::string(74, 'n') + "....txt");
 }
 
-TEST_F(Footer, AFileNameOfExactlyTheRoomIsNotShown) {
+TEST_F(Footer, AFileNameOfExactlyTheWidthIsNotShown) {
     NameAlone("C:\\", std::string(78, 'n'));  // 81 characters with its ending
     EXPECT_EQ(FooterText(options), "");
 }
@@ -80,7 +80,7 @@ TEST_F(Footer, APathIsShownInTheCodePage) {
               "e.in");
 }
 
-TEST_F(Footer, ThePathsRoomCountsCharacters) {
+TEST_F(Footer, ThePathsWidthCountsCharacters) {
     std::string umlauts, western;
     for (int i = 0; i < 70; ++i) umlauts += "\xC3\xA4", western += '\xE4';
     NameAlone("C:\\" + umlauts + "\\", "p123");  // 74 + 4 + 3 characters
@@ -93,7 +93,7 @@ TEST_F(Footer, ThePathsRoomCountsCharacters) {
     EXPECT_EQ(FooterText(options), "");
 }
 
-TEST_F(Footer, TheRoomIsWhatTheTextBeforeAndItsSeparatorLeave) {
+TEST_F(Footer, TheWidthIsWhatTheTextBeforeAndItsSeparatorLeave) {
     NameAlone("C:\\b\\", std::string(70, 'n'));
     options.footer.version = true;
     // "v5.2.1, " takes 8 of 81: 73 are left, as many as the bare name has.

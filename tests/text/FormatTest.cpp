@@ -123,7 +123,7 @@ TEST(Fixed, WidthPadsOnTheLeftAndNeverCuts) {
     EXPECT_EQ(FormatFixed(kNotANumber, 2, 6), "   nan");
 }
 
-TEST(Fixed, AppendsBehindWhatIsThere) {
+TEST(Fixed, AppendsAfterWhatIsThere) {
     std::string text = "FAX";
     AppendFixed(text, 1.5, 2, 6);
     AppendInt(text, 42, 4);

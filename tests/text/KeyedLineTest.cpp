@@ -41,7 +41,7 @@ TEST_F(KeyedFile, ABackslashContinuesTheLine) {
     EXPECT_EQ(LinesOf("S= 3 D= 48.0 \\\n W= 24.0\nnext\n"), (Lines{"S= 3 D= 48.0  W= 24.0", "next"}));
 }
 
-TEST_F(KeyedFile, WhatStandsBehindTheBackslashIsDropped) {
+TEST_F(KeyedFile, WhatFollowsTheBackslashIsDropped) {
     EXPECT_EQ(LinesOf("S= 3 \\ W= 1 \\ Z= 2\nD= 5\n"), (Lines{"S= 3 D= 5"}));
 }
 

@@ -102,7 +102,7 @@ TEST_F(GridExport, TheStyleFollowsTheTypeCode) {
         EXPECT_EQ(Cell(type, "1"), Number(styles[type - 2], "1.0000000000"));
 }
 
-TEST_F(GridExport, OtherCodesKeepTheTextAsItStands) {
+TEST_F(GridExport, OtherCodesKeepTheTextAsItIs) {
     const std::string text = "<Cell ss:StyleID=\"s74\"><Data ss:Type=\"String\">a&b 1</Data></Cell>";
     EXPECT_EQ(Cell(0, "a&b 1"), text);
     EXPECT_EQ(Cell(9, "a&b 1"), text);
@@ -189,7 +189,7 @@ TEST_F(GridImage, AGridWithoutColumnsIsRefusedAndWritesNoFile) {
     EXPECT_FALSE(scratch.Has("PdfTemp.txt"));
 }
 
-TEST_F(GridImage, AGridWithoutRowsAndColumnsIsToldTwice) {
+TEST_F(GridImage, AGridWithoutRowsAndColumnsIsReportedTwice) {
     CPdfExport pdf = Make();
     EXPECT_FALSE(pdf.Write(m_messages));
     EXPECT_EQ(m_messages.texts.size(), 2u);
@@ -265,7 +265,7 @@ TEST_F(GridImage, ACommaInACellIsNotQuoted) {
     EXPECT_THAT(Write(pdf), EndsWith("[iChunkSize]auto\r\n1,5,x"));
 }
 
-TEST_F(GridImage, ACellsImageStandsBehindItsText) {
+TEST_F(GridImage, ACellsImageFollowsItsText) {
     Build(1, 2);
     m_grid.SetCellText(0, 0, "a");
     m_grid.SetCellText(0, 1, "b");
@@ -274,7 +274,7 @@ TEST_F(GridImage, ACellsImageStandsBehindItsText) {
     EXPECT_THAT(Write(pdf), EndsWith("\r\na,b{#pic.bmp}"));
 }
 
-TEST_F(GridImage, ExtraLinesFollowTheRowsAsManyAsTheNumberSays) {
+TEST_F(GridImage, ExtraLinesFollowTheRowsAsManyAsTheirNumber) {
     Build(1, 1);
     m_grid.SetCellText(0, 0, "a");
     CPdfExport pdf = Make();

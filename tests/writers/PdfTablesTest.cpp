@@ -148,7 +148,7 @@ TEST_F(PdfTables, ATableOfOnePageHasNoContinuation) {
     EXPECT_EQ(m_nLines, 51 + 2 + 2);
 }
 
-TEST_F(PdfTables, ARowAtLine51GoesToTheNextPageBehindTheHead) {
+TEST_F(PdfTables, ARowAtLine51IsOnTheNextPageAfterTheHead) {
     MakePileRatios(1, 44);
     const PdfFile file = Write(kTablePileDc);
     ASSERT_EQ(file.pages.size(), 2U);

@@ -112,7 +112,7 @@ TEST_F(PdfWriter, PageNumbersMoveLeftAsTheirTextGrows) {
     EXPECT_NE(file.Object(4 * 10).find("/Length 62 "), std::string::npos);
 }
 
-TEST_F(PdfWriter, StartxrefPointsBehindTheKeyword) {
+TEST_F(PdfWriter, StartxrefPointsAfterTheKeyword) {
     const PdfFile file = Write(true, 3, "", "f");
     const long position = file.NumberBehind("startxref\r\r\n");
     ASSERT_GT(position, 8);

@@ -134,7 +134,7 @@ TEST_F(SheetCaps, MomentTableWithoutCombinations) {
     EXPECT_EQ(xml::Fault(sheet), "");
 }
 
-TEST_F(SheetCaps, LimitStateStandsBehindTheLoadCase) {
+TEST_F(SheetCaps, LimitStateFollowsTheLoadCase) {
     Make(kFamilyLrfd);
     const std::string row = kPlace + Whole("23") + Whole("1") + TextCell("     STRENGTH-I") + TextCell("J");
     EXPECT_THAT(Written(kTableCapShear), HasSubstr(Label("Col 1 LF") + row + kShear));
@@ -245,7 +245,7 @@ TEST_F(SheetCaps, LabelsOfSupportKinds) {
 }
 
 // A support's section comes before a bearing at the same place, and behind one to the left of it.
-TEST_F(SheetCaps, RowsStandInOrderOfPosition) {
+TEST_F(SheetCaps, RowsAreInOrderOfPosition) {
     Make();
     Pier().m_BearingX[0] = 10.0;
     std::string sheet = Written(kTableCapMoment);
@@ -270,7 +270,7 @@ TEST_F(SheetCaps, SecondSubstructureBringsTheSlipInTheShearTable) {
                           "<Data ss:Type=\"String\">, Substructure  2:</Data></Cell>  </Row>\n"));
 }
 
-TEST_F(SheetCaps, CoordsAccompanyATableThatStandsAlone) {
+TEST_F(SheetCaps, CoordsAccompanyATableThatIsWrittenAlone) {
     Make();
     const std::pair<int, std::string> coords[] = {
         {kTableCapShear, lumerin::CoordsSheet(MakeReport(), kTableCapShear)},
@@ -283,7 +283,7 @@ TEST_F(SheetCaps, CoordsAccompanyATableThatStandsAlone) {
 }
 
 // A full report: one head, the tables that are valid in their order, no coordinates.
-TEST_F(SheetCaps, TablesOfAFullReportStandInOrderWithoutCoords) {
+TEST_F(SheetCaps, TablesOfAFullReportAreInOrderWithoutCoords) {
     MakePiers({{.type = kTypePier, .piles = 1, .columns = 1, .extraMembers = 1}});
     AllocateResults();
     GiveCap(0, 1);
