@@ -21,6 +21,11 @@ enum EmbedmentQuantity {
     kQuantityCount = 5,
 };
 
+// As the study's dialog and the title of its plot name them.
+inline constexpr std::array<const char*, kQuantityCount> kQuantityNames = {
+    "Lateral Displacement", "Lateral X-Displacement", "Lateral Y-Displacement", "Max Axial Force",
+    "Min Axial Force"};
+
 // The results of a minimum pile tip embedment study: a table by trial and load case. Each trial is an
 // analysis of its own with its own file, and one that has not run to its end has no results. Values that no
 // file gave are 0, whatever trial or case is asked for.

@@ -33,7 +33,7 @@ enum ControlFlags : unsigned {
     kNumbersOnly = 128,
 };
 
-struct DialogSpec {
+struct DialogTemplate {
     int id;
     const char* title;
     int width, height;  // dialog units, "Segoe UI" 9

@@ -11,7 +11,7 @@ namespace lumerin {
 
 namespace {
 
-std::size_t ControlIndex(const DialogSpec& spec, int id) {
+std::size_t ControlIndex(const DialogTemplate& spec, int id) {
     std::size_t index = 0;
     while (index < spec.controls.size() && spec.controls[index].id != id) ++index;
     return index;
@@ -19,7 +19,7 @@ std::size_t ControlIndex(const DialogSpec& spec, int id) {
 
 }  // namespace
 
-std::vector<int> RadioGroupOf(const DialogSpec& spec, int id) {
+std::vector<int> RadioGroupOf(const DialogTemplate& spec, int id) {
     std::vector<int> group;
     const std::size_t count = spec.controls.size();
     const std::size_t index = ControlIndex(spec, id);

@@ -33,7 +33,7 @@ void DDX_Text(CDataExchange& exchange, int id, int& value);
 
 // The radio buttons of the group that `id` belongs to, in resource order; empty when `id` is no radio button.
 // A group begins at a button marked so and ends before the next such one or before another kind of control.
-std::vector<int> RadioGroupOf(const DialogSpec& spec, int id);
+std::vector<int> RadioGroupOf(const DialogTemplate& spec, int id);
 
 // One line of a dialog's message map: identifiers first to last send the notice to the handler.
 template <class Dialog>
@@ -48,7 +48,7 @@ class CDialog : public CWnd {
   public:
     static const CRuntimeClass classCDialog;
 
-    explicit CDialog(const DialogSpec& spec) : m_spec(spec) {}
+    explicit CDialog(const DialogTemplate& spec) : m_spec(spec) {}
     const CRuntimeClass& GetRuntimeClass() const override { return classCDialog; }
 
     // Returns the result of EndDialog; -1 when the dialog could not be made.
@@ -60,7 +60,7 @@ class CDialog : public CWnd {
     void EnableItem(int id, bool enabled);
     void ShowItem(int id, bool visible);
 
-    const DialogSpec& Spec() const { return m_spec; }
+    const DialogTemplate& Spec() const { return m_spec; }
 
     // Called by the backend.
     virtual bool OnInitDialog();
@@ -89,7 +89,7 @@ class CDialog : public CWnd {
     }
 
   private:
-    const DialogSpec& m_spec;
+    const DialogTemplate& m_spec;
 };
 
 inline const CRuntimeClass CDialog::classCDialog{"CDialog", &CWnd::classCWnd};

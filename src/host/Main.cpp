@@ -16,6 +16,7 @@
 #include "host/Resources.h"
 #include "host/Token.h"
 #include "host/WindowDriver.h"
+#include "text/Paths.h"
 #include "text/Utf8.h"
 
 using namespace lumerin;
@@ -47,10 +48,6 @@ std::string FullPath(const std::string& path) {
     const DWORD length =
         GetFullPathNameA(path.c_str(), static_cast<DWORD>(full.size()), full.data(), nullptr);
     return length > 0 && length < full.size() ? std::string(full.data(), length) : path;
-}
-
-std::string FolderOf(const std::string& path) {
-    return path.substr(0, path.find_last_of('\\') + 1);
 }
 
 // When the dialogs are driven, the module answers this process.

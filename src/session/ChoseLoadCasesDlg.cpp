@@ -33,10 +33,10 @@ constexpr Colour kGridBackground = 0xd7d7d7;
 
 }  // namespace
 
-const DialogSpec g_LoadCaseDialogSpec{IDD_LOAD_CASES, "Choose Load Cases", 176, 222, true, kControls};
+const DialogTemplate g_LoadCaseDialogTemplate{IDD_LOAD_CASES, "Choose Load Cases", 176, 222, true, kControls};
 
 CChoseLoadCasesDlg::CChoseLoadCasesDlg(CaseSelection& selection)
-    : CDialog(g_LoadCaseDialogSpec), m_selection(selection) {}
+    : CDialog(g_LoadCaseDialogTemplate), m_selection(selection) {}
 
 bool CChoseLoadCasesDlg::OnCommand(int id, Notice notice) {
     static const CommandEntry<CChoseLoadCasesDlg> kMap[] = {

@@ -45,9 +45,9 @@ bool OffersTables(StructureType type) {
 
 }  // namespace
 
-const DialogSpec g_ReportDialogSpec = {IDD_REPORT, "Lumerin Generator", 388, 268, false, kControls};
+const DialogTemplate g_ReportDialogTemplate = {IDD_REPORT, "Lumerin Generator", 388, 268, false, kControls};
 
-CDesignerDlg::CDesignerDlg() : CDialog(g_ReportDialogSpec), m_nFormat(g_InitialReportFormat) {}
+CDesignerDlg::CDesignerDlg() : CDialog(g_ReportDialogTemplate), m_nFormat(g_InitialReportFormat) {}
 
 bool CDesignerDlg::OnCommand(int id, Notice notice) {
     static constexpr CommandEntry<CDesignerDlg> map[] = {

@@ -9,7 +9,7 @@
 
 namespace lumerin {
 
-extern const DialogSpec g_ReportDialogSpec;  // IDD_REPORT
+extern const DialogTemplate g_ReportDialogTemplate;  // IDD_REPORT
 
 // The module's main window, "Lumerin Generator": it shows what the loaded project allows, holds the report
 // options and turns each button into one run of a table.

@@ -11,15 +11,11 @@ namespace lumerin {
 
 namespace {
 
-constexpr std::array<std::string_view, 4> kShearKinds = {" %i LF", " %i LCL", " %i RCL", " %i RF"};
-constexpr std::array<std::string_view, 3> kMomentKinds = {" %i LF", " %i CL", " %i RF"};
-
 // By row code: 0 left row, 1 right row, 2 the only row, 3 both rows at one place.
 constexpr std::array<std::array<std::string_view, 4>, 2> kShearBearings = {{
     {"Brg %i L LR", "Brg %i L RR", "Brg %i L", "Brg %i L"},
     {"Brg %i R LR", "Brg %i R RR", "Brg %i R", "Brg %i R"},
 }};
-constexpr std::array<std::string_view, 4> kMomentBearings = {"Brg %i LR", "Brg %i RR", "Brg %i", "Brg %i"};
 
 // The key below its lines for the words of the supports; the member word follows each left text.
 struct KeyForm {
@@ -137,7 +133,7 @@ void WalkCap(const CapBlock& block, const std::function<void(const CCapRow&)>& v
 
 std::string CapSupportLabel(TableId table, StructureType structureType, int support, int kind) {
     const bool shear = table == kTableCapShear;
-    const std::string_view form = shear ? At(kShearKinds, kind) : At(kMomentKinds, kind);
+    const std::string_view form = shear ? ShearSupportForm(kind) : MomentSupportForm(kind);
     if (form.empty()) return shear ? "Invalid" : "";
     return MemberShortName(structureType) + FormatNumbered(form, support + 1);
 }
@@ -145,7 +141,7 @@ std::string CapSupportLabel(TableId table, StructureType structureType, int supp
 std::string CapBearingLabel(TableId table, const CBearingLocation& bearing, int side) {
     const std::string_view form = table == kTableCapShear
                                       ? At(kShearBearings[side == 0 ? 0 : 1], bearing.m_nRowCode)
-                                      : At(kMomentBearings, bearing.m_nRowCode);
+                                      : MomentBearingForm(bearing.m_nRowCode);
     return FormatNumbered(form, bearing.m_nBearing + 1);
 }
 

@@ -11,24 +11,21 @@ namespace lumerin {
 
 namespace {
 
-// What heads the block of one slot. The section tables 0, 1 and 2 have the word MAXIMUM, the cap tables and
-// the force tables do not.
-struct SlotHeading {
+// Whether a slot has a block.
+struct SlotRule {
     CodeFamily family;
     LimitClass slot;
     bool needsClass;     // the block appears only when a selected case has that class
     bool capMomentOnly;  // fatigue has a block in the cap moment table alone
-    const char* maximum;
-    const char* plain;
 };
-constexpr std::array<SlotHeading, 7> kSlotHeadings{{
-    {kFamilyLrfd, kStrength, true, false, " MAXIMUM STRENGTH CASE DATA", " STRENGTH CASE DATA"},
-    {kFamilyLrfd, kService, true, false, " MAXIMUM SERVICE CASE DATA", " SERVICE CASE DATA"},
-    {kFamilyLrfd, kExtreme, true, false, " MAXIMUM EXTREME CASE DATA", " EXTREME CASE DATA"},
-    {kFamilyLrfd, kFatigue, true, true, " MAXIMUM FATIGUE CASE DATA", " FATIGUE CASE DATA"},
-    {kFamilyLfd, kStrength, false, false, " MAXIMUM LOAD FACTOR DESIGN DATA", " LOAD FACTOR DESIGN DATA"},
-    {kFamilyArema, kStrength, true, false, " MAXIMUM LOAD FACTOR DESIGN DATA", " LOAD FACTOR DESIGN DATA"},
-    {kFamilyArema, kService, true, false, " MAXIMUM SERVICE LOAD DESIGN DATA", " SERVICE LOAD DESIGN DATA"},
+constexpr std::array<SlotRule, 7> kSlotRules{{
+    {kFamilyLrfd, kStrength, true, false},
+    {kFamilyLrfd, kService, true, false},
+    {kFamilyLrfd, kExtreme, true, false},
+    {kFamilyLrfd, kFatigue, true, true},
+    {kFamilyLfd, kStrength, false, false},
+    {kFamilyArema, kStrength, true, false},
+    {kFamilyArema, kService, true, false},
 }};
 
 // How much of a report the text viewer shows on one printed page.
@@ -80,11 +77,14 @@ bool SectionHeading(const Report& report, TableId table, LimitClass slot, std::s
     const CodeFamily family = first.m_nCodeFamily;
     if (!first.m_bCombinations) return true;
     if (family < kFamilyLrfd || family > kFamilyArema) return true;
-    for (const SlotHeading& entry : kSlotHeadings) {
-        if (entry.family != family || entry.slot != slot) continue;
-        if (entry.capMomentOnly && table != kTableCapMoment) return false;
-        if (entry.needsClass && !report.selection.IsClassPresent(slot)) return false;
-        heading = table <= kTableColumnDc ? entry.maximum : entry.plain;
+    for (const SlotRule& rule : kSlotRules) {
+        if (rule.family != family || rule.slot != slot) continue;
+        if (rule.capMomentOnly && table != kTableCapMoment) return false;
+        if (rule.needsClass && !report.selection.IsClassPresent(slot)) return false;
+        // The section tables 0, 1 and 2 carry the word MAXIMUM, the cap tables and the force tables do not.
+        heading = " ";
+        if (table <= kTableColumnDc) heading += g_MaximumWord;
+        heading += ClassHeading(family, slot);
         return true;
     }
     return false;

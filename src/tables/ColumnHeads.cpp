@@ -4,13 +4,13 @@
 
 #include "tables/Catalogue.h"
 #include "tables/TableLayout.h"
+#include "tables/Words.h"
 #include "text/Format.h"
 
 namespace lumerin {
 
 namespace {
 
-constexpr std::array<const char*, 3> kFamilyNames{"AASHTO-LRFD", "AASHTO-LFD", "AREMA"};
 constexpr std::size_t kLimitStateWidth = 15;
 
 struct StepWords {
@@ -74,8 +74,7 @@ void AddPileHeadLines(ColumnHead& head, const CPier& first, int mode, bool us) {
 }
 
 std::string LimitStateHeading(const HeadTexts& texts, CodeFamily family) {
-    return PadLeft(kFamilyNames[static_cast<std::size_t>(family)],
-                   family == kFamilyArema ? texts.aremaWidth : kLimitStateWidth);
+    return PadLeft(FamilyName(family), family == kFamilyArema ? texts.aremaWidth : kLimitStateWidth);
 }
 
 void AddSteppedLines(ColumnHead& head, const HeadTexts& texts, const CPier& first, int mode, bool us,

@@ -7,6 +7,7 @@
 
 #include "tables/CapRows.h"
 #include "tables/RowText.h"
+#include "tables/Words.h"
 #include "text/Format.h"
 
 namespace lumerin {
@@ -59,19 +60,16 @@ constexpr std::array<StatusLine, 11> kStatusLines{{
     {kFamilyArema, "MOSLD= ", kService},
 }};
 
-constexpr std::array<const char*, 4> kShearKinds = {" %i LF", " %i LCL", " %i RCL", " %i RF"};
-constexpr std::array<const char*, 3> kMomentKinds = {" %i LF", " %i CL", " %i RF"};
 // By side and row code. Unlike in the tables, both sides of a bearing have the same text when there are two
 // rows.
 constexpr std::array<std::array<const char*, 4>, 2> kShearBearings = {{
     {"Brg %i LR", "Brg %i RR", "Brg %i L", "Brg %i L"},
     {"Brg %i LR", "Brg %i RR", "Brg %i R", "Brg %i R"},
 }};
-constexpr std::array<const char*, 4> kMomentBearings = {"Brg %i LR", "Brg %i RR", "Brg %i", "Brg %i"};
 
 template <std::size_t N>
-const char* TextAt(const std::array<const char*, N>& texts, int index, const char* other) {
-    return index >= 0 && index < static_cast<int>(N) ? texts[static_cast<std::size_t>(index)] : other;
+std::string_view TextAt(const std::array<const char*, N>& texts, int index) {
+    return index >= 0 && index < static_cast<int>(N) ? texts[static_cast<std::size_t>(index)] : "";
 }
 
 std::string RowLabel(TableId table, const CCapRow& row) {
@@ -79,13 +77,13 @@ std::string RowLabel(TableId table, const CCapRow& row) {
     std::string label;
     if (row.bBearing) {
         const int code = row.bearing.m_nRowCode;
-        const char* form = shear ? TextAt(kShearBearings[row.nSide == 0 ? 0 : 1], code, "")
-                                 : TextAt(kMomentBearings, code, "");
+        const std::string_view form =
+            shear ? TextAt(kShearBearings[row.nSide == 0 ? 0 : 1], code) : MomentBearingForm(code);
         AppendNumbered(label, form, row.bearing.m_nBearing + 1LL);
     } else {
         const int kind = row.support.m_nKind;
-        const char* form = shear ? TextAt(kShearKinds, kind, "Invalid") : TextAt(kMomentKinds, kind, "");
-        AppendNumbered(label, form, row.support.m_nSupport + 1LL);
+        const std::string_view form = shear ? ShearSupportForm(kind) : MomentSupportForm(kind);
+        AppendNumbered(label, form.empty() && shear ? "Invalid" : form, row.support.m_nSupport + 1LL);
     }
     return label;
 }

@@ -83,6 +83,60 @@ const char* ByType(const TextByType& texts, StructureType structureType) {
 }
 }  // namespace
 
+namespace {
+
+struct NamedClass {
+    CodeFamily family;
+    LimitClass limitClass;
+    std::string_view heading;
+};
+constexpr std::array<NamedClass, 7> kClassHeadings{{
+    {kFamilyLrfd, kStrength, "STRENGTH CASE DATA"},
+    {kFamilyLrfd, kService, "SERVICE CASE DATA"},
+    {kFamilyLrfd, kExtreme, "EXTREME CASE DATA"},
+    {kFamilyLrfd, kFatigue, "FATIGUE CASE DATA"},
+    {kFamilyLfd, kStrength, "LOAD FACTOR DESIGN DATA"},
+    {kFamilyArema, kStrength, "LOAD FACTOR DESIGN DATA"},
+    {kFamilyArema, kService, "SERVICE LOAD DESIGN DATA"},
+}};
+constexpr std::array<std::string_view, 3> kFamilyNames{"AASHTO-LRFD", "AASHTO-LFD", "AREMA"};
+
+constexpr std::array<std::string_view, 4> kShearSupports{" %i LF", " %i LCL", " %i RCL", " %i RF"};
+constexpr std::array<std::string_view, 3> kMomentSupports{" %i LF", " %i CL", " %i RF"};
+// By row code: 0 left row, 1 right row, 2 the only row, 3 both rows at one place.
+constexpr std::array<std::string_view, 4> kMomentBearings{"Brg %i LR", "Brg %i RR", "Brg %i", "Brg %i"};
+
+template <std::size_t N>
+std::string_view At(const std::array<std::string_view, N>& list, int index) {
+    return index >= 0 && index < static_cast<int>(N) ? list[static_cast<std::size_t>(index)]
+                                                     : std::string_view{};
+}
+
+}  // namespace
+
+std::string_view ClassHeading(CodeFamily family, LimitClass limitClass) {
+    for (const NamedClass& named : kClassHeadings) {
+        if (named.family == family && named.limitClass == limitClass) return named.heading;
+    }
+    return {};
+}
+
+std::string_view FamilyName(CodeFamily family) {
+    return At(kFamilyNames, family);
+}
+
+std::string_view ShearSupportForm(int kind) {
+    return At(kShearSupports, kind);
+}
+
+std::string_view MomentSupportForm(int kind) {
+    return At(kMomentSupports, kind);
+}
+
+std::string_view MomentBearingForm(int rowCode) {
+    return At(kMomentBearings, rowCode);
+}
+
 const char* TableTitle(TableId table, StructureType structureType) {
     if (table < 0 || table >= kTableCount) return "";
     return ByType(g_TableTitles[static_cast<std::size_t>(table)], structureType);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <string_view>
 
 #include "model/Types.h"
 
@@ -30,6 +31,19 @@ inline constexpr const char* g_EnvelopesName = "Envelopes";
 inline constexpr const char* g_PierCap = "Pier Cap";
 inline constexpr const char* g_BentCap = "Bent Cap";
 inline constexpr const char* g_NameSeparator = "_";
+
+// A limit class as it heads the rows of a slot: "STRENGTH CASE DATA", "LOAD FACTOR DESIGN DATA". Empty where
+// the family has no rows for it.
+std::string_view ClassHeading(CodeFamily family, LimitClass limitClass);
+inline constexpr std::string_view g_MaximumWord =
+    "MAXIMUM ";  // before it in tables of D/C ratios and extremes
+// "AASHTO-LRFD" and its like; empty in another family.
+std::string_view FamilyName(CodeFamily family);
+// The label of a section of the cap at a support or at a bearing, with %i for the number; empty for a kind or
+// row code outside the list. The name of the support's member comes first, where the table has one.
+std::string_view ShearSupportForm(int kind);
+std::string_view MomentSupportForm(int kind);
+std::string_view MomentBearingForm(int rowCode);
 
 // The title of a table for a structure type; empty where the type is outside 0 to 8.
 const char* TableTitle(TableId table, StructureType structureType);

@@ -8,6 +8,7 @@
 
 #include "tables/Catalogue.h"
 #include "tables/TableLayout.h"
+#include "tables/Words.h"
 #include "writers/SheetCells.h"
 #include "writers/SheetHeads.h"
 #include "writers/SheetRows.h"
@@ -30,17 +31,14 @@ constexpr std::string_view kExtremeHeading =
     "  <Row></Row>\n\t<Row>\n    <Cell ss:Index=\"2\" ss:StyleID=\"s58\"><Data ss:Type=\"String\">";
 constexpr std::string_view kHeadingEnd = "</Data></Cell>\n  </Row>\n";
 
-// The first slot's words, on the first substructure and on later ones: CASES becomes DATA in one family.
-struct FirstSlotWords {
-    CodeFamily family;
-    const char* first;
-    const char* later;
-};
-constexpr std::array<FirstSlotWords, 3> kFirstSlotWords = {{
-    {kFamilyLrfd, "MAXIMUM STRENGTH CASE DATA", "MAXIMUM STRENGTH CASE DATA"},
-    {kFamilyLfd, "MAXIMUM LOAD FACTOR DESIGN CASES", "MAXIMUM LOAD FACTOR DESIGN CASES"},
-    {kFamilyArema, "MAXIMUM LOAD FACTOR DESIGN CASES", "MAXIMUM LOAD FACTOR DESIGN DATA"},
-}};
+// In this sheet load factor design has "CASES" where all other tables have "DATA"; AREMA's later
+// substructures have "DATA" here too.
+constexpr std::string_view kLoadFactorCases = "LOAD FACTOR DESIGN CASES";
+
+std::string_view FirstSlotWords(CodeFamily family, std::size_t pier) {
+    const bool cases = family == kFamilyLfd || (family == kFamilyArema && pier == 0);
+    return cases ? kLoadFactorCases : ClassHeading(family, kStrength);
+}
 
 // The blank row before a later substructure's first heading.
 std::string_view BlankRow(CodeFamily family, std::size_t pier) {
@@ -50,22 +48,17 @@ std::string_view BlankRow(CodeFamily family, std::size_t pier) {
 
 std::string FirstSlotHeading(CodeFamily family, std::size_t pier) {
     std::string out;
-    for (const FirstSlotWords& words : kFirstSlotWords) {
-        if (words.family != family) continue;
-        if (pier > 0) out += BlankRow(family, pier);
-        out.append(pier == 0 ? kIndexedHeading : kFirstSlotHeading);
-        out.append(pier == 0 ? words.first : words.later).append(kHeadingEnd);
-    }
-    return out;
+    const std::string_view words = FirstSlotWords(family, pier);
+    if (words.empty()) return out;
+    if (pier > 0) out += BlankRow(family, pier);
+    out.append(pier == 0 ? kIndexedHeading : kFirstSlotHeading);
+    return out.append(g_MaximumWord).append(words).append(kHeadingEnd);
 }
 
 std::string SlotHeading(CodeFamily family, LimitClass slot, std::size_t pier) {
     if (slot == kStrength) return FirstSlotHeading(family, pier);
     std::string out(slot == kService ? kServiceHeading : kExtremeHeading);
-    out += slot == kExtreme        ? "MAXIMUM EXTREME CASE DATA"
-           : family == kFamilyLrfd ? "MAXIMUM SERVICE CASE DATA"
-                                   : "MAXIMUM SERVICE LOAD DESIGN DATA";
-    return out.append(kHeadingEnd);
+    return out.append(g_MaximumWord).append(ClassHeading(family, slot)).append(kHeadingEnd);
 }
 
 // ---- column heads
@@ -87,7 +80,7 @@ std::string PlainColumnHead(const CDataSet& data) {
 }
 
 void AppendGroupHead(std::string& out, const CDataSet& data, std::string_view force) {
-    const std::string_view family = FamilyWord(data.FirstPier().m_nCodeFamily);
+    const std::string_view family = FamilyName(data.FirstPier().m_nCodeFamily);
     AppendTextCell(out, kHeadCell, StepWordsOf(data).upper);
     if (!family.empty()) AppendTextCell(out, kHeadCell, family);
     AppendTextCell(out, kHeadCell, force);

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "tables/Catalogue.h"
+#include "tables/Words.h"
 #include "text/Format.h"
 #include "writers/SheetHeads.h"
 
@@ -13,58 +14,58 @@ namespace lumerin {
 
 namespace {
 
-// A block's heading is opening, blank cell, words in the heading cell, "</Row>", closing.
+// A block's heading is opening, blank cell, the class in the heading cell, "</Row>", closing.
 struct SectionRow {
     TableId table;
     CodeFamily family;
     LimitClass slot;
-    std::string_view opening, words, closing;
+    std::string_view opening, closing;
 };
 // clang-format off
 constexpr SectionRow kSectionRows[] = {
-    {kTablePileDc, kFamilyLrfd, kStrength, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM STRENGTH CASE DATA", "\n"},
-    {kTablePileDc, kFamilyLrfd, kService, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM SERVICE CASE DATA", "<\n"},
-    {kTablePileDc, kFamilyLrfd, kExtreme, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM EXTREME CASE DATA", "<\n"},
-    {kTablePileDc, kFamilyLfd, kStrength, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM LOAD FACTOR DESIGN DATA", "\n"},
-    {kTablePileDc, kFamilyArema, kStrength, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM LOAD FACTOR DESIGN DATA", "\n"},
-    {kTablePileDc, kFamilyArema, kService, "  <Row>  </Row>\n  <Row>    ", "MAXIMUM SERVICE LOAD DESIGN DATA", "<\n"},
-    {kTableColumnDc, kFamilyLrfd, kStrength, "  <Row></Row>\n\t<Row>    ", "MAXIMUM STRENGTH CASE DATA", "\n< "},
-    {kTableColumnDc, kFamilyLrfd, kService, "  <Row></Row>\n\t<Row>    ", "MAXIMUM SERVICE CASE DATA", "\n  "},
-    {kTableColumnDc, kFamilyLrfd, kExtreme, "   <Row></Row>\n\t<Row>    ", "MAXIMUM EXTREME CASE DATA", "\n  "},
-    {kTableColumnDc, kFamilyLfd, kStrength, "   <Row></Row>\n\t<Row>    ", "MAXIMUM LOAD FACTOR DESIGN DATA", "\n "},
-    {kTableColumnDc, kFamilyArema, kStrength, "  <Row></Row>\n\t<Row>    ", "MAXIMUM LOAD FACTOR DESIGN DATA", "\n< "},
-    {kTableColumnDc, kFamilyArema, kService, "  <Row></Row>\n\t<Row>    ", "MAXIMUM SERVICE LOAD DESIGN DATA", "\n  "},
-    {kTableCapShear, kFamilyLrfd, kStrength, "  <Row></Row>\n<Row>    ", "STRENGTH CASE DATA", "\n<Row></Row>"},
-    {kTableCapShear, kFamilyLrfd, kService, "  <Row></Row>\n<Row>    ", "SERVICE CASE DATA", "\n<Row></Row>"},
-    {kTableCapShear, kFamilyLrfd, kExtreme, "  <Row></Row>\n<Row>    ", "EXTREME CASE DATA", "\n<Row></Row>"},
-    {kTableCapShear, kFamilyLfd, kStrength, "  <Row></Row>\n<Row>    ", "LOAD FACTOR DESIGN DATA", "\n<Row></Row>"},
-    {kTableCapShear, kFamilyArema, kStrength, "  <Row></Row>\n<Row>    ", "LOAD FACTOR DESIGN DATA", "\n<Row></Row>"},
-    {kTableCapShear, kFamilyArema, kService, "  <Row></Row>\n<Row>    ", "SERVICE LOAD DESIGN DATA", "\n<Row></Row>"},
-    {kTableCapMoment, kFamilyLrfd, kStrength, "  <Row>    ", "STRENGTH CASE DATA", "\n<Row></Row>"},
-    {kTableCapMoment, kFamilyLrfd, kService, "  <Row>    ", "SERVICE CASE DATA", "\n<Row></Row>"},
-    {kTableCapMoment, kFamilyLrfd, kExtreme, "  <Row>    ", "EXTREME CASE DATA", "\n<Row></Row>"},
-    {kTableCapMoment, kFamilyLrfd, kFatigue, "  <Row>    ", "FATIGUE CASE DATA", "\n<Row></Row>"},
-    {kTableCapMoment, kFamilyLfd, kStrength, "  <Row>    ", "LOAD FACTOR DESIGN DATA", "\n<Row></Row>"},
-    {kTableCapMoment, kFamilyArema, kStrength, "  <Row>    ", "LOAD FACTOR DESIGN DATA", "\n<Row></Row>"},
-    {kTableCapMoment, kFamilyArema, kService, "  <Row>    ", "SERVICE LOAD DESIGN DATA", "\n<Row></Row>"},
-    {kTablePileForces, kFamilyLrfd, kStrength, "   <Row></Row>\n\t<Row>    ", "STRENGTH CASE DATA", "\n"},
-    {kTablePileForces, kFamilyLrfd, kService, "  <Row></Row>\n<Row>\n    ", "SERVICE CASE DATA", "<\n"},
-    {kTablePileForces, kFamilyLrfd, kExtreme, "   <Row></Row>\n\t<Row>\n    ", "EXTREME CASE DATA", "\n"},
-    {kTablePileForces, kFamilyLfd, kStrength, "  <Row></Row>\n\t<Row>\n    ", "LOAD FACTOR DESIGN DATA", "\n"},
-    {kTablePileForces, kFamilyArema, kStrength, "   <Row></Row>\n\t<Row>    ", "LOAD FACTOR DESIGN DATA", "\n"},
-    {kTablePileForces, kFamilyArema, kService, "  <Row></Row>\n<Row>\n    ", "SERVICE LOAD DESIGN DATA", "<\n"},
-    {kTableColumnForces, kFamilyLrfd, kStrength, "   <Row>\n    ", "STRENGTH CASE DATA", "\n"},
-    {kTableColumnForces, kFamilyLrfd, kService, "  <Row>\n   ", "SERVICE CASE DATA", "\n"},
-    {kTableColumnForces, kFamilyLrfd, kExtreme, "   <Row>\n    ", "EXTREME CASE DATA", "\n"},
-    {kTableColumnForces, kFamilyLfd, kStrength, "  <Row>\n    ", "LOAD FACTOR DESIGN DATA", "\n"},
-    {kTableColumnForces, kFamilyArema, kStrength, "   <Row>\n    ", "LOAD FACTOR DESIGN DATA", "\n"},
-    {kTableColumnForces, kFamilyArema, kService, "  <Row>\n   ", "SERVICE LOAD DESIGN DATA", "\n"},
-    {kTableExtraMembers, kFamilyLrfd, kStrength, "   <Row>    ", "STRENGTH CASE DATA", "\n"},
-    {kTableExtraMembers, kFamilyLrfd, kService, "  <Row>    ", "SERVICE CASE DATA", "\n"},
-    {kTableExtraMembers, kFamilyLrfd, kExtreme, "   <Row>    ", "EXTREME CASE DATA", "\n"},
-    {kTableExtraMembers, kFamilyLfd, kStrength, "  <Row>    ", "LOAD FACTOR DESIGN DATA", "\n"},
-    {kTableExtraMembers, kFamilyArema, kStrength, "   <Row>    ", "LOAD FACTOR DESIGN DATA", "\n"},
-    {kTableExtraMembers, kFamilyArema, kService, "  <Row>    ", "SERVICE LOAD DESIGN DATA", "\n"},
+    {kTablePileDc, kFamilyLrfd, kStrength, "  <Row>  </Row>\n  <Row>    ", "\n"},
+    {kTablePileDc, kFamilyLrfd, kService, "  <Row>  </Row>\n  <Row>    ", "<\n"},
+    {kTablePileDc, kFamilyLrfd, kExtreme, "  <Row>  </Row>\n  <Row>    ", "<\n"},
+    {kTablePileDc, kFamilyLfd, kStrength, "  <Row>  </Row>\n  <Row>    ", "\n"},
+    {kTablePileDc, kFamilyArema, kStrength, "  <Row>  </Row>\n  <Row>    ", "\n"},
+    {kTablePileDc, kFamilyArema, kService, "  <Row>  </Row>\n  <Row>    ", "<\n"},
+    {kTableColumnDc, kFamilyLrfd, kStrength, "  <Row></Row>\n\t<Row>    ", "\n< "},
+    {kTableColumnDc, kFamilyLrfd, kService, "  <Row></Row>\n\t<Row>    ", "\n  "},
+    {kTableColumnDc, kFamilyLrfd, kExtreme, "   <Row></Row>\n\t<Row>    ", "\n  "},
+    {kTableColumnDc, kFamilyLfd, kStrength, "   <Row></Row>\n\t<Row>    ", "\n "},
+    {kTableColumnDc, kFamilyArema, kStrength, "  <Row></Row>\n\t<Row>    ", "\n< "},
+    {kTableColumnDc, kFamilyArema, kService, "  <Row></Row>\n\t<Row>    ", "\n  "},
+    {kTableCapShear, kFamilyLrfd, kStrength, "  <Row></Row>\n<Row>    ", "\n<Row></Row>"},
+    {kTableCapShear, kFamilyLrfd, kService, "  <Row></Row>\n<Row>    ", "\n<Row></Row>"},
+    {kTableCapShear, kFamilyLrfd, kExtreme, "  <Row></Row>\n<Row>    ", "\n<Row></Row>"},
+    {kTableCapShear, kFamilyLfd, kStrength, "  <Row></Row>\n<Row>    ", "\n<Row></Row>"},
+    {kTableCapShear, kFamilyArema, kStrength, "  <Row></Row>\n<Row>    ", "\n<Row></Row>"},
+    {kTableCapShear, kFamilyArema, kService, "  <Row></Row>\n<Row>    ", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyLrfd, kStrength, "  <Row>    ", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyLrfd, kService, "  <Row>    ", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyLrfd, kExtreme, "  <Row>    ", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyLrfd, kFatigue, "  <Row>    ", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyLfd, kStrength, "  <Row>    ", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyArema, kStrength, "  <Row>    ", "\n<Row></Row>"},
+    {kTableCapMoment, kFamilyArema, kService, "  <Row>    ", "\n<Row></Row>"},
+    {kTablePileForces, kFamilyLrfd, kStrength, "   <Row></Row>\n\t<Row>    ", "\n"},
+    {kTablePileForces, kFamilyLrfd, kService, "  <Row></Row>\n<Row>\n    ", "<\n"},
+    {kTablePileForces, kFamilyLrfd, kExtreme, "   <Row></Row>\n\t<Row>\n    ", "\n"},
+    {kTablePileForces, kFamilyLfd, kStrength, "  <Row></Row>\n\t<Row>\n    ", "\n"},
+    {kTablePileForces, kFamilyArema, kStrength, "   <Row></Row>\n\t<Row>    ", "\n"},
+    {kTablePileForces, kFamilyArema, kService, "  <Row></Row>\n<Row>\n    ", "<\n"},
+    {kTableColumnForces, kFamilyLrfd, kStrength, "   <Row>\n    ", "\n"},
+    {kTableColumnForces, kFamilyLrfd, kService, "  <Row>\n   ", "\n"},
+    {kTableColumnForces, kFamilyLrfd, kExtreme, "   <Row>\n    ", "\n"},
+    {kTableColumnForces, kFamilyLfd, kStrength, "  <Row>\n    ", "\n"},
+    {kTableColumnForces, kFamilyArema, kStrength, "   <Row>\n    ", "\n"},
+    {kTableColumnForces, kFamilyArema, kService, "  <Row>\n   ", "\n"},
+    {kTableExtraMembers, kFamilyLrfd, kStrength, "   <Row>    ", "\n"},
+    {kTableExtraMembers, kFamilyLrfd, kService, "  <Row>    ", "\n"},
+    {kTableExtraMembers, kFamilyLrfd, kExtreme, "   <Row>    ", "\n"},
+    {kTableExtraMembers, kFamilyLfd, kStrength, "  <Row>    ", "\n"},
+    {kTableExtraMembers, kFamilyArema, kStrength, "   <Row>    ", "\n"},
+    {kTableExtraMembers, kFamilyArema, kService, "  <Row>    ", "\n"},
 };
 // clang-format on
 
@@ -124,7 +125,9 @@ std::string SectionRows(const CDataSet& data, TableId table, LimitClass slot) {
     for (const SectionRow& row : kSectionRows) {
         if (row.table != table || row.family != family || row.slot != slot) continue;
         std::string out(row.opening);
-        return out.append(kSectionCells).append(row.words).append(kSectionEnd).append(row.closing);
+        out.append(kSectionCells);
+        if (table <= kTableColumnDc) out.append(g_MaximumWord);
+        return out.append(ClassHeading(family, slot)).append(kSectionEnd).append(row.closing);
     }
     return {};
 }

@@ -189,7 +189,7 @@ void AppendHeadCells(std::string& out, const std::array<std::string_view, 4>& te
 void AppendUpperRow(std::string& out, const HeadForm& form, const CDataSet& data) {
     AppendHeadCells(out, form.upper);
     AppendHeadCell(out, std::string(StepWordsOf(data).upper) + " ");
-    const std::string_view family = FamilyWord(data.FirstPier().m_nCodeFamily);
+    const std::string_view family = FamilyName(data.FirstPier().m_nCodeFamily);
     if (data.HasCombinations() && !family.empty()) AppendHeadCell(out, family);
     AppendHeadCell(out, "I/J");
     if (form.extremeColumn) AppendHeadCell(out, "Max/Min");
@@ -225,19 +225,6 @@ std::string WorksheetHead(const CDataSet& data, TableId table, long long rows) {
 
 std::string PileHeadWorksheetHead(const CDataSet& data, int pier, long long rows) {
     return Head(data, kTablePileHeads, FormatNumbered("Substructure %d", pier + 1), rows);
-}
-
-std::string_view FamilyWord(CodeFamily family) {
-    switch (family) {
-        case kFamilyLrfd:
-            return "AASHTO-LRFD";
-        case kFamilyLfd:
-            return "AASHTO-LFD";
-        case kFamilyArema:
-            return "AREMA";
-        default:
-            return {};
-    }
 }
 
 StepWords StepWordsOf(const CDataSet& data) {

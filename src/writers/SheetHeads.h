@@ -25,9 +25,6 @@ std::string SubstructureHeading(const CDataSet& data, TableId table, int pier);
 std::vector<LimitClass> BlockSlots(const Report& report, TableId table);
 std::string SectionRows(const CDataSet& data, TableId table, LimitClass slot);
 
-// "AASHTO-LRFD" and its like, by design family; empty in another family.
-std::string_view FamilyWord(CodeFamily family);
-
 // The word for one row of a report, above and below: LOAD COMB, TIME STEP or LOAD CASE.
 struct StepWords {
     std::string_view upper, lower;

@@ -24,7 +24,7 @@ inline constexpr ControlSpec kTestControls[] = {
                     SPIN_BUTTON(19, 0, 0, 1, 1) DROP_LIST(20, 0, 0, 1, 1) LINK_TEXT(21, "Link", 0, 0, 1, 1)
                         LEFT_TEXT(22, "Text", 0, 0, 1, 1) LEFT_TEXT(NO_ID, "No identifier", 0, 0, 1, 1)
                             DEFAULT_BUTTON(1, "OK", 0, 0, 1, 1) PUSH_BUTTON(2, "Close", 0, 0, 1, 1)};
-inline constexpr DialogSpec kTestSpec = {900, "Test", 100, 100, true, kTestControls};
+inline constexpr DialogTemplate kTestSpec = {900, "Test", 100, 100, true, kTestControls};
 
 class TestDialog : public CDialog {
   public:

@@ -31,9 +31,6 @@ constexpr Colour kWhite = 0xffffff;
 constexpr Colour kGridBackground = 0xd7d7d7;
 constexpr int kCaptureMargin = 5;  // pixels right of the graph's window
 
-constexpr const char* kQuantityEntries[] = {"Lateral Displacement", "Lateral X-Displacement",
-                                            "Lateral Y-Displacement", "Max Axial Force", "Min Axial Force"};
-
 // The quotes are those of the Western code page.
 constexpr const char* kDisplacementNote =
     "2. The \x91Lateral Displacement\x92, \x91Lateral X-Displacement\x92, and \x91Lateral Y-Displacement\x92 "
@@ -47,11 +44,11 @@ constexpr const char* kForceNote =
 
 }  // namespace
 
-const DialogSpec g_EmbedmentDialogSpec{IDD_EMBEDMENT, "Minimum Pile Tip Embedment", 566, 316, true,
-                                       kControls};
+const DialogTemplate g_EmbedmentDialogTemplate{IDD_EMBEDMENT, "Minimum Pile Tip Embedment", 566, 316, true,
+                                               kControls};
 
 CMPTEDlg::CMPTEDlg(const EmbedmentInput& input)
-    : CDialog(g_EmbedmentDialogSpec), m_pResults(input.inputFile, m_messages), m_input(input) {
+    : CDialog(g_EmbedmentDialogTemplate), m_pResults(input.inputFile, m_messages), m_input(input) {
     m_Graph.m_onClick = [this] { RunGuarded(*this, [this] { OnGraphClick(); }); };
 }
 
@@ -87,7 +84,7 @@ bool CMPTEDlg::OnInitDialog() {
     m_spinCase.SetRange(1, m_pResults.GetCaseCount());
     m_nCase = 1;
     m_spinCase.SetPos(1);
-    for (const char* entry : kQuantityEntries) m_cmbQuantity.AddString(entry);
+    for (const char* name : kQuantityNames) m_cmbQuantity.AddString(name);
     m_cmbQuantity.SetCurSel(0);
     m_cmbEnvelope.AddString("Max Envelope");
     m_cmbEnvelope.AddString("Min Envelope");

@@ -14,7 +14,7 @@
 
 namespace lumerin {
 
-extern const DialogSpec g_EmbedmentDialogSpec;  // IDD_EMBEDMENT
+extern const DialogTemplate g_EmbedmentDialogTemplate;  // IDD_EMBEDMENT
 
 // The result of an envelope search at one trial.
 struct CEnvelopePoint {

@@ -15,22 +15,23 @@ constexpr int kFewestDecimals = 4, kMostDecimals = 6;
 constexpr int kPlotColour = 0xdcdcdc;
 
 struct QuantityWords {
-    const char* name;
     const char* heading;
     const char* unitUs;
     const char* unitSi;
 };
 
 constexpr QuantityWords kWords[kQuantityCount] = {
-    {"Lateral Displacement", "Displacement", "(in)", "(m)"},
-    {"Lateral X-Displacement", "Displacement", "(in)", "(m)"},
-    {"Lateral Y-Displacement", "Displacement", "(in)", "(m)"},
-    {"Max Axial Force", "Force", "(kips)", "(kN)"},
-    {"Min Axial Force", "Force", "(kips)", "(kN)"},
+    {"Displacement", "(in)", "(m)"}, {"Displacement", "(in)", "(m)"}, {"Displacement", "(in)", "(m)"},
+    {"Force", "(kips)", "(kN)"},     {"Force", "(kips)", "(kN)"},
 };
 
+// A number outside the list counts as its nearer end.
+std::size_t Place(int quantity) {
+    return static_cast<std::size_t>(std::clamp(quantity, 0, kQuantityCount - 1));
+}
+
 const QuantityWords& WordsOf(int quantity) {
-    return kWords[static_cast<std::size_t>(std::clamp(quantity, 0, kQuantityCount - 1))];
+    return kWords[Place(quantity)];
 }
 
 // The number that the table shows, so that a click on a point meets its row.
@@ -130,11 +131,11 @@ void CMPTEDlg::FillTrialRow(int trial) {
 
 std::string CMPTEDlg::BuildPlotTitle(int number, int quantity) const {
     const char* const format = m_input.data.HasCombinations() ? "Load Comb %d" : "Load Case %d";
-    return FormatNumbered(format, number) + " - Embedment vs " + WordsOf(quantity).name;
+    return FormatNumbered(format, number) + " - Embedment vs " + kQuantityNames[Place(quantity)];
 }
 
 std::string CMPTEDlg::BuildYLabel(int quantity) const {
-    return std::string(WordsOf(quantity).name) + " " + QuantityUnit(quantity);
+    return std::string(kQuantityNames[Place(quantity)]) + " " + QuantityUnit(quantity);
 }
 
 std::string CMPTEDlg::BuildFormat(int decimals) {

@@ -23,7 +23,7 @@ bool TakesFocus(const NativeWindow& control) {
     }
 }
 
-void MakeControls(NativeWindow& window, const DialogSpec& spec) {
+void MakeControls(NativeWindow& window, const DialogTemplate& spec) {
     window.text = spec.title;
     for (const ControlSpec& control : spec.controls) {
         auto child = std::make_unique<NativeWindow>();

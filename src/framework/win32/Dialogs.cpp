@@ -61,7 +61,7 @@ bool ReadNotice(ControlKind kind, unsigned code, Notice& notice) {
 }
 
 // The Return and Esc keys send the identifiers of OK and Cancel even where the dialog has no such control.
-ControlKind KindOf(const DialogSpec& spec, int id) {
+ControlKind KindOf(const DialogTemplate& spec, int id) {
     for (const ControlSpec& control : spec.controls) {
         if (control.id == id) return control.kind;
     }
