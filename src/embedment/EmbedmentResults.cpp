@@ -5,6 +5,7 @@
 
 #include "framework/Backend.h"
 #include "framework/File.h"
+#include "framework/Index.h"
 #include "text/Format.h"
 #include "text/KeyedLine.h"
 #include "text/OutOfRange.h"
@@ -50,7 +51,7 @@ CEmbedmentResults::CEmbedmentResults(const std::string& inputFile, Messages& mes
     RequireCount(path, "embedment trial count", m_nTrials, kMostTrials);
     RequireCount(path, "load case count", m_nCases, kMostCases);
     m_nTableCases = m_nCases;
-    const auto trials = static_cast<std::size_t>(m_nTrials);
+    const auto trials = Index(m_nTrials);
     m_pppValues.resize(trials);
     m_pppLocations.resize(trials);
     m_pEmbedments.assign(trials, 0.0);
@@ -114,7 +115,7 @@ void CEmbedmentResults::ReadTrialFile(const std::string& path, int trial) {
     if (file.GetLineEx(line, kLineLength) && !line.empty()) ReadHeader(line, trial);
     while (file.GetLineEx(line, kLineLength)) {
         if (line == kEndMark) {
-            m_pIncomplete[static_cast<std::size_t>(trial)] = 0;
+            m_pIncomplete[Index(trial)] = 0;
         } else if (!line.empty()) {
             ReadCase(line, trial);
         }
@@ -128,7 +129,7 @@ void CEmbedmentResults::ReadHeader(const std::string& line, int trial) {
     m_nSubstructure = Truncated(header[kSubstructurePlace], m_nSubstructure);
     const int cases = Truncated(header[kCasePlace], m_nCases);
     if (cases >= 0 && cases <= kMostCases) m_nCases = cases;
-    m_pEmbedments[static_cast<std::size_t>(trial)] = header[kEmbedmentPlace];
+    m_pEmbedments[Index(trial)] = header[kEmbedmentPlace];
 }
 
 void CEmbedmentResults::ReadCase(const std::string& line, int trial) {
@@ -136,9 +137,9 @@ void CEmbedmentResults::ReadCase(const std::string& line, int trial) {
     if (ReadKeyedDoubles(line, "", data) == 0) return;
     const int number = Truncated(data[0], 0);
     if (number < 1 || number > m_nTableCases) return;
-    auto& values = m_pppValues[static_cast<std::size_t>(trial)];
-    auto& locations = m_pppLocations[static_cast<std::size_t>(trial)];
-    const auto row = static_cast<std::size_t>(number - 1);
+    auto& values = m_pppValues[Index(trial)];
+    auto& locations = m_pppLocations[Index(trial)];
+    const auto row = Index(number - 1);
     ++m_nFreeRows;
     if (row >= values.size()) {
         const auto grown = static_cast<long long>(row + 1 - values.size());
@@ -154,7 +155,7 @@ void CEmbedmentResults::ReadCase(const std::string& line, int trial) {
 }
 
 double CEmbedmentResults::GetEmbedment(int trial) const {
-    return IsTrial(trial) ? m_pEmbedments[static_cast<std::size_t>(trial)] : 0.0;
+    return IsTrial(trial) ? m_pEmbedments[Index(trial)] : 0.0;
 }
 
 namespace {
@@ -162,23 +163,23 @@ namespace {
 template <class Table>
 auto ValueAt(const Table& table, int loadCase, int quantity) {
     using Value = typename Table::value_type::value_type;
-    const bool known = loadCase >= 0 && static_cast<std::size_t>(loadCase) < table.size() && quantity >= 0 &&
-                       quantity < kQuantityCount;
-    return known ? table[static_cast<std::size_t>(loadCase)][static_cast<std::size_t>(quantity)] : Value{};
+    const bool known =
+        loadCase >= 0 && Index(loadCase) < table.size() && quantity >= 0 && quantity < kQuantityCount;
+    return known ? table[Index(loadCase)][Index(quantity)] : Value{};
 }
 
 }  // namespace
 
 double CEmbedmentResults::GetValue(int trial, int loadCase, int quantity) const {
-    return IsTrial(trial) ? ValueAt(m_pppValues[static_cast<std::size_t>(trial)], loadCase, quantity) : 0.0;
+    return IsTrial(trial) ? ValueAt(m_pppValues[Index(trial)], loadCase, quantity) : 0.0;
 }
 
 int CEmbedmentResults::GetLocation(int trial, int loadCase, int quantity) const {
-    return IsTrial(trial) ? ValueAt(m_pppLocations[static_cast<std::size_t>(trial)], loadCase, quantity) : 0;
+    return IsTrial(trial) ? ValueAt(m_pppLocations[Index(trial)], loadCase, quantity) : 0;
 }
 
 bool CEmbedmentResults::IsTrialIncomplete(int trial) const {
-    return !IsTrial(trial) || m_pIncomplete[static_cast<std::size_t>(trial)] != 0;
+    return !IsTrial(trial) || m_pIncomplete[Index(trial)] != 0;
 }
 
 int CEmbedmentResults::FindAdjacentTrial(int trial, bool backwards) const {

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "framework/Index.h"
 #include "text/Format.h"
 
 namespace lumerin {
@@ -125,7 +126,7 @@ void CPlot::LeaveGap() {
 CPlot::Curve* CPlot::CurrentElement() {
     const int element = Integer(kGraphElement, 0);
     if (element < 0 || element >= static_cast<int>(m_Elements.size())) return nullptr;
-    return &m_Elements[static_cast<std::size_t>(element)];
+    return &m_Elements[Index(element)];
 }
 
 int CPlot::Integer(int id, int fallback) const {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "embedment/Plot.h"
+#include "framework/Index.h"
 #include "text/Format.h"
 #include "text/Utf8.h"
 
@@ -107,8 +108,7 @@ void SvgCanvas::Text(std::string_view text, PlotPoint at, const PlotFont& font, 
                      bool turned, std::uint32_t colour) {
     constexpr const char* kAnchors[] = {"start", "middle", "end"};
     m_sBody += "<text" + Attribute("font-size", Coordinate(font.height)) +
-               Attribute("text-anchor", kAnchors[static_cast<std::size_t>(anchor)]) +
-               Attribute("fill", ColourText(colour));
+               Attribute("text-anchor", kAnchors[Index(anchor)]) + Attribute("fill", ColourText(colour));
     if (font.bold) m_sBody += " font-weight=\"bold\"";
     const std::string x = Coordinate(at.x), y = Coordinate(at.y);
     m_sBody += turned ? Attribute("transform", "translate(" + x + ' ' + y + ") rotate(-90)")

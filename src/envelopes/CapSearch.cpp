@@ -3,13 +3,15 @@
 
 #include <algorithm>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 double CapReading::Read(ElementForces forces, int component) const {
     if (!inside) return GetForce(forces, end, component);
     if (component < 0 || component >= kComponents) return 0.0;
-    const float atI = forces[static_cast<std::size_t>(component)];
-    const float atJ = forces[kComponents + static_cast<std::size_t>(component)];
+    const float atI = forces[Index(component)];
+    const float atJ = forces[kComponents + Index(component)];
     const float drop = atI - atJ;
     return static_cast<double>(atI) - static_cast<double>(drop) * t;
 }
@@ -17,7 +19,7 @@ double CapReading::Read(ElementForces forces, int component) const {
 void CapPlaceSearch::Take(int loadCase, int slot, CaseForces forces) {
     const ElementForces own = ForcesOf(forces, m_element);
     const double value = m_reading.Read(own, m_component.component);
-    std::array<CapHolder, 2>& holders = m_holders[static_cast<std::size_t>(slot)];
+    std::array<CapHolder, 2>& holders = m_holders[Index(slot)];
     for (std::size_t sense = 0; sense < 2; ++sense) {
         CapHolder& holder = holders[sense];
         const bool better = sense == kMaximum ? value > holder.value : value < holder.value;
@@ -103,7 +105,7 @@ CapSideResult CapSide::Result(CapComponent component, const CapPlaceList& places
         result.values[c] = reading.Read(forces, static_cast<int>(c));
     }
     result.status = 0;
-    result.value = result.values[static_cast<std::size_t>(component.component)];
+    result.value = result.values[Index(component.component)];
     return result;
 }
 

@@ -7,6 +7,7 @@
 
 #include "envelopes/PierInput.h"
 #include "envelopes/Records.h"
+#include "framework/Index.h"
 
 namespace lumerin {
 
@@ -53,9 +54,7 @@ class CapPlaceSearch {
         : m_component(component), m_reading(reading), m_element(element), m_beyond(beyond) {}
 
     void Take(int loadCase, int slot, CaseForces forces);
-    const CapHolder& Holder(int slot, int sense) const {
-        return m_holders.at(static_cast<std::size_t>(slot)).at(static_cast<std::size_t>(sense));
-    }
+    const CapHolder& Holder(int slot, int sense) const { return m_holders.at(Index(slot)).at(Index(sense)); }
 
   private:
     void Hold(CapHolder& holder, int loadCase, double value, CaseForces forces) const;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "framework/Index.h"
 #include "model/CapChain.h"
 
 namespace lumerin {
@@ -40,7 +41,7 @@ CapSection FaceSection(const PierInput& input, const CapForm& form, CSupportLoca
         CapSection section{location,
                            x,
                            true,
-                           pier.m_CapPointNode[static_cast<std::size_t>(point)],
+                           pier.m_CapPointNode[Index(point)],
                            CapSide(input, CapSide::kAtNode, kEndJ),
                            CapSide(input, CapSide::kAtNode, kEndI),
                            false};

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "envelopes/CapSections.h"
 #include "envelopes/TableSearch.h"
+#include "framework/Index.h"
 
 namespace lumerin {
 
@@ -15,11 +16,11 @@ void MergePoints(const std::vector<double>& supportX, const std::vector<double>&
         const NextPoint next = NextCapPoint(supportX, support, bearingX, bearing);
         if (next == NextPoint::nothing) return;
         if (next == NextPoint::support) {
-            points[point++] = supportX[static_cast<std::size_t>(support++)];
+            points[point++] = supportX[Index(support++)];
             continue;
         }
         for (int i = 0; i < rowsOfBearing && point < points.size(); ++i) {
-            points[point++] = bearingX[static_cast<std::size_t>(bearing)];
+            points[point++] = bearingX[Index(bearing)];
         }
         ++bearing;
     }

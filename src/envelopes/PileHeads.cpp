@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "envelopes/TableSearch.h"
+#include "framework/Index.h"
 
 namespace lumerin {
 
@@ -37,7 +38,7 @@ class PileHeadSearch : public TableSearch {
 
     void Take(int loadCase, CaseForces forces) override {
         if (!m_input.selection.IsCaseSelected(loadCase)) return;
-        const std::size_t slot = static_cast<std::size_t>(m_input.pier.SlotOf(loadCase));
+        const std::size_t slot = Index(m_input.pier.SlotOf(loadCase));
         if (slot >= m_slots.size()) return;  // a class below 0 is far above every slot, too
         HeadExtremes& best = m_slots[slot];
         for (std::size_t pile = 0; pile < best.tension.size(); ++pile) {

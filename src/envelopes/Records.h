@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "framework/Index.h"
 #include "model/Element.h"
 
 namespace lumerin {
@@ -33,26 +34,21 @@ class CRecordTable {
         m_nSections = sections;
         m_nSlots = slots;
         m_nExtremes = extremes;
-        m_records.assign(static_cast<std::size_t>(sections) * static_cast<std::size_t>(slots) *
-                             static_cast<std::size_t>(extremes),
-                         CMaxRecord{});
+        m_records.assign(Index(sections) * Index(slots) * Index(extremes), CMaxRecord{});
     }
     CMaxRecord& At(int section, int slot, int extreme = 0) {
-        return m_records.at(Index(section, slot, extreme));
+        return m_records.at(Place(section, slot, extreme));
     }
     const CMaxRecord& At(int section, int slot, int extreme = 0) const {
-        return m_records.at(Index(section, slot, extreme));
+        return m_records.at(Place(section, slot, extreme));
     }
     int Sections() const { return m_nSections; }
     int Slots() const { return m_nSlots; }
     int Extremes() const { return m_nExtremes; }
 
   private:
-    std::size_t Index(int section, int slot, int extreme) const {
-        return (static_cast<std::size_t>(section) * static_cast<std::size_t>(m_nSlots) +
-                static_cast<std::size_t>(slot)) *
-                   static_cast<std::size_t>(m_nExtremes) +
-               static_cast<std::size_t>(extreme);
+    std::size_t Place(int section, int slot, int extreme) const {
+        return (Index(section) * Index(m_nSlots) + Index(slot)) * Index(m_nExtremes) + Index(extreme);
     }
     int m_nSections = 0, m_nSlots = 0, m_nExtremes = 0;
     std::vector<CMaxRecord> m_records;
@@ -87,15 +83,13 @@ class CCapTable {
         m_nPositions = positions;
         m_nSlots = slots;
         m_nKinds = kinds;
-        m_entries.assign(static_cast<std::size_t>(positions) * static_cast<std::size_t>(slots) *
-                             static_cast<std::size_t>(kinds) * 2,
-                         CCapEntry{});
+        m_entries.assign(Index(positions) * Index(slots) * Index(kinds) * 2, CCapEntry{});
     }
     CCapEntry& At(int position, int slot, int kind, int extreme) {
-        return m_entries.at(Index(position, slot, kind, extreme));
+        return m_entries.at(Place(position, slot, kind, extreme));
     }
     const CCapEntry& At(int position, int slot, int kind, int extreme) const {
-        return m_entries.at(Index(position, slot, kind, extreme));
+        return m_entries.at(Place(position, slot, kind, extreme));
     }
     const std::vector<CCapEntry>& Entries() const { return m_entries; }
     int Positions() const { return m_nPositions; }
@@ -103,13 +97,9 @@ class CCapTable {
     int Kinds() const { return m_nKinds; }
 
   private:
-    std::size_t Index(int position, int slot, int kind, int extreme) const {
-        return ((static_cast<std::size_t>(position) * static_cast<std::size_t>(m_nSlots) +
-                 static_cast<std::size_t>(slot)) *
-                    static_cast<std::size_t>(m_nKinds) +
-                static_cast<std::size_t>(kind)) *
-                   2 +
-               static_cast<std::size_t>(extreme);
+    std::size_t Place(int position, int slot, int kind, int extreme) const {
+        return ((Index(position) * Index(m_nSlots) + Index(slot)) * Index(m_nKinds) + Index(kind)) * 2 +
+               Index(extreme);
     }
     int m_nPositions = 0, m_nSlots = 0, m_nKinds = 0;
     std::vector<CCapEntry> m_entries;

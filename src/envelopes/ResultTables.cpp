@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "framework/Index.h"
 #include "model/CapChain.h"
 
 namespace lumerin {
@@ -15,7 +16,7 @@ int AtLeastZero(int count) {
 
 template <class Value>
 std::vector<Value> Zeros(int count) {
-    return std::vector<Value>(static_cast<std::size_t>(AtLeastZero(count)));
+    return std::vector<Value>(Index(AtLeastZero(count)));
 }
 
 void AllocateCapTables(const CPier& pier, PierResults& tables) {
@@ -37,7 +38,7 @@ void AllocateCapTables(const CPier& pier, PierResults& tables) {
 PierResults MakePierResults(const CPier& pier) {
     PierResults tables;
     const int slots = pier.SlotCount();
-    tables.maxTension.assign(static_cast<std::size_t>(slots), std::vector<int>(pier.m_Piles.size(), 0));
+    tables.maxTension.assign(Index(slots), std::vector<int>(pier.m_Piles.size(), 0));
     tables.maxCompression = tables.maxTension;
     tables.pileDc.Allocate(AtLeastZero(pier.m_nPileSections), slots, 1);
     tables.columnDc.Allocate(AtLeastZero(pier.m_nColumnSections), slots, 1);
@@ -57,8 +58,8 @@ ResultTables::ResultTables(const CDataSet& data) {
 
 NextPoint NextCapPoint(const std::vector<double>& supportX, int supportCursor,
                        const std::vector<double>& bearingX, int bearingCursor) {
-    const std::size_t support = static_cast<std::size_t>(std::max(supportCursor, 0));
-    const std::size_t bearing = static_cast<std::size_t>(std::max(bearingCursor, 0));
+    const std::size_t support = Index(std::max(supportCursor, 0));
+    const std::size_t bearing = Index(std::max(bearingCursor, 0));
     const bool bearingsLeft = bearing < bearingX.size();
     if (support >= supportX.size()) return bearingsLeft ? NextPoint::bearing : NextPoint::nothing;
     if (!bearingsLeft) return NextPoint::support;

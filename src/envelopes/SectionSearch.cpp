@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 namespace {
@@ -63,13 +65,13 @@ void CForceSearch::Examine(const float* forces, int elements, int loadCase, int 
         i = 1;
     }
     for (; i + 1 < elements; i += 2) {
-        const float* pair = forces + static_cast<std::size_t>(i) * kForcesPerElement;
+        const float* pair = forces + Index(i) * kForcesPerElement;
         if (!MayBeat<kPair>(pair)) continue;
         ExamineElement(pair, loadCase, firstPlace + i);
         ExamineElement(pair + kForcesPerElement, loadCase, firstPlace + i + 1);
     }
     if (i >= elements) return;
-    const float* last = forces + static_cast<std::size_t>(i) * kForcesPerElement;
+    const float* last = forces + Index(i) * kForcesPerElement;
     if (MayBeat<kForcesPerElement>(last)) ExamineElement(last, loadCase, firstPlace + i);
 }
 
@@ -79,9 +81,9 @@ void CForceSearch::ExamineElement(const float* forces, int loadCase, int place) 
 }
 
 void CForceSearch::ExamineExtreme(int extreme, const float* forces, int loadCase, int place) {
-    const auto component = static_cast<std::size_t>(extreme / 2);
+    const auto component = Index(extreme / 2);
     const bool greatest = IsGreatest(extreme);
-    float best = m_best[static_cast<std::size_t>(extreme)];
+    float best = m_best[Index(extreme)];
     int end = -1;
     if (const float value = forces[kAtJ + component]; !m_bSeen || Beats(value, best, greatest)) {
         best = value;
@@ -93,13 +95,13 @@ void CForceSearch::ExamineExtreme(int extreme, const float* forces, int loadCase
     }
     if (end < 0) return;
     Take(extreme, best);
-    m_found[static_cast<std::size_t>(extreme)] = {loadCase, place, end};
+    m_found[Index(extreme)] = {loadCase, place, end};
 }
 
 void CForceSearch::Take(int extreme, float value) {
-    m_best[static_cast<std::size_t>(extreme)] = value;
+    m_best[Index(extreme)] = value;
     std::array<float, kPair>& limits = IsGreatest(extreme) ? m_greatest : m_least;
-    for (std::size_t at = static_cast<std::size_t>(extreme / 2); at < kPair; at += kComponents) {
+    for (std::size_t at = Index(extreme / 2); at < kPair; at += kComponents) {
         limits[at] = value;
     }
 }

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "envelopes/Records.h"
+#include "framework/Index.h"
 #include "model/Pier.h"
 
 namespace lumerin {
@@ -37,7 +38,7 @@ class CSectionWalk {
     CSectionWalk(const CPier& pier, MemberFamily family, int firstSection, int entries);
 
     const std::vector<SectionRun>& Runs() const { return m_runs; }
-    const ElementPlace& Place(int place) const { return m_places[static_cast<std::size_t>(place)]; }
+    const ElementPlace& Place(int place) const { return m_places[Index(place)]; }
 
   private:
     void AddMember(const CPier& pier, int member, int firstElement, int elements);
@@ -77,7 +78,7 @@ class CForceSearch {
     static constexpr int kExtremeCount = kExtremes;
     CForceSearch();
     void Examine(const float* forces, int elements, int loadCase, int firstPlace);
-    const FoundEnd& Found(int extreme) const { return m_found[static_cast<std::size_t>(extreme)]; }
+    const FoundEnd& Found(int extreme) const { return m_found[Index(extreme)]; }
 
   private:
     static constexpr std::size_t kPair = 2 * kForcesPerElement;

@@ -3,6 +3,7 @@
 
 #include "envelopes/SectionSearch.h"
 #include "envelopes/TableSearch.h"
+#include "framework/Index.h"
 
 namespace lumerin {
 
@@ -43,16 +44,16 @@ class SectionTableSearch : public TableSearch {
                  form.family == kXMemberFamily ? input.pier.m_nXMemberFirstSection : form.firstSection,
                  table.Sections()),
           m_nSlots(input.pier.m_bCombinations ? table.Slots() : std::min(table.Slots(), 1)),
-          m_searches(static_cast<std::size_t>(table.Sections()) * static_cast<std::size_t>(m_nSlots)) {}
+          m_searches(Index(table.Sections()) * Index(m_nSlots)) {}
 
     void Take(int loadCase, CaseForces forces) override {
         if (!m_input.selection.IsCaseSelected(loadCase)) return;
         const int slot = m_input.pier.SlotOf(loadCase);
         if (slot < 0 || slot >= m_nSlots) return;
         for (const SectionRun& run : m_walk.Runs()) {
-            m_searches[Index(run.m_nEntry, slot)].Examine(
-                forces.data() + static_cast<std::size_t>(run.m_nFirstElement) * kForcesPerElement,
-                run.m_nElements, loadCase, run.m_nFirstPlace);
+            m_searches[Place(run.m_nEntry, slot)].Examine(
+                forces.data() + Index(run.m_nFirstElement) * kForcesPerElement, run.m_nElements, loadCase,
+                run.m_nFirstPlace);
         }
     }
 
@@ -61,7 +62,7 @@ class SectionTableSearch : public TableSearch {
         if (m_nSlots < 1) return;
         for (int section = 0; section < table.Sections(); ++section) {
             for (int slot = 0; slot < table.Slots(); ++slot) {
-                const Search& search = m_searches[Index(section, std::min(slot, m_nSlots - 1))];
+                const Search& search = m_searches[Place(section, std::min(slot, m_nSlots - 1))];
                 for (int extreme = 0; extreme < Search::kExtremeCount; ++extreme) {
                     table.At(section, slot, extreme) =
                         MakeRecord(m_input.pier, m_walk, search.Found(extreme));
@@ -71,10 +72,7 @@ class SectionTableSearch : public TableSearch {
     }
 
   private:
-    std::size_t Index(int section, int slot) const {
-        return static_cast<std::size_t>(section) * static_cast<std::size_t>(m_nSlots) +
-               static_cast<std::size_t>(slot);
-    }
+    std::size_t Place(int section, int slot) const { return Index(section) * Index(m_nSlots) + Index(slot); }
 
     const SectionTableForm& m_form;
     PierInput m_input;

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "envelopes/SectionSearch.h"
+#include "framework/Index.h"
 
 namespace lumerin {
 
@@ -31,7 +32,7 @@ void CSectionWalk::AddColumns(const CPier& pier) {
 void CSectionWalk::AddExtraMembers(const CPier& pier) {
     const int members = std::min(pier.m_nExtraMembers, static_cast<int>(pier.m_Frame.m_XMembers.size()));
     for (int member = 0; member < members; ++member) {
-        const CXMember& extra = pier.m_Frame.m_XMembers[static_cast<std::size_t>(member)];
+        const CXMember& extra = pier.m_Frame.m_XMembers[Index(member)];
         AddMember(pier, member, extra.m_nFirstElement, pier.m_nXMemberElements);
     }
 }

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <limits>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 namespace {
@@ -75,7 +77,7 @@ double ReadCellDouble(std::string_view text) {
     double value = 0.0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), value);
     if (read.ec == std::errc::result_out_of_range) {
-        const std::string_view digits(text.data(), static_cast<std::size_t>(read.ptr - text.data()));
+        const std::string_view digits(text.data(), Index(read.ptr - text.data()));
         value = IsTooLarge(digits) ? std::numeric_limits<double>::infinity() : 0.0;
     }
     return negative ? -value : value;

@@ -2,6 +2,7 @@
 // The clipboard carries cells as text: a tab between cells, a line a row.
 #include <string_view>
 
+#include "framework/Index.h"
 #include "grid/GridCtrl.h"
 
 namespace lumerin {
@@ -30,16 +31,16 @@ std::string CGridCtrl::SelectionToClipboardData() const {
     int row = -1, column = 0;
     for (const auto& [key, cell] : m_Selection) {
         if (cell.row != row) {
-            if (row >= 0) data += std::string(static_cast<std::size_t>(right - column), '\t') + "\r\n";
+            if (row >= 0) data += std::string(Index(right - column), '\t') + "\r\n";
             row = cell.row;
             column = left;
         }
         // Cells between selected ones stay empty, so that columns line up.
-        data.append(static_cast<std::size_t>(cell.column - column), '\t');
+        data.append(Index(cell.column - column), '\t');
         column = cell.column;
         data += GetCellText(cell.row, cell.column);
     }
-    if (row >= 0) data.append(static_cast<std::size_t>(right - column), '\t');
+    if (row >= 0) data.append(Index(right - column), '\t');
     return data;
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Painting of the window.
+#include "framework/Index.h"
 #include "grid/GridCtrl.h"
 #include "grid/MemDC.h"
 
@@ -54,7 +55,7 @@ void CGridCtrl::DrawCell(CDC& dc, int row, int column, const GridRect& rect) {
     if (inner.right < rect.right) {
         dc.Line({inner.right, rect.top}, {inner.right, rect.bottom}, m_crGridLines);
     }
-    m_CellRows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]->Draw(dc, inner);
+    m_CellRows[Index(row)][Index(column)]->Draw(dc, inner);
 }
 
 }  // namespace lumerin

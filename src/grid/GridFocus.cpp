@@ -2,6 +2,7 @@
 // The focus cell and how the keys move it. Rows and columns of size 0 are skipped.
 #include <algorithm>
 
+#include "framework/Index.h"
 #include "grid/GridCtrl.h"
 
 namespace lumerin {
@@ -12,7 +13,7 @@ constexpr const char* kLoadTableText = "Load Table";
 constexpr int kComputedLoadColumn = 8;
 
 std::size_t U(int index) {
-    return static_cast<std::size_t>(index);
+    return Index(index);
 }
 
 }  // namespace

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <numeric>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 namespace {
@@ -49,7 +51,7 @@ void SplitWidth(std::span<const int> weights, std::span<int> out, int total) {
     }
     const long long spread = fractions / sum;
     for (long long i = 0; i < spread && i < static_cast<long long>(out.size()); ++i) {
-        ++out[static_cast<std::size_t>(i)];
+        ++out[Index(i)];
     }
 }
 

@@ -4,6 +4,7 @@
 // so that the time of a redraw does not grow with the number of rows.
 #include <algorithm>
 
+#include "framework/Index.h"
 #include "grid/GridCtrl.h"
 
 namespace lumerin {
@@ -11,7 +12,7 @@ namespace lumerin {
 namespace {
 
 std::size_t U(int index) {
-    return static_cast<std::size_t>(index);
+    return Index(index);
 }
 int Size(const std::vector<unsigned>& sizes, int index) {
     return static_cast<int>(sizes[U(index)]);

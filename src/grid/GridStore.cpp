@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "framework/Index.h"
 #include "grid/GridCtrl.h"
 
 namespace lumerin {
@@ -13,7 +14,7 @@ namespace {
 constexpr Colour kGridLines = 0xc0c0c0;
 
 std::size_t U(int index) {
-    return static_cast<std::size_t>(index);
+    return Index(index);
 }
 
 }  // namespace

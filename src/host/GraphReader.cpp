@@ -3,6 +3,7 @@
 
 #include "embedment/GraphRecord.h"
 #include "embedment/win32/GraphMessages.h"
+#include "framework/Index.h"
 #include "host/Token.h"
 
 namespace lumerin {
@@ -12,7 +13,7 @@ namespace graphreader {
 std::vector<GraphCall> ReadDrawing(HWND graph) {
     GraphDrawingText query;
     SendMessageA(graph, kGraphDrawing, token::Get(), reinterpret_cast<LPARAM>(&query));
-    std::vector<char> text(static_cast<std::size_t>(query.length) + 1);
+    std::vector<char> text(Index(query.length) + 1);
     query.text = text.data();
     query.capacity = static_cast<int>(text.size());
     SendMessageA(graph, kGraphDrawing, token::Get(), reinterpret_cast<LPARAM>(&query));

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "framework/Index.h"
 #include "grid/win32/GridMessages.h"
 #include "host/Token.h"
 
@@ -30,10 +31,10 @@ namespace gridreader {
 std::vector<std::vector<std::string>> ReadRows(HWND grid) {
     GridCounts counts;
     Ask(grid, kGridCounts, counts);
-    std::vector<std::vector<std::string>> rows(static_cast<std::size_t>(std::max(counts.rows, 0)));
+    std::vector<std::vector<std::string>> rows(Index(std::max(counts.rows, 0)));
     for (int row = 0; row < counts.rows; ++row) {
         for (int column = 0; column < counts.columns; ++column) {
-            rows[static_cast<std::size_t>(row)].push_back(CellText(grid, row, column));
+            rows[Index(row)].push_back(CellText(grid, row, column));
         }
     }
     return rows;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <fstream>
 
+#include "framework/Index.h"
 #include "host/PngFile.h"
 
 namespace lumerin {
@@ -16,7 +17,7 @@ constexpr int kChannels = 3;
 
 // Rows of a bitmap fill up to whole words.
 std::size_t RowBytes(int width) {
-    return (static_cast<std::size_t>(width) * kBytesPerPixel + 3) / 4 * 4;
+    return (Index(width) * kBytesPerPixel + 3) / 4 * 4;
 }
 
 // The window's pixels as the platform keeps them: blue, green, red; rows filled up.
@@ -27,7 +28,7 @@ std::vector<std::uint8_t> ReadPixels(HWND window, int width, int height) {
     info.bmiHeader.biHeight = -height;  // rows from the top
     info.bmiHeader.biPlanes = 1;
     info.bmiHeader.biBitCount = kBitsPerPixel;
-    std::vector<std::uint8_t> bytes(RowBytes(width) * static_cast<std::size_t>(height));
+    std::vector<std::uint8_t> bytes(RowBytes(width) * Index(height));
     const HDC source = GetWindowDC(window);
     const HDC memory = CreateCompatibleDC(source);
     const HBITMAP bitmap = CreateCompatibleBitmap(source, width, height);
@@ -50,9 +51,9 @@ Picture ReadPicture(HWND window) {
     picture.height = frame.bottom - frame.top;
     const std::vector<std::uint8_t> bytes = ReadPixels(window, picture.width, picture.height);
     picture.pixels.reserve(bytes.size());
-    for (std::size_t y = 0; y < static_cast<std::size_t>(picture.height); ++y) {
+    for (std::size_t y = 0; y < Index(picture.height); ++y) {
         const std::uint8_t* row = bytes.data() + y * RowBytes(picture.width);
-        for (std::size_t x = 0; x < static_cast<std::size_t>(picture.width); ++x) {
+        for (std::size_t x = 0; x < Index(picture.width); ++x) {
             for (std::size_t colour = kBytesPerPixel; colour > 0; --colour) {
                 picture.pixels.push_back(row[x * kBytesPerPixel + colour - 1]);
             }
@@ -88,10 +89,10 @@ BOOL CALLBACK OverlayOwned(HWND window, LPARAM data) {
 
 std::string BitmapBytes(const Picture& picture) {
     const std::size_t rowBytes = RowBytes(picture.width);
-    std::string pixels(rowBytes * static_cast<std::size_t>(picture.height), '\0');
-    for (std::size_t y = 0; y < static_cast<std::size_t>(picture.height); ++y) {
-        for (std::size_t x = 0; x < static_cast<std::size_t>(picture.width); ++x) {
-            const std::size_t from = (y * static_cast<std::size_t>(picture.width) + x) * kBytesPerPixel;
+    std::string pixels(rowBytes * Index(picture.height), '\0');
+    for (std::size_t y = 0; y < Index(picture.height); ++y) {
+        for (std::size_t x = 0; x < Index(picture.width); ++x) {
+            const std::size_t from = (y * Index(picture.width) + x) * kBytesPerPixel;
             for (std::size_t colour = 0; colour < kBytesPerPixel; ++colour) {
                 pixels[y * rowBytes + x * kBytesPerPixel + colour] =
                     static_cast<char>(picture.pixels[from + kBytesPerPixel - 1 - colour]);

@@ -7,6 +7,8 @@
 #include <string_view>
 #include <utility>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 // Windows are mostly runs of one colour over many rows. So each row is stored as its difference to the row
@@ -131,9 +133,9 @@ std::string Compress(const std::string& data) {
 }  // namespace
 
 std::string PngBytes(int width, int height, std::span<const std::uint8_t> pixels) {
-    const std::size_t rowBytes = static_cast<std::size_t>(width) * kBytesPerPixel;
+    const std::size_t rowBytes = Index(width) * kBytesPerPixel;
     std::string rows;
-    for (std::size_t y = 0; y < static_cast<std::size_t>(height); ++y) {
+    for (std::size_t y = 0; y < Index(height); ++y) {
         rows.push_back(2);  // filter: difference to the row above
         for (std::size_t x = 0; x < rowBytes; ++x) {
             const unsigned above = y == 0 ? 0u : pixels[(y - 1) * rowBytes + x];

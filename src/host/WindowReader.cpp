@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "framework/Index.h"
 #include "host/GridReader.h"
 
 namespace lumerin {
@@ -77,10 +78,10 @@ constexpr KindOfClass kKinds[] = {
 }  // namespace
 
 std::string TextOf(HWND window) {
-    const auto length = static_cast<std::size_t>(std::max(GetWindowTextLengthA(window), 0));
+    const auto length = Index(std::max(GetWindowTextLengthA(window), 0));
     std::string text(length + 1, '\0');
     const int got = GetWindowTextA(window, text.data(), static_cast<int>(text.size()));
-    text.resize(static_cast<std::size_t>(std::max(got, 0)));
+    text.resize(Index(std::max(got, 0)));
     return text;
 }
 

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 
+#include "framework/Index.h"
 #include "model/CaseSelection.h"
 #include "model/DataSet.h"
 #include "model/Types.h"
@@ -14,8 +15,8 @@ namespace lumerin {
 struct TableFlags {
     std::array<bool, kTableCount> flags{};
 
-    bool& operator[](TableId table) { return flags.at(static_cast<std::size_t>(table)); }
-    bool operator[](TableId table) const { return flags.at(static_cast<std::size_t>(table)); }
+    bool& operator[](TableId table) { return flags.at(Index(table)); }
+    bool operator[](TableId table) const { return flags.at(Index(table)); }
     bool operator==(const TableFlags&) const = default;
 };
 inline constexpr TableFlags kAllTables{{true, true, true, true, true, true, true, true, true, true, true}};

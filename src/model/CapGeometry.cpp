@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
+#include "framework/Index.h"
 #include "model/CapChain.h"
 
 namespace lumerin {
@@ -12,9 +13,8 @@ class CapPointList {
   public:
     explicit CapPointList(CPier& pier) : m_pier(pier) {
         const CFrame& frame = pier.m_Frame;
-        m_nLimit = static_cast<std::size_t>(frame.m_Beam.m_nElements) +
-                   static_cast<std::size_t>(frame.m_Cantilevers[0].m_nElements) +
-                   static_cast<std::size_t>(frame.m_Cantilevers[1].m_nElements) + 1;
+        m_nLimit = Index(frame.m_Beam.m_nElements) + Index(frame.m_Cantilevers[0].m_nElements) +
+                   Index(frame.m_Cantilevers[1].m_nElements) + 1;
     }
     bool IsFull() const { return m_pier.m_CapPointX.size() >= m_nLimit; }
     void Append(long long position, int node) {
@@ -171,8 +171,8 @@ void CPier::BuildCapGeometry() {
     }
     BuildCapPoints(*this);
     CountCapSections(*this);
-    m_BearingList.assign(static_cast<std::size_t>(m_nCapBearings), CBearingLocation{});
-    m_BearingX.assign(static_cast<std::size_t>(m_nCapBearings), 0.0);
+    m_BearingList.assign(Index(m_nCapBearings), CBearingLocation{});
+    m_BearingX.assign(Index(m_nCapBearings), 0.0);
     BuildBearingList(*this);
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
+#include "framework/Index.h"
 #include "model/CapChain.h"
 
 namespace lumerin {
@@ -72,14 +73,14 @@ bool LocateOnStretch(const CPier& pier, const Stretch& stretch, double x, CCapPl
     for (long long i = 0; i < stretch.points; ++i) {
         const long long at = stretch.firstPoint + i;
         if (at < 0 || at >= known) return false;
-        const double here = pier.m_CapPointX[static_cast<std::size_t>(at)];
+        const double here = pier.m_CapPointX[Index(at)];
         if (here == x) {
             place = {stretch.kind, static_cast<int>(stretch.index), static_cast<int>(i), 0.0};
             return true;
         }
         if (here > x) {
             if (i == 0) return false;
-            const double previous = pier.m_CapPointX[static_cast<std::size_t>(at - 1)];
+            const double previous = pier.m_CapPointX[Index(at - 1)];
             place = {stretch.kind, static_cast<int>(stretch.index), static_cast<int>(i - 1),
                      (x - previous) / (here - previous)};
             return true;
@@ -181,7 +182,7 @@ double CPier::NodeCoordinate(int node, int axis) const {
     const long long position = static_cast<long long>(node) - m_nFoundationNodes - 1;
     if (position < 0 || position >= static_cast<long long>(m_dNodes.size()) || axis < 0 || axis > 2)
         return 0.0;
-    return m_dNodes[static_cast<std::size_t>(position)][static_cast<std::size_t>(axis)];
+    return m_dNodes[Index(position)][Index(axis)];
 }
 
 bool CPier::IsCapElementEnd(int node, int end) const {

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <climits>
 
+#include "framework/Index.h"
 #include "model/CapChain.h"
 
 namespace lumerin {
@@ -43,7 +44,7 @@ int CapSupportCount(const CPier& pier) {
 
 double NodeListX(const CPier& pier, long long position) {
     if (position < 0 || position >= static_cast<long long>(pier.m_dNodes.size())) return 0.0;
-    return pier.m_dNodes[static_cast<std::size_t>(position)][0];
+    return pier.m_dNodes[Index(position)][0];
 }
 
 long long SupportPosition(const CPier& pier, int support) {
@@ -85,12 +86,12 @@ double CPier::GetSupportWidth(int support) const {
     switch (m_nStructureType) {
         case kTypePier:
         case kTypeMast: {
-            const CColumn& column = m_Frame.m_Columns[static_cast<std::size_t>(support)];
+            const CColumn& column = m_Frame.m_Columns[Index(support)];
             if (m_nColumnNodes < 0 || m_nColumnNodes >= column.m_nElements) return 0.0;
             return SectionData(column.m_nFirstElement + m_nColumnNodes).m_dWidth;
         }
         case kTypePileBent:
-            return m_Piles[static_cast<std::size_t>(support)].m_dDimension;
+            return m_Piles[Index(support)].m_dDimension;
         default:
             return 0.0;
     }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "framework/Index.h"
 #include "model/DataSet.h"
 
 namespace lumerin {
@@ -20,7 +21,7 @@ bool CaseSelection::IsFirstPierCaseSelected(const CDataSet& data, int index) con
 }
 
 void CaseSelection::SetCaseSelected(int index, bool selected) {
-    if (index >= 0 && index < CaseCount()) m_selected[static_cast<std::size_t>(index)] = selected ? 1 : 0;
+    if (index >= 0 && index < CaseCount()) m_selected[Index(index)] = selected ? 1 : 0;
 }
 
 void CaseSelection::FindFirstCases(const CDataSet& data) {
@@ -30,17 +31,15 @@ void CaseSelection::FindFirstCases(const CDataSet& data) {
     if (first.m_nCodeFamily != kFamilyLrfd && first.m_nCodeFamily != kFamilyArema) return;
     const int classes = first.SlotCount();
     for (int c = static_cast<int>(first.m_LoadCases.size()) - 1; c >= 0; --c) {
-        const int limitClass = first.m_LoadCases[static_cast<std::size_t>(c)].m_nLimitClass;
+        const int limitClass = first.m_LoadCases[Index(c)].m_nLimitClass;
         if (IsCaseSelected(c) && limitClass >= 0 && limitClass < classes) {
-            m_firstOfClass[static_cast<std::size_t>(limitClass)] = c;
+            m_firstOfClass[Index(limitClass)] = c;
         }
     }
 }
 
 int CaseSelection::FirstOfClass(LimitClass limitClass) const {
-    return limitClass >= 0 && limitClass < kLimitClasses
-               ? m_firstOfClass[static_cast<std::size_t>(limitClass)]
-               : -1;
+    return limitClass >= 0 && limitClass < kLimitClasses ? m_firstOfClass[Index(limitClass)] : -1;
 }
 
 }  // namespace lumerin

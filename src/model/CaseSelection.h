@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "framework/Index.h"
 #include "model/Types.h"
 
 namespace lumerin {
@@ -22,7 +23,7 @@ class CaseSelection {
 
     // Indices count from 0; one that the project does not have is not selected, and setting it does nothing.
     bool IsCaseSelected(int index) const {
-        return index >= 0 && index < CaseCount() && m_selected[static_cast<std::size_t>(index)] != 0;
+        return index >= 0 && index < CaseCount() && m_selected[Index(index)] != 0;
     }
     // The same for the cases of the first substructure, which the dialogs list; others can have more of them.
     bool IsFirstPierCaseSelected(const CDataSet& data, int index) const;

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <span>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 // Force components, in the order in which tables print them. FAX positive is tension.
@@ -19,8 +21,7 @@ using ElementForces = std::span<const float, kForcesPerElement>;
 // The value of a component at an end, widened for comparing and computing; 0.0 for another end or component.
 inline double GetForce(ElementForces forces, int end, int component) {
     if (end < kEndI || end > kEndJ || component < 0 || component >= kComponents) return 0.0;
-    return static_cast<double>(
-        forces[static_cast<std::size_t>(end) * kComponents + static_cast<std::size_t>(component)]);
+    return static_cast<double>(forces[Index(end) * kComponents + Index(component)]);
 }
 
 // The identity of one beam element. It is the same in every load case, so it is stored once.

@@ -3,6 +3,8 @@
 
 #include <cstddef>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 const std::array<std::array<const char*, 3>, 18> g_LimitStateNames = {{
@@ -54,7 +56,7 @@ std::string LimitStateName(int code) {
     const int named = code == kMisnamedCode ? kNamedAsCode : code;
     for (const CodeBlock& block : kCodeBlocks) {
         if (named >= block.first && named < block.first + block.count) {
-            return g_LimitStateNames[static_cast<std::size_t>(named - block.first)][block.column];
+            return g_LimitStateNames[Index(named - block.first)][block.column];
         }
     }
     return "ERROR 1";

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "framework/Index.h"
 #include "model/CaseSelection.h"
 
 namespace lumerin {
@@ -26,13 +27,13 @@ void PlaceMember(CMember& member, int count, int& next) {
 
 void CPier::AllocateMembers(const CMemberCounts& counts, int loadCases) {
     int next = 0;
-    m_Piles.assign(static_cast<std::size_t>(AtLeastZero(counts.piles)), CPile{});
+    m_Piles.assign(Index(AtLeastZero(counts.piles)), CPile{});
     for (CPile& pile : m_Piles) {
         pile.m_nNodes = counts.pileNodes;
         PlaceMember(pile, AtLeastZero(counts.pileNodes - 1), next);
     }
     m_nFirstFrameElement = next;
-    m_Frame.m_Columns.assign(static_cast<std::size_t>(AtLeastZero(counts.columns)), CColumn{});
+    m_Frame.m_Columns.assign(Index(AtLeastZero(counts.columns)), CColumn{});
     for (CColumn& column : m_Frame.m_Columns) {
         PlaceMember(column, AtLeastZero(counts.columnNodes + 1), next);
         // A column without interior nodes has one allocated element but a count of 0. Only loops that use the
@@ -42,21 +43,21 @@ void CPier::AllocateMembers(const CMemberCounts& counts, int loadCases) {
     PlaceMember(m_Frame.m_Cantilevers[0], AtLeastZero(counts.cantileverElements), next);
     PlaceMember(m_Frame.m_Beam, AtLeastZero(counts.spanElements), next);
     PlaceMember(m_Frame.m_Cantilevers[1], AtLeastZero(counts.cantileverElements), next);
-    m_Frame.m_XMembers.assign(static_cast<std::size_t>(AtLeastZero(counts.extraMembers)), CXMember{});
+    m_Frame.m_XMembers.assign(Index(AtLeastZero(counts.extraMembers)), CXMember{});
     for (CXMember& member : m_Frame.m_XMembers) PlaceMember(member, 1, next);
 
-    const std::size_t elements = static_cast<std::size_t>(next);
-    const std::size_t frameElements = elements - static_cast<std::size_t>(m_nFirstFrameElement);
+    const std::size_t elements = Index(next);
+    const std::size_t frameElements = elements - Index(m_nFirstFrameElement);
     m_Elements.assign(elements, CElement{});
     m_SectionData.assign(frameElements, CSectionData{});
     m_Masked.assign(frameElements, 0);
     m_nLoadCases = AtLeastZero(loadCases);
-    m_LoadCases.assign(static_cast<std::size_t>(m_nLoadCases), CLoadCase{});
+    m_LoadCases.assign(Index(m_nLoadCases), CLoadCase{});
 }
 
 int CPier::FindElement(MemberFamily family, int member, int element) const {
     if (member < 0 || element < 0) return -1;
-    const std::size_t m = static_cast<std::size_t>(member);
+    const std::size_t m = Index(member);
     switch (family) {
         case kPileFamily:
             if (m >= m_Piles.size() || element >= m_Piles[m].m_nElements) return -1;
@@ -78,8 +79,7 @@ bool CPier::HasOnlyLimitClasses(const CaseSelection& selection, int a, int b, in
     if (m_nCodeFamily != kFamilyLrfd) return true;
     const std::array<int, kLimitClasses> asked{a, b, c, d};
     return std::ranges::all_of(kAllClasses, [&](LimitClass limitClass) {
-        return (asked[static_cast<std::size_t>(limitClass)] == limitClass) ==
-               selection.IsClassPresent(limitClass);
+        return (asked[Index(limitClass)] == limitClass) == selection.IsClassPresent(limitClass);
     });
 }
 
@@ -89,7 +89,7 @@ int CPier::SlotCount() const {
 }
 
 std::span<const LimitClass> CPier::Slots() const {
-    return std::span(kAllClasses).first(static_cast<std::size_t>(SlotCount()));
+    return std::span(kAllClasses).first(Index(SlotCount()));
 }
 
 }  // namespace lumerin

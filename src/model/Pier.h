@@ -7,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "framework/Index.h"
 #include "model/CapTypes.h"
 #include "model/Element.h"
 #include "model/Members.h"
@@ -29,33 +30,29 @@ class CPier {
     void AllocateMembers(const struct CMemberCounts& counts, int loadCases);
 
     int ElementCount() const { return static_cast<int>(m_Elements.size()); }
-    CElement& Element(int element) { return m_Elements.at(static_cast<std::size_t>(element)); }
-    const CElement& Element(int element) const { return m_Elements.at(static_cast<std::size_t>(element)); }
+    CElement& Element(int element) { return m_Elements.at(Index(element)); }
+    const CElement& Element(int element) const { return m_Elements.at(Index(element)); }
 
     // The widths of the columns and the cap; element is an index of the element list, counted from the end of
     // the piles.
-    CSectionData& SectionData(int element) {
-        return m_SectionData.at(static_cast<std::size_t>(element - m_nFirstFrameElement));
-    }
+    CSectionData& SectionData(int element) { return m_SectionData.at(Index(element - m_nFirstFrameElement)); }
     const CSectionData& SectionData(int element) const {
-        return m_SectionData.at(static_cast<std::size_t>(element - m_nFirstFrameElement));
+        return m_SectionData.at(Index(element - m_nFirstFrameElement));
     }
     bool IsMasked(int element) const {
         const int i = element - m_nFirstFrameElement;
-        return i >= 0 && i < static_cast<int>(m_Masked.size()) && m_Masked[static_cast<std::size_t>(i)] != 0;
+        return i >= 0 && i < static_cast<int>(m_Masked.size()) && m_Masked[Index(i)] != 0;
     }
     void SetMasked(int element, bool masked) {
-        m_Masked.at(static_cast<std::size_t>(element - m_nFirstFrameElement)) = masked ? 1 : 0;
+        m_Masked.at(Index(element - m_nFirstFrameElement)) = masked ? 1 : 0;
     }
 
-    int PileElement(int pile, int element) const {
-        return m_Piles[static_cast<std::size_t>(pile)].m_nFirstElement + element;
-    }
+    int PileElement(int pile, int element) const { return m_Piles[Index(pile)].m_nFirstElement + element; }
     // Allocated elements of each column: one when the column has no interior nodes, none when their count is
     // -1.
     int ColumnElements() const { return std::max(m_nColumnNodes, -1) + 1; }
     int ColumnElement(int column, int element) const {
-        return m_Frame.m_Columns[static_cast<std::size_t>(column)].m_nFirstElement + element;
+        return m_Frame.m_Columns[Index(column)].m_nFirstElement + element;
     }
     // The element of a record of tables 1, 2, 5, 6 or 7 by the member family; -1 when the record points at no
     // existing member or element.
@@ -72,7 +69,7 @@ class CPier {
     // The slot in which a case (from 0) is searched: its limit class, or slot 0 when the cases are not
     // combinations.
     int SlotOf(int loadCase) const {
-        return m_bCombinations ? m_LoadCases[static_cast<std::size_t>(loadCase)].m_nLimitClass : 0;
+        return m_bCombinations ? m_LoadCases[Index(loadCase)].m_nLimitClass : 0;
     }
 
     // ---- cap geometry and lookups

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 
+#include "framework/Index.h"
 #include "results/Bearings.h"
 #include "results/ProjectFiles.h"
 #include "results/SeqFile.h"
@@ -18,14 +19,14 @@ using Entry = std::array<double, 3>;
 
 // A row's entries may stand in records of their own or in one: they are asked for together.
 std::vector<Entry> ReadEntries(CSeqFile& file, int count) {
-    std::vector<Entry> entries(static_cast<std::size_t>(count));
+    std::vector<Entry> entries(Index(count));
     file.ReadRecord(entries.data(), static_cast<unsigned>(entries.size() * sizeof(Entry)), "bearing entries");
     return entries;
 }
 
 // The node numbers of a row's records, one less than its entries.
 std::vector<int> ReadNodes(CSeqFile& file, int entries) {
-    std::vector<std::array<int, 3>> records(static_cast<std::size_t>(std::max(entries, 1) - 1));
+    std::vector<std::array<int, 3>> records(Index(std::max(entries, 1) - 1));
     file.ReadRecord(records.data(), static_cast<unsigned>(records.size() * sizeof(records[0])),
                     "bearing nodes");
     std::vector<int> nodes;
@@ -44,7 +45,7 @@ bool IsOneRow(const std::vector<Entry>& left, const std::vector<Entry>& right) {
 
 CBearingRow MakeRow(const std::vector<int>& nodes, int entries) {
     CBearingRow row;
-    row.m_Bearings.resize(static_cast<std::size_t>(entries / 2));
+    row.m_Bearings.resize(Index(entries / 2));
     for (std::size_t i = 0; i < row.m_Bearings.size() && i < nodes.size(); ++i) {
         row.m_Bearings[i].m_nNode = nodes[i];
     }

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "framework/File.h"
+#include "framework/Index.h"
 #include "model/LimitStates.h"
 #include "results/ProjectFiles.h"
 #include "results/SeqFile.h"
@@ -116,7 +117,7 @@ class LimitStateList {
             const std::string name = LimitStateName(run.code);
             const LimitClass limitClass = LimitClassOf(m_nFamily, run.code).value_or(kClassOfUnknownCodes);
             for (int j = begin; j < run.end; ++j) {
-                const auto at = static_cast<std::size_t>(j);
+                const auto at = Index(j);
                 // Names and numbers go to the first substructure, from which all tables take them.
                 named[at].m_sLimitState = name;
                 named[at].m_nNumber = static_cast<int>(run.numberOfFirst + static_cast<unsigned>(j));
@@ -128,7 +129,7 @@ class LimitStateList {
     // Once for each case that any row gave a code that the family doesn't have.
     void ReportUnknownCodes(std::size_t cases, Messages& messages) const {
         for (const auto& [begin, run] : m_unknown.ByFirstCase()) {
-            for (int j = begin; j < run.end && static_cast<std::size_t>(j) < cases; ++j) {
+            for (int j = begin; j < run.end && Index(j) < cases; ++j) {
                 messages.Show("Invalid limit state");
             }
         }
@@ -177,7 +178,7 @@ void ReadLimitStates(const std::string& basePath, std::vector<CLoadCase>& named,
 }  // namespace
 
 void ReadCombinationData(const std::string& basePath, int k, CDataSet& data, Messages& messages) {
-    CPier& pier = data.m_Piers[static_cast<std::size_t>(k)];
+    CPier& pier = data.m_Piers[Index(k)];
     if (!ReadCodeFamily(basePath, k, pier)) return;
     std::vector<CLoadCase>& named = data.FirstPier().m_LoadCases;
     ReadTitles(basePath, named);

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <span>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 namespace {
@@ -53,9 +55,7 @@ class ZeroRows : public ForceRows {
 class ForceFile::Pass {
   public:
     Pass(const ForceFile& source, const CaseTaker& take)
-        : m_source(source),
-          m_take(take),
-          m_forces(static_cast<std::size_t>(source.m_elements) * kForcesPerElement, 0.0F) {}
+        : m_source(source), m_take(take), m_forces(Index(source.m_elements) * kForcesPerElement, 0.0F) {}
 
     FiniteForces Run() {
         if (m_source.m_reads.empty()) {
@@ -73,7 +73,7 @@ class ForceFile::Pass {
     void ReadWholeCases() {
         std::vector<float> piece(kPieceRecords * kForceRecordWords);
         const std::size_t block = m_source.m_targets.size();
-        const std::size_t total = static_cast<std::size_t>(m_source.m_wholeCases) * block;
+        const std::size_t total = Index(m_source.m_wholeCases) * block;
         m_file.Seek(0);
         std::size_t inBlock = 0;
         int loadCase = 0;
@@ -111,8 +111,7 @@ class ForceFile::Pass {
 
     void ReadCaseByRecord(int loadCase) {
         // What the record before the first one of the case left.
-        const long long last =
-            m_source.m_lastBefore[static_cast<std::size_t>(loadCase - m_source.m_wholeCases)];
+        const long long last = m_source.m_lastBefore[Index(loadCase - m_source.m_wholeCases)];
         Record record{};
         if (last > 0) m_file.Read(record.data(), last);
         const long long before = loadCase * m_source.m_block;
@@ -125,14 +124,14 @@ class ForceFile::Pass {
     }
 
     float* ForcesOf(const ForceTarget& target) {
-        return m_forces.data() + static_cast<std::size_t>(target.element) * kForcesPerElement;
+        return m_forces.data() + Index(target.element) * kForcesPerElement;
     }
 
     // The forces of the element are not all finite.
     void Note(const ForceTarget& target) {
         if (target.kind == ForceKind::pile) {
             m_finite.piles = false;
-            const bool head = m_source.m_isHead[static_cast<std::size_t>(target.element)] != 0;
+            const bool head = m_source.m_isHead[Index(target.element)] != 0;
             if (head && !std::isfinite(ForcesOf(target)[kComponents + kAxial])) m_finite.pileHeads = false;
         }
         if (target.kind == ForceKind::extraMember) m_finite.extraMembers = false;
@@ -156,14 +155,14 @@ ForceFile::ForceFile(const CPier& pier, const PierCounts& counts, std::vector<CF
       m_block(static_cast<long long>(counts.pileElements) + counts.elements),
       m_cases(pier.m_nLoadCases),
       m_elements(pier.ElementCount()),
-      m_readOf(static_cast<std::size_t>(m_elements), -1),
-      m_isHead(static_cast<std::size_t>(m_elements), 0) {
+      m_readOf(Index(m_elements), -1),
+      m_isHead(Index(m_elements), 0) {
     if (m_reads.empty()) return;
     for (std::size_t i = 0; i < m_reads.size(); ++i) {
-        m_readOf[static_cast<std::size_t>(m_reads[i].element)] = static_cast<int>(i);
+        m_readOf[Index(m_reads[i].element)] = static_cast<int>(i);
     }
     for (const CPile& pile : pier.m_Piles) {
-        if (pile.m_nElements > 0) m_isHead[static_cast<std::size_t>(pile.m_nFirstElement)] = 1;
+        if (pile.m_nElements > 0) m_isHead[Index(pile.m_nFirstElement)] = 1;
     }
     const std::vector<CColumn>& columns = pier.m_Frame.m_Columns;
     if (!columns.empty()) {
@@ -185,16 +184,16 @@ ForceFile::ForceFile(const CPier& pier, const PierCounts& counts, std::vector<CF
 
 void ForceFile::MapBlock() {
     if (m_block <= 0) return;
-    m_targets.assign(static_cast<std::size_t>(m_block), ForceTarget{});
+    m_targets.assign(Index(m_block), ForceTarget{});
     for (std::size_t i = 0; i < m_reads.size(); ++i) {
         const CForceRead& read = m_reads[i];
         const bool inside = read.record >= 1 && read.record <= m_block;
-        const bool last = m_readOf[static_cast<std::size_t>(read.element)] == static_cast<int>(i);
-        if (!inside || !last || m_targets[static_cast<std::size_t>(read.record - 1)].element != -1) {
+        const bool last = m_readOf[Index(read.element)] == static_cast<int>(i);
+        if (!inside || !last || m_targets[Index(read.record - 1)].element != -1) {
             m_targets.clear();
             return;
         }
-        m_targets[static_cast<std::size_t>(read.record - 1)] = {read.element, read.kind};
+        m_targets[Index(read.record - 1)] = {read.element, read.kind};
     }
     m_wholeCases = static_cast<int>(std::min<long long>(m_whole / m_block, m_cases));
 }
@@ -223,15 +222,15 @@ std::unique_ptr<ForceRows> ForceFile::OpenRows() const {
 }
 
 std::optional<ForceFile::Source> ForceFile::SourceOf(int loadCase, int element) const {
-    const int place = m_readOf.at(static_cast<std::size_t>(element));
+    const int place = m_readOf.at(Index(element));
     if (place < 0) return {};
-    const ForceKind kind = m_reads[static_cast<std::size_t>(place)].kind;
+    const ForceKind kind = m_reads[Index(place)].kind;
     const long long before = loadCase * m_block;
     for (int i = place; i >= 0; --i) {
-        const long long record = before + m_reads[static_cast<std::size_t>(i)].record;
+        const long long record = before + m_reads[Index(i)].record;
         if (record <= m_whole) return Source{record, kind};
     }
-    return Source{m_lastBefore.at(static_cast<std::size_t>(loadCase - m_wholeCases)), kind};
+    return Source{m_lastBefore.at(Index(loadCase - m_wholeCases)), kind};
 }
 
 }  // namespace lumerin

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 namespace {
@@ -49,7 +51,7 @@ class Planner {
     // Records exist for real elements only: a number loses the masked numbers below it.
     long long WithoutGaps(int number) const {
         const int last = static_cast<int>(m_missingBelow.size()) - 1;
-        return number - m_missingBelow[static_cast<std::size_t>(std::clamp(number, 0, last))];
+        return number - m_missingBelow[Index(std::clamp(number, 0, last))];
     }
     int LastColumnSection() const { return std::max(m_counts.columnSections, 1) + 1; }
     // The element number at which column m begins; -1 when no row does.
@@ -72,8 +74,8 @@ void Planner::PlanCap() {
     int left = 0, right = 0;
     long long inSpan = 0;
     for (int i = 0; i < rows; ++i) {
-        const CElementRow& row = m_table[static_cast<std::size_t>(i)];
-        const int previous = m_table[static_cast<std::size_t>(std::max(i - 1, 0))].number;
+        const CElementRow& row = m_table[Index(i)];
+        const int previous = m_table[Index(std::max(i - 1, 0))].number;
         // Masked numbers keep their place along the cap; inside a cantilever the index does not move.
         const long long gap = static_cast<long long>(row.number) - previous - 1;
         if (m_counts.elementGaps > 0 && gap > 0) {
@@ -100,7 +102,7 @@ int Planner::FirstNumberOfColumn(int m) const {
         if (section == 1 || section > LastColumnSection()) continue;
         if (column == m) return m_table[row].number;
         ++column;
-        row += static_cast<std::size_t>(std::max(m_pier.m_nColumnNodes, 0));
+        row += Index(std::max(m_pier.m_nColumnNodes, 0));
     }
     return -1;
 }

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "framework/Index.h"
 #include "model/Element.h"
 
 namespace lumerin {
@@ -59,7 +60,7 @@ template <typename Store>
 std::size_t StoreRun(std::span<const ForceTarget> targets, const float* words, float* forces, Store store) {
     for (std::size_t i = 0; i < targets.size(); ++i, words += kForceRecordWords) {
         if (targets[i].element < 0) continue;
-        float* to = forces + static_cast<std::size_t>(targets[i].element) * kForcesPerElement;
+        float* to = forces + Index(targets[i].element) * kForcesPerElement;
         if (!store(targets[i].kind, words, to)) return i;
     }
     return targets.size();

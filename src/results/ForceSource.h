@@ -7,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "framework/Index.h"
 #include "model/Element.h"
 #include "results/FiniteForces.h"
 
@@ -17,7 +18,7 @@ namespace lumerin {
 using CaseForces = std::span<const float>;
 
 inline ElementForces ForcesOf(CaseForces forces, int element) {
-    return forces.subspan(static_cast<std::size_t>(element) * kForcesPerElement).first<kForcesPerElement>();
+    return forces.subspan(Index(element) * kForcesPerElement).first<kForcesPerElement>();
 }
 
 // The fourteen floats of one element in one case.

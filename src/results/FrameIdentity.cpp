@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
+#include "framework/Index.h"
 #include "results/Identity.h"
 
 namespace lumerin {
@@ -64,7 +65,7 @@ class FrameNumbering {
     }
 
     void NumberColumn(int i) {
-        const CMember& column = m_pier.m_Frame.m_Columns[static_cast<std::size_t>(i)];
+        const CMember& column = m_pier.m_Frame.m_Columns[Index(i)];
         for (int e = 0; e < ColumnElements(m_pier); ++e) {
             CElement& element = Next(column, e);
             element.m_nNodeI = m_nNode;
@@ -75,7 +76,7 @@ class FrameNumbering {
 
     // The node at which a support meets the cap.
     int TopNode(int support) const {
-        const std::size_t s = static_cast<std::size_t>(support);
+        const std::size_t s = Index(support);
         if (m_pier.m_nStructureType != kTypePileBent) return m_ColumnTops.at(s);
         if (s >= m_pier.m_Piles.size() || m_pier.m_Piles[s].m_nElements < 1) return 0;
         return m_pier.Element(m_pier.m_Piles[s].m_nFirstElement).m_nNodeJ;
@@ -147,7 +148,7 @@ class SectionCursor {
   public:
     SectionCursor(CPier& pier, const PierModel& model, bool useMask)
         : m_pier(pier), m_model(model), m_bUseMask(useMask) {
-        m_nRow = m_nMask = static_cast<std::size_t>(FoundationElements(pier));
+        m_nRow = m_nMask = Index(FoundationElements(pier));
     }
 
     void Assign(int firstElement, int count) {
@@ -226,9 +227,9 @@ void ApplyElementMask(CPier& pier, StructureType firstType) {
     if ((firstType != kTypePier && firstType != kTypePileBent) ||
         (type != kTypePier && type != kTypePileBent))
         return;
-    std::size_t cursor = static_cast<std::size_t>(FoundationElements(pier));
+    std::size_t cursor = Index(FoundationElements(pier));
     WalkFrame(
-        pier, [&](int) { cursor += static_cast<std::size_t>(pier.ColumnElements()); },
+        pier, [&](int) { cursor += Index(pier.ColumnElements()); },
         [&](int first, int count) {
             for (int e = 0; e < count; ++e, ++cursor) {
                 pier.SetMasked(first + e,

@@ -5,6 +5,7 @@
 #include <climits>
 
 #include "framework/File.h"
+#include "framework/Index.h"
 #include "results/Bearings.h"
 #include "results/Combinations.h"
 #include "results/ForceFile.h"
@@ -185,7 +186,7 @@ class Loader {
     // False: nothing converged, which was reported.
     bool Load() {
         m_data.m_nPiers = ReadSubstructureCount(m_basePath);
-        m_data.m_Piers.resize(static_cast<std::size_t>(m_data.m_nPiers));
+        m_data.m_Piers.resize(Index(m_data.m_nPiers));
         for (int k = 0; k < m_data.m_nPiers; ++k) {
             if (!ReadSubstructure(k)) return false;
         }
@@ -207,7 +208,7 @@ class Loader {
         std::optional<PierModel> model = ReadPierModel({m_basePath, k, firstType, m_maskBytes}, m_messages);
         if (!model) return false;
         m_maskBytes += static_cast<long long>(model->elementMask.size());
-        CPier& pier = m_data.m_Piers[static_cast<std::size_t>(k)];
+        CPier& pier = m_data.m_Piers[Index(k)];
         CDirFile file;
         CFileException notOpened(CFileException::none, SubstructureFile(m_basePath, ".vmd", k + 1), "");
         file.Open(notOpened.m_strFileName, kForceRecordBytes, &notOpened);

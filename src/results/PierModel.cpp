@@ -3,6 +3,7 @@
 #include <cstring>
 #include <span>
 
+#include "framework/Index.h"
 #include "results/PierModel.h"
 #include "results/PileFile.h"
 #include "results/ProjectFiles.h"
@@ -196,7 +197,7 @@ int SplitNodes(PierModel& model) {
 
 void ReadNodes(CSeqFile& file, int skipped, PierModel& model) {
     const int nodes = model.counts.nodes;
-    model.nodes.reserve(static_cast<std::size_t>(nodes - std::clamp(skipped, 0, nodes)));
+    model.nodes.reserve(Index(nodes - std::clamp(skipped, 0, nodes)));
     std::array<double, 3> node{};
     for (int i = 0; i < nodes; ++i) {
         file.ReadRecord(node.data(), 24, "node");
@@ -209,7 +210,7 @@ std::vector<CElementRow> ReadElementTable(CSeqFile& file) {
     const int elements = file.ReadInts<2>("element count")[1];
     file.CheckCount("element count", elements, 28);
     std::vector<CElementRow> table;
-    table.reserve(static_cast<std::size_t>(elements));
+    table.reserve(Index(elements));
     for (int i = 0; i < elements; ++i) {
         const std::array<int, 7> words = file.ReadInts<7>("element row");
         // A node number of the smallest int can't be counted from 0.
@@ -234,10 +235,10 @@ std::vector<std::uint8_t> BuildElementMask(const CSeqFile& file, const std::vect
     const long long size = static_cast<long long>(table.size()) + CountGaps(table);
     file.RequireRange("highest element number", size, 0,
                       std::min<long long>(kMaxElementNumber, kMaxMaskBytes - maskBytes));
-    std::vector<std::uint8_t> mask(static_cast<std::size_t>(size), 1);
+    std::vector<std::uint8_t> mask(Index(size), 1);
     for (const CElementRow& row : table) {
         file.RequireRange("element number", row.number, 1, size);
-        mask[static_cast<std::size_t>(row.number - 1)] = 0;
+        mask[Index(row.number - 1)] = 0;
     }
     return mask;
 }
@@ -248,13 +249,13 @@ std::vector<std::vector<int>> ReadPileSections(CSeqFile& file, const PierCounts&
     std::array<int, 2> pair{};
     for (int i = 0; i < counts.pileTableSize; ++i) file.ReadRecord(pair.data(), 8, "table entry");
     for (const int count : {rows.a, rows.b}) {
-        std::vector<int> spacing(static_cast<std::size_t>(std::max(count, 1) - 1));
+        std::vector<int> spacing(Index(std::max(count, 1) - 1));
         file.ReadRecord(spacing.data(), static_cast<unsigned>(spacing.size() * 4), "pile row spacing");
     }
     // The flags of the piles come last. Nothing uses them, so they may be absent and are not read.
-    std::vector<std::vector<int>> piles(static_cast<std::size_t>(counts.piles));
+    std::vector<std::vector<int>> piles(Index(counts.piles));
     for (std::vector<int>& sections : piles) {
-        sections.resize(static_cast<std::size_t>(counts.pileNodes - 1));
+        sections.resize(Index(counts.pileNodes - 1));
         file.ReadRecord(sections.data(), static_cast<unsigned>(sections.size() * 4), "pile sections");
     }
     return piles;
@@ -308,7 +309,7 @@ void ReadPileDimensions(const std::string& basePath, int number, CPier& pier) {
     for (CPile& pile : pier.m_Piles) {
         const int section = pile.m_nElements > 0 ? pier.Element(pile.m_nFirstElement).m_nSection : 0;
         const bool known = section >= 1 && section <= static_cast<int>(head.sections.size());
-        pile.m_dDimension = known ? head.sections[static_cast<std::size_t>(section - 1)].Dimension() : 0.0;
+        pile.m_dDimension = known ? head.sections[Index(section - 1)].Dimension() : 0.0;
     }
 }
 

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <string>
 
+#include "framework/Index.h"
 #include "results/ReadData.h"
 
 namespace lumerin {
@@ -113,7 +114,7 @@ void ReadPierSections(ifstreamex& file, CDataSet& data) {
     ReadKeyedInt(header, "L", squared);
     BlockReader reader(file, squared == 1);
     for (int i = 0; i < described && i < static_cast<int>(data.m_Piers.size()) && !reader.AtEnd(); ++i) {
-        reader.Read(data.m_Piers[static_cast<std::size_t>(i)]);
+        reader.Read(data.m_Piers[Index(i)]);
     }
 }
 

@@ -4,6 +4,8 @@
 #include <array>
 #include <cstring>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 namespace {
@@ -27,7 +29,7 @@ CPileFileHead ReadPileFileHead(CSeqFile& file) {
     CPileFileHead head;
     head.blocks = file.ReadInts<1>("section block count")[0];
     file.CheckCount("section block count", head.blocks, 4);
-    std::vector<int> sizes(static_cast<std::size_t>(head.blocks));
+    std::vector<int> sizes(Index(head.blocks));
     file.ReadRecord(sizes.data(), static_cast<unsigned>(sizes.size() * 4), "section block sizes");
     long long records = 0;
     for (const int size : sizes) {

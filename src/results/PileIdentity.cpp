@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "framework/Index.h"
 #include "results/Identity.h"
 
 namespace lumerin {
@@ -10,7 +11,7 @@ void IdentifyPiles(CPier& pier, const PierModel& model) {
         const int base = pile.m_nElements * static_cast<int>(p) + pier.m_nNodes;
         for (int e = 0; e < pile.m_nElements; ++e) {
             CElement& element = pier.Element(pile.m_nFirstElement + e);
-            element.m_nSection = model.pileSections[p][static_cast<std::size_t>(e)];
+            element.m_nSection = model.pileSections[p][Index(e)];
             // The head node of a pile is numbered by the pile; the others follow the frame's nodes.
             element.m_nNodeI = base + e + 1;
             element.m_nNodeJ = e == 0 ? number : base + e;
@@ -26,7 +27,7 @@ const CElementRow* ExtraMemberRow(const CPier& pier, const PierModel& model, std
     const long long row = static_cast<long long>(model.elementTable.size()) - pier.m_nExtraMembers +
                           static_cast<long long>(member);
     if (row < 0 || row >= static_cast<long long>(model.elementTable.size())) return nullptr;
-    return &model.elementTable[static_cast<std::size_t>(row)];
+    return &model.elementTable[Index(row)];
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string>
 
+#include "framework/Index.h"
 #include "text/Format.h"
 
 namespace lumerin {
@@ -45,7 +46,7 @@ bool ReadProjectData(ifstreamex& file, CDataSet& data) {
         const std::size_t at = line.find(text.key);
         if (at == std::string::npos) continue;
         const std::string_view value = Trim(std::string_view(line).substr(at + text.key.size()));
-        data.*text.field = value.substr(0, static_cast<std::size_t>(std::max(length, 0)));
+        data.*text.field = value.substr(0, Index(std::max(length, 0)));
     }
     return true;
 }
@@ -62,7 +63,7 @@ bool ReadPierData(ifstreamex& file, CDataSet& data) {
         ReadKeyedInt(line, "P", number);
         ReadKeyedDouble(line, "X", location);
         if (number >= 1 && number <= static_cast<int>(data.m_Piers.size())) {
-            data.m_Piers[static_cast<std::size_t>(number - 1)].m_dLocationX = location;
+            data.m_Piers[Index(number - 1)].m_dLocationX = location;
         }
     }
     return true;

@@ -4,6 +4,7 @@
 #include <charconv>
 #include <nlohmann/json.hpp>
 
+#include "framework/Index.h"
 #include "script/Border.h"
 
 namespace lumerin {
@@ -58,7 +59,7 @@ void JsonLines::Dialog(std::string_view title) {
 void JsonLines::Control(const ControlState& state) {
     Json line;
     line["id"] = state.id;
-    line["kind"] = kKindNames[static_cast<std::size_t>(state.kind)];
+    line["kind"] = kKindNames[Index(state.kind)];
     line["text"] = ForUser(state.text);
     line["enabled"] = state.enabled;
     line["visible"] = state.visible;
@@ -71,7 +72,7 @@ void JsonLines::Message(std::string_view text, std::string_view title, MessageIc
     Json line;
     line["message"] = ForUser(text);
     line["title"] = ForUser(title);
-    line["icon"] = kIconNames[static_cast<std::size_t>(icon)];
+    line["icon"] = kIconNames[Index(icon)];
     m_out << line.dump() << '\n';
 }
 

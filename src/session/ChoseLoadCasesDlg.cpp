@@ -22,6 +22,7 @@ namespace {
 
 const ControlSpec kControls[] = {
 #include "framework/ControlTable.h"
+#include "framework/Index.h"
 
 #include "session/dialogs/LoadCaseDialog.inc"
 };
@@ -127,7 +128,7 @@ void CChoseLoadCasesDlg::OnOK() {
         return;
     }
     for (int i = 0; i < g_DataSet.m_nLoadCases; ++i) {
-        m_selection.SetCaseSelected(i, selected[static_cast<std::size_t>(i)]);
+        m_selection.SetCaseSelected(i, selected[Index(i)]);
     }
     EndDialog(IDOK);
 }

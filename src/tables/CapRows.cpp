@@ -4,6 +4,7 @@
 #include <array>
 #include <string_view>
 
+#include "framework/Index.h"
 #include "tables/Words.h"
 #include "text/Format.h"
 
@@ -38,8 +39,7 @@ constexpr std::array<KeyForm, 3> kMomentKey = {{
 
 template <std::size_t N>
 std::string_view At(const std::array<std::string_view, N>& list, int index) {
-    return index >= 0 && index < static_cast<int>(N) ? list[static_cast<std::size_t>(index)]
-                                                     : std::string_view{};
+    return index >= 0 && index < static_cast<int>(N) ? list[Index(index)] : std::string_view{};
 }
 
 bool Holds(const CCapTable& table, int position, int slot, int kind) {
@@ -118,11 +118,11 @@ void WalkCap(const CapBlock& block, const std::function<void(const CCapRow&)>& v
     for (int count = 0; count < rows;) {
         switch (NextCapPoint(walk.SupportX(), support, block.pier.m_BearingX, bearing)) {
             case NextPoint::support:
-                walk.Support(static_cast<std::size_t>(support++), count);
+                walk.Support(Index(support++), count);
                 ++count;
                 break;
             case NextPoint::bearing:
-                walk.Bearing(static_cast<std::size_t>(bearing++), count);
+                walk.Bearing(Index(bearing++), count);
                 count += walk.IsShear() ? 2 : 1;
                 break;
             case NextPoint::nothing:

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "framework/Index.h"
 #include "tables/CapRows.h"
 #include "tables/Catalogue.h"
 #include "tables/RowText.h"
@@ -69,7 +70,7 @@ class CCapWalk {
 
     void WriteHeading(const CPier& pier, int number, int extreme) {
         std::string heading = TableTitle(m_layout.table, pier.m_nStructureType);
-        AppendNumbered(heading, m_cap.blockHeading[static_cast<std::size_t>(extreme)], number);
+        AppendNumbered(heading, m_cap.blockHeading[Index(extreme)], number);
         const std::size_t feed = heading.find('\n');
         m_sink.Line(std::string_view(heading).substr(0, feed));
         m_sink.Line(std::string_view(heading).substr(feed + 1));
@@ -131,7 +132,7 @@ class CCapWalk {
         AppendEnd(record.m_nEnd);
         for (std::size_t i = 0; i < m_cap.values; ++i) {
             if (i + 1 < m_cap.values) m_row += "   ";
-            AppendFixed(m_row, values[static_cast<std::size_t>(m_cap.valueOrder[i])], 2, 9);
+            AppendFixed(m_row, values[Index(m_cap.valueOrder[i])], 2, 9);
         }
     }
 

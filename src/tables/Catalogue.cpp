@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "framework/Index.h"
 #include "tables/Words.h"
 #include "text/Format.h"
 
@@ -113,7 +114,7 @@ std::string PadName15(std::string_view name) {
 std::string CenterText(int fontSize, std::string_view text) {
     const int length = static_cast<int>(text.size());
     const int blanks = std::max(0, (CharsPerLine(fontSize) - length) / 2);
-    return Blanks(static_cast<std::size_t>(blanks)).append(text);
+    return Blanks(Index(blanks)).append(text);
 }
 
 int CharsPerLine(int fontSize) {
@@ -126,7 +127,7 @@ int LinesPerPage(int fontSize) {
 
 void PadToPageEnd(int pageLines, int usedLines, StoredStream& out) {
     const int left = LinesLeft(pageLines, usedLines);
-    if (left > 0) out.Write(std::string(static_cast<std::size_t>(left), '\n'));
+    if (left > 0) out.Write(std::string(Index(left), '\n'));
 }
 
 int TitlePageBlankLines(const ReportOptions& options) {

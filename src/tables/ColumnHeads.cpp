@@ -2,6 +2,7 @@
 #include <array>
 #include <utility>
 
+#include "framework/Index.h"
 #include "tables/Catalogue.h"
 #include "tables/TableLayout.h"
 #include "tables/Words.h"
@@ -61,7 +62,7 @@ void AddPileHeadLines(ColumnHead& head, const CPier& first, int mode, bool us) {
     if (first.m_bCombinations) {
         // A family without a name has the lower line alone.
         if (IsNamedFamily(first.m_nCodeFamily)) {
-            head.lines.emplace_back(kCombUpper[static_cast<std::size_t>(first.m_nCodeFamily)]);
+            head.lines.emplace_back(kCombUpper[Index(first.m_nCodeFamily)]);
         }
         head.lines.emplace_back(us ? kCombLowerUs : kCombLowerSi);
         return;
@@ -128,7 +129,7 @@ const std::string& LimitStateOf(const CDataSet& data, int loadCase) {
     static const std::string kNone = "none";
     if (data.IsPierless() || loadCase < 0) return kNone;
     const std::vector<CLoadCase>& cases = data.FirstPier().m_LoadCases;
-    const auto index = static_cast<std::size_t>(loadCase);
+    const auto index = Index(loadCase);
     return index < cases.size() ? cases[index].m_sLimitState : kNone;
 }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
+#include "framework/Index.h"
 #include "tables/Catalogue.h"
 #include "tables/Words.h"
 #include "text/Format.h"
@@ -18,11 +19,11 @@ void AppendTwoDigits(std::string& out, int value) {
 // report made on a Sunday has "December" in place of the day's name.
 const char* DayWord(int weekday) {
     if (weekday <= 0) return g_MonthNames.back();
-    return g_DayNames[static_cast<std::size_t>(std::min(weekday, 7) - 1)];
+    return g_DayNames[Index(std::min(weekday, 7) - 1)];
 }
 
 void AppendMonthDayYear(std::string& out, const LocalTime& now) {
-    out += g_MonthNames[static_cast<std::size_t>(std::clamp(now.month, 1, 12) - 1)];
+    out += g_MonthNames[Index(std::clamp(now.month, 1, 12) - 1)];
     out += ' ';
     AppendInt(out, now.day);
     out += ", ";

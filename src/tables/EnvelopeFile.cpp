@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "framework/Index.h"
 #include "tables/CapRows.h"
 #include "tables/RowText.h"
 #include "tables/Words.h"
@@ -69,7 +70,7 @@ constexpr std::array<std::array<const char*, 4>, 2> kShearBearings = {{
 
 template <std::size_t N>
 std::string_view TextAt(const std::array<const char*, N>& texts, int index) {
-    return index >= 0 && index < static_cast<int>(N) ? texts[static_cast<std::size_t>(index)] : "";
+    return index >= 0 && index < static_cast<int>(N) ? texts[Index(index)] : "";
 }
 
 std::string RowLabel(TableId table, const CCapRow& row) {
@@ -92,7 +93,7 @@ std::string RowLabel(TableId table, const CCapRow& row) {
 double RowPosition(const CapBlock& block, const CCapRow& row, bool us) {
     const std::vector<double>& points =
         block.table == kTableCapShear ? block.results.shearPointX : block.results.momentPointX;
-    const std::size_t at = static_cast<std::size_t>(row.nPoint);
+    const std::size_t at = Index(row.nPoint);
     const double x = at < points.size() ? points[at] : 0.0;
     return us ? (x - block.pier.m_dLocationX) / 12.0 : x;
 }

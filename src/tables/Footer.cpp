@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
+#include "framework/Index.h"
 #include "tables/Catalogue.h"
 #include "tables/Words.h"
 
@@ -9,7 +10,7 @@ namespace lumerin {
 namespace {
 
 std::string FirstCharacters(const std::string& text, int count) {
-    return text.substr(0, static_cast<std::size_t>(std::max(0, count)));
+    return text.substr(0, Index(std::max(0, count)));
 }
 
 // The project's file name, fitted to `room` characters, its space in the line.

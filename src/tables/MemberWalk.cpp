@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <array>
 
+#include "framework/Index.h"
 #include "tables/Catalogue.h"
 #include "tables/RowText.h"
 #include "tables/TableWalks.h"
@@ -118,7 +119,7 @@ class CMemberWalk {
         }
         const CMaxRecord& record = records.At(property, slot, extreme);
         if (record.m_nLoadCase < 0) return record;
-        if (static_cast<std::size_t>(record.m_nLoadCase) >= pier.m_LoadCases.size()) return kNotFoundRecord;
+        if (Index(record.m_nLoadCase) >= pier.m_LoadCases.size()) return kNotFoundRecord;
         element = pier.FindElement(m_member.family, record.m_nMember, record.m_nElement);
         return element < 0 ? kNotFoundRecord : record;
     }
@@ -142,7 +143,7 @@ class CMemberWalk {
         if (m_bLimitStates) AppendLeftPadded(m_row, LimitStateOf(m_report.data, record.m_nLoadCase), 15);
         const int end = record.m_nEnd == kEndI ? kEndI : kEndJ;
         m_row += end == kEndI ? "    I" : "    J";
-        if (m_member.forces) m_row += m_extremeNames[static_cast<std::size_t>(extreme)];
+        if (m_member.forces) m_row += m_extremeNames[Index(extreme)];
         const ForceRow forces = m_report.Forces(pier, record.m_nLoadCase, element);
         for (int component = kAxial; component < kDemandCapacity; ++component) {
             m_row += m_member.valueGap;
@@ -155,8 +156,8 @@ class CMemberWalk {
         m_row += m_member.missing;
         if (m_bLimitStates) m_row += "            ***";
         m_row += "  ***";
-        m_row += m_extremeNames[static_cast<std::size_t>(extreme)];
-        m_row += m_missingValues[static_cast<std::size_t>(extreme)];
+        m_row += m_extremeNames[Index(extreme)];
+        m_row += m_missingValues[Index(extreme)];
     }
 
     const Report& m_report;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "framework/Index.h"
 #include "tables/Catalogue.h"
 #include "tables/RowText.h"
 #include "tables/TableWalks.h"
@@ -58,11 +59,11 @@ class CPileHeadWalk {
     // The stored case, or -1 where it is none of the substructure's or the pile has no head element.
     static int CaseOf(const CPier& pier, const std::vector<std::vector<int>>& cases, LimitClass slot,
                       int pile) {
-        const auto s = static_cast<std::size_t>(slot);
-        const auto p = static_cast<std::size_t>(pile);
+        const auto s = Index(slot);
+        const auto p = Index(pile);
         if (s >= cases.size() || p >= cases[s].size()) return -1;
         const int loadCase = cases[s][p];
-        if (loadCase < 0 || static_cast<std::size_t>(loadCase) >= pier.m_LoadCases.size()) return -1;
+        if (loadCase < 0 || Index(loadCase) >= pier.m_LoadCases.size()) return -1;
         return pier.FindElement(kPileFamily, pile, 0) < 0 ? -1 : loadCase;
     }
 

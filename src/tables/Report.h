@@ -9,6 +9,7 @@
 
 #include "envelopes/ResultTables.h"
 #include "framework/Backend.h"
+#include "framework/Index.h"
 #include "model/Applicability.h"
 #include "model/CaseSelection.h"
 #include "model/DataSet.h"
@@ -69,7 +70,7 @@ struct Report {
     // The fourteen forces of an element of a substructure in a load case; all three exist. Throws
     // CFileException.
     ForceRow Forces(const CPier& pier, int loadCase, int element) const {
-        return rows.At(static_cast<std::size_t>(&pier - data.m_Piers.data()), loadCase, element);
+        return rows.At(Index(&pier - data.m_Piers.data()), loadCase, element);
     }
 };
 

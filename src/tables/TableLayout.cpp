@@ -3,6 +3,8 @@
 
 #include <array>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 namespace {
@@ -209,7 +211,7 @@ constexpr std::array<TableLayout, 8> kLayouts{kMaxAxial,  kPileDc,     kColumnDc
 }  // namespace
 
 const TableLayout& LayoutOf(TableId table) {
-    return kLayouts.at(static_cast<std::size_t>(table));
+    return kLayouts.at(Index(table));
 }
 
 }  // namespace lumerin

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 
+#include "framework/Index.h"
 #include "tables/Catalogue.h"
 #include "tables/LineSink.h"
 
@@ -30,7 +31,7 @@ class CTextSink : public CLineSink {
     }
 
     void Gap(int lines, GapStyle) override {
-        m_out.Write(std::string(static_cast<std::size_t>(lines), '\n'));
+        m_out.Write(std::string(Index(lines), '\n'));
         m_nLines += lines;
     }
 
@@ -61,7 +62,7 @@ int WriteTableText(const Report& report, TableId table, StoredStream& out) {
 }
 
 void WriteTitlePageText(const ReportOptions& options, StoredStream& out) {
-    out.Write(std::string(static_cast<std::size_t>(TitlePageBlankLines(options)), '\n'));
+    out.Write(std::string(Index(TitlePageBlankLines(options)), '\n'));
     for (const std::string& line : TitlePageLines(options))
         out << CenterText(options.viewerFontSize, line) << "\n";
 }

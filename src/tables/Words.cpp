@@ -3,6 +3,8 @@
 
 #include <cstddef>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 namespace {
@@ -79,7 +81,7 @@ const std::array<const char*, 5> g_TitleLines = {
 namespace {
 const char* ByType(const TextByType& texts, StructureType structureType) {
     if (structureType < 0 || structureType >= kStructureTypes) return "";
-    return texts[static_cast<std::size_t>(structureType)];
+    return texts[Index(structureType)];
 }
 }  // namespace
 
@@ -108,8 +110,7 @@ constexpr std::array<std::string_view, 4> kMomentBearings{"Brg %i LR", "Brg %i R
 
 template <std::size_t N>
 std::string_view At(const std::array<std::string_view, N>& list, int index) {
-    return index >= 0 && index < static_cast<int>(N) ? list[static_cast<std::size_t>(index)]
-                                                     : std::string_view{};
+    return index >= 0 && index < static_cast<int>(N) ? list[Index(index)] : std::string_view{};
 }
 
 }  // namespace
@@ -139,7 +140,7 @@ std::string_view MomentBearingForm(int rowCode) {
 
 const char* TableTitle(TableId table, StructureType structureType) {
     if (table < 0 || table >= kTableCount) return "";
-    return ByType(g_TableTitles[static_cast<std::size_t>(table)], structureType);
+    return ByType(g_TableTitles[Index(table)], structureType);
 }
 
 const char* MemberShortName(StructureType structureType) {

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <cstring>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 namespace {
@@ -17,7 +19,7 @@ constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
 constexpr std::size_t kLongestFixed = 512;
 
 void AppendPadded(std::string& out, std::string_view digits, int width) {
-    const std::size_t wanted = width > 0 ? static_cast<std::size_t>(width) : 0;
+    const std::size_t wanted = width > 0 ? Index(width) : 0;
     if (digits.size() < wanted) out.append(wanted - digits.size(), ' ');
     out.append(digits);
 }
@@ -64,7 +66,7 @@ bool AppendHundredths(std::string& out, double value, int width) {
     *--at = '.';
     at = PutWhole(at, hundredths / 100);
     if (std::signbit(value)) *--at = '-';
-    AppendPadded(out, {at, static_cast<std::size_t>(end - at)}, width);
+    AppendPadded(out, {at, Index(end - at)}, width);
     return true;
 }
 
@@ -96,7 +98,7 @@ bool AppendTwelveDecimals(std::string& out, double value, int width) {
     *--at = '.';
     at = PutWhole(at, whole);
     if (std::signbit(value)) *--at = '-';
-    AppendPadded(out, {at, static_cast<std::size_t>(end - at)}, width);
+    AppendPadded(out, {at, Index(end - at)}, width);
     return true;
 }
 
@@ -105,7 +107,7 @@ bool AppendTwelveDecimals(std::string& out, double value, int width) {
 void AppendInt(std::string& out, long long value, int width) {
     std::array<char, 24> digits{};
     const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr;
-    AppendPadded(out, {digits.data(), static_cast<std::size_t>(end - digits.data())}, width);
+    AppendPadded(out, {digits.data(), Index(end - digits.data())}, width);
 }
 
 void AppendIntBlankZero(std::string& out, long long value, int width) {
@@ -123,14 +125,14 @@ void AppendFixed(std::string& out, double value, int decimals, int width) {
     const auto end =
         std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, decimals)
             .ptr;
-    AppendPadded(out, {digits.data(), static_cast<std::size_t>(end - digits.data())}, width);
+    AppendPadded(out, {digits.data(), Index(end - digits.data())}, width);
 }
 
 void AppendGeneral(std::string& out, double value) {
     std::array<char, 64> digits{};
     const auto end =
         std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::general, 6).ptr;
-    out.append(digits.data(), static_cast<std::size_t>(end - digits.data()));
+    out.append(digits.data(), Index(end - digits.data()));
 }
 
 std::string FormatInt(long long value, int width) {

@@ -6,6 +6,7 @@
 #include <charconv>
 
 #include "framework/File.h"
+#include "framework/Index.h"
 #include "text/Format.h"
 
 namespace lumerin {
@@ -23,7 +24,7 @@ bool FindBehindKey(std::string_view text, std::string_view key, std::string_view
     const auto same = [](char a, char b) { return Upper(a) == Upper(b); };
     const auto hit = std::search(text.begin(), text.end(), wanted.begin(), wanted.end(), same);
     if (!wanted.empty() && hit == text.end()) return false;
-    rest = text.substr(static_cast<std::size_t>(hit - text.begin()) + wanted.size());
+    rest = text.substr(Index(hit - text.begin()) + wanted.size());
     return true;
 }
 
@@ -43,7 +44,7 @@ bool Extract(std::string_view& text, int& value) {
     const std::string_view digits = WithoutPlus(text);
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (error != std::errc{}) return false;
-    text = digits.substr(static_cast<std::size_t>(end - digits.data()));
+    text = digits.substr(Index(end - digits.data()));
     return true;
 }
 
@@ -57,7 +58,7 @@ bool Extract(std::string_view& text, double& value) {
     }
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
     if (error != std::errc{}) return false;
-    text = digits.substr(static_cast<std::size_t>(end - digits.data()));
+    text = digits.substr(Index(end - digits.data()));
     return true;
 }
 

@@ -5,6 +5,7 @@
 #include <exception>
 
 #include "framework/Backend.h"
+#include "framework/Index.h"
 
 namespace lumerin {
 
@@ -34,8 +35,7 @@ void StoredStream::Write(std::string_view text) {
         const std::string_view head = text.substr(0, room - 1);
         const void* feed = std::memchr(head.data(), '\n', head.size());
         const std::size_t plain =
-            feed == nullptr ? head.size()
-                            : static_cast<std::size_t>(static_cast<const char*>(feed) - head.data());
+            feed == nullptr ? head.size() : Index(static_cast<const char*>(feed) - head.data());
         std::memcpy(m_buffer.data() + m_nUsed, head.data(), plain);
         m_nUsed += plain;
         m_nPosition += static_cast<std::int64_t>(plain);

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "framework/Index.h"
 #include "tables/CapRows.h"
 #include "tables/Catalogue.h"
 #include "tables/TableLayout.h"
@@ -136,7 +137,7 @@ void AppendRow(std::string& out, const CDataSet& data, const CapSheet& form, con
             AppendTextCell(out, kWideTextCell, PadName15(LimitStateOf(data, record.m_nLoadCase)));
         AppendTextCell(out, kWideTextCell, EndWord(record.m_nEnd));
         for (const int component : form.values) {
-            AppendDecimalCell(out, kWideDecimalCell, row.pEntry->values[static_cast<std::size_t>(component)]);
+            AppendDecimalCell(out, kWideDecimalCell, row.pEntry->values[Index(component)]);
         }
         out += "  </Row>\n";
     }
@@ -195,7 +196,7 @@ void WriteCap(const Report& report, TableId table, StoredStream& out) {
     out << WorksheetHead(data, table, ExpandedRows(report, table));
     for (std::size_t p = 0; p < data.m_Piers.size(); ++p) {
         for (int extreme = 0; extreme < 2; ++extreme) {
-            out << BlockHeading(data, form, p, static_cast<std::size_t>(extreme));
+            out << BlockHeading(data, form, p, Index(extreme));
             WriteBlocks(report, form, p, extreme, out);
         }
         if (p + 1 < data.m_Piers.size()) out << form.pierEnd;

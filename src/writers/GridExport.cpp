@@ -2,6 +2,7 @@
 #include "writers/GridExport.h"
 
 #include "framework/Backend.h"
+#include "framework/Index.h"
 #include "grid/CellNumber.h"
 #include "tables/Words.h"
 #include "text/Format.h"
@@ -82,7 +83,7 @@ std::string ExportGrid(const std::string& inputFile, const GridSheet& sheet, con
         out << "    <Row>"
             << "<Cell></Cell>";
         for (int column = 0; column < grid.GetColumnCount(); ++column) {
-            const auto at = static_cast<std::size_t>(column);
+            const auto at = Index(column);
             const int type = at < sheet.columnTypes.size() ? sheet.columnTypes[at] : int{kExportText};
             out << CellOf(grid.GetCellText(row, column), row < sheet.headerRows, type);
         }

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "framework/Index.h"
 #include "tables/Catalogue.h"
 #include "tables/TableLayout.h"
 #include "tables/Words.h"
@@ -113,7 +114,7 @@ std::string CombinationColumnHead(const CDataSet& data) {
 
 // The load case of a pile's extreme, -1 where it has none.
 int CaseOf(const std::vector<std::vector<int>>& table, LimitClass slot, std::size_t pile) {
-    const std::size_t s = static_cast<std::size_t>(slot);
+    const std::size_t s = Index(slot);
     return s < table.size() && pile < table[s].size() ? table[s][pile] : -1;
 }
 

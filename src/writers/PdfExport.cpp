@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "writers/PdfExport.h"
 
+#include "framework/Index.h"
 #include "text/Format.h"
 #include "text/Paths.h"
 
@@ -17,7 +18,7 @@ const char* Word(bool value) {
 }  // namespace
 
 CPdfExport::CPdfExport(const CGridCtrl& grid, const std::string& descriptionPath, const std::string& pdfPath)
-    : m_pColumnTypes(static_cast<std::size_t>(grid.GetColumnCount()), 2),
+    : m_pColumnTypes(Index(grid.GetColumnCount()), 2),
       m_grid(grid),
       m_nRows(grid.GetRowCount()),
       m_nColumns(grid.GetColumnCount()),
@@ -39,8 +40,7 @@ std::string CPdfExport::RowText(int row) const {
     for (int column = 0; column < m_nColumns; ++column) {
         if (column > 0) text += ',';
         text += m_grid.GetCellText(row, column);
-        const std::size_t cell = static_cast<std::size_t>(row) * static_cast<std::size_t>(m_nColumns) +
-                                 static_cast<std::size_t>(column);
+        const std::size_t cell = Index(row) * Index(m_nColumns) + Index(column);
         if (cell < m_CellImages.size() && !m_CellImages[cell].empty())
             text += "{#" + PathAsText(m_CellImages[cell]) + "}";
     }
@@ -90,7 +90,7 @@ bool CPdfExport::Write(Messages& messages) {
         out << RowText(row);
     }
     for (int i = 0; i < m_nExtraLines && i < static_cast<int>(m_ExtraLines.size()); ++i) {
-        out << m_ExtraLines[static_cast<std::size_t>(i)] << "\n";
+        out << m_ExtraLines[Index(i)] << "\n";
     }
     out.Close();
     m_ExtraLines.clear();

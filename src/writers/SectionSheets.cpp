@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "framework/Index.h"
 #include "tables/Catalogue.h"
 #include "tables/TableLayout.h"
 #include "tables/Words.h"
@@ -126,7 +127,7 @@ void WriteRatioRows(StoredStream& out, const Sheet& sheet, LimitClass slot) {
 // ---- tables 5, 6 and 7
 
 void AppendForceRow(std::string& out, const Sheet& sheet, int property, int extreme, const Place& place) {
-    const std::string_view word = g_ExtremeNames[static_cast<std::size_t>(extreme)];
+    const std::string_view word = g_ExtremeNames[Index(extreme)];
     const CMaxRecord& record = place.record;
     out += "  <Row>\n";
     AppendIntCell(out, kPropertyCell, property);

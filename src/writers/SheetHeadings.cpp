@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "framework/Index.h"
 #include "tables/Catalogue.h"
 #include "tables/Words.h"
 #include "text/Format.h"
@@ -133,7 +134,7 @@ std::string SectionRows(const CDataSet& data, TableId table, LimitClass slot) {
 }
 
 std::string SubstructureHeading(const CDataSet& data, TableId table, int pier) {
-    const bool bent = data.m_Piers.at(static_cast<std::size_t>(pier)).m_nStructureType == kTypePileBent;
+    const bool bent = data.m_Piers.at(Index(pier)).m_nStructureType == kTypePileBent;
     for (const SubstructureRow& row : kSubstructureRows) {
         if (row.table != table) continue;
         std::string out(row.opening);

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <vector>
 
+#include "framework/Index.h"
 #include "tables/Catalogue.h"
 #include "tables/Words.h"
 #include "text/Format.h"
@@ -73,7 +74,7 @@ constexpr Subtitle kSubtitles[] = {
 };
 
 std::vector<int> ColumnWidths(const CDataSet& data, TableId table) {
-    Widths widths = kSheetForms[static_cast<std::size_t>(table)].widths;
+    Widths widths = kSheetForms[Index(table)].widths;
     const bool plain = !data.HasCombinations();
     if (table == kTableMaxAxial && plain) widths = kMaxAxialPlainWidths;
     const bool dropLimitState = plain && table != kTableMaxAxial && table != kTablePileHeads;
@@ -95,7 +96,7 @@ void AppendSubtitles(std::string& out, int merged) {
 }
 
 std::string Head(const CDataSet& data, TableId table, std::string_view name, long long rows) {
-    const SheetForm& form = kSheetForms[static_cast<std::size_t>(table)];
+    const SheetForm& form = kSheetForms[Index(table)];
     const std::size_t mode = data.HasCombinations() ? 1 : 0;
     std::string out = "<Worksheet ss:Name=\"";
     out.append(name).append("\">\n<Table ss:ExpandedColumnCount=\"");
@@ -220,7 +221,7 @@ void AppendLowerRow(std::string& out, const HeadForm& form, const CDataSet& data
 }  // namespace
 
 std::string WorksheetHead(const CDataSet& data, TableId table, long long rows) {
-    return Head(data, table, g_TableFileNames[static_cast<std::size_t>(table)], rows);
+    return Head(data, table, g_TableFileNames[Index(table)], rows);
 }
 
 std::string PileHeadWorksheetHead(const CDataSet& data, int pier, long long rows) {

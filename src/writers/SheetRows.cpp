@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 namespace {
@@ -84,7 +86,7 @@ long long EachCaseRows(const CPier& pier, const CaseSelection& selection) {
 long long ExpandedRows(const Report& report, TableId table, int pier) {
     const CDataSet& data = report.data;
     if (table == kTablePileHeads) {
-        return EachCaseRows(data.m_Piers.at(static_cast<std::size_t>(pier)), report.selection);
+        return EachCaseRows(data.m_Piers.at(Index(pier)), report.selection);
     }
     const bool cap = table == kTableCapShear || table == kTableCapMoment;
     const Terms terms{Blocks(report, table), data.HasCombinations() ? 1 : 0};

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "framework/Index.h"
 #include "framework/WholeFile.h"
 
 namespace lumerin {
@@ -64,8 +65,7 @@ bool CaptureEx::Capture(double scale, const std::string& path, bool save, int le
 
 void CaptureEx::SetImage(int width, int height, std::vector<std::uint8_t> data) {
     const bool fits = width > 0 && height > 0 && width <= kLongestSide && height <= kLongestSide &&
-                      data.size() == static_cast<std::size_t>(width) * static_cast<std::size_t>(height) *
-                                         static_cast<std::size_t>(kBytesPerPixel);
+                      data.size() == Index(width) * Index(height) * Index(kBytesPerPixel);
     m_Data = fits ? std::move(data) : std::vector<std::uint8_t>();
     m_nWidth = fits ? width : 0;
     m_nHeight = fits ? height : 0;

@@ -3,6 +3,7 @@
 
 #include "embedment/ScaleAxis.h"
 #include "embedment/dialog/MPTEDlg.h"
+#include "framework/Index.h"
 #include "grid/CellNumber.h"
 #include "text/Format.h"
 
@@ -27,7 +28,7 @@ constexpr QuantityWords kWords[kQuantityCount] = {
 
 // A number outside the list counts as its nearer end.
 std::size_t Place(int quantity) {
-    return static_cast<std::size_t>(std::clamp(quantity, 0, kQuantityCount - 1));
+    return Index(std::clamp(quantity, 0, kQuantityCount - 1));
 }
 
 const QuantityWords& WordsOf(int quantity) {

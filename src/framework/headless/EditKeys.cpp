@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "framework/Index.h"
 #include "framework/headless/Headless.h"
 
 namespace lumerin {
@@ -24,16 +25,14 @@ void MoveCaret(EditBox& edit, int to, bool extend) {
 
 void Replace(EditBox& edit, const std::string& text) {
     headless::OrderSelection(edit.anchor, edit.caret);
-    edit.text.replace(static_cast<std::size_t>(edit.anchor),
-                      static_cast<std::size_t>(edit.caret - edit.anchor), text);
+    edit.text.replace(Index(edit.anchor), Index(edit.caret - edit.anchor), text);
     edit.anchor = edit.caret = edit.anchor + static_cast<int>(text.size());
 }
 
 void Copy(EditBox edit) {
     headless::OrderSelection(edit.anchor, edit.caret);
     if (edit.anchor == edit.caret) return;
-    headless::State().clipboard = edit.text.substr(static_cast<std::size_t>(edit.anchor),
-                                                   static_cast<std::size_t>(edit.caret - edit.anchor));
+    headless::State().clipboard = edit.text.substr(Index(edit.anchor), Index(edit.caret - edit.anchor));
 }
 
 // An edit window of one line takes the first line of the text alone.

@@ -7,6 +7,7 @@
 #include <ctime>
 
 #include "framework/Clock.h"
+#include "framework/Index.h"
 #include "framework/headless/Headless.h"
 
 namespace lumerin {
@@ -25,7 +26,7 @@ headless::Sink& CurrentSink() {
 std::string ProgramFolder() {
     std::array<char, 4096> path{};
     const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
-    const std::string program(path.data(), length > 0 ? static_cast<std::size_t>(length) : 0);
+    const std::string program(path.data(), length > 0 ? Index(length) : 0);
     return program.substr(0, program.rfind('/') + 1);
 }
 

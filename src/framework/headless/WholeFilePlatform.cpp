@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "framework/WholeFilePlatform.h"
+#include "framework/Index.h"
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -98,7 +99,7 @@ bool Write(Handle handle, const void* bytes, std::size_t count) noexcept {
         if (stored < 0 && errno == EINTR) continue;
         if (stored <= 0) return false;
         from += stored;
-        count -= static_cast<std::size_t>(stored);
+        count -= Index(stored);
     }
     return true;
 }
@@ -124,7 +125,7 @@ bool CopyInto(Handle handle, const std::string& to) {
     ssize_t got = 1;
     while (whole && got > 0) {
         got = read(Descriptor(handle), piece.data(), piece.size());
-        whole = got >= 0 && Write(file, piece.data(), static_cast<std::size_t>(got));
+        whole = got >= 0 && Write(file, piece.data(), Index(got));
     }
     return close(file) == 0 && whole;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
+#include "framework/Index.h"
 #include "framework/headless/Headless.h"
 
 namespace lumerin {
@@ -98,7 +99,7 @@ void ComboSelect(WindowHandle window, int index) {
     if (window == nullptr) return;
     const bool known = index >= 0 && index < static_cast<int>(window->entries.size());
     window->selection = known ? index : -1;
-    window->text = known ? window->entries[static_cast<std::size_t>(index)] : std::string();
+    window->text = known ? window->entries[Index(index)] : std::string();
 }
 
 int ComboSelection(WindowHandle window) {

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "framework/Index.h"
 #include "framework/win32/Bindings.h"
 
 namespace lumerin {
@@ -33,9 +34,9 @@ void SetText(WindowHandle window, const std::string& text) {
 std::string Text(WindowHandle window) {
     if (window == nullptr) return {};
     const int length = GetWindowTextLengthA(ToHwnd(window));
-    std::vector<char> text(static_cast<std::size_t>(std::max(length, 0)) + 1);
+    std::vector<char> text(Index(std::max(length, 0)) + 1);
     const int got = GetWindowTextA(ToHwnd(window), text.data(), static_cast<int>(text.size()));
-    return std::string(text.data(), static_cast<std::size_t>(std::max(got, 0)));
+    return std::string(text.data(), Index(std::max(got, 0)));
 }
 
 void Enable(WindowHandle window, bool enabled) {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "framework/Index.h"
 #include "framework/win32/Windows32.h"
 // This header needs windows.h before it.
 #include <winspool.h>
@@ -44,7 +45,7 @@ std::vector<char> ReadDefaults() {
     if (printer.Get() == nullptr) return {};
     const LONG size = DocumentPropertiesA(nullptr, printer.Get(), name.data(), nullptr, nullptr, 0);
     if (size < static_cast<LONG>(sizeof(DEVMODEA))) return {};
-    std::vector<char> settings(static_cast<std::size_t>(size));
+    std::vector<char> settings(Index(size));
     auto* mode = reinterpret_cast<DEVMODEA*>(settings.data());
     const LONG read = DocumentPropertiesA(nullptr, printer.Get(), name.data(), mode, nullptr, DM_OUT_BUFFER);
     return read >= 0 ? settings : std::vector<char>();

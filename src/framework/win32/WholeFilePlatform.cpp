@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "framework/Index.h"
 #include "framework/win32/Windows32.h"
 
 namespace lumerin {
@@ -38,7 +39,7 @@ std::wstring Wide(const std::string& path) {
     std::wstring wide(path.size(), L'\0');
     const auto length = static_cast<int>(path.size());
     const int got = MultiByteToWideChar(page, 0, path.data(), length, wide.data(), length);
-    wide.resize(static_cast<std::size_t>(got));
+    wide.resize(Index(got));
     return wide;
 }
 

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "framework/Index.h"
 #include "framework/headless/EditKeys.h"
 #include "framework/headless/Headless.h"
 #include "grid/GridCtrl.h"
@@ -203,7 +204,7 @@ int HeadlessGrid::RowCount() const {
 
 std::vector<std::string> HeadlessGrid::RowTexts(int row) const {
     std::vector<std::string> texts;
-    texts.reserve(static_cast<std::size_t>(m_grid.GetColumnCount()));
+    texts.reserve(Index(m_grid.GetColumnCount()));
     for (int column = 0; column < m_grid.GetColumnCount(); ++column) {
         texts.push_back(m_grid.GetCellText(row, column));
     }

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "framework/Index.h"
 #include "grid/win32/GdiCanvas.h"
 #include "grid/win32/GridWindow.h"
 
@@ -30,9 +31,9 @@ bool EditorWindow32::Create(const GridRect& rect, const FontRecord& font) {
 
 EditText EditorWindow32::Read() const {
     EditText edit;
-    std::vector<char> text(static_cast<std::size_t>(GetWindowTextLengthA(m_window)) + 1);
+    std::vector<char> text(Index(GetWindowTextLengthA(m_window)) + 1);
     const int length = GetWindowTextA(m_window, text.data(), static_cast<int>(text.size()));
-    edit.text.assign(text.data(), static_cast<std::size_t>(length));
+    edit.text.assign(text.data(), Index(length));
     DWORD start = 0, end = 0;
     SendMessageA(m_window, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
     edit.start = static_cast<int>(start);

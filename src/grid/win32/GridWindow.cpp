@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstring>
 
+#include "framework/Index.h"
 #include "framework/win32/Drawing.h"
 #include "framework/win32/DriverToken.h"
 #include "grid/GridHelpers.h"
@@ -30,7 +31,7 @@ bool CopyText(const CGridCtrl& grid, GridCellText& query) {
     query.length = static_cast<int>(text.size());
     if (query.text == nullptr || query.capacity <= 0) return true;
     const int bytes = std::min(query.length, query.capacity - 1);
-    std::memcpy(query.text, text.data(), static_cast<std::size_t>(bytes));
+    std::memcpy(query.text, text.data(), Index(bytes));
     query.text[bytes] = '\0';
     return true;
 }

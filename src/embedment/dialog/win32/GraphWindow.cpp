@@ -9,6 +9,7 @@
 #include "embedment/dialog/win32/ControlHost.h"
 #include "embedment/dialog/win32/PlotGdiCanvas.h"
 #include "embedment/win32/GraphMessages.h"
+#include "framework/Index.h"
 #include "framework/win32/Drawing.h"
 #include "framework/win32/DriverToken.h"
 
@@ -120,7 +121,7 @@ void GraphWindow::CopyDrawing(GraphDrawingText& query) const {
     query.length = static_cast<int>(text.size());
     if (query.text == nullptr || query.capacity <= 0) return;
     const int bytes = std::min(query.length, query.capacity - 1);
-    std::memcpy(query.text, text.data(), static_cast<std::size_t>(bytes));
+    std::memcpy(query.text, text.data(), Index(bytes));
     query.text[bytes] = '\0';
 }
 

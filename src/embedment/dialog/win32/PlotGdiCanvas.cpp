@@ -5,6 +5,8 @@
 #include <cmath>
 #include <vector>
 
+#include "framework/Index.h"
+
 namespace lumerin {
 
 namespace {
@@ -86,7 +88,7 @@ void PlotGdiCanvas::Text(std::string_view text, PlotPoint at, const PlotFont& fo
     const Selected used(m_dc, MakeFont(font, turned));
     SetBkMode(m_dc, TRANSPARENT);
     SetTextColor(m_dc, ColourOf(colour));
-    const UINT before = SetTextAlign(m_dc, kAnchors[static_cast<std::size_t>(anchor)] | TA_BASELINE);
+    const UINT before = SetTextAlign(m_dc, kAnchors[Index(anchor)] | TA_BASELINE);
     TextOutA(m_dc, Pixel(at.x), Pixel(at.y), text.data(), static_cast<int>(text.size()));
     SetTextAlign(m_dc, before);
 }

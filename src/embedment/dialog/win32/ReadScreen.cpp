@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "embedment/dialog/CaptureEx.h"
+#include "framework/Index.h"
 #include "framework/win32/Drawing.h"
 
 namespace lumerin {
@@ -22,14 +23,14 @@ bool ReadScreen(const ScreenRect& rect, std::vector<std::uint8_t>& data) {
     info.bmiHeader.biBitCount = 8 * kBytesPerPixel;
     info.bmiHeader.biCompression = BI_RGB;
     // The platform pads a row to a multiple of four bytes.
-    const auto row = static_cast<std::size_t>((width * kBytesPerPixel + 3) / 4 * 4);
-    std::vector<std::uint8_t> padded(row * static_cast<std::size_t>(height));
+    const auto row = Index((width * kBytesPerPixel + 3) / 4 * 4);
+    std::vector<std::uint8_t> padded(row * Index(height));
     if (!copied || GetDIBits(copy.Context(), copy.Bitmap(), 0, static_cast<UINT>(height), padded.data(),
                              &info, DIB_RGB_COLORS) == 0) {
         return false;
     }
     data.clear();
-    for (std::size_t y = 0; y < static_cast<std::size_t>(height); ++y) {
+    for (std::size_t y = 0; y < Index(height); ++y) {
         const auto from = padded.begin() + static_cast<std::ptrdiff_t>(y * row);
         data.insert(data.end(), from, from + width * kBytesPerPixel);
     }
