@@ -150,6 +150,25 @@ TEST_F(GridFocus, PageKeysMoveByTheRowsThatTheWindowShows) {
     EXPECT_EQ(Focus(), (CCellID{49, 1}));
 }
 
+TEST_F(GridFocus, PageUpNearTheTopGoesToTheFirstRow) {
+    Build(50, 2, {250, 205});
+    FocusOn(4, 1);
+    Press(kKeyPageUp);
+    EXPECT_EQ(Focus(), (CCellID{0, 1}));
+}
+
+TEST_F(GridFocus, RowsThatFillTheWindowExactlyAreAPage) {
+    Build(50, 2, {250, 200});  // the fixed row and nine others of 20
+    m_grid.SetFixedRowCount(1);
+    m_grid.UpdateScrollBars();
+    FocusOn(1, 1);
+    Press(kKeyPageDown);
+    EXPECT_EQ(Focus(), (CCellID{10, 1}));
+    EXPECT_EQ(m_grid.FirstVisibleCell().row, 2);  // rows 2 to 10
+    m_grid.OnScroll(true, 1000);
+    EXPECT_EQ(m_grid.FirstVisibleCell().row, 41);  // rows 41 to 49
+}
+
 TEST_F(GridFocus, HomeAndEndGoToTheFirstAndLastRow) {
     Build(50, 3);
     m_grid.SetFixedRowCount(1);

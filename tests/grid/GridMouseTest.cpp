@@ -136,6 +136,25 @@ TEST_F(GridMouse, ADragPastAnEdgeScrollsToTheEnd) {
     EXPECT_FALSE(m_host->IsCaptured());
 }
 
+TEST_F(GridMouse, ADragScrollsOnlyOverOrPastTheFixedCells) {
+    Build(50, 20);
+    m_grid.SetFixedRowCount(1);
+    m_grid.SetFixedColumnCount(1);
+    m_grid.UpdateScrollBars();
+    m_grid.OnScroll(true, 10);
+    m_grid.OnScroll(false, 5);
+    m_grid.OnLeftDown({60, 45}, {});
+    m_grid.OnMouseMove({50, 20}, true);  // the first pixel of the cells that scroll
+    m_grid.OnDragTimer();
+    EXPECT_EQ(m_grid.FirstVisibleCell(), (CCellID{11, 6}));
+    m_grid.OnMouseMove({50, 19}, true);
+    m_grid.OnDragTimer();
+    EXPECT_EQ(m_grid.FirstVisibleCell(), (CCellID{10, 6}));
+    m_grid.OnMouseMove({49, 20}, true);
+    m_grid.OnDragTimer();
+    EXPECT_EQ(m_grid.FirstVisibleCell(), (CCellID{10, 5}));
+}
+
 TEST_F(GridMouse, ADragPastTheSideReachesTheLastColumn) {
     Build(3, 3);
     Do(MouseDeed::press, 1, 1);

@@ -173,6 +173,17 @@ TEST_F(GridView, APrintedPageRepeatsTheHeadingRows) {
     EXPECT_TRUE(log.empty());
 }
 
+TEST_F(GridView, APageThatIsTooLowPrintsARowAtATime) {
+    Build(6, 2);
+    m_grid.SetFixedRowCount(1);
+    std::vector<std::string> log;
+    RecordingDC dc(log);
+    for (const int height : {60, 30}) {  // five lines of 12, the least that has room for a row; two
+        m_grid.PrintBegin(dc, {600, height});
+        EXPECT_EQ(m_grid.PrintPageCount(), 5) << height;
+    }
+}
+
 TEST_F(GridView, ShadedCellsAreReadOnlyInTheFaceColour) {
     Build(3, 3);
     ShadeFixedCells(m_grid, 1, 1);

@@ -25,6 +25,13 @@ TEST(ToUtf8, LeavesWhatIsUtf8) {
     EXPECT_EQ(ToUtf8("gr\xC3\xBCn: 5\xB0"), "gr\xC3\xBCn: 5\xC2\xB0");
 }
 
+TEST(ToUtf8, LeavesTheFirstAndTheLastCharacterOfEachLength) {
+    for (const char* text : {"\xC2\x80", "\xDF\xBF", "\xE0\xA0\x80", "\xED\x9F\xBF", "\xEE\x80\x80",
+                             "\xEF\xBF\xBF", "\xF0\x90\x80\x80", "\xF4\x8F\xBF\xBF"}) {
+        EXPECT_EQ(ToUtf8(text), text);
+    }
+}
+
 TEST(ToUtf8, TakesBytesThatAreNoSequenceForTheCodePages) {
     EXPECT_EQ(ToUtf8("\xC3"), "\xC3\x83");                              // cut short
     EXPECT_EQ(ToUtf8("\xC0\xAF"), "\xC3\x80\xC2\xAF");                  // a longer form of "/" than it has
