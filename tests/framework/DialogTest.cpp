@@ -132,6 +132,31 @@ TEST_F(DialogTest, ASpinStepMovesItsEditAndStopsAtTheEndOfItsRange) {
     });
 }
 
+constexpr ControlSpec kLoneSpinControls[] = {
+#include "framework/ControlTable.h"
+
+    DEFAULT_BUTTON(1, "OK", 0, 0, 1, 1) PUSH_BUTTON_DISABLED(30, "Disabled", 0, 0, 1, 1)
+        SPIN_BUTTON(31, 0, 0, 1, 1)};
+constexpr DialogSpec kLoneSpinSpec = {901, "Lone", 100, 100, true, kLoneSpinControls};
+
+class LoneSpinDialog : public CDialog {
+  public:
+    LoneSpinDialog() : CDialog(kLoneSpinSpec) {}
+    void DoDataExchange(CDataExchange& exchange) override { DDX_Control(exchange, 31, spin); }
+    CSpinButtonCtrl spin;
+};
+
+TEST_F(DialogTest, ASpinButtonBelongsToAnEditBeforeItAlone) {
+    LoneSpinDialog dialog;
+    Run(dialog, [&](HeadlessDialog& front) {
+        dialog.spin.SetRange(1, 3);
+        dialog.spin.SetPos(1);
+        EXPECT_TRUE(front.Spin(31, true));
+        EXPECT_EQ(dialog.spin.GetPos(), 2);  // the disabled button before it does not matter
+        EXPECT_EQ(front.Find(30)->text, "Disabled");
+    });
+}
+
 TEST_F(DialogTest, AComboChoiceIsNotified) {
     TestDialog dialog;
     Run(dialog, [&](HeadlessDialog& front) {

@@ -21,6 +21,16 @@ TEST(CellNumber, LeadingDigitsCountAsAnInteger) {
     EXPECT_EQ(ReadCellInt("0x1A"), 0);
 }
 
+TEST(CellNumber, WhiteSpaceOfEachKindMayComeFirst) {
+    for (const char c : {' ', '\t', '\n', '\v', '\f', '\r'}) {
+        EXPECT_EQ(ReadCellInt(std::string(1, c) + "8"), 8) << static_cast<int>(c);
+    }
+    EXPECT_EQ(ReadCellInt("\b8"), 0);
+    EXPECT_EQ(ReadCellInt("\x0E"
+                          "8"),
+              0);
+}
+
 TEST(CellNumber, IntegersBeyondTheRangeReadAsTheNearest) {
     EXPECT_EQ(ReadCellInt("99999999999999999999999"), std::numeric_limits<int>::max());
     EXPECT_EQ(ReadCellInt("-99999999999999999999999"), std::numeric_limits<int>::min());

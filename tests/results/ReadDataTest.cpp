@@ -95,6 +95,24 @@ TEST(PierSections, AColumnWithoutInteriorNodesTakesNoWidth) {
     EXPECT_EQ(Width(project, Frame(project).m_Beam.m_nFirstElement), 2.0);
 }
 
+TEST(PierSections, ACapWithoutSpansHasNoLine) {
+    ResultProject project;
+    project.substructures[0] = MakePier();
+    ResultSubstructure& sub = project.substructures[0];
+    sub.spanNodes = -1;
+    sub.nodes.erase(sub.nodes.begin() + 7);
+    sub.rows.erase(sub.rows.begin() + 12, sub.rows.begin() + 14);
+    for (std::size_t i = 0; i < sub.rows.size(); ++i) sub.rows[i].number = static_cast<int>(i) + 1;
+    project.Write();
+    project.WriteFile(".MIS", "PIERXSEC\nP= 1 L= 0\nskipped\nN= 3\nC= 0 B= 0 R= 0\nW= 1\nW= 2\nW= 3\n:\n");
+    ASSERT_TRUE(project.Load());
+    ASSERT_EQ(Frame(project).m_Beam.m_nElements, 0);
+    EXPECT_EQ(Width(project, project.Pier().ColumnElement(0, 0)), 1.0);
+    for (const CCantilever& cantilever : Frame(project).m_Cantilevers) {
+        EXPECT_EQ(Width(project, cantilever.m_nFirstElement), 2.0);
+    }
+}
+
 TEST(PierSections, ATaperedColumnGoesOnHalfAStep) {
     ResultProject project;
     ASSERT_TRUE(LoadPier(project,
