@@ -90,6 +90,7 @@ LUMERIN_FUZZ_SEED=1 step "fuzz targets, a few seconds each" tools/fuzz.sh all 2
 step "two threads under the thread sanitizer" two_threads
 step "lints" lints
 step "the module under Wine" finish_windows
+step "the same bytes in another folder" tools/check-same-bytes
 
 for what in "${skipped[@]:-}"; do
     [[ -z $what ]] || echo "SKIPPED: $what"

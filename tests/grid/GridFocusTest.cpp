@@ -150,6 +150,15 @@ TEST_F(GridFocus, PageKeysMoveByTheRowsThatTheWindowShows) {
     EXPECT_EQ(Focus(), (CCellID{49, 1}));
 }
 
+TEST_F(GridFocus, AKeyThatMovesIsNotTheDialogsToo) {
+    Build(2, 2);
+    FocusOn(0, 0);
+    EXPECT_TRUE(m_grid.OnKeyDown(kKeyTab, {}));
+    EXPECT_TRUE(m_grid.OnKeyDown(kKeyTab, kShift));
+    m_grid.SetTabMoves(false);
+    EXPECT_FALSE(m_grid.OnKeyDown(kKeyTab, {}));
+}
+
 TEST_F(GridFocus, PageUpNearTheTopGoesToTheFirstRow) {
     Build(50, 2, {250, 205});
     FocusOn(4, 1);

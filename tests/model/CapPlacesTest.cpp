@@ -57,6 +57,7 @@ TEST(CapPlaces, OutsideTheStretchIsNotFound) {
     const CapModel model(TwoColumns());
     EXPECT_EQ(Locate(model.pier, 1, 0, -1, kShear), kNotFound);
     EXPECT_EQ(Locate(model.pier, 1, 0, 11, kShear), kNotFound);  // the left cantilever ends at 10
+    EXPECT_EQ(Locate(model.pier, 1, 3, 31, kShear), kNotFound);  // the span ends at 30
     EXPECT_EQ(Locate(model.pier, 2, 3, 41, kShear), kNotFound);
     EXPECT_EQ(Locate(model.pier, 2, 0, 9, kShear), kNotFound);
     EXPECT_EQ(Locate(model.pier, INT_MAX, 0, 9, kShear), kNotFound);
