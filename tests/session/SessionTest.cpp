@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The session's paths, as they are derived from what the host passes.
+#include "session/ReportState.h"
 #include "session/Session.h"
 
 #include <gtest/gtest.h>
@@ -138,6 +139,15 @@ TEST(ResetSession, ReturnsToTheStartValuesAndSkipsASecondLoad) {
     EXPECT_EQ(g_ReportFormat, 0);
     EXPECT_TRUE(g_AllLoadCases);
     EXPECT_TRUE(g_DataLoaded);
+}
+
+// The host may ask for a format that has no radio button; the cells of its tables are those of a PDF.
+TEST(SessionOptions, AFormatWithoutANamePassesUnchanged) {
+    for (const int format : {7, -1, 3}) {
+        g_ReportFormat = format;
+        EXPECT_EQ(static_cast<int>(SessionOptions().format), format);
+    }
+    g_ReportFormat = 0;
 }
 
 }  // namespace
