@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-// Table rows that stand ready, for the measure of a writer without the cost of making its lines.
+// Prepared table rows, to measure a writer without the cost of making its lines.
 
 inline constexpr long kReadyLinesPerPage = 51;  // rows of a landscape page
 

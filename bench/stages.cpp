@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // bench-stages: times single stages of the product in one process and prints "name value" lines.
 //   collect PROJECT.in         load and the eight collect steps
-//   plan PROJECT.in            what sections.py must know: records by family and section, classes by case
+//   plan PROJECT.in            input of sections.py: records by family and section, classes by case
 //   sheet PROJECT.in FILE      the pile head sheet
 //   pdf LINES FILE             ready lines set on pages
 //   format                     numbers to text, against the C library

@@ -12,8 +12,8 @@
 namespace lumerin {
 
 // A project in one input: a byte that chooses the selection of cases, then for each file the length of its
-// name (one byte), the name behind the base path, the length of its bytes (four, the lowest first), and
-// the bytes. A length that runs past the end is cut to what is left.
+// name (one byte), the name after the base path, the length of its bytes (four, the lowest first), and the
+// bytes. A length that runs past the end is cut to what is left.
 struct Archive {
     std::uint8_t choice = 0;
     std::vector<std::pair<std::string, std::string>> files;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The keyed text file, by one of its three readers; the project behind it is loaded once.
+// The keyed text file, by one of its three readers; its project is loaded once.
 
 #include "fuzz/Playground.h"
 #include "results/LoadProject.h"

@@ -108,7 +108,7 @@ std::string EveryTableScript(std::uint8_t choice) {
         }
     };
     everyFormat();
-    // Bit i of the choice takes case i and every eighth behind it; a refused row is passed over.
+    // Bit i of the choice selects case i and every eighth after it; a refused row is skipped.
     script += "click 1038\nclick 1039\nclick 1047\n";
     for (int row = 1; row <= 16; ++row) {
         if ((choice >> ((row - 1) % 8) & 1) != 0) script += "cell " + std::to_string(row) + " 1 1\n";

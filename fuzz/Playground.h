@@ -21,7 +21,7 @@ class Playground {
     ~Playground();
 
     void Clear() const;
-    // Writes a file by its name behind the base path; false for a name that is none.
+    // Writes a file by its name after the base path; false for a name that is not one of a project's files.
     bool Write(const std::string& name, std::string_view bytes) const;
     void WriteArchive(const Archive& archive) const;
     std::string Base() const { return m_folder + "/p"; }

@@ -25,7 +25,7 @@ std::uint32_t Count(std::minstd_rand& random) {
 void ChangeFile(std::string& bytes, std::minstd_rand& random, std::size_t room) {
     if (random() % 2 == 0 && bytes.size() >= 5) {
         const std::uint32_t count = Count(random);
-        // Framed records begin behind the mark and a length byte, so counts stand at any place.
+        // Framed records begin after the mark and a length byte, so that counts are at any alignment.
         const std::size_t at = random() % (bytes.size() - 4);
         for (std::size_t i = 0; i < 4; ++i) bytes[at + i] = static_cast<char>(count >> (8 * i));
         return;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The first byte says how many bytes each read asks for; the rest is the file.
+// The first byte is the number of bytes of each read; the rest is the file.
 
 #include <vector>
 

@@ -80,7 +80,7 @@ void CapModel::SolveAxial(const CapLoads& loads) {
     }
 }
 
-// From left to right, so that a support's left moment is known when its right one is asked for.
+// From left to right, so that a support's left moment is known before its right one is computed.
 void CapModel::SolvePlane(Plane& plane, const std::vector<double>& loads, double weight, bool framed) {
     const std::size_t first = m_supportPoints.front();
     const std::size_t last = m_supportPoints.back();

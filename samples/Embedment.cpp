@@ -44,7 +44,7 @@ double Flexibility(double length, double fullLength) {
     return 0.5 + 0.03 * ratio * ratio * ratio * ratio * ratio * ratio;
 }
 
-// The pile whose head takes the most of what `push` tells of it.
+// The pile with the greatest value of `push` at its head.
 template <typename Push>
 Extreme MostMoved(const std::vector<PileHead>& piles, double flexibility, Push push) {
     Extreme result;

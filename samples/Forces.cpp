@@ -256,8 +256,7 @@ void ForceModel::SolveBent() {
     }
 }
 
-// A stiff footing: axial forces lie on a plane over the pile heads, and the leading rows take more of the
-// push.
+// A stiff footing: axial forces are linear over the pile heads, and the leading rows take more of the push.
 void ForceModel::SharePiles() {
     const double piles = static_cast<double>(m_piles.size());
     const double down = m_foundation.down + m_substructure.plan.loads.footingWeight * m_loads.dead * piles;

@@ -156,7 +156,7 @@ class Builder {
         m_result.elements.push_back({++m_number, nodeI, nodeJ, section, kind, member, element});
     }
 
-    // The feet stand on the four nearest pile heads.
+    // The feet are on the four nearest pile heads.
     void AddConnectors() {
         for (int c = 0; c < m_result.columns; ++c) {
             const int foot = m_columnFeet[static_cast<std::size_t>(c)];

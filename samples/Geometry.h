@@ -11,7 +11,7 @@ namespace samples {
 // Throws SampleError where the plan does not fit together (a bearing at an x without a node, for instance).
 Substructure BuildSubstructure(const SubstructurePlan& plan);
 
-// Place, among the nodes behind the foundation's, of a column's node; level 0 is its foot.
+// Index of a column's node among the nodes after the foundation's; level 0 is its foot.
 int ColumnNodePosition(const SubstructurePlan& plan, int column, int level);
 
 }  // namespace samples

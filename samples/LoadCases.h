@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Which limit states the cases of a project stand for, and the load factors of each case.
+// The limit states of a project's cases, and the load factors of each case.
 #pragma once
 
 #include <string>
@@ -11,7 +11,7 @@ namespace lumerin {
 
 namespace samples {
 
-// The kind of loading that a limit state stands for; the classes of a family count from 0 in this order.
+// The kind of loading of a limit state; the classes of a family count from 0 in this order.
 enum class LoadClass : int { Strength = 0, Service = 1, Extreme = 2, Fatigue = 3 };
 
 struct LimitState {

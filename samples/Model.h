@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The model of a sample project: what a preset asks for, and what the files then hold.
+// The model of a sample project: what a preset requests, and what the files then contain.
 #pragma once
 
 #include <cstdint>
@@ -43,7 +43,7 @@ struct BearingPlan {
     bool onCap = true;
 };
 
-// A brace between two nodes, which count from 0 among the nodes behind the foundation's.
+// A brace between two nodes, which count from 0 among the nodes after the foundation's.
 struct ExtraMemberPlan {
     int positionI = 0;
     int positionJ = 0;
@@ -60,7 +60,7 @@ struct LoadPlan {
     double footingWeight = 0.0;
 };
 
-// What a preset tells about one substructure. Lengths are inches or metres.
+// What a preset sets for one substructure. Lengths are inches or metres.
 struct SubstructurePlan {
     StructureType type = StructureType::Pier;
     Units units = Units::Us;

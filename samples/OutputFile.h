@@ -22,7 +22,7 @@ class SampleError : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// The path with text behind its last character.
+// The path with text appended to it.
 std::filesystem::path WithSuffix(const std::filesystem::path& base, std::string_view suffix);
 
 // Makes the folder and those above it where they are not there; throws SampleError.

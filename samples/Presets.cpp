@@ -22,7 +22,7 @@ struct PileField {
     int columns = 1;
 };
 
-// The size asked for, or the preset's own.
+// The requested size, or the preset's own.
 PileField Piles(const SampleOptions& options, int rows, int columns) {
     return {options.rows.value_or(rows), options.columns.value_or(columns)};
 }
@@ -45,7 +45,7 @@ void ScaleLoads(SubstructurePlan& plan, int presetPiles) {
 }
 
 // Two columns under a cap with cantilevers, two bearing rows that share a place; inches and kips. The faces
-// of the first column fall on nodes, those of the second inside elements. One bearing stands off the cap.
+// of the first column fall on nodes, those of the second inside elements. One bearing is outside the cap.
 SubstructurePlan TwoColumnPier(const SampleOptions& options) {
     SubstructurePlan plan;
     plan.type = StructureType::Pier;
@@ -274,7 +274,7 @@ void CheckRange(const char* what, int value, int most) {
                       std::to_string(most) + ", not " + std::to_string(value));
 }
 
-// The name stands in file names and in a folder's text, so it must be one of a file.
+// The name is part of file names and of a folder's text, so it must be valid in a file name.
 void CheckName(const std::string& name) {
     const bool bad =
         name.empty() || name.front() == '.' || name.find_first_of("/\\:*?\"<>|") != std::string::npos;

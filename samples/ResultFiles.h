@@ -32,7 +32,7 @@ class Record {
 class SequentialFile {
   public:
     explicit SequentialFile(const std::filesystem::path& path);
-    // An empty record is not stored: nobody can ask for it.
+    // An empty record is not stored: it cannot be requested.
     void Write(const Record& record);
     // Writes the end mark; throws SampleError as the writes do.
     void Close();

@@ -18,7 +18,7 @@ std::string Key(std::string_view key, double value) {
     return std::string(key) + "= " + NumberText(value);
 }
 
-// Readers find the study's section from the ninth line behind "PROBLEM" on; it stands right there.
+// Readers find the study's section from the ninth line after "PROBLEM" on; it is that line.
 void WriteInput(const std::filesystem::path& base, const Project& project) {
     LineFile file(WithSuffix(base, ".in"));
     file.Line("HEADER");

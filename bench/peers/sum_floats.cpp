@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // sum_floats FILE...: reads the files once, in blocks, and sums every float. What reading the force files
-// costs a program that does next to nothing with them; the other times are told as multiples of this one.
+// costs a program that does next to nothing with them; the other times are given as multiples of this one.
 #include <chrono>
 #include <cstdio>
 #include <memory>
@@ -14,7 +14,7 @@ struct Closer {
     void operator()(std::FILE* file) const { std::fclose(file); }
 };
 
-// False: the file can't be read.
+// False: the file cannot be read.
 bool AddFile(const char* path, std::vector<float>& block, double& sum) {
     const std::unique_ptr<std::FILE, Closer> file(std::fopen(path, "rb"));
     if (file == nullptr) return false;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // xlsx_cells ROWS FILE: writes ROWS rows of the pile head sheet's shape, five identity cells and seven
-// numbers, through libxlsxwriter in constant memory mode. The values stand ready; nothing is computed.
+// numbers, through libxlsxwriter in constant memory mode. The values are prepared; nothing is computed.
 #include <xlsxwriter.h>
 
 #include <array>

@@ -91,7 +91,7 @@ TEST_F(DriveTest, ADisabledOrHiddenControlRefuses) {
 
 TEST_F(DriveTest, CharactersAfterOneThatShowsAMessageAreLost) {
     Drive(folder.Write("pier") + ".in", "click 1022\nfocus 1025\ntype 992\nwhere\n");
-    // 9 is a case, 99 is none; the 2 goes to the message box.
+    // 9 is a case, 99 is not; the 2 is typed into the message box.
     ASSERT_GE(lines.size(), 4U);
     EXPECT_THAT(lines[2], HasSubstr("Invalid load case."));
     EXPECT_EQ(lines[3], "{\"focus\":1025,\"text\":\"9\",\"selection\":[0,0]}");

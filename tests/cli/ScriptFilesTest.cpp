@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// The scripts of tests/scripts that say themselves what comes out: a line "#= LINE" behind an action is a
-// line of the output. Every line about focus, messages and refusals must be expected so, in this order; lines
-// of the grid's rows may be. tools/test-windows compares the real windows with this face.
+// The scripts of tests/scripts that contain their expected output: a line "#= LINE" after an action is a line
+// of the output. Every line about focus, messages and refusals must be expected so, in this order; lines of
+// the grid's rows may be. tools/test-windows compares the real windows with this face.
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -46,7 +46,7 @@ struct ScriptFile {
     }
 };
 
-// Values that no cell has room for, in the first trial's cases 1 and 3.
+// Values that are too long for a cell, in the first trial's cases 1 and 3.
 void Widen(const fs::path& study) {
     std::ifstream in(study);
     std::string text;

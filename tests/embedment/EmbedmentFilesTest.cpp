@@ -15,7 +15,7 @@ class EmbedmentFilesTest : public StudyFileTest {
     }
 };
 
-// "PROBLEM" and the eight lines behind it; the ninth is the first that may be the section's marker.
+// "PROBLEM" and the eight lines after it; the ninth is the first that may be the section's marker.
 const std::string kProblem = "PROBLEM\n1\n2\n3\n4\n5\n6\n7\n8\n";
 
 }  // namespace

@@ -164,7 +164,7 @@ TEST_F(EmbedmentResultsTest, ALineOfMoreThan255CharactersEndsTheScan) {
     Write("long", blanks + " \nEOF\n");
     EXPECT_TRUE(CEmbedmentResults::IsTrialFileComplete((folder / "fits").string()));
     EXPECT_FALSE(CEmbedmentResults::IsTrialFileComplete((folder / "long").string()));
-    // Behind the end mark: the long line's first part is used, what follows it is not.
+    // After the end mark: the long line's first part is used, what follows it is not.
     const std::string data = "2 8 1 8 1 8 1 8 1 8 1";
     WriteBase(std::string(" 1 1 0 2 10\nEOF\n") + data + blanks + "\n" + kCaseOne);
     CEmbedmentResults results(inputFile, messages);

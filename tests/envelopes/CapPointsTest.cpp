@@ -58,7 +58,7 @@ TEST(CapPoints, RebuildingGivesTheSameLists) {
 TEST(CapPoints, WithoutCantileversTheShearListDropsTheLastCentreline) {
     SearchedCap model(TwoColumnsWithoutCantilevers());
     model.ComputeShear();
-    // Six locations exist: 1 LCL, 1 RCL, 1 RF, 2 LF, 2 LCL, 2 RCL; the list has room for four.
+    // Six locations exist: 1 LCL, 1 RCL, 1 RF, 2 LF, 2 LCL, 2 RCL; the list has four entries.
     EXPECT_THAT(model.results.shearSupportX, ElementsAre(10, 10, 12, 28));
     EXPECT_EQ(model.results.shearSupportList[3].m_nSupport, 1);
     EXPECT_EQ(model.results.shearSupportList[3].m_nKind, 0);
@@ -67,7 +67,7 @@ TEST(CapPoints, WithoutCantileversTheShearListDropsTheLastCentreline) {
 
 TEST(CapPoints, CantileverShorterThanTheFaceLeavesTrailingZeros) {
     CapShape shape = TwoColumns();
-    shape.width = 22;  // the left face would lie at -1, left of the tip at 0; the right one at 41, past 40
+    shape.width = 22;  // the left face would be at -1, left of the tip at 0; the right one at 41, past 40
     SearchedCap model(shape);
     EXPECT_FALSE(model.pier.IsShearSection(0, 0));
     EXPECT_FALSE(model.pier.IsShearSection(1, 3));
@@ -78,7 +78,7 @@ TEST(CapPoints, CantileverShorterThanTheFaceLeavesTrailingZeros) {
     EXPECT_THAT(model.results.momentSupportX, ElementsAre(10, 21, 19, 30, 0, 0));
     EXPECT_EQ(model.results.momentSupportList[5].m_nSupport, 0);
     EXPECT_EQ(model.results.momentSupportList[5].m_nKind, 0);
-    // The unused entries at 0 stand behind everything in the walk, since supports are taken in list order.
+    // The unused entries at 0 come last in the walk, since supports are taken in list order.
     EXPECT_THAT(model.results.momentPointX, ElementsAre(10, 21, 19, 30, 0, 0));
 }
 

@@ -208,14 +208,14 @@ TEST(CapShear, WithoutCantileversTheSecondCentrelineLooksAtTheNextNode) {
     shape.x = {10, 20, 30, 40, 50};  // nodes 5 6 9 10 13; elements 21 to 24
     SearchedCap model(shape);
     model.Set(0, 1, kF22, 0, 1);  // ends at the second column's top, node 9
-    model.Set(0, 2, kF22, 2, 3);  // ends at node 10, in the span behind it
+    model.Set(0, 2, kF22, 2, 3);  // ends at node 10, in the span after it
     model.Set(0, 3, kF22, 4, 5);  // starts there
     model.ComputeShear();
     const CCapEntry& left = model.results.shearSupports.At(1, 0, kLeftCentre, kMax);
     EXPECT_EQ(left.record, Record(0, 3, 0, 23, kEndJ, 10, kCapSpan, 1));
     EXPECT_DOUBLE_EQ(left.values[kF22], 3);
     EXPECT_DOUBLE_EQ(model.results.shearSupports.At(1, 0, kRightCentre, kMax).values[kF22], 4);
-    // Behind the last column there is no further node: 5 9 13 are the tops, node 14 is none.
+    // After the last column there is no further node: 5 9 13 are the tops, node 14 is none.
     EXPECT_EQ(model.results.shearSupports.At(2, 0, kLeftCentre, kMax).record.m_nMissing, 1);
 }
 

@@ -56,7 +56,7 @@ TEST(SectionMaxima, RatioOfZeroEverywhereFindsTheFirstIEnd) {
     EXPECT_EQ(model.results.pileDc.At(0, 0), RecordAt(0, 0, 0, 0, kEndI));
 }
 
-// The search starts at -0.1: a float of -0.1 lies below the double, one of -0.05 above.
+// The search starts at -0.1: a float of -0.1 is below the double, one of -0.05 above.
 TEST(SectionMaxima, RatiosBelowTheStartFindNothing) {
     SearchedPier model(Piles(1, 2, 1));
     model.SetForceEverywhere(kDemandCapacity, -0.1F);
@@ -114,7 +114,7 @@ TEST(SectionMaxima, IEndTakesOverWhenItBeatsTheJEndOfItsElement) {
     SearchedPier model(Piles(1, 2, 1));
     model.SetForce(0, 1, kEndJ, kM33, 4.0F);
     model.SetForce(0, 1, kEndI, kM33, 5.0F);
-    model.SetForce(0, 0, kEndI, kTorque, -1.0F);  // the seed is the J end's 0; the I end lies below it
+    model.SetForce(0, 0, kEndI, kTorque, -1.0F);  // the seed is the J end's 0; the I end is below it
     model.Search(kTablePileForces);
     EXPECT_EQ(model.results.pileForces.At(0, 0, 2 * kM33), RecordAt(0, 0, 1, 1, kEndI));
     EXPECT_EQ(model.results.pileForces.At(0, 0, 2 * kTorque + 1), RecordAt(0, 0, 0, 0, kEndI));

@@ -35,7 +35,7 @@ std::vector<Walked> Walk(const CPier& pier, MemberFamily family) {
     return walk;
 }
 
-// One question that a table answers.
+// One extreme that a table shows.
 struct Question {
     MemberFamily family;
     int sectionNumber, slot;

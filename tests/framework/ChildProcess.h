@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A process of its own for steps that take rights or room from a test, or end it.
+// A separate process for steps that reduce the rights or the memory of a test, or end it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@
 
 namespace lumerin {
 
-// How a child ended, as waitpid says it.
+// The end of a child, as waitpid reports it.
 inline int StatusOfChild(const std::function<void()>& steps) {
     const pid_t child = fork();
     if (child == 0) {

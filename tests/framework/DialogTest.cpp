@@ -215,7 +215,7 @@ TEST_F(DialogTest, F1GoesOnToTheDialogBelowWhereThisOneHasNoAnswer) {
         } else {
             front.Click(15);
             EXPECT_EQ(outer.helped, 16);
-            // Behind the inner dialog the outer one is alone again.
+            // After the inner dialog the outer one is alone again.
             front.PressHelp(15);
         }
     });
@@ -304,7 +304,7 @@ TEST_F(DialogTest, ViewerSettingsAreAbsentUntilSet) {
     EXPECT_TRUE(services::ReadViewerNumber("iPointSize", size));
     EXPECT_EQ(size, 120);
     headless::State().viewerTexts["szHeader"] = "&f";
-    EXPECT_FALSE(services::ReadViewerText("szHeader", 2, header));  // no room for the zero
+    EXPECT_FALSE(services::ReadViewerText("szHeader", 2, header));  // no space for the zero
     EXPECT_EQ(header, "kept");
     EXPECT_TRUE(services::ReadViewerText("szHeader", 3, header));
     EXPECT_EQ(header, "&f");

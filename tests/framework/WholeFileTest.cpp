@@ -194,7 +194,7 @@ TEST_F(WholeFileTest, RightsAreThoseOfTheFileBefore) {
         EXPECT_TRUE(WriteDocument("new"));
         EXPECT_EQ(RightsOf(Path()), rights);
     }
-    // Those of a link say nothing.
+    // Those of a link have no meaning.
     fs::remove(Path());
     fs::create_symlink("nowhere", Path());
     EXPECT_TRUE(WriteDocument("new"));

@@ -13,7 +13,7 @@
 #include "framework/headless/Headless.h"
 #include "support/ScratchFolder.h"
 
-// The full report of one small project in each format; README.md says where its documents come from.
+// The full report of one small project in each format; README.md describes the origin of its documents.
 
 namespace lumerin {
 

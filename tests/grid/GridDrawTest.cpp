@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What lies where when the window is painted: lines, backgrounds, texts, the frame of the focus.
+// Positions in the painted window: lines, backgrounds, texts, the frame of the focus.
 #include <cstdio>
 #include <vector>
 
@@ -47,7 +47,7 @@ class GridDraw : public GridFixture {
         m_grid.Paint(dc, area);
         return log;
     }
-    // What is painted of one cell, without the window's background and the copy: those of all calls that lie
+    // What is painted of one cell, without the window's background and the copy: those of all calls that are
     // in it.
     std::vector<std::string> PaintedCell(int left, int top) {
         std::vector<std::string> log;

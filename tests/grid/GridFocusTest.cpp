@@ -91,7 +91,7 @@ TEST_F(GridFocus, WithoutTheTabFlagTheGridHasNoUseForTab) {
     EXPECT_EQ(Focus(), (CCellID{0, 0}));
 }
 
-// What the grid does not take goes on to the dialog's default and cancel buttons and to its next control.
+// Keys that the grid does not use reach the dialog's default and cancel buttons and its next control.
 TEST_F(GridFocus, TheDialogKeepsItsOwnKeys) {
     Build(2, 2);
     EXPECT_FALSE(m_host->PressKey(kKeyEscape, {}));

@@ -61,7 +61,7 @@ TEST(CaseSelection, FindsTheFirstSelectedCaseOfEachClass) {
     EXPECT_EQ(selection.FirstOfClass(kExtreme), 0);
     EXPECT_EQ(selection.FirstOfClass(kFatigue), -1);
     selection.SetCaseSelected(0, false);
-    EXPECT_EQ(selection.FirstOfClass(kExtreme), 0);  // looked for when asked to
+    EXPECT_EQ(selection.FirstOfClass(kExtreme), 0);  // found only by the explicit call
     selection.FindFirstCases(project.data);
     EXPECT_EQ(selection.FirstOfClass(kExtreme), 2);
     selection.SetCaseSelected(2, false);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the data set answers of the project: words, sections and the tables that apply.
+// What the data set returns for the project: words, sections and the tables that apply.
 #include "model/DataSet.h"
 
 #include <gtest/gtest.h>

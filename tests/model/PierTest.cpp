@@ -48,7 +48,7 @@ TEST(NewLoadCase, IsNamedNone) {
     EXPECT_EQ(loadCase.m_nLimitClass, 0);
 }
 
-// A load that fails early leaves such a substructure behind.
+// A load that fails early leaves such a substructure.
 TEST(NewPier, DiesInPeaceWithoutLoadCases) {
     CPier pier = Allocated({}, 0);
     EXPECT_EQ(pier.ElementCount(), 0);
@@ -174,7 +174,7 @@ TEST(RecordElements, OfAColumnWithoutInteriorNodesAreFound) {
     EXPECT_EQ(pier.FindElement(kColumnFamily, 0, 1), -1);
 }
 
-// A substructure of a design family, asked whether the classes of a selection are just the set given.
+// A substructure of a design family, and whether the classes of a selection are exactly the given set.
 class WithClasses {
   public:
     WithClasses(int family, const std::vector<int>& classes) : m_selection(SelectionWithClasses(classes)) {

@@ -7,8 +7,8 @@
 
 namespace lumerin {
 
-// The Nth allocation fails, for N = 1, 2, 3 ... until a run passes clean: no run may end the process, and
-// the run behind it must be whole again.
+// The Nth allocation fails, for N = 1, 2, 3 ... until a run passes clean: no run may end the process, and the
+// next run must be complete again.
 
 namespace {
 

@@ -64,7 +64,7 @@ void operator delete[](void* memory, std::size_t) noexcept {
     std::free(memory);
 }
 
-// The names that the linker's option --wrap asks for.
+// The names that the linker's option --wrap requires.
 extern "C" {
 
 ssize_t __real_write(int file, const void* from, std::size_t bytes);

@@ -9,8 +9,8 @@
 
 namespace lumerin {
 
-// Memory grows with the elements, not with the force file: a process that has less room than the file takes
-// makes the same report.
+// Memory grows with the elements, not with the force file: a process that has less memory than the file's
+// length makes the same report.
 
 namespace {
 

@@ -14,7 +14,7 @@
 
 namespace lumerin {
 
-// Files that can't be written: the program names each, ends with a status other than zero, and leaves the
+// Files that cannot be written: the program names each, ends with a status other than zero, and leaves the
 // earlier file as it was.
 
 namespace {
@@ -102,7 +102,7 @@ TEST(OutputFault, ADiskThatFillsAtAnyPlaceIsNamed) {
                 LimitFileSize(room);
                 const Answer answer = Report(project.Base(), {"full"}, {format});
                 if (answer.status == kExitDone) {
-                    // Nothing went wrong: all the files are there in full. Told by the status alone.
+                    // Nothing went wrong: all the files are there in full. Only the status shows it.
                     LimitFileSize(RLIM_INFINITY);
                     WriteBytesOf(project.Base() + ".clean", "");
                     return;
@@ -115,7 +115,7 @@ TEST(OutputFault, ADiskThatFillsAtAnyPlaceIsNamed) {
     }
 }
 
-// One write after the other stores half of its bytes only, and those behind it succeed again: whatever file
+// One write after the other stores half of its bytes only, and those after it succeed again: whatever file
 // that is, it is named.
 TEST(OutputFault, AnySingleWriteMayFail) {
     const BrokenProject project("pier", 300);

@@ -15,7 +15,7 @@ namespace {
 
 // The module's soak under Wine presses the same.
 constexpr const char* kEveryButton = LUMERIN_SOURCE_DIR "/tests/reliability/every-button.script";
-// Documents that a round hands to viewers. Of the pier: 7 tables, the full report, the list of cases and the
+// Documents that a round opens in viewers. Of the pier: 7 tables, the full report, the list of cases and the
 // study in each of three formats; the pile heads as a spreadsheet twice; the cover sheet in two formats; the
 // help page. Of the bridge: the extra members in three formats, the full report in one.
 constexpr std::size_t kOpened = 3 * (7 + 3) + 2 + 2 + 1 + 3 + 1;
@@ -25,7 +25,7 @@ std::size_t OpenFiles() {
     return static_cast<std::size_t>(std::distance(begin(files), end(files)));
 }
 
-// Files that were written and handed to a viewer, by the lines of the round.
+// Files that were written and opened in a viewer, by the lines of the round.
 std::size_t OpenedFiles(const std::string& lines) {
     std::size_t count = 0;
     for (std::size_t at = lines.find("{\"open\""); at != std::string::npos;

@@ -12,7 +12,7 @@
 
 namespace lumerin {
 
-// Files that were cut, counts that lie, bytes that changed: the project loads, or one message says why not.
+// Files that were cut, wrong counts, changed bytes: the project loads, or one message says why not.
 
 namespace {
 

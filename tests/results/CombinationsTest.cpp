@@ -67,7 +67,7 @@ TEST(Combinations, ARowThatTakesBackCasesNeverWritesBeforeTheFirst) {
     ResultProject project;
     WithFamily(project, 0, 2, "101 1 -3\n112 1 4\n");
     ASSERT_TRUE(project.Load());
-    // Three of the four positions lie before the first case.
+    // Three of the four positions are before the first case.
     EXPECT_EQ(First(project).m_LoadCases[0].m_sLimitState, "FATIGUE-I");
     EXPECT_EQ(First(project).m_LoadCases[0].m_nNumber, 4);
     EXPECT_EQ(First(project).m_LoadCases[1].m_sLimitState, "none");
@@ -175,7 +175,7 @@ TEST(Combinations, TheLastOfTheRowsThatTakeACaseCounts) {
         EXPECT_EQ(First(project).m_LoadCases[c].m_nNumber, numbers[c]) << c;
         EXPECT_EQ(First(project).m_LoadCases[c].m_nLimitClass, classes[c]) << c;
     }
-    // Case 3 is told as well: its unknown code came before the valid one.
+    // Case 3 is reported as well: its unknown code came before the valid one.
     EXPECT_EQ(project.messages.texts.size(), 5U);
 }
 
@@ -205,7 +205,7 @@ TEST(Combinations, ATitleMayLookLikeAMark) {
     ASSERT_TRUE(project.Load());
     EXPECT_EQ(First(project).m_LoadCases[0].m_sName, "[Comb. in its title");
     EXPECT_EQ(First(project).m_LoadCases[1].m_sName, "Dead and live ");
-    // Four lines without a mark are looked at; the line behind them stands for the title.
+    // Four lines without a mark are looked at; the line after them is taken as the title.
     EXPECT_EQ(First(project).m_LoadCases[2].m_sName, "e");
 }
 

@@ -40,7 +40,7 @@ TEST(Identity, PilesAreNumberedAfterTheFrame) {
     project.Write();
     ASSERT_TRUE(project.Load());
     const CPier& pier = project.Pier();
-    // 13 nodes and 18 element rows stand before the piles; heads carry the pile's number.
+    // 13 nodes and 18 element rows come before the piles; heads carry the pile's number.
     ExpectElement(project, pier.PileElement(0, 0), 19, 14, 1, 1);
     ExpectElement(project, pier.PileElement(0, 1), 20, 15, 14, 2);
     ExpectElement(project, pier.PileElement(1, 0), 21, 16, 2, 1);

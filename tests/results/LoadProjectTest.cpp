@@ -94,7 +94,7 @@ TEST(LoadProject, ATextFileThatCannotBeReadIsAsOneThatIsMissing) {
         std::filesystem::create_directory(project.Path(suffix));
         EXPECT_EQ(loaded(), missing) << "a folder " << suffix;
         project.Remove(suffix);
-        // The memory of a process opens as a file whose first bytes can't be read.
+        // The memory of a process opens as a file whose first bytes cannot be read.
         std::filesystem::create_symlink("/proc/self/mem", project.Path(suffix));
         EXPECT_EQ(loaded(), missing) << "a read error in " << suffix;
     }
@@ -165,7 +165,7 @@ TEST(LoadProject, AForceFileIsTooShortBeyondThreeTimesItsLengthAnd32Megabytes) {
     ExpectFault(project, "p.vmd",
                 "holds 0 bytes, too few for 4 elements in " + std::to_string(most + 1) +
                     " load cases, whose records take " + std::to_string(272LL * (most + 1)));
-    // 68,000 bytes make room for 204,000 more.
+    // 68,000 bytes allow 204,000 more.
     project.WriteFile(".vmd", std::string(68000, '\0'));
     EXPECT_TRUE(project.Load());
 }

@@ -95,7 +95,7 @@ TEST(MemberForces, AnElementAtAGapStaysAtZero) {
     ResultProject project;
     project.substructures[0] = MakePier();
     ResultSubstructure& sub = project.substructures[0];
-    // Number 14, the second element of the span, has no row: the rows behind it move up by one record.
+    // Number 14, the second element of the span, has no row: the rows after it move up by one record.
     sub.rows.erase(sub.rows.begin() + 13);
     project.Write();
     ASSERT_TRUE(project.Load());

@@ -89,7 +89,7 @@ TEST(PierSections, AColumnWithoutInteriorNodesTakesNoWidth) {
     project.WriteFile(".MIS", "PIERXSEC\nP= 1 L= 0\nskipped\nN= 3\nC= 0 B= 0 R= 0\nW= 9\nW= 2\nW= 3\n:\n");
     ASSERT_TRUE(project.Load());
     const CPier& pier = project.Pier();
-    // The column's line is passed over: both faces of a support lie on its centre.
+    // The column's line is skipped: both faces of a support are at its centre.
     EXPECT_EQ(Width(project, pier.ColumnElement(0, 0)), 0.0);
     EXPECT_EQ(pier.GetSupportWidth(0), 0.0);
     EXPECT_EQ(Width(project, Frame(project).m_Beam.m_nFirstElement), 2.0);
@@ -161,7 +161,7 @@ TEST(PierSections, ABentsBlockHasItsOneColumnLineAndFlagsAreKept) {
     ResultProject project;
     project.substructures = {MakePier(), MakePier()};
     project.Write();
-    // The second block names no flags: those of the first stand.
+    // The second block names no flags: those of the first are kept.
     project.WriteFile(".MIS",
                       "PIERXSEC\nP= 2 L= 0\nskipped\nN= 3\nC= 0 B= 1 R= 0\nW= 1\nW= 2\nW= 3\nW= 4\n"
                       "skipped\nN= 3\nno flags\nW= 5\nW= 6\nW= 7\nW= 8\n:\n");

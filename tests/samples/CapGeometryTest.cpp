@@ -12,7 +12,7 @@ namespace lumerin {
 namespace {
 
 // x of the cap's nodes, from the tip on the left to the tip on the right. A pier's node list has its columns
-// with the left cantilever behind the first and the spans between them; a bent's begins with the heads.
+// with the left cantilever after the first and the spans between them; a bent's begins with the heads.
 std::vector<double> CapX(const reader::Model& m) {
     const int side = m.cantilevers > 0 ? m.cantileverNodes + 1 : 0;
     std::vector<double> left, spans, tops, right;
@@ -86,7 +86,7 @@ TEST(CapPoints, PierColumnWidensToFortyEight) {
     EXPECT_NE((keys + 3)->find("W= 47 "), std::string::npos);
 }
 
-// A pile of 24 at 60: the left tip at 50 lies right of the face at 48.
+// A pile of 24 at 60: the left tip at 50 is right of the face at 48.
 TEST(CapPoints, BentStopsInsideItsFirstPile) {
     const SampleFolder folder;
     const auto model = reader::ReadModel(folder.Write("bent"), 0);

@@ -77,7 +77,7 @@ TEST(CapStatics, SpanUnderAMiddleLoad) {
     EXPECT_DOUBLE_EQ(cap.AtJ(2).m33, -16.0);
 }
 
-// Everything put on the cap goes into the supports: 10 + 20 + 40 + 5 and 3 a metre on 14 metres.
+// The supports carry all loads of the cap: 10 + 20 + 40 + 5 and 3 a metre on 14 metres.
 TEST(CapStatics, SupportsTakeAllLoads) {
     samples::CapModel cap(HandCap());
     auto loads = NoLoads(5);

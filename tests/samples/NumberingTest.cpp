@@ -21,8 +21,8 @@ void PrintTo(const Numbered& e, std::ostream* out) {
     *out << e.number << ": " << e.nodeI << '-' << e.nodeJ;
 }
 
-// The readers' walk: each column, the left cantilever behind the first, a span behind each but the last, the
-// right cantilever behind the last. `e` and `n` are the next element and node number.
+// The readers' walk: each column, the left cantilever after the first, a span after each but the last, the
+// right cantilever after the last. `e` and `n` are the next element and node number.
 class Walk {
   public:
     explicit Walk(const reader::Model& model) : m(model) {
@@ -110,7 +110,7 @@ void ExpectTableFollowsWalk(const reader::Model& model) {
         EXPECT_EQ(found->second, element);
         table.erase(found);
     }
-    // What is left are the connectors in front and the extra members behind.
+    // The rest are the connectors before and the extra members after.
     const int connectors = walk.elements.empty() ? 4 : walk.elements.front().number - 1;
     EXPECT_EQ(table.size(), static_cast<std::size_t>(connectors + model.extraMembers));
     const auto gaps = static_cast<std::size_t>(model.rows.back().number) - model.rows.size();
@@ -217,7 +217,7 @@ TEST(BridgeNumbers, JointTakesItsNumberWithIt) {
     EXPECT_EQ(reader::ReadModel(base, 2).type, 1);
 }
 
-// Readers tell columns from the cap by the section: up to the column sections + 1, counted from 2.
+// Readers distinguish columns from the cap by the section: up to the column sections + 1, counted from 2.
 TEST(Sections, TellConnectorsColumnsAndCapApart) {
     const SampleFolder folder;
     const auto model = reader::ReadModel(folder.Write("bridge"), 0);

@@ -79,7 +79,7 @@ struct Row {
     int number, nodeI, nodeJ, section;
 };
 
-// What the pile file, the pile model file and the bearing file say of one substructure.
+// The contents of the pile file, the pile model file and the bearing file for one substructure.
 struct Model {
     int nodeCount = 0, type = 0, columns = 0, cantilevers = 0, cantileverNodes = 0, extraMembers = 0;
     int columnNodes = 0, spanNodes = 0, units = 0, columnSections = 0;
@@ -95,7 +95,7 @@ struct Model {
     }
 };
 
-// Takes records one after the other and refuses one of another size than the format asks for.
+// Reads records in order and refuses a record of another size than the format requires.
 class Cursor {
   public:
     explicit Cursor(const std::filesystem::path& path) : m_records(Records(ReadAll(path))) {}
@@ -176,7 +176,7 @@ inline Model ReadModel(const std::string& base, int substructure) {
     return model;
 }
 
-// Node numbers of the bearings, row by row, as the records behind the load points give them.
+// Node numbers of the bearings, row by row, from the records after the load points.
 inline std::vector<std::vector<int>> ReadBearings(const std::string& base, int substructure) {
     Cursor file(base + Suffix(".pls", substructure));
     const std::string counts = file.Take(48);

@@ -32,7 +32,7 @@ TEST(LimitStates, TwoCasesReachBothRailwayClasses) {
     EXPECT_EQ(Codes(DistributeLimitStates(CodeFamily::Arema, 2)), (std::vector<int>{301, 311}));
 }
 
-// 27 cases over 13 limit states: 3 for the first, 2 for the others; a number is left out behind every second
+// 27 cases over 13 limit states: 3 for the first, 2 for the others; a number is left out after every second
 // of three.
 TEST(LimitStates, CasesAreSharedOutAndNumbersJump) {
     const auto rows = DistributeLimitStates(CodeFamily::Lrfd, 27);
@@ -125,7 +125,7 @@ TEST(Convergence, HistoryConsistsOfTimeSteps) {
     EXPECT_EQ(reader::Int(reader::Records(reader::ReadAll(folder.Write("pier") + ".ncv"))[4], 0), 0);
 }
 
-// Behind "PROBLEM" nine lines are passed, the ninth of which may be the section's.
+// After "PROBLEM" nine lines are skipped, the ninth of which may be the section's.
 bool StudyRequested(const std::vector<std::string>& lines) {
     const auto problem = std::find(lines.begin(), lines.end(), "PROBLEM");
     if (lines.end() - problem < 10) return false;
@@ -142,7 +142,7 @@ TEST(Input, AsksForTheStudyInThePierAlone) {
     }
 }
 
-// A block is its title line, "N=", "C= B= R=" and as many data lines as these three ask for.
+// A block is its title line, "N=", "C= B= R=" and as many data lines as these three require.
 TEST(KeyedFile, SectionBlocksHaveTheLinesTheirFlagsAskFor) {
     const SampleFolder folder;
     for (const char* preset : {"pier", "bent", "group", "walls", "bridge", "history"}) {

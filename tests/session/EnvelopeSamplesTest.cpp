@@ -12,7 +12,7 @@ namespace lumerin {
 using headless::HeadlessDialog;
 
 // The whole envelope data file of two sample projects. What is expected was worked out from the result files
-// by tests/documents/cap_envelopes.py, which knows nothing of the program, and read over.
+// by tests/documents/cap_envelopes.py, which shares nothing with the program, and checked by reading.
 
 namespace {
 

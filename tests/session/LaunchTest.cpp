@@ -69,7 +69,7 @@ TEST_F(LaunchTest, StoresItsArguments) {
     EXPECT_EQ(g_ProjectFileName, "p.in");
     EXPECT_EQ(g_VersionText, "5.2.1");
     EXPECT_EQ(g_VersionLabel, "v5.2.1");
-    // The quotes stand behind blanks, so they are not at the ends when quotes are stripped.
+    // The quotes are after blanks, so they are not at the ends when quotes are stripped.
     EXPECT_EQ(g_HostTextA, "\"a b\"");
     EXPECT_EQ(g_HostTextB, "c");
     EXPECT_EQ(g_EnvelopePlotArgument, "\"plot\"");

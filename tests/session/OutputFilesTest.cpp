@@ -262,7 +262,7 @@ TEST_F(OutputFiles, ViewerSettingsThatAreMissingStayAsTheyWere) {
     EXPECT_EQ(settings.m_nPointSize, 90);
 }
 
-// The size that the number before it left behind, four bytes, is all the room that a text is given.
+// A text gets four bytes, the size that the number before it has left.
 TEST_F(OutputFiles, ViewerTextsOfMoreThanThreeCharactersDoNotArrive) {
     headless::State().viewerTexts = {{"szHeader", "Page &p"}, {"szTrailer", "abc"}};
     ViewerSettings settings;

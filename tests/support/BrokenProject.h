@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A small sample project whose files a test breaks, and the whole program's answer to it.
+// A small sample project whose files a test damages, and what the whole program does with it.
 #pragma once
 
 #include <gmock/gmock.h>
@@ -86,7 +86,7 @@ class BrokenProject {
     std::vector<ProjectBytes> m_files;
 };
 
-// What the program said to `lumerin report`.
+// The output of `lumerin report`.
 struct Answer {
     ExitStatus status = kExitDone;
     std::string out;
@@ -125,15 +125,15 @@ inline testing::AssertionResult IsLoadedOrOneClearMessage(const Answer& answer, 
         return testing::AssertionFailure()
                << "status " << answer.status << " with " << answer.said.size() << " messages";
     }
-    // A substructure before the broken one may have told that its force file is short.
+    // For a substructure before the damaged one a short force file may have been reported.
     for (std::size_t i = 0; i + 1 < answer.said.size(); ++i) {
         if (answer.said[i].find("force records are missing") == std::string::npos) {
             return testing::AssertionFailure() << "more than one message: " << answer.said[i];
         }
     }
     const std::string& line = answer.said.back();
-    // Behind the name of the project: the file, then what is wrong with it. The host's engineers know the
-    // two texts on convergence, which name none.
+    // After the name of the project: the file, then what is wrong with it. The host's engineers know the two
+    // texts on convergence, which name none.
     const std::string head = base + ".in: ";
     const std::string rest = line.starts_with(head) ? line.substr(head.size()) : std::string();
     const bool clear = rest.starts_with(base + ".") && rest.find(": ") != std::string::npos;

@@ -84,7 +84,7 @@ class CapModel : public OnePier {
             m_chain.push_back(pier.m_Frame.m_Beam.m_nFirstElement + e);
         }
     }
-    // Takes the next cap node: its x goes to the node list's end, its number to the chain at `at`.
+    // Takes the next cap node: appends its x to the node list, and puts its number into the chain at `at`.
     void ListNode(std::size_t at) {
         pier.m_dNodes.push_back({m_shape.x.at(at), 0.0, 0.0});
         nodes.at(at) = m_shape.foundationNodes + static_cast<int>(pier.m_dNodes.size());

@@ -41,7 +41,7 @@ class MemoryForces : public ForceSource {
     bool IsUnchanged() const override { return unchanged; }
     std::string Name() const override { return "memory"; }
 
-    FiniteForces finite;  // the answer of every pass
+    FiniteForces finite;  // the result of every pass
     bool unchanged = true;
     mutable int passes = 0;
 
@@ -60,7 +60,7 @@ class MemoryForces : public ForceSource {
 };
 
 // The forces of all substructures of a project that was built by hand, which is kept. A substructure gets its
-// forces when they are first asked for; the project must have all its substructures by then.
+// forces when they are first used; the project must have all its substructures by then.
 class ModelForces {
   public:
     explicit ModelForces(const CDataSet& data) : m_data(data) {}

@@ -8,7 +8,7 @@
 
 namespace lumerin {
 
-// Keeps what a reader or a search has to say, in the order of the calls.
+// Keeps what a reader or a search reports, in the order of the calls.
 class RecordedMessages : public Messages {
   public:
     void Show(const std::string& text) override { texts.push_back(text); }

@@ -16,7 +16,7 @@
 
 namespace lumerin {
 
-// Runs the report dialog without a screen; what it tells and starts lies in the sink.
+// Runs the report dialog without a screen; its messages and starts are in the sink.
 class ReportDialogTest : public testing::Test {
   protected:
     using Press = std::function<void(headless::HeadlessDialog&)>;

@@ -18,7 +18,7 @@
 
 namespace lumerin {
 
-// What a report is written from, built by hand, a clock that is held, and the written file read back.
+// The input of a report, built by hand, a fixed clock, and the written file read back.
 class ReportTest : public testing::Test {
   protected:
     ReportTest() {
@@ -72,7 +72,7 @@ class ReportTest : public testing::Test {
 
     std::string Path() const { return scratch.PathOf("report"); }
     std::string StoredBytes() const { return scratch.Read("report"); }
-    // The stored text with bare line feeds, each of which was stored behind a carriage return.
+    // The stored text with bare line feeds, each of which was stored after a carriage return.
     std::string StoredText() const {
         const std::string bytes = StoredBytes();
         for (std::size_t at = bytes.find('\n'); at != std::string::npos; at = bytes.find('\n', at + 1)) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A small project whose files are written byte by byte, so that a test says exactly what stands in them.
+// A small project whose files are written byte by byte, so that a test decides about every byte.
 #pragma once
 
 #include <gmock/gmock.h>

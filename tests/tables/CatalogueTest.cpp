@@ -137,7 +137,7 @@ TEST_F(Catalogue, AFullPageNeedsNoPaddingAndAnOverrunAsksForTheRestOfItsLastPage
     EXPECT_EQ(LinesToPageEnd(0), 61);
     EXPECT_EQ(LinesToPageEnd(61), 0);
     EXPECT_EQ(LinesToPageEnd(62), 60);
-    // A whole number of pages above one asks for a page of its own.
+    // A whole number of pages above one needs a page of its own.
     EXPECT_EQ(LinesToPageEnd(122), 61);
 }
 

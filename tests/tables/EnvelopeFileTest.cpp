@@ -247,7 +247,7 @@ TEST_F(EnvelopeFile, NoSelectedCaseReadsNone) {
 
 TEST_F(EnvelopeFile, UnusedListEntriesReadAsTheFirstLeftFace) {
     CapShape shape = TwoColumns();
-    shape.width = 22;  // neither outer face lies on the cap
+    shape.width = 22;  // neither outer face is on the cap
     SearchedCap model(shape);
     Add(model);
     // The entry is support 1, left face, at 0; its record was never written: case 0 and no force.

@@ -85,7 +85,7 @@ TEST_F(Footer, ThePathsWidthCountsCharacters) {
     for (int i = 0; i < 70; ++i) umlauts += "\xC3\xA4", western += '\xE4';
     NameAlone("C:\\" + umlauts + "\\", "p123");  // 74 + 4 + 3 characters
     EXPECT_EQ(FooterText(options), "C:\\" + western + "\\p123.in");
-    NameAlone("C:\\" + umlauts + "f\\", "p123");  // one too many: the folder is cut behind 74
+    NameAlone("C:\\" + umlauts + "f\\", "p123");  // one too many: the folder is cut after 74
     EXPECT_EQ(FooterText(options), "C:\\" + western + "f...\\p123.in");
     NameAlone("C:\\", umlauts + "123456789");  // a name of 82 with its ending: 74, dots and ".txt"
     EXPECT_EQ(FooterText(options), western + "1234....txt");

@@ -11,7 +11,7 @@ const std::string kUnits =
 const std::string kColumns =
     "  I/J    MAX/MIN        FAX        F22        F33        M22        M33     TORQUE       D/C\n";
 
-// The twelve rows of a property without results, behind the property column.
+// The twelve rows of a property without results, after the property column.
 std::string MissingRows(const std::string& property, const std::string& filler) {
     const char* names[] = {"Max Axial", "Min Axial", "Max f22", "Min f22", "Max f33",    "Min f33",
                            "Max m22",   "Min m22",   "Max m33", "Min m33", "Max Torque", "Min Torque"};

@@ -63,7 +63,7 @@ TEST_F(PileHeadTable, SectionsOfCombinationsAreParted) {
                            head +
                            "              1      1     2     EXTREME-II         7.00     1.25"
                            "     ***            ***         none      ***\n"
-                           "\n\n");  // behind the substructure; fatigue has no section
+                           "\n\n");  // after the substructure; fatigue has no section
     EXPECT_EQ(m_nLines, 5 + (2 + 4 + 1 + 2) + (2 + 4 + 1) + 2);
 }
 

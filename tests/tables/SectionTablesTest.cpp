@@ -85,7 +85,7 @@ TEST_F(SectionTables, ColumnPropertiesCountFromTwo) {
     AllocateRatios(0, 0, 2);
     Results().columnDc.At(0, 0) = {0, 0, 0, 21, kEndI, 8};
     SetForces(Pier(), 0, 0, kEndI, {-1.0F, 0, 0, 0, 0, 0, 0.25F});
-    // The title of one substructure stands without a tab, limit states or not.
+    // The title of one substructure has no tab, limit states or not.
     EXPECT_EQ(Text(kTableColumnDc),
               Blanks(36) +
                   "Maximum Demand/Capacity Ratio For All Column Properties (Cross Sections)\n\n\n"
@@ -167,7 +167,7 @@ TEST_F(SectionTables, MembersInThePileArraysAreCalledColumns) {
     const int lines = m_nLines;
     EXPECT_EQ(Text(kTableColumnDc), piles);
     EXPECT_EQ(m_nLines, lines);
-    // The table that stands in must be enabled itself.
+    // The table that replaces it must be enabled itself.
     enabled[kTablePileDc] = false;
     EXPECT_EQ(Text(kTableColumnDc), "");
     EXPECT_EQ(m_nLines, 0);

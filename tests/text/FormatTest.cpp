@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Numbers to text. The C library, under its own locale, is the judge of the formats that it knows.
+// Numbers to text. The C library, under its own locale, is the reference for the formats that it has.
 #include "text/Format.h"
 
 #include <gtest/gtest.h>
@@ -81,7 +81,7 @@ TEST(Fixed, RandomValuesAreAsTheCLibraryPrintsThem) {
     std::mt19937_64 random(20261114);
     for (int i = 0; i < 200'000; ++i) {
         const double value = i % 4 == 0 ? RandomBits(random) : RandomForce(random);
-        if (std::isnan(value)) continue;  // the sign of a not-a-number is nobody's promise
+        if (std::isnan(value)) continue;  // the sign of a not-a-number is not defined
         const int decimals = i % 7;
         ASSERT_EQ(FormatFixed(value, decimals, 10), JudgeFixed(value, decimals, 10))
             << std::hexfloat << value;
@@ -105,7 +105,7 @@ TEST(Fixed, TiesOfTheBinaryValueGoToTheEvenDigit) {
     EXPECT_EQ(FormatFixed(2.5, 0), "2");
     EXPECT_EQ(FormatFixed(3.5, 0), "4");
     EXPECT_EQ(FormatFixed(0.5, 0), "0");
-    // No ties: the nearest doubles lie below 1.005, 2.675 and 1.115.
+    // No ties: the nearest doubles are below 1.005, 2.675 and 1.115.
     EXPECT_EQ(FormatFixed(1.005, 2), "1.00");
     EXPECT_EQ(FormatFixed(2.675, 2), "2.67");
     EXPECT_EQ(FormatFixed(1.115, 2), "1.11");

@@ -38,7 +38,7 @@ TEST(Hundredths, HalvesRoundToTheEvenDigitWhenTheyAreExact) {
 }
 
 TEST(Hundredths, DecimalHalvesGoByTheBinaryValue) {
-    // As doubles the first three lie a little below the half, the last one lies on it.
+    // As doubles the first three are a little below the half, the last one is exactly the half.
     EXPECT_EQ(FormatFixed(1.005, 2), "1.00");
     EXPECT_EQ(FormatFixed(2.675, 2), "2.67");
     EXPECT_EQ(FormatFixed(1.115, 2), "1.11");

@@ -21,7 +21,7 @@ class KeyedFile : public testing::Test {
         m_scratch.Write("bridge.MIS", text);
         return m_scratch.PathOf("bridge.MIS");
     }
-    // All lines until one can't be read.
+    // All lines until one cannot be read.
     std::vector<std::string> LinesOf(const std::string& text, int maxLength = kLimit) const {
         ifstreamex in(FileOf(text));
         std::vector<std::string> lines;
@@ -113,7 +113,7 @@ TEST_F(KeyedFile, AFolderInItsPlaceIsAFailedStream) {
     EXPECT_EQ(line, "");
 }
 
-// The memory of a process opens as a file whose first bytes can't be read.
+// The memory of a process opens as a file whose first bytes cannot be read.
 TEST_F(KeyedFile, AReadErrorIsABadStream) {
     std::filesystem::create_symlink("/proc/self/mem", m_scratch.Path() / "bridge.MIS");
     ifstreamex in(m_scratch.PathOf("bridge.MIS"));
@@ -156,7 +156,7 @@ TEST(Keys, AreFoundInAnyLetterCase) {
 
 TEST(Keys, OfOneCharacterGetTheEqualsSign) {
     EXPECT_EQ(Ints("N 3 N= 4", "N", 1), (I{4, 1}));
-    EXPECT_EQ(Ints("NO 3", "NO", 1), (I{3, 1}));  // a longer key stands as it is
+    EXPECT_EQ(Ints("NO 3", "NO", 1), (I{3, 1}));  // a longer key is used as it is
 }
 
 TEST(Keys, MayMatchInsideALongerWord) {

@@ -44,7 +44,8 @@ TEST(TwelveDecimals, ShowsTheExactValueAsFarAsTheyReach) {
 }
 
 TEST(TwelveDecimals, ExactHalvesGoToTheEvenDigit) {
-    // 2^-13 is 0.0001220703125: thirteen decimals, the last a 5 behind an even 2, and thrice it behind a 7.
+    // 2^-13 is 0.0001220703125: thirteen decimals, the last a 5 after an even 2, and three times that after a
+    // 7.
     EXPECT_EQ(FormatFixed(0x1p-13, 12), "0.000122070312");
     EXPECT_EQ(FormatFixed(3 * 0x1p-13, 12), "0.000366210938");
     for (int odd = 1; odd < 20000; odd += 2) ExpectAsJudged(odd * 0x1p-13);
@@ -54,7 +55,7 @@ TEST(TwelveDecimals, ACarryReachesTheDecimalThatItMust) {
     // The float nearest to a millionth is 9.99999997475e-7.
     EXPECT_EQ(FormatFixed(static_cast<double>(1e-6F), 12), "0.000001000000");
     EXPECT_EQ(FormatFixed(static_cast<double>(std::nextafter(1.0F, 0.0F)), 12), "0.999999940395");
-    // A double can lie closer below a whole number than any float; it takes the exact way.
+    // A double can be closer below a whole number than any float; it takes the exact conversion.
     EXPECT_EQ(FormatFixed(std::nextafter(1.0, 0.0), 12), "1.000000000000");
 }
 

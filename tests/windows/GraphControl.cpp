@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// A graph control for the tests: it writes down each property and method that it is asked for, with the types
-// of the values, and reports one click. It draws nothing.
+// A graph control for the tests: it records each property and method that is called, with the types of the
+// values, and reports one click. It draws nothing.
 //     LUMERIN_GRAPH_RECORD  the file of the record
-//     LUMERIN_GRAPH_CLICK   the x of the click, some time behind the first point; unset: none
+//     LUMERIN_GRAPH_CLICK   the x of the click, some time after the first point; unset: none
 //     LUMERIN_GRAPH_MUTE    set: it has no dispatch interface, and covers its place with a black window
 
 #include <windows.h>
@@ -69,7 +69,7 @@ std::string TextOf(const VARIANT& value) {
     }
 }
 
-// One object with all its interfaces. The tests make one at a time; it lives as long as the module.
+// One object with all its interfaces. The tests make one at a time; it exists as long as the module.
 class GraphControl final : public IDispatch,
                            public IConnectionPointContainer,
                            public IConnectionPoint,
@@ -149,10 +149,10 @@ class GraphControl final : public IDispatch,
     }
     HRESULT STDMETHODCALLTYPE EnumConnections(IEnumConnections**) override { return E_NOTIMPL; }
 
-    // What a container asks of a control before it shows it. There is nothing to show.
+    // What a container calls before it shows a control. There is nothing to show.
     HRESULT STDMETHODCALLTYPE SetClientSite(IOleClientSite* site) override {
         Record(site != nullptr ? "sited" : "unsited");
-        // The site lives by this reference.
+        // This reference keeps the site.
         if (site != nullptr) site->AddRef();
         if (m_site != nullptr) m_site->Release();
         m_site = site;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What somebody has put beside a project, as a library and as a program: it leaves a file "planted-ran" in
-// the current folder as soon as it runs, or is only loaded.
+// A file that somebody has put beside a project, built as a library and as a program: it leaves a file
+// "planted-ran" in the current folder as soon as it runs, or is only loaded.
 #include <cstdio>
 
 #include "host/HostWindows.h"

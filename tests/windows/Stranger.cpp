@@ -2,7 +2,7 @@
 // stranger.exe [press]: another program on the machine that sends the module's windows what only their driver
 // may ask, without its token and with wrong ones, with pointers into the module's process and with wild ones.
 // With "press" it opens and closes the dialogs itself, in a host that has no driver. Prints what was answered
-// or written; exit status 1 then, and when a window was not found or did not live through it.
+// or written; exit status 1 then, and when a window was not found or was destroyed by it.
 #include <array>
 #include <cstdio>
 #include <cstring>
@@ -86,7 +86,7 @@ class Block {
     std::array<unsigned char, kBlockSize> m_bytes{};
 };
 
-// True: nothing was answered, nothing written, and the window lives.
+// True: nothing was answered, nothing written, and the window still exists.
 bool Attack(HWND window, const char* name) {
     constexpr WPARAM kTokens[] = {0, 1, 0x7fffffff, 0xdeadbeef, 0xffffffff};
     const Block block(window);

@@ -244,7 +244,7 @@ TEST_F(GridImage, PathsAreWrittenInTheCodePage) {
                                 "cke/?.bmp\r\n"));
     EXPECT_THAT(text, HasSubstr("[pdfSavePath]/p/Br\xFC"
                                 "cke/MPTE.pdf\r\n"));
-    EXPECT_THAT(text, testing::EndsWith("5 \xB1 1"));  // a cell is in the code page as it stands
+    EXPECT_THAT(text, testing::EndsWith("5 \xB1 1"));  // a cell is already in the code page
 }
 
 TEST_F(GridImage, DataRowsAreTheGridsLessTheHeading) {

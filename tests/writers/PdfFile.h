@@ -11,7 +11,7 @@ namespace lumerin {
 // offsets. A \r\n of the writer is stored as \r\r\n.
 struct PdfPage {
     std::string content;             // the stored stream
-    long declaredLength = -1;        // what its length object says
+    long declaredLength = -1;        // the number in its length object
     std::vector<std::string> lines;  // the shown lines of the body
     std::string footer;              // empty: no footer line
 };
@@ -26,7 +26,7 @@ class PdfFile {
     }
 
     bool HasObject(int number) const { return ObjectStart(number) != std::string::npos; }
-    // From behind the object's first line to its end.
+    // From the end of the object's first line to the object's end.
     std::string Object(int number) const {
         const std::size_t at = ObjectStart(number);
         if (at == std::string::npos) return {};
@@ -40,7 +40,7 @@ class PdfFile {
         if (at == std::string::npos) return {};
         return object.substr(at + open.size(), object.find("endstream", at) - at - open.size());
     }
-    // The number behind a mark, -1 without it.
+    // The number after a mark, -1 without it.
     long NumberBehind(const std::string& mark) const {
         const std::size_t at = m_bytes.find(mark);
         return at == std::string::npos ? -1 : std::strtol(m_bytes.c_str() + at + mark.size(), nullptr, 10);

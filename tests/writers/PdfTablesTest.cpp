@@ -140,7 +140,7 @@ TEST_F(PdfTables, GapsOfTheAxialTableHoldLineFeedsAndBlanks) {
 }
 
 TEST_F(PdfTables, ATableOfOnePageHasNoContinuation) {
-    // Title 3, heading 2, head 3: 43 rows bring the page to line 51, and no further row asks for more.
+    // Title 3, heading 2, head 3: 43 rows bring the page to line 51, and no further row is needed.
     MakePileRatios(1, 43);
     const PdfFile file = Write(kTablePileDc);
     EXPECT_EQ(file.pages.size(), 1U);
@@ -165,7 +165,7 @@ TEST_F(PdfTables, ARowAtLine51IsOnTheNextPageAfterTheHead) {
     EXPECT_EQ(second[3].substr(0, 14), "  NO.   NO.   ");
     EXPECT_EQ(second[4], "");
     EXPECT_EQ(second[5], "   44          -1    -1      No valid load case");
-    // The count begins at 5 behind the break.
+    // The count begins at 5 after the break.
     EXPECT_EQ(m_nLines, 5 + 1 + 2 + 2);
 }
 
@@ -329,7 +329,7 @@ TEST_F(PdfTables, AViewerShowsTheWordsOfTheTextLineByLine) {
     for (const std::string& line : SplitText(Text(kTablePileDc))) {
         if (!Words(line).empty()) expected.push_back(Words(line));
     }
-    // The second page repeats the head: title, heading, two lines of head and 43 rows stand before it.
+    // The second page repeats the head: title, heading, two lines of head and 43 rows come before it.
     const std::vector<std::string> head(expected.begin() + 2, expected.begin() + 4);
     expected.insert(expected.begin() + 4 + 43, head.begin(), head.end());
     EXPECT_EQ(lines, expected);

@@ -187,7 +187,7 @@ TEST_F(SheetCaps, NoLoadCase) {
     }
 }
 
-// The left side goes by the first flag (an element starts at the bearing), the right side by the second.
+// The left side uses the first flag (an element starts at the bearing), the right side by the second.
 TEST_F(SheetCaps, SideOfABearingWithoutResult) {
     const std::string normal = kPlace + Whole("23") + Whole("1") + TextCell("J") + kShear;
     const auto none = [](int count) { return kPlace + Whole("23") + Stars(count, 2) + "\t</Row>\n"; };
@@ -244,7 +244,7 @@ TEST_F(SheetCaps, LabelsOfSupportKinds) {
     }
 }
 
-// A support's section comes before a bearing at the same place, and behind one to the left of it.
+// A support's section comes before a bearing at the same place, and after one to the left of it.
 TEST_F(SheetCaps, RowsAreInOrderOfPosition) {
     Make();
     Pier().m_BearingX[0] = 10.0;
@@ -308,7 +308,7 @@ TEST_F(SheetCaps, TablesOfAFullReportAreInOrderWithoutCoords) {
 }
 
 // The formulas reach two rows further than the shear table's and one further than the moment table's rows
-// with combinations; without, each block's room for a heading comes on top in the shear table.
+// with combinations; without, the rows of each block's heading are added in the shear table.
 TEST_F(SheetCaps, AnnouncedRowsReachTheLastRow) {
     const int beyond[][2] = {{4, 1}, {2, 1}, {2, 1}};
     const CodeFamily families[] = {kFamilyNone, kFamilyLrfd, kFamilyLfd};

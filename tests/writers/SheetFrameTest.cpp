@@ -207,7 +207,7 @@ TEST_F(SheetFrame, EndWithAFixedFooter) {
     EXPECT_EQ(WorksheetEndWith(" Need Footer "), SheetEnd("&amp;L Need Footer &amp;RPage &amp;P of &amp;N"));
 }
 
-// A path goes out as it is, so an ampersand in it costs the workbook its well-formedness.
+// A path is written as it is, so with an ampersand in it the workbook is not well-formed.
 TEST_F(SheetFrame, AmpersandInThePathIsNotEscaped) {
     MakePiers({{.piles = 1}});
     AllocateResults();

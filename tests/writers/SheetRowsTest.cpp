@@ -52,7 +52,7 @@ TEST_F(SheetRowCounts, LrfdCountsTheClassesThatArePresent) {
     for (int table = 0; table < 8; ++table) EXPECT_EQ(RowsOf(table), expected[table]) << table;
 }
 
-// One block, whatever the classes say: 3 + 2 * (2 + 6), 1 + 2 * (8 + 2).
+// One block, whatever the classes are: 3 + 2 * (2 + 6), 1 + 2 * (8 + 2).
 TEST_F(SheetRowCounts, LfdAndUnknownFamiliesHaveOneBlock) {
     for (const CodeFamily family : {kFamilyLfd, CodeFamily{3}}) {
         Make(family, {});

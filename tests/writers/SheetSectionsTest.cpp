@@ -16,7 +16,7 @@ using testing::Not;
 class SheetSections : public SheetTest {
   protected:
     // One substructure with a pile, a column and an extra member, each of one element; the forces of load
-    // case 2 are 1 to 7 at I and 11 to 17 at J, all with a quarter behind the point.
+    // case 2 are 1 to 7 at I and 11 to 17 at J, all with the fraction .25.
     void Make(CodeFamily family = kFamilyNone, StructureType type = kTypePier) {
         MakePiers(
             {{.type = type, .piles = 1, .columns = 1, .extraMembers = 1, .cases = 2, .family = family}});
@@ -46,7 +46,7 @@ class SheetSections : public SheetTest {
             }
         }
     }
-    // The rows behind the last column head.
+    // The rows after the last column head.
     static std::string Rows(const std::string& sheet, const std::string& headEnd) {
         const std::size_t at = sheet.find("(Ratio)</Data></Cell>\n" + headEnd);
         EXPECT_NE(at, std::string::npos);
@@ -117,7 +117,7 @@ TEST_F(SheetSections, ColumnRatioRowWithCombinations) {
 )");
 }
 
-// The numbers of the empty record stand in their cells all the same.
+// The numbers of the empty record are in their cells nevertheless.
 TEST_F(SheetSections, RatioRowWithoutResult) {
     const std::string numbers =
         R"(  <Row ss:Height="21">
@@ -202,7 +202,7 @@ TEST_F(SheetSections, PlainForceRowsHaveNoLimitState) {
     EXPECT_THAT(rows, EndsWith(ForceRow("4", "", "Min Torque")));
 }
 
-// An empty row stands between two sections and not behind the last.
+// An empty row is between two sections and not after the last.
 TEST_F(SheetSections, EmptyRowBetweenSections) {
     Make();
     Pier().m_nPileSections = 3;
@@ -215,7 +215,7 @@ TEST_F(SheetSections, EmptyRowBetweenSections) {
     EXPECT_THAT(rows, EndsWith(MissingForceRow("3", 5, "Min Torque", 5)));
 }
 
-// Sections 4 to 6 are announced, 4 and 6 have members; the gap behind 6 would be that of the last section.
+// Sections 4 to 6 are announced, 4 and 6 have members; the gap after 6 would be that of the last section.
 TEST_F(SheetSections, ExtraMemberSectionsWithoutMemberAreLeftOut) {
     MakePiers({{.extraMembers = 2}});
     CPier& pier = Pier();

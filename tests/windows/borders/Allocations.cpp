@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Each allocation of each thing that a user does fails once, the first, the second and so on until one passes
-// clean. The host must live, each failure that the user asked for must be reported, and the last full report
-// must be whole.
+// clean. The host must keep running, each failure that the user asked for must be reported, and the last full
+// report must be whole.
 #include <cstdio>
 #include <utility>
 

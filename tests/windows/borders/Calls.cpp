@@ -31,7 +31,7 @@ std::string TitleOf(HWND window) {
     return text.data();
 }
 
-// Whether OLE is initialised on this thread by nobody.
+// Whether OLE is not initialised on this thread.
 bool IsOleFree() {
     const HRESULT result = OleInitialize(nullptr);
     if (SUCCEEDED(result)) OleUninitialize();
@@ -141,7 +141,7 @@ void TestOle(const Words& words) {
     OleUninitialize();
     OleUninitialize();
     Check(IsOleFree(), "the call took nothing of the host's");
-    // A thread that has COM of another kind can't have OLE. Each grid tries again.
+    // A thread that has COM of another kind cannot have OLE. Each grid tries again.
     Check(SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED)), "the host initialises COM");
     Check(OleVisit(module, words.at(0)).Refused() == 2, "each grid says that OLE can't be had");
     CoUninitialize();

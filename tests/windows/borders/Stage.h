@@ -45,7 +45,7 @@ class HostWindow {
 // Works off the messages that wait, and those that come within so many milliseconds.
 void Pump(DWORD milliseconds = 0);
 
-// While it lives, it answers the boxes that open on this thread and visits each dialog once, when its loop
+// While it exists, it answers the boxes that open on this thread and visits each dialog once, when its loop
 // has nothing else to do.
 class Visits {
   public:
@@ -76,7 +76,7 @@ void Cancel(HWND dialog);
 
 constexpr const char* kNoMemory = "There is not enough memory for this operation.";
 
-// The tests, by the word on the command line. Each gets the words behind its own.
+// The tests, by the word on the command line. Each gets the words after its own.
 using Words = std::vector<std::string>;
 void TestAllocations(const Words& words);
 void TestFullProcess(const Words& words);
