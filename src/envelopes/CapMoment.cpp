@@ -15,7 +15,7 @@ CapChoice ChooseMoment(int sense, const CapSideResult& left, const CapSideResult
     return left.values[kDemandCapacity] > right.values[kDemandCapacity] ? CapChoice::left : CapChoice::right;
 }
 
-// Where neither side has a result the words that are not named keep what they held.
+// When neither side has a result, the fields that are not named are unchanged.
 void StoreBearingMoment(const CPier& pier, const CapBearingSearch& search, CapBearing& bearing, int slot,
                         int sense, CCapEntry& entry) {
     const CapSideResult left = search.Result(bearing.left, slot, sense);

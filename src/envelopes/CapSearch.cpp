@@ -45,7 +45,7 @@ void CapPlaceList::Take(int loadCase, CaseForces forces) {
 }
 
 // A face so close to a node that its fraction rounds to that end is searched as an end. A side whose own end
-// lies at the other end of the element then moves on to the neighbour.
+// is the other end of the element then moves on to the neighbour.
 bool CapSide::LeavesElement() const {
     if (m_kind != kInside) return false;
     return (m_place.m_dT == 0.0 && m_nEnd == kEndJ) || (m_place.m_dT == 1.0 && m_nEnd == kEndI);

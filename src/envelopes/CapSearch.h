@@ -95,13 +95,13 @@ struct CapSideResult {
 };
 
 // One side of a cap section: the element on the left of a node (end J) or on its right (end I), or the
-// element that the section lies inside.
+// element that contains the section.
 class CapSide {
   public:
     enum Kind {
         kAtNode,     // at an end; a masked element gives nothing
         kInside,     // by interpolation; a masked element gives nothing
-        kAtBearing,  // at an end; the search itself sees masked elements too
+        kAtBearing,  // at an end; masked elements are searched, too
     };
     CapSide(const PierInput& input, Kind kind, int end) : m_input(input), m_kind(kind), m_nEnd(end) {
         m_place.m_dT = end == kEndI ? 0.0 : 1.0;
@@ -119,7 +119,7 @@ class CapSide {
     const CCapPlace& Place() const { return m_place; }
     int End() const { return m_nEnd; }
     int Element() const { return ElementOf(m_input, m_place); }
-    // Whether t lies properly inside the element, as all but rounded faces do.
+    // Whether t is strictly inside the element, as for all faces that are not rounded to an end.
     bool HasInnerFraction() const { return m_place.m_dT != 0.0 && m_place.m_dT != 1.0; }
 
     // Adds the places that the side is read at. Once, before the first case.

@@ -22,7 +22,7 @@ bool HasValidValues(const CCapTable& table) {
 }
 
 // The other tables show forces, and those of all cases, selected or not, were tested while they were read:
-// their check asks for an answer that is known.
+// their check only returns that result.
 bool IsValid(TableId table, const FiniteForces& finite, const PierResults& results) {
     switch (table) {
         case kTableMaxAxial:

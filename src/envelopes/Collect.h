@@ -14,8 +14,8 @@
 
 namespace lumerin {
 
-// What a search works on. The caller keeps the data and the messages for the life of the search, the rest for
-// the call.
+// The input of a search. The caller owns all parts, and keeps data and messages as long as the search, the
+// others during the call.
 struct SearchInput {
     const CDataSet& data;
     const ForceSources& forces;  // by substructure
@@ -27,7 +27,7 @@ struct SearchInput {
 extern const std::span<const TableId> kSearchedTables;
 
 // The searches of some tables over all substructures, fed by one pass over the forces of each. What they find
-// is kept apart from any result table, so that a table can take its own part of it whenever it is asked for.
+// is kept apart from any result table, so that a table can take its own part of it at any time.
 class SearchPass {
   public:
     // Reads every case, selected or not. Throws CFileException.

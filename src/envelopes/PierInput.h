@@ -8,7 +8,7 @@
 
 namespace lumerin {
 
-// What the search of one substructure works on. The owner keeps all of it for the life of the search.
+// The input of the search of one substructure. The owner keeps all of it as long as the search exists.
 struct PierInput {
     const CPier& pier;
     const CaseSelection& selection;

@@ -10,7 +10,7 @@
 
 namespace lumerin {
 
-// Where an extreme lies, never its value: a table prints all forces that act at that place in that case.
+// The place of an extreme, never its value: a table prints all forces that act at that place in that case.
 // All six are -1 for nothing found.
 struct CMaxRecord {
     int m_nLoadCase = 0;

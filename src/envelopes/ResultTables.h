@@ -9,9 +9,9 @@
 
 namespace lumerin {
 
-// What the searches find, as places in the model and never as numbers but for the cap, whose values can lie
-// inside an element. The tables belong to whoever asks for the searches; a search writes the entries that it
-// finds and leaves the others as an earlier one left them.
+// What the searches find: places in the model, and numbers only for the cap, whose values can be inside an
+// element. The caller of the searches owns the tables. A search writes the entries that it finds and leaves
+// the others as an earlier search wrote them.
 
 // The tables of one substructure.
 struct PierResults {
@@ -41,7 +41,7 @@ struct ResultTables {
     TableFlags valid = kAllTables;
 };
 
-// What comes next along the cap behind that many support sections and bearings.
+// The next place along the cap after that many support sections and bearings.
 enum class NextPoint { nothing, support, bearing };
 NextPoint NextCapPoint(const std::vector<double>& supportX, int supportCursor,
                        const std::vector<double>& bearingX, int bearingCursor);

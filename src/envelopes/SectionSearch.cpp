@@ -40,14 +40,14 @@ void CDcSearch::Examine(const float* forces, int elements, int loadCase, int fir
     }
 }
 
-// The first element sets all limits but one: the D/C ratio has no least extreme, and nothing lies below this.
+// The first element sets all limits but one: the D/C ratio has no least extreme, and no value is below this.
 CForceSearch::CForceSearch() {
     m_greatest.fill(std::numeric_limits<float>::infinity());
     m_least.fill(-std::numeric_limits<float>::infinity());
 }
 
-// Whether one of the values beats the best so far. Only such a value can change an extreme, so elements whose
-// values all fail this test need no closer look; a not-a-number always fails it.
+// Whether one of the values exceeds the best so far. Only such a value can change an extreme, so elements
+// whose values all fail this test need no closer look; a not-a-number always fails it.
 template <std::size_t count>
 bool CForceSearch::MayBeat(const float* forces) const {
     unsigned beats = 0;

@@ -12,7 +12,7 @@
 namespace lumerin {
 
 // The search for the extremes of cross sections: one pass over the elements of the selected cases serves all
-// sections, slots and extremes of a table. It finds what a walk of its own for each of them would find: load
+// sections, slots and extremes of a table. It finds what a separate search for each of them would find: load
 // cases in index order, members in order, elements in order, strict comparisons.
 
 // Elements that follow one another in the element list and count for the same section of a table.
@@ -23,7 +23,7 @@ struct SectionRun {
     int m_nFirstPlace = 0;  // index of the first element's place
 };
 
-// Where an element stands in its family of members.
+// The place of an element in its family of members.
 struct ElementPlace {
     int m_nMember = 0;
     int m_nElement = 0;      // inside the member
@@ -59,7 +59,7 @@ struct FoundEnd {
 };
 
 // The highest D/C ratio of a section in a slot. The start below zero lets a ratio of exactly 0 be found, so
-// that a section with elements but without ratio has a result; on a tie the I end stands before the J end.
+// that a section with elements but without ratio has a result; on a tie the I end is kept.
 class CDcSearch {
   public:
     static constexpr int kExtremeCount = 1;
@@ -72,7 +72,7 @@ class CDcSearch {
 };
 
 // The thirteen extremes of a section in a slot. The first end that is seen seeds all of them, a not-a-number
-// too, which no later value beats; on a tie the J end stands before the I end.
+// too, which no later value beats; on a tie the J end is kept.
 class CForceSearch {
   public:
     static constexpr int kExtremeCount = kExtremes;

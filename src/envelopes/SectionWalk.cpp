@@ -20,8 +20,8 @@ void CSectionWalk::AddPiles(const CPier& pier) {
     }
 }
 
-// A column is walked over all elements that it has room for: without interior nodes its own count is 0, but
-// its one element is there and has forces.
+// All allocated elements of a column are searched: without interior nodes its own count is 0, but its one
+// element exists and has forces.
 void CSectionWalk::AddColumns(const CPier& pier) {
     const int columns = std::min(pier.m_nColumns, static_cast<int>(pier.m_Frame.m_Columns.size()));
     for (int member = 0; member < columns; ++member) {

@@ -9,7 +9,7 @@
 namespace lumerin {
 
 // The search of one table in one substructure. It takes the cases in order, each once, whether they are
-// selected or not, and keeps what it found; the forces of a case are its own for the call alone.
+// selected or not, and keeps what it found; the forces of a case are valid during the call only.
 class TableSearch {
   public:
     TableSearch() = default;

@@ -11,13 +11,13 @@ namespace lumerin {
 
 namespace {
 
-// Two rows of bearings are further apart than this. Projects in metres are judged by the same number, so that
-// a pair of rows counts as one there; the bearing rows of their cap tables depend on it.
+// Two rows of bearings are further apart than this. Projects in metres use the same number, so that a pair of
+// rows counts as one there; the bearing rows of their cap tables depend on it.
 constexpr double kRowDistance = 2.4;
 
 using Entry = std::array<double, 3>;
 
-// A row's entries may stand in records of their own or in one: they are asked for together.
+// A row's entries may be in separate records or in one, so they are read together.
 std::vector<Entry> ReadEntries(CSeqFile& file, int count) {
     std::vector<Entry> entries(Index(count));
     file.ReadRecord(entries.data(), static_cast<unsigned>(entries.size() * sizeof(Entry)), "bearing entries");

@@ -26,7 +26,7 @@ constexpr int kLinesToTitle = 4;
 constexpr std::string_view kTitleMark = "[Comb.";
 constexpr std::string_view kListEnd = ":";
 
-// The limit class of a combination; empty for a code that the family doesn't have. Families without classes
+// The limit class of a combination; empty for a code that the family does not have. Families without classes
 // have one.
 std::optional<LimitClass> LimitClassOf(CodeFamily family, int code) {
     if (family != kFamilyLrfd && family != kFamilyArema) return kStrength;
@@ -64,15 +64,16 @@ void ReadTitles(const std::string& basePath, std::vector<CLoadCase>& cases) {
     }
 }
 
-// What the rows of the limit state list say of a run of cases.
+// What the rows of the limit state list give for a run of cases.
 struct CaseRun {
-    int end = 0;  // the case behind the last one
+    int end = 0;  // the case after the last one
     int code = 0;
     unsigned numberOfFirst = 0;  // the combination number that case 0 would have
 };
 
 // Runs of cases that do not overlap; a new one takes its cases from those before it. Each adds two at most,
-// and those that it covers go, so many rows over the same cases cost no more than the rows.
+// and those that it covers are removed, so that many rows over the same cases need no more memory than the
+// rows.
 class CaseRuns {
   public:
     void Overlay(int begin, const CaseRun& run) {
@@ -84,7 +85,7 @@ class CaseRuns {
     const std::map<int, CaseRun>& ByFirstCase() const { return m_runs; }
 
   private:
-    // A run that goes on over this case ends before it, and another begins with it.
+    // Splits a run at this case: it ends before the case, and another begins with it.
     void Split(int at) {
         const auto next = m_runs.lower_bound(at);
         if (next == m_runs.begin()) return;
@@ -97,8 +98,8 @@ class CaseRuns {
     std::map<int, CaseRun> m_runs;
 };
 
-// The rows of the limit state list: code, first combination number and count of a run of cases. A row can go
-// back, and the next one takes the same cases again, so rows are only noted while they are read.
+// The rows of the limit state list: code, first combination number and count of a run of cases. A row can
+// move back, so that the next one covers the same cases again. So rows are only stored while they are read.
 class LimitStateList {
   public:
     LimitStateList(ifstreamex& file, int cases, CodeFamily family)
@@ -111,14 +112,14 @@ class LimitStateList {
         } while (m_file.GetLineEx(line, kLimitLineLength) && line != kListEnd);
     }
 
-    // Each case gets what the last row says of it.
+    // Each case gets the values of the last row for it.
     void Assign(std::vector<CLoadCase>& named, std::vector<CLoadCase>& classed) const {
         for (const auto& [begin, run] : m_rows.ByFirstCase()) {
             const std::string name = LimitStateName(run.code);
             const LimitClass limitClass = LimitClassOf(m_nFamily, run.code).value_or(kClassOfUnknownCodes);
             for (int j = begin; j < run.end; ++j) {
                 const auto at = Index(j);
-                // Names and numbers go to the first substructure, from which all tables take them.
+                // Names and numbers are stored in the first substructure, from which all tables take them.
                 named[at].m_sLimitState = name;
                 named[at].m_nNumber = static_cast<int>(run.numberOfFirst + static_cast<unsigned>(j));
                 if (at < classed.size()) classed[at].m_nLimitClass = limitClass;
@@ -126,7 +127,7 @@ class LimitStateList {
         }
     }
 
-    // Once for each case that any row gave a code that the family doesn't have.
+    // Once for each case that any row gave a code that the family does not have.
     void ReportUnknownCodes(std::size_t cases, Messages& messages) const {
         for (const auto& [begin, run] : m_unknown.ByFirstCase()) {
             for (int j = begin; j < run.end && Index(j) < cases; ++j) {
@@ -138,7 +139,7 @@ class LimitStateList {
   private:
     // False: the list names more combinations than there are cases, which ends it.
     bool Note(int code, int first, int count) {
-        // A count below 0 moves back; cases before the first are passed over.
+        // A count below 0 moves back; cases before the first are skipped.
         const long long begin = m_nDone, end = begin + count;
         const CaseRun run{Inside(end), code, static_cast<unsigned>(first) - static_cast<unsigned>(begin)};
         if (Inside(begin) < run.end) {

@@ -12,12 +12,13 @@ namespace lumerin {
 
 namespace {
 
-// Records of a piece: a quarter of a megabyte stays in the second-level cache beside the case that it fills.
+// Records of a piece: a quarter of a megabyte stays in the second-level cache together with the case that it
+// fills.
 constexpr std::size_t kPieceRecords = (std::size_t{256} << 10) / kForceRecordBytes;
 
 using Record = std::array<float, kForceRecordWords>;
 
-// The rows of a file that the load has judged.
+// The rows of a file that the load has checked.
 class FileRows : public ForceRows {
   public:
     FileRows(const ForceFile& source, const std::string& path) : m_source(source) {
@@ -29,7 +30,7 @@ class FileRows : public ForceRows {
         ForceRow row{};
         const std::optional<ForceFile::Source> source = m_source.SourceOf(loadCase, element);
         if (!source) return row;
-        // A record that nothing came before is one of zeros, whose turned signs are shown.
+        // A missing record without an earlier one counts as zeros, whose turned signs are shown.
         Record record{};
         if (source->record > 0 && m_file.Read(record.data(), source->record) != kForceRecordBytes) {
             throw CFileException(CFileException::endOfFile, m_file.Path(), "was cut while it was read");
@@ -110,7 +111,7 @@ class ForceFile::Pass {
     }
 
     void ReadCaseByRecord(int loadCase) {
-        // What the record before the first one of the case left.
+        // The forces of the record before the first one of the case.
         const long long last = m_source.m_lastBefore[Index(loadCase - m_source.m_wholeCases)];
         Record record{};
         if (last > 0) m_file.Read(record.data(), last);
@@ -135,7 +136,7 @@ class ForceFile::Pass {
             if (head && !std::isfinite(ForcesOf(target)[kComponents + kAxial])) m_finite.pileHeads = false;
         }
         if (target.kind == ForceKind::extraMember) m_finite.extraMembers = false;
-        // Cap elements are watched by the cap tables' own check, on the values that these show.
+        // Cap elements are checked by the cap tables, on the values that these show.
         const bool column =
             target.element >= m_source.m_firstColumnElement && target.element < m_source.m_endOfColumns;
         if (target.kind == ForceKind::frame && column) m_finite.columns = false;
@@ -169,7 +170,7 @@ ForceFile::ForceFile(const CPier& pier, const PierCounts& counts, std::vector<CF
         m_firstColumnElement = columns.front().m_nFirstElement;
         m_endOfColumns = columns.back().m_nFirstElement + pier.ColumnElements();
     }
-    file.Seek(0);  // a file that could not be opened says so here
+    file.Seek(0);  // a file that could not be opened is reported here
     m_whole = file.Length() / kForceRecordBytes;
     m_stamp = StampOf(m_path);
     MapBlock();

@@ -21,7 +21,7 @@ namespace lumerin {
 // Elements without a record have zeros.
 class ForceFile : public ForceSource {
   public:
-    // The opened file of a substructure that has its members. Throws CFileException where the file cannot be
+    // Opens the file of a substructure that has its members. Throws CFileException when the file cannot be
     // read.
     ForceFile(const CPier& pier, const PierCounts& counts, std::vector<CForceRead> reads, CDirFile& file);
 
@@ -30,11 +30,11 @@ class ForceFile : public ForceSource {
     bool IsUnchanged() const override { return m_reads.empty() || StampOf(m_path) == m_stamp; }
     std::string Name() const override { return m_path; }
 
-    // Records that the file should hold and does not.
+    // The number of records that are missing in the file.
     long long MissingRecords() const;
 
-    // Which record feeds an element in a case, and how its words become forces. Record 0: all records before
-    // it are missing. Empty: the element has no record, its forces are zeros.
+    // The record of an element in a case, and how its words become forces. Record 0: all records before it
+    // are missing. Empty: the element has no record, its forces are zeros.
     struct Source {
         long long record = 0;
         ForceKind kind = ForceKind::pile;
@@ -54,8 +54,8 @@ class ForceFile : public ForceSource {
     std::vector<int> m_readOf;           // by element, its place in the plan; -1: it has no record
     std::vector<std::uint8_t> m_isHead;  // by element: 1, the head of a pile
     int m_firstColumnElement = 0, m_endOfColumns = 0;
-    // What each record of a block feeds. Empty where a record lies outside its block or feeds two elements,
-    // or an element is fed twice: such a file is read record by record, as its numbers say.
+    // The element of each record of a block. Empty when a record is outside its block or has two elements, or
+    // an element has two records: such a file is read record by record, by its numbers.
     std::vector<ForceTarget> m_targets;
     long long m_whole = 0;  // whole records of the file
     int m_wholeCases = 0;   // cases at the beginning whose block is complete

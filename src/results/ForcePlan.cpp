@@ -10,7 +10,8 @@ namespace lumerin {
 
 namespace {
 
-// What the searches for records share: the block's layout and the count of element numbers without a record.
+// Data that the searches for records share: the block's layout and the count of element numbers without a
+// record.
 class Planner {
   public:
     Planner(const CPier& pier, const PierModel& model)

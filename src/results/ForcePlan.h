@@ -9,7 +9,7 @@
 
 namespace lumerin {
 
-// Which record of a case's block feeds which element. The same for every case.
+// Which record of a case's block has the forces of which element. The same for every case.
 struct CForceRead {
     long long record;  // from 1 inside the block
     int element;       // of the substructure's element list

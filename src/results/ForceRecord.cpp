@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::uint32_t kTurn = 0x80000000U;  // the bit of a float's sign
 
-// Replaces ratios that are no numbers. Returns whether all fourteen forces are finite now.
+// Replaces ratios that are not numbers. Returns whether all fourteen forces are finite now.
 bool RepairRatios(ForceKind kind, float* forces) {
     for (const std::size_t ratio :
          {std::size_t{kDemandCapacity}, std::size_t{kComponents + kDemandCapacity}}) {
@@ -24,7 +24,7 @@ bool RepairRatios(ForceKind kind, float* forces) {
     return std::all_of(forces, forces + kForcesPerElement, [](float force) { return std::isfinite(force); });
 }
 
-// Where a force comes from. Only the sign bit is turned, so that what is no number keeps its bits.
+// The word of each force. Only the sign bit is turned, so that a value that is not a number keeps its bits.
 struct ForceWord {
     std::size_t word;
     std::uint32_t turn;

@@ -14,7 +14,7 @@ inline constexpr unsigned kForceRecordBytes = kForceRecordWords * 4;
 // Pile elements turn the sign of the torque at I, extra members keep their ratios untested.
 enum class ForceKind : std::uint8_t { pile, frame, extraMember };
 
-// What a record feeds. Element -1: nothing, the record is passed over.
+// The element of a record. Element -1: none, the record is skipped.
 struct ForceTarget {
     int element = -1;
     ForceKind kind = ForceKind::pile;
@@ -23,7 +23,7 @@ struct ForceTarget {
 // Stores a record's words as the element's fourteen forces, signs turned as tables show them:
 //     forces   0    1   2  3  4    5   6   7  8  9  10  11   12  13
 //     words   13   -1  -2  6  5  +-15 11  14  3  4  -8  -7  -16  12
-// End I: FAX, F22, F33, M22, M33, torque, D/C; end J the same. Ratios that are no numbers become 0.0, but for
+// End I: FAX, F22, F33, M22, M33, torque, D/C; end J the same. Ratios that are not numbers become 0.0, except
 // those of extra members. Returns whether all fourteen forces are finite then.
 bool StoreForceRecord(ForceKind kind, const float* words, float* forces);
 
@@ -32,7 +32,7 @@ bool StoreForceRecord(ForceKind kind, const float* words, float* forces);
 // targets.
 std::size_t StoreForceRecords(std::span<const ForceTarget> targets, const float* words, float* forces);
 
-// The same, word by word. Compilers without vectors have this way alone; the results are the same bits.
+// The same, word by word. Compilers without vectors use only this function; the results have the same bits.
 std::size_t StoreForceRecordsWordByWord(std::span<const ForceTarget> targets, const float* words,
                                         float* forces);
 

@@ -24,11 +24,11 @@ inline ElementForces ForcesOf(CaseForces forces, int element) {
 // The fourteen floats of one element in one case.
 using ForceRow = std::array<float, kForcesPerElement>;
 
-// Takes a case (from 0) with its forces, which are there for the call alone.
+// Receives a case (from 0) with its forces, which are valid during the call only.
 using CaseTaker = std::function<void(int loadCase, CaseForces forces)>;
 
-// Single cases of a substructure, for the rows that a table shows. An object holds its file open while it
-// lives.
+// Single cases of a substructure, for the rows that a table shows. An object keeps its file open as long as
+// it exists.
 class ForceRows {
   public:
     ForceRows() = default;
@@ -40,7 +40,7 @@ class ForceRows {
     virtual ForceRow At(int loadCase, int element) = 0;
 };
 
-// Where the forces of a substructure are. They are read when they are wanted, never kept.
+// Where the forces of a substructure are. They are read when they are needed, never kept.
 class ForceSource {
   public:
     ForceSource() = default;
@@ -48,7 +48,7 @@ class ForceSource {
     ForceSource& operator=(const ForceSource&) = delete;
     virtual ~ForceSource() = default;
 
-    // Hands out every case in order. Returns what is not finite in any of them. Throws CFileException.
+    // Passes every case in order. Returns what is not finite in any of them. Throws CFileException.
     virtual FiniteForces ReadCases(const CaseTaker& take) const = 0;
     virtual std::unique_ptr<ForceRows> OpenRows() const = 0;
     // Whether the forces are still those that the project was loaded with.

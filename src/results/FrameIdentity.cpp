@@ -126,7 +126,7 @@ class FrameNumbering {
         }
     }
 
-    // The last element of each span ends at the support behind it.
+    // The last element of each span ends at the next support.
     void CloseSpans() {
         const CMember& beam = m_pier.m_Frame.m_Beam;
         const int count = SpanElements();
@@ -143,7 +143,7 @@ class FrameNumbering {
     std::vector<int> m_ColumnTops;
 };
 
-// Walks the element table beside the mask and gives each element its row's section.
+// Goes through the element table and the mask together and gives each element its row's section.
 class SectionCursor {
   public:
     SectionCursor(CPier& pier, const PierModel& model, bool useMask)

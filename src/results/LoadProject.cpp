@@ -18,7 +18,7 @@
 
 namespace lumerin {
 
-// The load of a project, in the fixed order in which each read finds what it needs from those before it.
+// The load of a project, in a fixed order, because each read needs results of earlier ones.
 
 namespace {
 
@@ -47,9 +47,9 @@ CMemberCounts MemberCountsOf(const PierCounts& counts) {
     return members;
 }
 
-// What a project may take beyond its force files, all substructures together.
+// The memory that a project may take beyond the size of its force files, all substructures together.
 constexpr long long kSlackBytes = 32LL << 20;
-// A case with its names, the same on platforms of all widths, so that all refuse the same projects.
+// A case with its names, the same on 32-bit and 64-bit platforms, so that all refuse the same projects.
 constexpr long long kBytesOfACase = 144;
 static_assert(2 * sizeof(CLoadCase) <= kBytesOfACase);
 
@@ -67,7 +67,7 @@ long long TableBytes(const PierCounts& counts) {
            cap * kCapEntryBytes;
 }
 
-// What a model takes, by the counts that its files name.
+// The memory of a model, by the counts in its files.
 struct ModelNeed {
     long long elements, cases;
     long long fixedBytes, bytesPerCase;
@@ -92,7 +92,7 @@ ModelNeed NeedOf(const PierCounts& counts) {
     return need;
 }
 
-// Counts that lie can ask for more bytes than an integer holds.
+// Wrong counts can require more bytes than an integer can express.
 std::string TooShort(long long fileBytes, const ModelNeed& need) {
     const double records =
         static_cast<double>(need.elements) * static_cast<double>(need.cases) * kForceRecordBytes;
@@ -103,10 +103,9 @@ std::string TooShort(long long fileBytes, const ModelNeed& need) {
                                      ", whose records take " + FormatFixed(records, 0));
 }
 
-// Holds the counts against the size of the force file: a model may be a little larger than its file, which
-// can be cut short, but never by orders of magnitude. `slack` is what the substructures before this one have
-// left for that. The frame of a substructure whose project has no use for it is left out where it asks for
-// too much.
+// Compares the counts with the size of the force file: a model may be a little larger than its file, which
+// can be cut short, but never by orders of magnitude. `slack` is the memory that the earlier substructures
+// have left for that. A frame that the project does not use is left out when it needs too much.
 void RequireSize(const CDirFile& file, const CFileException& notOpened, StructureType firstType,
                  PierCounts& counts, long long& slack) {
     const long long fileBytes = file.Length();
@@ -116,7 +115,7 @@ void RequireSize(const CDirFile& file, const CFileException& notOpened, Structur
         counts.columns = counts.cantilevers = 0;
         need = NeedOf(counts);
     }
-    // A file that can't be opened is reported as what it is, however much was asked of it.
+    // A file that cannot be opened is reported as such, whatever size was expected.
     if (!need.FitsInto(limit)) {
         if (!file.IsOpen()) throw notOpened;
         throw CFileException(CFileException::badCount, notOpened.m_strFileName, TooShort(fileBytes, need));
@@ -124,7 +123,7 @@ void RequireSize(const CDirFile& file, const CFileException& notOpened, Structur
     slack -= std::max(need.Bytes() - 3 * fileBytes, 0LL);
 }
 
-// Writes what the model files say into the substructure.
+// Copies what the model files contain into the substructure.
 void StoreModel(PierModel& model, CPier& pier) {
     const PierCounts& counts = model.counts;
     pier.m_nColumns = counts.columns;

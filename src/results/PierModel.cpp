@@ -12,11 +12,11 @@
 namespace lumerin {
 
 // The read of one substructure's model: the pile file, the pile model file and the convergence file. Every
-// allocation of the load rests on what they say, so each count is held against its file before it is used.
+// allocation of the load depends on them, so each count is compared with its file before it is used.
 
 namespace {
 
-constexpr int kNodeBytes = 2 * 24;               // a node stands in the file twice
+constexpr int kNodeBytes = 2 * 24;               // a node is in the file twice
 constexpr int kUnitsUsByOtherName = 3;           // the host writes 3 for US units in older projects
 constexpr int kMaxPropertyNumbers = 1000;        // column or extra member sections; far above any model's
 constexpr int kMaxElementNumber = 2000000;       // the mask has one byte for each element number
@@ -46,7 +46,7 @@ using ModelHeader = std::array<int, kHeaderWords>;
 struct WordLimit {
     HeaderWord word;
     long long low, high;
-    int none;  // what counts as nothing of it
+    int none;  // the value that means none
     const char* what;
 };
 constexpr WordLimit kFrameLimits[] = {
@@ -71,7 +71,7 @@ void RequireWithin(const CSeqFile& file, const ModelHeader& words, std::span<con
     }
 }
 
-// In a project whose frames are not read the words on them may hold anything: what can't be counts as none.
+// In a project whose frames are not read, their words may have any value; an impossible value counts as none.
 // Of a substructure that has no frame of its own a table shows, at most, whether a first column has an
 // element.
 void ClearUnreadFrame(ModelHeader& words, bool hasFrame) {
@@ -96,8 +96,7 @@ void TakeModelHeader(const ModelHeader& words, PierCounts& counts) {
     counts.columnSections = words[kColumnSectionsWord];
 }
 
-// `fileType` is the substructure's type as its own file says it; a type that is derived is one without a
-// frame.
+// `fileType` is the substructure's type as its own file says it; a derived type has no frame.
 void ReadModelHeader(CSeqFile& file, const PierRead& read, StructureType fileType, PierCounts& counts) {
     ModelHeader words = file.ReadInts<kHeaderWords>("model header");
     const bool hasFrame = fileType != kTypeDerived && !HasNoFrame(fileType);
@@ -142,7 +141,7 @@ bool ReadConvergence(const std::string& basePath, Messages& messages, PierCounts
     CSeqFile file(ProjectFile(basePath, ".ncv"));
     int cases = 0;
     if (file.Read(&cases, 4) == 0) {
-        // Nothing but the mark: the count of the pile model file stays.
+        // The file has only its mark: the count of the pile model file is kept.
         constexpr int kEmptyFile = 2;
         if (file.Length() > kEmptyFile)
             file.Fail(CFileException::endOfFile, "ends before its load case count");
@@ -163,8 +162,8 @@ bool ReadConvergence(const std::string& basePath, Messages& messages, PierCounts
     return true;
 }
 
-// Splits the node list into the substructure's own nodes and its foundation's; returns how many of the
-// first nodes of the list are passed over.
+// Splits the node list into the substructure's own nodes and its foundation's; returns how many of the first
+// nodes of the list are skipped.
 int SplitNodes(PierModel& model) {
     const PierCounts& counts = model.counts;
     const int m = counts.columnNodes, s = counts.spanNodes, c = counts.cantileverNodes;
@@ -213,7 +212,7 @@ std::vector<CElementRow> ReadElementTable(CSeqFile& file) {
     table.reserve(Index(elements));
     for (int i = 0; i < elements; ++i) {
         const std::array<int, 7> words = file.ReadInts<7>("element row");
-        // A node number of the smallest int can't be counted from 0.
+        // The smallest int minus one is not an int.
         const auto fromZero = [](int node) { return node > -kMaxElementNumber ? node - 1 : node; };
         table.push_back(
             {words[0], fromZero(words[2]), fromZero(words[3]), fromZero(words[4]), words[5], words[6]});

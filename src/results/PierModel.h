@@ -29,14 +29,14 @@ struct PierCounts {
     int pileNodesTotal = 0;        // as the file states it
     int pilesFromNodes = 0;        // by that total
     int pileElements = 0;          // of all piles
-    int pileTableSize = 0;         // entries that are passed over
+    int pileTableSize = 0;         // entries that are skipped
     int loadCases = 0;             // that converged
     int analysisMode = 0;          // AnalysisMode
     double convergenceReal = 0.0;  // not used
     int convergenceInteger = 0;    // not used
 };
 
-// What the model files of one substructure say.
+// The contents of the model files of one substructure.
 struct PierModel {
     PierCounts counts;
     std::vector<std::array<double, 3>> nodes;  // the substructure's own, foundation nodes left out
@@ -55,8 +55,8 @@ struct PierRead {
 };
 
 // Reads the pile file (PLF), the pile model file (PIL) and the convergence file (ncv). Empty: nothing
-// converged, which was reported. Throws CFileException for a missing or broken file; every count was held
-// against its file.
+// converged, which was reported. Throws CFileException for a missing or broken file; every count was compared
+// with its file.
 std::optional<PierModel> ReadPierModel(const PierRead& read, Messages& messages);
 
 // The widths of the piles, from the section records of the pile file (plf), by the section of each pile's

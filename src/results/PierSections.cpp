@@ -86,7 +86,7 @@ class BlockReader {
         }
     }
 
-    // The described part of a column ends inside an element: its sizes go on half a step of the taper.
+    // The described part of a column ends inside an element: its sizes continue for half a step of the taper.
     static void Extend(CPier& pier, int firstElement, int index, int elements) {
         if (index < 1 || index >= elements) return;
         CSectionData& last = pier.SectionData(firstElement + index);

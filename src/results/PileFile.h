@@ -20,7 +20,7 @@ struct CSectionRecord {
 // The most section records that a pile file has.
 inline constexpr int kMaxSectionRecords = 128;
 
-// The head of a pile file: block sizes, section records and title. Throws on a file that lies.
+// The head of a pile file: block sizes, section records and title. Throws on a file with wrong counts.
 struct CPileFileHead {
     int blocks = 0;
     std::vector<CSectionRecord> sections;

@@ -6,8 +6,8 @@
 namespace lumerin {
 
 // The path of a project's result file: base path and suffix, with the substructure's number (from 1) after
-// the suffix for all substructures but the first. Where the file system tells case from case, the existing
-// file that differs in case alone is taken.
+// the suffix for all substructures but the first. On a file system with case-sensitive names an existing file
+// whose name differs in case alone is used.
 std::string ProjectFile(const std::string& basePath, const char* suffix);
 std::string SubstructureFile(const std::string& basePath, const char* suffix, int number);
 

@@ -7,7 +7,7 @@
 namespace lumerin {
 
 // The readers of the project's keyed text file. Each scans the stream for its section from the beginning and
-// stops after the first; a stream that could not be opened holds nothing.
+// stops after the first; a stream that could not be opened is empty.
 
 // The cross-sections of columns and caps. The flags of a substructure's block carry over to the next one, the
 // other keys from line to line.

@@ -16,7 +16,7 @@ constexpr unsigned char kMark = 0x4B;
 constexpr unsigned char kEndMark = 0x82;
 constexpr unsigned kLongestBlock = 128;
 
-// The mark stands at the very start. Throws only when the read itself fails.
+// The mark is at the very start. Throws only when the read itself fails.
 bool HasMark(CFile& file) {
     unsigned char first = 0;
     return file.ReadBytes(&first, 1) == 1 && first == kMark;

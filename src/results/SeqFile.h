@@ -10,20 +10,21 @@
 namespace lumerin {
 
 // A sequential result file: the mark 'K', then a chain of blocks, each framed by a length byte on both sides.
-// Integers are 32-bit little-endian, reals IEEE. Callers ask for bytes and never see the framing.
+// Integers are 32-bit little-endian, reals IEEE. Callers read bytes without the framing.
 class CSeqFile : public CFile {
   public:
     CSeqFile() = default;
-    explicit CSeqFile(const std::string& path);  // throws when the file can't be opened or lacks the mark
+    explicit CSeqFile(const std::string& path);  // throws when the file cannot be opened or lacks the mark
 
-    // False: the file can't be opened or lacks the mark; the next Read then throws. `error` tells why.
+    // False: the file cannot be opened or lacks the mark; the next Read then throws. `error` receives the
+    // reason.
     bool Open(const std::string& path, CFileException* error = nullptr);
 
     // `count` bytes from as many blocks as that takes. 0 when the end mark or the end of the file comes
-    // first, even when part of the request was stored already; that is how an optional record is told.
+    // first, even when part of the request was stored already; an optional record is recognised by this.
     unsigned Read(void* buffer, unsigned count);
 
-    // As Read, for a record that must be there: throws with the record's name.
+    // As Read, for a required record: throws with the record's name.
     void ReadRecord(void* buffer, unsigned count, const char* record);
     template <std::size_t N>
     std::array<int, N> ReadInts(const char* record) {
@@ -47,7 +48,7 @@ class CDirFile : public CFile {
     bool Open(const std::string& path, unsigned recordLength, CFileException* error = nullptr);
 
     // One record. Fewer bytes than the record length at the end of the file; the buffer then keeps its old
-    // contents, so a record past the end hands the caller the record before again.
+    // contents, so a record past the end returns the record before again.
     unsigned Read(void* buffer, long long recordNumber);
 
   private:

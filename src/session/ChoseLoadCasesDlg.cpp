@@ -97,7 +97,7 @@ void CChoseLoadCasesDlg::SetUpGrid() {
 }
 
 void CChoseLoadCasesDlg::OnMouseMove() {
-    // The pointer is over the dialog itself, so over neither link.
+    // The pointer is over the dialog itself, so it is over neither link.
     for (CLabel* label : {&m_lblAll, &m_lblNone}) {
         if (label->IsHover()) label->SetHover(false);
     }

@@ -9,12 +9,12 @@
 namespace lumerin {
 
 // The choice of the cases that the tables consider: one row a case, 1 for included and 0 for excluded. The
-// answer goes into the selection that the caller owns.
+// result is stored in the selection, which the caller owns.
 class CChoseLoadCasesDlg : public CDialog {
   public:
     explicit CChoseLoadCasesDlg(CaseSelection& selection);
 
-    // The report format of the calling dialog; it decides where the export button leads.
+    // The report format of the calling dialog; it decides what the export button writes.
     void SetFormat(int format) { m_nFormat = format; }
 
     bool OnInitDialog() override;

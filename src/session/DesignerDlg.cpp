@@ -86,7 +86,7 @@ bool CDesignerDlg::OnInitDialog() {
     const CWaitCursor wait;
     ResetSession();
     DerivePaths();
-    // A load that fails leaves the buttons as they are; they find an empty model then, not half of one.
+    // A load that fails leaves the buttons as they are; they work on an empty model then, not on half of one.
     m_bProjectLoaded = LoadSessionProject(m_state);
     if (m_bProjectLoaded) RefreshControls();
     return true;
@@ -119,7 +119,7 @@ void CDesignerDlg::OnFooterCheck(int) {
     ShowFooterParts(m_nFooterOn != 0);
 }
 
-// The footer's own state stays: behind "Text" it remains off until it is checked again.
+// The footer's own state stays: after "Text" it remains off until it is checked again.
 void CDesignerDlg::OnFormatPdfOrExcel(int) {
     UpdateData(true);
     m_btnFooter.EnableWindow(OffersTables(g_DataSet.m_nStructureType));
@@ -133,7 +133,7 @@ void CDesignerDlg::OnFormatText(int) {
     m_btnFooter.EnableWindow(false);
 }
 
-// Neither choice touches the selection itself: a custom set stays in force behind "All".
+// Neither choice touches the selection itself: a custom set stays in force after "All".
 void CDesignerDlg::OnAllLoadCases(int) {
     g_AllLoadCases = true;
     EnableItem(IDC_CHOOSE_CASES, false);
@@ -173,7 +173,7 @@ void CDesignerDlg::OnPileHeadForces(int) {
             MessageAnswer::yes) {
             return;
         }
-        // The radio button alone moves; the footer boxes keep what they show.
+        // Only the radio button changes; the footer boxes keep their state.
         m_nFormat = kFormatSpreadsheet;
         CDataExchange exchange(*this, false);
         DDX_Radio(exchange, IDC_FORMAT_EXCEL, m_nFormat);
@@ -188,7 +188,7 @@ void CDesignerDlg::OnTitlePage(int) {
     backend::BeginWaitCursor();
     CopyOptions();
     if (m_nFormat == kFormatSpreadsheet) {
-        // The wait cursor stays up behind this message.
+        // The wait cursor remains after this message.
         AfxMessageBox(
             "The Title Page can only be created in the Text and PDF formats.  \n"
             "Please unselect the Excel option, and re-click this button.");

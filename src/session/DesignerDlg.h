@@ -24,7 +24,7 @@ class CDesignerDlg : public CDialog {
 
     ReportState& State() { return m_state; }
 
-    // Brings captions and enabled states in line with the loaded project.
+    // Sets captions and enabled states for the loaded project.
     void RefreshControls();
 
     // Whether the project was read to its end; false before that and after a failure.

@@ -54,8 +54,8 @@ unsigned Launch(int reportFormat, const char* inputFile, const char* version, co
     return result == IDOK ? 1u : 0u;
 }
 
-// A call that runs. While one does, on whatever thread, the next one is refused: both would work on one
-// session and one model.
+// The running call. Meanwhile another call, on any thread, is refused, because both would work on one session
+// and one model.
 class RunningCall {
   public:
     RunningCall() : m_bFirst(!Flag().test_and_set()) {
@@ -87,7 +87,7 @@ unsigned LaunchLumerin(int reportFormat, const char* inputFile, const char* vers
     try {
         return Launch(reportFormat, inputFile, version, textA, textB, envelopeArgument);
     } catch (...) {
-        // No memory for the dialog itself. Nothing may cross into the host, whose model is still unsaved.
+        // No memory for the dialog itself. No exception may reach the host, whose model may be unsaved.
         g_DataSet.FreePiers();
         return 0u;
     }

@@ -8,10 +8,9 @@ namespace lumerin {
 //   none inputFile          full path of the project's input file, ending in ".in"; empty: no project is open
 //   version            the host's version
 //   textA, textB       stored, read by nothing
-//   envelopeArgument   handed on to the plot module
+//   envelopeArgument   passed to the plot module
 // A null text counts as empty. Returns 1 when the dialog was left by "Close", otherwise 0. Reports nothing
-// itself and throws nothing. A call that comes while another one runs, on whatever thread, returns 0 and
-// changes nothing.
+// itself and throws nothing. A call during another one, on any thread, returns 0 and changes nothing.
 unsigned LaunchLumerin(int reportFormat, const char* inputFile, const char* version, const char* textA,
                        const char* textB, const char* envelopeArgument);
 

@@ -38,7 +38,7 @@ constexpr ViewerFailure kViewerFailures[] = {
 constexpr const char* kBuilderName = "Jarlimex.exe";
 
 constexpr int kLastFailureCode = 32;
-constexpr unsigned kTextCapacity = 4;  // the size that the read of the number before it left behind
+constexpr unsigned kTextCapacity = 4;  // the size that the read of the number before it left
 
 }  // namespace
 

@@ -15,7 +15,7 @@ class CPdfExport;
 void BuildOutputFilePath(unsigned table, unsigned kind);
 
 // Starts the viewer on g_OutputFilePath: the spreadsheet program for the spreadsheet format, otherwise
-// whatever the machine associates with the file's type. A failed start is told in a message box.
+// whatever the machine associates with the file's type. A failed start is reported in a message box.
 void ShowOutputFile(int format);
 
 // Starts the spreadsheet program on a workbook and reports a failed start.
@@ -28,7 +28,7 @@ void StartTableBuilder(CPdfExport& table);
 // One message box for a shell code of 32 or less.
 void ReportViewerResult(int code);
 
-// The text viewer's page settings, as the report dialog keeps them. Values that can't be read stay.
+// The text viewer's page settings, as the report dialog keeps them. Values that cannot be read are unchanged.
 struct ViewerSettings {
     int m_nMarginLeft = 0, m_nMarginRight = 0, m_nMarginTop = 0, m_nMarginBottom = 0, m_nPointSize = 0;
     std::string m_sTrailer, m_sHeader;

@@ -37,7 +37,7 @@ std::string LimitFamilyWord(const CDataSet& data, const CaseSelection& selection
     static constexpr const char* aremaWords[] = {"LFD-GROUP", "SLD-GROUP"};
     switch (data.FirstPier().m_nCodeFamily) {
         case kFamilyNone:
-            return "NonAASTHO";  // the plot module knows the word by this spelling
+            return "NonAASTHO";  // the plot module expects this spelling
         case kFamilyLfd:
             return "GROUP";
         case kFamilyLrfd: {

@@ -66,7 +66,7 @@ bool LoadSessionProject(ReportState& state) {
     BoxMessages messages;
     std::optional<Project> project = LoadProject(g_ProjectBasePath, messages);
     if (!project) return false;
-    // Whole before it is taken over: memory can run out for the tables as for the project.
+    // Complete before it replaces the old state: memory can run out for the tables as for the project.
     ReportState loaded = StartState(project->data);
     loaded.forces = std::move(project->forces);
     g_DataSet = std::move(project->data);
@@ -97,7 +97,7 @@ ReportOptions SessionOptions() {
 }
 
 void CollectSessionTable(TableId table, ReportState& state) {
-    // The searches keep the sink for as long as the pass lives.
+    // The searches keep the sink as long as the pass exists.
     static BoxMessages messages;
     if (!state.pass || state.pass->Selection() != state.selection) {
         state.pass.reset();

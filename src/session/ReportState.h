@@ -13,8 +13,8 @@
 
 namespace lumerin {
 
-// What a report dialog remembers beside the project, for its lifetime: searches of one press leave words of
-// earlier ones in place, and a table that was found invalid stays so when the selection changes.
+// What a report dialog keeps besides the project, for its lifetime. The searches of one press leave entries
+// of earlier ones in place, and a table that was found invalid stays so when the selection changes.
 struct ReportState {
     CaseSelection selection;
     ForceSources forces;  // by substructure
@@ -26,10 +26,10 @@ struct ReportState {
     bool forcesChanged = false;
 };
 
-// While an object lives, calls of the export on the same project share one load and one pass over the forces:
-// the end of a call keeps them for the next one, which shows no message of the load again. Everything else
-// starts anew with each call. One object at a time; the module, whose host may change a project between two
-// calls, has none.
+// While an object exists, calls of the export on the same project share one load and one pass over the
+// forces: the end of a call keeps them for the next one, which shows no message of the load again. Everything
+// else starts anew with each call. One object at a time; the module, whose host may change a project between
+// two calls, has none.
 class SharedLoad {
   public:
     SharedLoad();
@@ -37,7 +37,7 @@ class SharedLoad {
     SharedLoad& operator=(const SharedLoad&) = delete;
     ~SharedLoad();
 
-    // Whether g_DataSet has that project, and its forces and pass are here.
+    // Whether g_DataSet has that project, and its forces and pass are kept here.
     bool Holds(const std::string& projectBasePath) const;
     void Keep(const std::string& projectBasePath, ReportState& state);
     void HandOver(ReportState& state);

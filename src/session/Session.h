@@ -19,7 +19,7 @@ extern std::string g_ProjectFolder;         // with its trailing separator
 extern std::string g_ProjectFileName;       // file name part of the input file
 extern std::string g_VersionText;           // the host's version
 extern std::string g_VersionLabel;          // "v" + version, for the page footer
-extern std::string g_EnvelopePlotArgument;  // handed on to the plot module
+extern std::string g_EnvelopePlotArgument;  // passed to the plot module
 extern std::string g_OutputFilePath;        // the table file that is being written
 extern std::string g_HostProgramPath;       // stored, read by nothing
 extern std::string g_HostTextA;             // stored, read by nothing

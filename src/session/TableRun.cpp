@@ -38,7 +38,7 @@ Report MakeReport(const ReportState& state, const ReportOptions& options, RowRea
 }
 
 // Closes the stream, then starts the viewer or reports that there is nothing to show. A document whose forces
-// were replaced meanwhile is given up: the earlier one stays.
+// were replaced meanwhile is discarded: the earlier one stays.
 void FinishRun(ReportState& state, StoredStream& out, bool written, int format, const char* noResults) {
     if (!RequireUnchangedForces(state)) return;
     out.Close();
@@ -198,7 +198,7 @@ bool RunEnvelopeFile(ReportState& state) {
     if (!RequireUnchangedForces(state)) return false;
     CollectSessionTable(kTableCapShear, state);
     CollectSessionTable(kTableCapMoment, state);
-    // A file that can't be opened swallows what is written; the plotter is started all the same.
+    // A file that cannot be opened ignores what is written; the plotter is started nevertheless.
     StoredStream out(g_OutputFilePath);
     const ReportOptions options = SessionOptions();
     RowReader rows(state.forces);

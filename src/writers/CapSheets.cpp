@@ -30,12 +30,12 @@ struct CapSheet {
     const char* extremes[2];           // second heading row: maximum, minimum
     const char* maximumRemark;         // third heading row of the maximum block; null: none
     std::string_view blockOpening[2];  // before the heading rows
-    std::string_view headingsEnd;      // behind the last heading row
-    std::string_view slotEnd;          // behind a slot's rows
-    std::string_view pierEnd;          // behind a substructure that is not the last
+    std::string_view headingsEnd;      // after the last heading row
+    std::string_view slotEnd;          // after a slot's rows
+    std::string_view pierEnd;          // after a substructure that is not the last
     std::span<const int> values;
-    // Cells of rows without result, less one with combinations: behind "miss", behind NODE where the side
-    // has no result, and behind "none".
+    // Cells of rows without result, less one with combinations: after "miss", after NODE where the side has
+    // no result, and after "none".
     int missCells, sideCells, noneCells;
 };
 const std::array<CapSheet, 2> kForms = {{
@@ -48,7 +48,7 @@ const std::array<CapSheet, 2> kForms = {{
      {"", "<Row></Row>\n"},
      "",
      "",
-     "<Row></Row>/n",  // the last two characters reach the file as they stand
+     "<Row></Row>/n",  // the last two characters are written as they are
      kShearValues,
      11,
      9,

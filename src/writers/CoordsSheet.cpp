@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The worksheet "Coords" that accompanies a cap table of its own workbook: where its rows lie along the cap.
+// The worksheet "Coords" that accompanies a cap table of its own workbook: the positions of its rows along
+// the cap.
 
 #include <string>
 #include <string_view>
@@ -57,8 +58,8 @@ const char* CapWords(StructureType structureType) {
     return nullptr;
 }
 
-// The cell of a pier's title rows. With several piers a pier without a cap shows what the pier before it left
-// in `text`; a single one has no cell.
+// The cell of a pier's title rows. With several piers a pier without a cap shows the `text` of the pier
+// before it; a single one has no cell.
 std::string TitleCell(const CDataSet& data, std::size_t pier, std::string& text) {
     const bool several = data.m_Piers.size() > 1;
     const char* words = CapWords(data.m_Piers[pier].m_nStructureType);
@@ -77,7 +78,7 @@ void AppendBlock(std::string& out, const CPier& pier, const std::vector<double>&
     AppendEmptyRows(out, 1);
     for (const double x : points) {
         out.append(kRow).append(kNumber);
-        // Feet count from the cap's start, metres are the model's own: the sheet has always been read so.
+        // Feet count from the cap's start, metres are the model's own: readers of the sheet rely on it.
         AppendFixed(out, metres ? x : (x - pier.m_dLocationX) / kInchesPerFoot, 2);
         out.append(kCellEnd).append(kRowEnd);
     }

@@ -14,7 +14,7 @@ namespace lumerin {
 namespace {
 
 constexpr std::size_t kLongestSheetName = 31;  // Excel refuses a longer one
-constexpr int kValueDecimals = 10;             // the style decides how many of them show
+constexpr int kValueDecimals = 10;             // the style decides how many of them are shown
 // The margin column's cell of the title row holds this many blanks.
 constexpr std::size_t kMarginBlanks = 44;
 
@@ -89,7 +89,7 @@ std::string ExportGrid(const std::string& inputFile, const GridSheet& sheet, con
         }
         out << "  </Row>\n";
     }
-    // The words stand where a report has its footer; a grid has none and they stay in the file.
+    // The words are at the place of a report's footer; a grid has none and they stay in the file.
     out << WorksheetEndWith(" Need Footer ") << kWorkbookEnd;
     out.Close();
     return path;

@@ -8,8 +8,8 @@
 
 namespace lumerin {
 
-// Codes of a column in the grid's worksheet: how its texts become cells. 2 to 8 are decimals of which as many
-// show as the code says; any other code leaves the text as it is.
+// Codes of a column in the grid's worksheet: how its texts become cells. 2 to 8 are decimals, shown with as
+// many places as the code; any other code leaves the text as it is.
 enum GridExportType {
     kExportText = 0,
     kExportInteger = 1,
@@ -20,8 +20,8 @@ enum GridExportType {
 
 // How a dialog's grid becomes a worksheet.
 struct GridSheet {
-    std::string title;                 // the worksheet and, without its blanks, the file are called by it too
-    int headerRows = 0;                // the first rows, which stay texts
+    std::string title;   // the worksheet and, without its blanks, the file are named for it, too
+    int headerRows = 0;  // the first rows, which stay texts
     std::span<const int> columnTypes;  // the code of each column from the left; further columns are texts
     double widthScale = 1.0;           // of a column in the worksheet to one in the grid, in pixels
 };

@@ -88,7 +88,7 @@ void AppendGroupHead(std::string& out, const CDataSet& data, std::string_view fo
     AppendTextCell(out, kHeadCell, "D/C");
 }
 
-// The lower row of this head says kips in metric projects too.
+// The lower row of this head has kips also in metric projects.
 constexpr std::string_view kCombinationLowerRow =
     "\t</Row>\n\t<Row>\n"
     "    <Cell ss:StyleID=\"s65\" ss:Index=\"4\"><Data ss:Type=\"String\">COMB </Data></Cell>\n"
@@ -169,7 +169,7 @@ void AppendRowNumbers(std::string& out, std::size_t pierIndex, std::size_t pile)
     AppendInt(out, static_cast<long long>(pierIndex) + 1);
     out.append(kCellEnd).append(kNumberCell);
     AppendInt(out, static_cast<long long>(pile) + 1);
-    out += "</Data></Cell>";  // the load case's cell stands on the same line
+    out += "</Data></Cell>";  // the load case's cell is on the same line
 }
 
 void AppendPlainRow(std::string& out, std::size_t pierIndex, const Group& tension, const Group& compression) {

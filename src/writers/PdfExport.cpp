@@ -34,7 +34,7 @@ std::string CPdfExport::ColumnTypes() const {
     return types;
 }
 
-// Texts go out unquoted: one that holds a comma reads as two cells.
+// Texts are written without quotes: a text with a comma is read as two cells.
 std::string CPdfExport::RowText(int row) const {
     std::string text;
     for (int column = 0; column < m_nColumns; ++column) {
@@ -78,7 +78,7 @@ void CPdfExport::WriteKeys(StoredStream& out) const {
 }
 
 bool CPdfExport::Write(Messages& messages) {
-    // Each of the two counts is told, so a grid with neither is told twice.
+    // Each of the two counts is reported, so a grid with neither is reported twice.
     if (m_nRows == 0) messages.Show(kEmptyGrid);
     if (m_nColumns == 0) messages.Show(kEmptyGrid);
     if (m_nRows == 0 || m_nColumns == 0) return false;

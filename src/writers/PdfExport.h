@@ -10,7 +10,7 @@
 
 namespace lumerin {
 
-// One hand-over of a dialog's grid to the table image builder, a program beside the host that reads a
+// One transfer of a dialog's grid to the table image builder, a program beside the host that reads a
 // description file and makes the PDF. The grid must outlive the object.
 class CPdfExport {
   public:
@@ -41,7 +41,7 @@ class CPdfExport {
     int m_nTableHeaderFontSize = 7;
     int m_nTableDataFontSize = 7;
     int m_nPageMargin = 30;
-    int m_nDataRows = 0;  // the grid's rows behind the heading, counted when the file is written
+    int m_nDataRows = 0;  // the grid's rows after the heading, counted when the file is written
     int m_nExtraLines = 0;
     std::string m_sChunkSize = "auto";
     std::vector<std::string> m_ExtraLines{""};  // the first m_nExtraLines of them are written

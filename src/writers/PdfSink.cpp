@@ -11,7 +11,7 @@ namespace {
 constexpr int kRowMargin = 2;
 constexpr int kBlockMargin = 6;
 constexpr int kHeadingMargin = 15;
-// What a page counts behind the continuation words and the head.
+// The line count of a page after the continuation words and the head.
 constexpr int kContinuedLines = 5;
 
 constexpr std::size_t kContinuedBlanks = 71 + 66;
@@ -42,7 +42,7 @@ void CPdfSink::Line(std::string_view text) {
 }
 
 void CPdfSink::Gap(int lines, GapStyle style) {
-    // Between the blocks of table 0 the line holds a line feed, and behind its substructures a blank.
+    // Between the blocks of table 0 the line has a line feed, and after its substructures a blank.
     const char* text = style == GapStyle::lineFeed ? "\n" : style == GapStyle::blank ? " " : "";
     for (int i = 0; i < lines; ++i) Show(text);
     m_nLines += lines;

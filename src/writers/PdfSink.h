@@ -9,12 +9,12 @@
 namespace lumerin {
 
 // A table set on pages: a line becomes an operator that moves to the next line and shows it, and a page that
-// is full ends, with the column head once more on the next one. Text goes out unescaped, since the words of
-// the tables hold balanced parentheses.
+// is full ends, with the column head once more on the next one. Text is written unescaped, because the
+// parentheses in the tables are balanced.
 class CPdfSink : public CLineSink {
   public:
     // Begins the table's first page. `footer` is that of every page, not yet escaped. The words of a page
-    // break in the middle of a block stand further left in the narrow table 0.
+    // break in the middle of a block are further left in the narrow table 0.
     CPdfSink(StoredStream& out, CPdfWriter& pdf, std::string_view footer, bool narrow);
 
     const TitleMargins& MarginsOf(const TableLayout& layout) const override { return layout.pdf; }
@@ -39,7 +39,7 @@ class CPdfSink : public CLineSink {
     std::string m_continued;
     std::string m_footer;
     ColumnHead m_head;
-    std::string m_operator;  // reused, so that a line takes no memory
+    std::string m_operator;  // reused, so that a line allocates no memory
 };
 
 }  // namespace lumerin

@@ -9,7 +9,7 @@ namespace lumerin {
 
 namespace {
 
-// Header, footer and page number lie a tenth of a line off the page's edge and a quarter margin inside.
+// Header, footer and page number are a tenth of a line from the page's edge and a quarter margin inside.
 constexpr float kEdgeLines = 1.1F;
 constexpr float kEdgeMargins = 0.25F;
 constexpr float kSmaller = 2.0F;  // their font, than the body's
@@ -121,8 +121,8 @@ void CPdfWriter::WritePageTree(StoredStream& out, int bodyFont, int smallFont) c
         << ">>\r\n endobj\r\n";
 }
 
-// Viewers rebuild the table, so an entry holds the object's own number where an offset belongs, and the
-// position told at the end of the file lies behind the keyword.
+// Viewers rebuild the table, so an entry has the object's own number in place of an offset, and the position
+// at the end of the file is that after the keyword.
 void CPdfWriter::WriteXref(StoredStream& out) {
     out << "\nxref\n";
     m_nXrefPosition = out.Position();

@@ -23,7 +23,7 @@ class CPdfWriter {
     void WriteHeader(StoredStream& out);
     int LinesPerPage() const;
     // Opens the content stream: F0 selected, leading set, the text position on the first line. White space
-    // around the header goes; an empty one writes no line.
+    // around the header is removed; an empty one writes no line.
     void BeginPage(StoredStream& out, std::string_view header);
     // Closes it and writes the page's objects; the footer is treated as the header is.
     void EndPage(StoredStream& out, std::string_view footer);

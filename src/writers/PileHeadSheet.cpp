@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The internal forces at pile heads, load case by load case: a worksheet for each substructure. It can have
-// millions of rows, so each row is built in one string that is used again and goes straight to the stream.
+// millions of rows, so each row is built in one string that is reused and written directly to the stream.
 
 #include <array>
 #include <cstddef>

@@ -144,7 +144,7 @@ void AppendForceRow(std::string& out, const Sheet& sheet, int property, int extr
     AppendIntCell(out, kWideNumberCell, record.m_nLoadCase + 1);
     if (sheet.HasCombinations()) AppendTextCell(out, kWideTextCell, sheet.LimitState(record.m_nLoadCase));
     AppendTextCell(out, kWideTextCell, EndWord(place));
-    // A tab stays behind the word in its cell.
+    // A tab follows the word in its cell.
     out.append(kWideTextCell).append(word).append("\t").append(kCellEnd);
     AppendValues(out, sheet, place, kWideDecimalCell);
     out += "\n  </Row>\n";

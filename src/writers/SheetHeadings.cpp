@@ -78,7 +78,7 @@ constexpr std::string_view kSectionEnd = "</Data></Cell>  </Row>";
 struct SubstructureRow {
     TableId table;
     std::string_view opening, closing;  // around the number
-    bool bentRemark;                    // a pile bent has no rows in this table, and the heading says so
+    bool bentRemark;                    // a pile bent has no rows in this table, and the heading has a remark
 };
 constexpr SubstructureRow kSubstructureRows[] = {
     {kTablePileDc,

@@ -17,7 +17,7 @@ namespace {
 
 // ---- worksheet heads
 
-using Widths = std::array<int, 15>;  // from column 2; 0 behind the last
+using Widths = std::array<int, 15>;  // from column 2; 0 after the last
 
 struct SheetForm {
     int columns[2];     // announced, without and with combinations

@@ -9,8 +9,8 @@
 
 namespace lumerin {
 
-// What stands above the data rows of a worksheet: its head with the columns and the title row, the headings
-// of substructures and limit classes, and the column heads.
+// What is above the data rows of a worksheet: its head with the columns and the title row, the headings of
+// substructures and limit classes, and the column heads.
 
 // From the opening of the worksheet to the end of its title rows. `rows` is the announced count.
 std::string WorksheetHead(const CDataSet& data, TableId table, long long rows);
@@ -25,7 +25,7 @@ std::string SubstructureHeading(const CDataSet& data, TableId table, int pier);
 std::vector<LimitClass> BlockSlots(const Report& report, TableId table);
 std::string SectionRows(const CDataSet& data, TableId table, LimitClass slot);
 
-// The word for one row of a report, above and below: LOAD COMB, TIME STEP or LOAD CASE.
+// The term for one case, above and below: LOAD COMB, TIME STEP or LOAD CASE.
 struct StepWords {
     std::string_view upper, lower;
 };

@@ -8,7 +8,7 @@ namespace lumerin {
 
 namespace {
 
-// The page is set for this size, whatever the text viewer's font is.
+// The page is set for this size, not for the text viewer's font.
 constexpr int kTitleFontSize = 10;
 
 }  // namespace

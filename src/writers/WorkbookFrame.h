@@ -17,8 +17,8 @@ namespace lumerin {
 // further number formats (s68 to s75).
 std::string WorkbookHead(bool gridStyles, const LocalTime& now);
 
-// From the end of the rows to the end of the worksheet; the footer's text stands left, the page number right.
-// The text goes out as it is.
+// From the end of the rows to the end of the worksheet; the footer's text is left, the page number right. The
+// text is written as it is.
 std::string WorksheetEndWith(std::string_view footerText);
 
 inline constexpr std::string_view kWorkbookEnd = "</Workbook>\n";
@@ -26,9 +26,9 @@ inline constexpr std::string_view kWorkbookEnd = "</Workbook>\n";
 // The end of a worksheet with the footer of a report.
 std::string WorksheetEnd(const ReportOptions& options);
 
-// Runs the writer of one table's worksheets. Embedded in a caller's workbook they go out alone; otherwise the
-// workbook's head and end go around them. Returns 1, or -1 with nothing written when
-// the table does not apply to the project.
+// Runs the writer of one table's worksheets. Embedded in a caller's workbook only they are written; otherwise
+// also the workbook's head and end. Returns 1, or -1 with nothing written when the table does not apply to
+// the project.
 int WriteWorkbook(const Report& report, TableId table, StoredStream& out, bool embedded,
                   const std::function<void()>& worksheets);
 

@@ -4,10 +4,10 @@
 namespace lumerin {
 
 // The compiler's run-time as the module needs it inside a host: an exception must find its handler whatever
-// the process has loaded, and must not need memory that is out.
+// the process has loaded, also when there is no memory.
 
-// Makes what the run-time would make at the first exception of the process and of this thread, and that it
-// ends the process for when it gets no memory. False: there is not even the memory for that.
+// Allocates what the run-time would allocate at the first exception of the process and of this thread;
+// without memory it would end the process there. False: there is no memory for it now.
 bool PrepareRuntime() noexcept;
 
 }  // namespace lumerin
