@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "framework/WholeFile.h"
 
+#include <atomic>
 #include <chrono>
 
 #include "framework/WholeFilePlatform.h"
@@ -14,29 +15,52 @@ constexpr std::size_t kDigits = 6;
 constexpr std::string_view kHexDigits = "0123456789ABCDEF";
 constexpr int kNameTries = 100;
 
-// The names may be easy to guess: a new file is never made under a name that exists.
+// The names may be easy to guess: a new file is never made under a name that exists. Documents are written in
+// several threads.
 std::uint32_t NextNumber() {
-    static auto number =
+    static std::atomic<std::uint32_t> number =
         static_cast<std::uint32_t>(std::chrono::steady_clock::now().time_since_epoch().count());
-    number = number * 1664525u + 1013904223u;
-    return number >> 8u;
+    std::uint32_t before = number;
+    while (!number.compare_exchange_weak(before, before * 1664525u + 1013904223u)) {
+    }
+    return (before * 1664525u + 1013904223u) >> 8u;
 }
+
+// Holds the threads apart for the comparison of a name, without the memory that a mutex of the run-time may
+// take at its first lock.
+class Turn {
+  public:
+    explicit Turn(std::atomic_flag& flag) : m_flag(flag) {
+        while (m_flag.test_and_set(std::memory_order_acquire)) {
+        }
+    }
+    Turn(const Turn&) = delete;
+    Turn& operator=(const Turn&) = delete;
+    ~Turn() { m_flag.clear(std::memory_order_release); }
+
+  private:
+    std::atomic_flag& m_flag;
+};
 
 // A search of the folder for every document would take a batch longer than writing the documents.
 struct ClearedFolder {
     bool known = false;
     std::string name;
 };
+std::atomic_flag g_clearedFlag;  // held while the value of LastCleared is used
 ClearedFolder& LastCleared() {
     static ClearedFolder folder;
     return folder;
 }
 
 void ClearOnce(const std::string& folder) {
-    ClearedFolder& last = LastCleared();
-    if (last.known && last.name == folder) return;
-    last.name = folder;
-    last.known = true;
+    {
+        const Turn turn(g_clearedFlag);
+        ClearedFolder& last = LastCleared();
+        if (last.known && last.name == folder) return;
+        last.name = folder;
+        last.known = true;
+    }
     wholefile::RemoveLeftOvers(folder);
 }
 
@@ -105,6 +129,7 @@ bool WholeFile::Place() {
 }
 
 void WholeFile::BeginRun() noexcept {
+    const Turn turn(g_clearedFlag);
     LastCleared().known = false;
 }
 
