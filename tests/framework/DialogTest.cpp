@@ -137,7 +137,7 @@ constexpr ControlSpec kLoneSpinControls[] = {
 
     DEFAULT_BUTTON(1, "OK", 0, 0, 1, 1) PUSH_BUTTON_DISABLED(30, "Disabled", 0, 0, 1, 1)
         SPIN_BUTTON(31, 0, 0, 1, 1)};
-constexpr DialogSpec kLoneSpinSpec = {901, "Lone", 100, 100, true, kLoneSpinControls};
+constexpr DialogTemplate kLoneSpinSpec = {901, "Lone", 100, 100, true, kLoneSpinControls};
 
 class LoneSpinDialog : public CDialog {
   public:
