@@ -47,11 +47,10 @@ void AddReport(CLI::App& program, ReportRequest& options, ReportTexts& texts) {
     command.add_flag("--open", options.open, "Open each file that was written");
     AddCommonOptions(command, options.common);
     command.footer(
-        "Prints the path of each file that was written. Exit status: 0 done, 1 a table does not apply or "
-        "has\n"
-        "nothing to show, 2 wrong usage, 3 a project could not be loaded or its force file changed during "
-        "the\n"
-        "run (the others are done all the same).");
+        "Prints the path of each file that was written. Exit status: 0 done, 1 a table does not apply, has\n"
+        "nothing to show or could not be written whole, or a project was loaded with a message, 2 wrong\n"
+        "usage, 3 a project could not be loaded or its force file changed during the run (the others are\n"
+        "done all the same).");
 }
 
 void AddDrive(CLI::App& program, DriveOptions& options, std::string& format) {
@@ -69,15 +68,12 @@ void AddDrive(CLI::App& program, DriveOptions& options, std::string& format) {
     AddCommonOptions(command, options.common);
     command.footer(
         "Actions: click ID, text ID TEXT, focus ID, select ID N, spin ID up|down, cell ROW COL TEXT,\n"
-        "mouse WHAT PLACE, graph-click X, answer yes|no, key NAME, key F1 ID, type TEXT, where, dump, again "
-        "[FILE.in];\n"
-        "# begins a comment. Keys: Esc, Return, Tab, Backspace, Delete, Insert, Up, Down, Left, Right, "
-        "Home,\n"
-        "End, PageUp, PageDown, with Ctrl+ and Shift+ before them, Ctrl+A, Ctrl+C, Ctrl+V, Ctrl+X. Keys and\n"
-        "texts go to the control that has the focus; where tells which one that is. The mouse can move, "
-        "press,\n"
-        "release, click, double, right (click), wheel N and scroll PART on the grid: mouse click Shift 3 "
-        "1.\n\n"
+        "mouse WHAT PLACE, hover ROW COL, graph-click X, answer yes|no, key NAME, key F1 ID, type TEXT,\n"
+        "where, dump, shot FILE (a picture, in the host with a screen only), again [FILE.in]; # begins a\n"
+        "comment. Keys: Esc, Return, Tab, Backspace, Delete, Insert, Up, Down, Left, Right, Home, End,\n"
+        "PageUp, PageDown, with Ctrl+ and Shift+ before them, Ctrl+A, Ctrl+C, Ctrl+V, Ctrl+X. Keys and\n"
+        "texts go to the control that has the focus; where prints it. The mouse can move, press, release,\n"
+        "click, double, right (click), wheel N and scroll PART on the grid: mouse click Shift 3 1.\n\n"
         "Prints what happens as JSON, one object a line. Exit status: 0 done, 2 wrong usage or a line that "
         "is\n"
         "no action, 3 the project could not be loaded (the script is played all the same).");

@@ -28,6 +28,7 @@ ExitStatus ReportDriver::Run(const std::string& project, int format) {
     m_nFormat = format;
     m_nMessages = 0;
     m_bCasesChosen = false;
+    m_sCasesFault = "the dialog offers no choice of cases";
     m_status = kExitDone;
     m_progress.emplace(m_err, "Loading " + ForUser(project));
     headless::SetSink(this);
@@ -71,7 +72,7 @@ void ReportDriver::DriveReport(headless::HeadlessDialog& dialog, CDesignerDlg& r
         dialog.Click(IDC_CUSTOM_CASES);
         dialog.Click(IDC_CHOOSE_CASES);
         if (!m_bCasesChosen) {
-            Say(m_sProject + ": the cases could not be chosen");
+            if (!m_sCasesFault.empty()) Say(m_sProject + ": " + m_sCasesFault);
             Worsen(kExitUsage);
             return;
         }
@@ -102,10 +103,11 @@ void ReportDriver::DriveCases(headless::HeadlessDialog& dialog) {
     if (control == nullptr || control->grid == nullptr) return;
     const int cases = control->grid->RowCount() - 1;
     if (LastCase(m_options.cases) > cases) {
-        Say(m_sProject + ": there is no case " + std::to_string(LastCase(m_options.cases)) +
-            ", the project has " + std::to_string(std::max(cases, 0)));
+        m_sCasesFault = "there is no case " + std::to_string(LastCase(m_options.cases)) +
+                        ", the project has " + std::to_string(std::max(cases, 0));
         return;
     }
+    m_sCasesFault = "the dialog of the load cases does not accept the choice";
     dialog.Click(IDC_CASES_NONE);
     for (int row = 1; row <= cases; ++row) {
         if (HoldsCase(m_options.cases, row)) dialog.TypeCell(row, kIncludeColumn, "1");

@@ -58,8 +58,9 @@ class ReportDriver : public headless::Sink {
     int m_nFormat = 0;
     int m_nMessages = 0;
     bool m_bCasesChosen = false;
-    std::string m_sWritten;  // the file of the press that is running, once its viewer was asked for
-    std::string m_sFailed;   // a file of that press that could not be written whole
+    std::string m_sCasesFault;  // why not, when nothing was reported yet
+    std::string m_sWritten;     // the file of the press that is running, once its viewer was asked for
+    std::string m_sFailed;      // a file of that press that could not be written whole
     ExitStatus m_status = kExitDone;
 };
 

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <fstream>
 #include <iterator>
@@ -34,7 +35,7 @@ Outcome RunProgram(const std::string& arguments) {
     return outcome;
 }
 
-// Whoever hands the program on hands on what its licences ask for.
+// A copy of the program includes the texts that its licences require.
 TEST(Program, TheLicencesAreBesideIt) {
     const auto read = [](const std::string& path) {
         std::ifstream file(path, std::ios::binary);
@@ -62,6 +63,24 @@ TEST(Program, HelpAndVersionAreNoFailure) {
     const Outcome version = RunProgram("--version");
     EXPECT_EQ(version.status, 0);
     EXPECT_THAT(version.output, testing::StartsWith("lumerin "));
+}
+
+TEST(Program, HelpListsEveryAction) {
+    const std::string help = RunProgram("drive --help").output;
+    for (const char* action :
+         {"click ID", "text ID TEXT", "focus ID", "select ID N", "spin ID up|down", "cell ROW COL TEXT",
+          "mouse WHAT PLACE", "hover ROW COL", "graph-click X", "answer yes|no", "key NAME", "key F1 ID",
+          "type TEXT", "where", "dump", "shot FILE", "again [FILE.in]"}) {
+        EXPECT_THAT(help, HasSubstr(action));
+    }
+}
+
+TEST(Program, HelpListsWhatAnIncompleteReportCanBe) {
+    std::string help = RunProgram("report --help").output;
+    std::replace(help.begin(), help.end(), '\n', ' ');
+    EXPECT_THAT(help,
+                HasSubstr("1 a table does not apply, has nothing to show or could not be written whole, "
+                          "or a project was loaded with a message, 2 wrong usage"));
 }
 
 TEST(Program, WrongUsageEndsWithTwo) {

@@ -289,13 +289,14 @@ TEST_F(ReportTest, ACaseThatTheProjectDoesNotHaveIsWrongUsage) {
     const std::string base = folder.Write("pier");
     options.cases = ReadCases("1,5000");
     EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitUsage);
-    EXPECT_THAT(err.str(), HasSubstr("there is no case 5000"));
+    EXPECT_THAT(err.str(), testing::MatchesRegex(".*: there is no case 5000, the project has [0-9]+\n"));
+    EXPECT_EQ(std::count(err.str().begin(), err.str().end(), '\n'), 1);
     EXPECT_EQ(out.str(), "");
 }
 
 TEST_F(ReportTest, AFileThatCannotBeWrittenIsNotReportedAsWritten) {
     const std::string base = folder.Write("pier");
-    fs::create_directory(base + "_Max_Axial_Forces_Pile_Heads.txt");  // a folder stands in its place
+    fs::create_directory(base + "_Max_Axial_Forces_Pile_Heads.txt");  // a folder has its name
     EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitIncomplete);
     EXPECT_EQ(out.str(), "");
     EXPECT_THAT(err.str(), HasSubstr("the table axial could not be written whole"));
