@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "Worksheets.h"
+#include "SheetHeads.h"
 
 namespace lumerin {
 
@@ -12,30 +12,6 @@ namespace {
 using namespace sheets;
 using testing::HasSubstr;
 using testing::Not;
-
-class SheetHeads : public SheetTest {
-  protected:
-    void Make(CodeFamily family) {
-        MakePiers({{.type = kTypePier, .piles = 1, .columns = 1, .extraMembers = 1, .family = family}});
-        Pier().m_nPileSections = Pier().m_nColumnSections = Pier().m_nXMemberSections = 1;
-        AllocateResults();
-        Pier().m_nCapShearPoints = Pier().m_nCapMomentPoints = 0;
-        if (family == kFamilyLrfd) PresentClasses({kStrength, kService, kExtreme, kFatigue});
-        if (family == kFamilyArema) PresentClasses({kStrength, kService});
-    }
-    // Index and width of every listed column.
-    static std::vector<std::pair<int, std::string>> Columns(const std::string& sheet) {
-        std::vector<std::pair<int, std::string>> columns;
-        static const std::string mark = "  <Column ss:Index=\"";
-        for (std::size_t at = sheet.find(mark); at != std::string::npos; at = sheet.find(mark, at + 1)) {
-            const std::string line = sheet.substr(at, sheet.find('\n', at) - at);
-            const std::string width = Attribute(line, "ss:Width");
-            EXPECT_EQ(line, mark + Attribute(line, "ss:Index") + "\"  ss:Width=\"" + width + "\"/>");
-            columns.emplace_back(std::stoi(Attribute(line, "ss:Index")), width);
-        }
-        return columns;
-    }
-};
 
 struct HeadCase {
     int table;
@@ -262,7 +238,7 @@ const char* HeadOpening(int table) {
     }
 }
 
-// What stands before the first heading, so that its first characters are seen too.
+// The text before the first heading, so that its first characters are compared, too.
 const char* SubstructureEnd(int table) {
     switch (table) {
         case 2:
@@ -304,110 +280,6 @@ TEST_F(SheetHeads, FatigueHeadsACapMomentBlockOnly) {
         } else {
             EXPECT_THAT(sheet, Not(HasSubstr("FATIGUE")));
         }
-    }
-}
-
-// ---- column heads
-
-std::string Cells(const std::vector<std::string>& texts) {
-    std::string out;
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        out += i == 0 ? "\t\t<Cell ss:Index=\"2\" ss:StyleID=\"s65\">" : "\t\t<Cell ss:StyleID=\"s65\">";
-        out += "<Data ss:Type=\"String\">" + texts[i] + "</Data></Cell>\n";
-    }
-    return out;
-}
-
-struct ColumnCase {
-    int table;
-    const char* opening;
-    std::vector<std::string> upper, lower;
-    const char* closing;
-};
-
-TEST_F(SheetHeads, ColumnHeadsWithoutCombinations) {
-    Make(kFamilyNone);
-    data.m_nAnalysisMode = 1;
-    const std::string k = "(kips)", m = "(kip-ft)";
-    const ColumnCase cases[] = {
-        {1,
-         "  <Row></Row>\n<Row>",
-         {"PROP", "PILE ", "ELEM ", "NODE ", "TIME ", "I/J", "FAX", "F22", "F33", "M22", "M33", "TORQUE",
-          "D/C"},
-         {"NO.", "NO.", "NO.", "NO.", "STEP ", "", k, k, k, m, m, m, "(Ratio)"},
-         "  </Row>\n<Row></Row>\n  <Row ss"},
-        {2,
-         "  <Row></Row>\n\t<Row>",
-         {"PROP", "COLUMN ", "ELEM ", "NODE ", "TIME ", "I/J", "FAX", "F22", "F33", "M22", "M33", "TORQUE",
-          "D/C"},
-         {"NO.", "NO.", "NO.", "NO.", "STEP ", "", k, k, k, m, m, m, "(Ratio)"},
-         "  </Row>\n<Row></Row><Row ss"},
-        {3,
-         "\n\t<Row>",
-         {"LOCATION", "ELEM", "PROP", "NODE ", "TIME ", "I/J", "FAX", "F22", "F33", "M22", "M33", "TORQUE",
-          "D/C"},
-         {"&amp; SIDE", "NO. ", "NO. ", "NO. ", "STEP ", "", k, k, k, m, m, m, "(Ratio)"},
-         "  </Row>\n<Row></Row>\n<Row></Row>"},
-        {4,
-         "\n\t<Row>",
-         {"LOCATION", "ELEM", "PROP", "NODE ", "TIME ", "I/J", "FAX", "M22", "M33", "D/C"},
-         {"&amp; SIDE", "NO. ", "NO. ", "NO. ", "STEP ", "", k, m, m, "(Ratio)"},
-         "  </Row>\n<Row></Row>\n<Row></Row>\n"},
-        {5,
-         "  <Row></Row>\n<Row>\n ",
-         {"PROP", "PILE ", "ELEM ", "NODE ", "TIME ", "I/J", "Max/Min", "FAX", "F22", "F33", "M22", "M33",
-          "TORQUE", "D/C"},
-         {"NO.", "NO.", "NO.", "NO.", "STEP ", "", "Force", k, k, k, m, m, m, "(Ratio)"},
-         "  </Row>\n<Row></Row>\n  <Row>\n"},
-        {6,
-         "  <Row></Row>\n<Row>",
-         {"PROP", "COLUMN ", "ELEM ", "NODE ", "TIME ", "I/J", "Max/Min", "FAX", "F22", "F33", "M22", "M33",
-          "TORQUE", "D/C"},
-         {"NO.", "NO.", "NO.", "NO.", "STEP ", "", "Force", k, k, k, m, m, m, "(Ratio)"},
-         "  </Row>\n<Row></Row>\n  <Row>\n"},
-        {7,
-         "  <Row></Row>\n<Row>",
-         {"PROP", "XMEMBR ", "ELEM ", "NODE ", "TIME ", "I/J", "Max/Min", "FAX", "F22", "F33", "M22", "M33",
-          "TORQUE", "D/C"},
-         {"NO.", "NO.", "NO.", "NO.", "STEP ", "", "Force", k, k, k, m, m, m, "(Ratio)"},
-         "  </Row>\n<Row></Row>\n  <Row>\n"},
-    };
-    for (const ColumnCase& head : cases) {
-        EXPECT_THAT(Written(head.table), HasSubstr(head.opening + Cells(head.upper) + "  </Row>\n  <Row>\n" +
-                                                   Cells(head.lower) + head.closing))
-            << head.table;
-    }
-}
-
-// With combinations the family's word stands over an empty cell; a family without a word keeps the empty
-// cell.
-TEST_F(SheetHeads, ColumnHeadsNameTheDesignFamily) {
-    const std::pair<CodeFamily, const char*> families[] = {{kFamilyLrfd, "AASHTO-LRFD"},
-                                                           {kFamilyLfd, "AASHTO-LFD"},
-                                                           {kFamilyArema, "AREMA"},
-                                                           {CodeFamily{3}, nullptr}};
-    data.m_sForceUnit = "kN";
-    data.m_sMomentUnit = "kN-m";
-    for (const auto& [family, word] : families) {
-        Make(family);
-        std::vector<std::string> upper = {"LOCATION", "ELEM", "PROP", "NODE ", "LOAD "};
-        if (word != nullptr) upper.emplace_back(word);
-        for (const char* text : {"I/J", "FAX", "M22", "M33", "D/C"}) upper.emplace_back(text);
-        EXPECT_THAT(Written(kTableCapMoment),
-                    HasSubstr("\n\t<Row>" + Cells(upper) + "  </Row>\n  <Row>\n" +
-                              Cells({"&amp; SIDE", "NO. ", "NO. ", "NO. ", "COMB ", "", "", "(kN)", "(kN-m)",
-                                     "(kN-m)", "(Ratio)"}) +
-                              "  </Row>\n<Row></Row>\n"));
-        upper = {"PROP", "PILE ", "ELEM ", "NODE ", "LOAD "};
-        if (word != nullptr) upper.emplace_back(word);
-        for (const char* text : {"I/J", "Max/Min", "FAX", "F22", "F33", "M22", "M33", "TORQUE", "D/C"}) {
-            upper.emplace_back(text);
-        }
-        EXPECT_THAT(Written(kTablePileForces),
-                    HasSubstr(Cells(upper) + "  </Row>\n  <Row>\n" +
-                              Cells({"NO.", "NO.", "NO.", "NO.", "COMB ", "", "", "Force", "(kN)", "(kN)",
-                                     "(kN)", "(kN-m)", "(kN-m)", "(kN-m)", "(Ratio)"}) +
-                              "  </Row>\n<Row></Row>\n"));
     }
 }
 
