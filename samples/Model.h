@@ -126,7 +126,7 @@ struct Bearing {
     Node at;
 };
 
-// A substructure with its numbers; cap element i lies between the cap points i and i + 1.
+// A substructure with its numbers; cap element i joins the cap points i and i + 1.
 struct Substructure {
     SubstructurePlan plan;
     int columns = 0;          // as the host counts them: supports

@@ -41,7 +41,7 @@ int main(int argc, char** argv) {
     double sum = 0.0;
     for (int i = 1; i < argc; ++i) {
         if (!AddFile(argv[i], block, sum)) {
-            std::fprintf(stderr, "sum_floats: %s can't be read\n", argv[i]);
+            std::fprintf(stderr, "sum_floats: %s cannot be read\n", argv[i]);
             return 1;
         }
     }

@@ -39,7 +39,7 @@ std::string LabelText(double value, const std::string& format) {
     return text;
 }
 
-// The part of a line that lies in the frame. False: none of it.
+// The part of a line that is inside the frame. False: none of it.
 bool ClipLine(const PlotRect& frame, PlotPoint& from, PlotPoint& to) {
     const double dx = to.x - from.x, dy = to.y - from.y;
     const double p[] = {-dx, dx, -dy, dy};

@@ -14,7 +14,7 @@ class CGridCtrl;
 inline constexpr int kEditorId = 8;      // the identifier of the editor as a child of the grid
 inline constexpr int kEditEnded = -106;  // the notification code of an edit that ended
 
-// What an editor tells its grid when it ends.
+// What an editor reports to its grid when it ends.
 struct EditNotice {
     int id = 0, code = 0;
     int row = -1, column = -1;

@@ -7,8 +7,8 @@ namespace lumerin {
 
 class CPdfExport;
 
-// How report files are named, opened in viewers, and how a failed start is worded. All output lies beside
-// the project and shares its base name; a run replaces the earlier file of the same table and format.
+// How report files are named, opened in viewers, and how a failed start is worded. All output is written
+// beside the project and shares its base name; a run replaces the earlier file of the same table and format.
 
 // Sets g_OutputFilePath for a table (TableId) and a kind (ReportFormat or kFormatEnvelopes). An invalid
 // table or kind shows its message and leaves the earlier path.

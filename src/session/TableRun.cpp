@@ -18,7 +18,7 @@ namespace {
 
 constexpr const char* kInvalidSheetText = "Invalid data.  The EXCEL table cannot be displayed.";
 constexpr const char* kNoResultsText = "There are no results to view.  The table cannot be launched.";
-// One blank behind the full stop: this table's own text.
+// One blank after the full stop, in this table's text only.
 constexpr const char* kNoColumnDcText = "There are no results to view. The table cannot be launched.";
 
 // Rows in the order of the full report.

@@ -8,7 +8,7 @@
 
 namespace lumerin {
 
-// The cells of data rows. Some rows have one blank behind "Cell", others two.
+// The cells of data rows. Some rows have one blank after "Cell", others two.
 
 inline constexpr std::string_view kCellEnd = "</Data></Cell>\n";
 

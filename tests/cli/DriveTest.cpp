@@ -122,8 +122,7 @@ TEST_F(DriveTest, TheHostsTextsAreArguments) {
     options.textB = "\"second\"";
     options.plotArgument = "  \"wide plot\" 3 ";
     DriveScript(options, "click 1009\n", out, err);
-    // Blanks go at both ends of each, quotes at the ends of the first two, and those alone that stand at the
-    // end.
+    // Blanks go at both ends of each, quotes at the ends of the first two, and only those at the end.
     EXPECT_EQ(g_HostTextA, "\"first\"");
     EXPECT_EQ(g_HostTextB, "second");
     EXPECT_THAT(out.str(), HasSubstr("_Envelopes.txt\",\"Shear\",\"STRENGTH\",\"5.2.1\",\"0\",\"0\","

@@ -79,8 +79,8 @@ TEST(ScaleAxis, ShortRangesSnapToADigitOfTheStep) {
     ExpectAxis(0.93, 0.985, 0.9, 1.0, 5, 2);
     // 0.41 to 0.44: widened 0.407 to 0.443, length 0.036, mantissa 3.6, step 0.01; the digit 0 stays.
     ExpectAxis(0.41, 0.44, 0.4, 0.45, 5, 2);
-    // 0.4555 to 0.4705: widened 0.454 to 0.472, length 0.018, step 0.05: coarse, and it stays so.
-    // The digit 5 stays; 0.45, 0.50: one step passes 0.472, and the axis tells two.
+    // 0.4555 to 0.4705: widened 0.454 to 0.472, length 0.018, step 0.05: coarse, and it stays so. The digit 5
+    // stays; 0.45, 0.50: one step passes 0.472, and the axis reports two.
     ExpectAxis(0.4555, 0.4705, 0.45, 0.5, 2, 2);
     // 0.155 to 0.265: widened 0.144 to 0.276, length 0.132, step 0.3; 0.1 goes down to 0.
     ExpectAxis(0.155, 0.265, 0.0, 0.3, 2, 1);

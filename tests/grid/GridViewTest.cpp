@@ -178,7 +178,7 @@ TEST_F(GridView, APageThatIsTooLowPrintsARowAtATime) {
     m_grid.SetFixedRowCount(1);
     std::vector<std::string> log;
     RecordingDC dc(log);
-    for (const int height : {60, 30}) {  // five lines of 12, the least that has room for a row; two
+    for (const int height : {60, 30}) {  // five lines of 12, the least that a row fits in; two
         m_grid.PrintBegin(dc, {600, height});
         EXPECT_EQ(m_grid.PrintPageCount(), 5) << height;
     }

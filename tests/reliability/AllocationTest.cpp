@@ -12,7 +12,7 @@ namespace lumerin {
 
 namespace {
 
-// Presses by identifier, the way a dialog's user would. A press that opens a dialog leaves the ones behind it
+// Presses by identifier, the way a dialog's user would. A press that opens a dialog leaves the following ones
 // to that dialog, until it is closed.
 constexpr int kPresses[] = {IDC_MAX_AXIAL,
                             IDC_CAP_SHEAR,

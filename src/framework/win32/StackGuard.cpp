@@ -11,7 +11,7 @@ namespace lumerin {
 
 extern "C" {
 
-void* __stack_chk_guard = nullptr;  // lies before each return address that is guarded
+void* __stack_chk_guard = nullptr;  // stored before each return address that is guarded
 [[noreturn]] void __stack_chk_fail();
 [[noreturn]] void __chk_fail();
 }
@@ -43,7 +43,7 @@ constexpr UINT kStackOverrun = 0xc0000409;  // the system's code for it
 
 }  // namespace
 
-// The stack can't be trusted any more, not even for a message.
+// The stack cannot be trusted any more, not even for a message.
 extern "C" void __stack_chk_fail() {
     TerminateProcess(GetCurrentProcess(), kStackOverrun);
     __builtin_trap();

@@ -143,7 +143,7 @@ void TestOle(const Words& words) {
     Check(IsOleFree(), "the call took nothing of the host's");
     // A thread that has COM of another kind cannot have OLE. Each grid tries again.
     Check(SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED)), "the host initialises COM");
-    Check(OleVisit(module, words.at(0)).Refused() == 2, "each grid says that OLE can't be had");
+    Check(OleVisit(module, words.at(0)).Refused() == 2, "each grid says that OLE cannot be had");
     CoUninitialize();
     Check(OleVisit(module, words.at(0)).Refused() == 0, "the next call gets OLE again");
     Check(IsOleFree(), "OLE is not initialised after the last call");
