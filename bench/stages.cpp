@@ -205,7 +205,7 @@ int main(int argc, char** argv) {
         } else if (stage == "format" && argc == 2) {
             RunFormat();
         } else {
-            std::fprintf(stderr, "bench-stages: the head of bench/stages.cpp tells the use\n");
+            std::fprintf(stderr, "bench-stages: the head of bench/stages.cpp describes the use\n");
             return 2;
         }
     } catch (const std::exception& error) {

@@ -215,7 +215,7 @@ int RunCommandLine(int argc, char** argv) {
                      "Report the time to each dialog and the longest wait after each action");
     program
         .add_option("--rounds", options.rounds,
-                    "Play the script so many times and tell what this process holds behind each")
+                    "Play the script this many times and report what the process holds after each")
         ->check(CLI::PositiveNumber)
         ->needs(script);
     program.add_flag("--leak", options.leaks, "Leak one of each with every round, to try the counts");

@@ -323,7 +323,7 @@ ScriptAction ReadAction(LineReader& line, int number) {
         ScriptAction action;
         action.line = number;
         verb.read(line, action);
-        if (!line.AtEnd()) line.Fail("unexpected text behind the action: " + line.Rest());
+        if (!line.AtEnd()) line.Fail("unexpected text after the action: " + line.Rest());
         return action;
     }
     line.Fail("unknown action " + word);

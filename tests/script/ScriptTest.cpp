@@ -120,7 +120,7 @@ TEST(Script, NamesAFaultOfTheMouse) {
     EXPECT_EQ(FaultOf("mouse move Shift 1 1"), "script line 1: Shift is not a row's number");
     EXPECT_EQ(FaultOf("mouse click 1"), "script line 1: expected a column's number");
     EXPECT_EQ(FaultOf("mouse click 1 1 left"), "script line 1: expected right or bottom, not left");
-    EXPECT_EQ(FaultOf("mouse click beside 1"), "script line 1: unexpected text behind the action: 1");
+    EXPECT_EQ(FaultOf("mouse click beside 1"), "script line 1: unexpected text after the action: 1");
     EXPECT_EQ(FaultOf("mouse wheel"), "script line 1: expected a number of times");
     EXPECT_EQ(FaultOf("mouse wheel 201"), "script line 1: count 201 is out of range (-200 to 200)");
     EXPECT_EQ(FaultOf("mouse scroll"), "script line 1: expected a part of the scroll bar");
@@ -182,7 +182,7 @@ TEST(Script, NamesTheLineOfAFault) {
     EXPECT_EQ(FaultOf("click"), "script line 1: expected a control's identifier");
     EXPECT_EQ(FaultOf("click x1"), "script line 1: x1 is not a control's identifier");
     EXPECT_EQ(FaultOf("click 99999999999"), "script line 1: 99999999999 is not a control's identifier");
-    EXPECT_EQ(FaultOf("click 1 2"), "script line 1: unexpected text behind the action: 2");
+    EXPECT_EQ(FaultOf("click 1 2"), "script line 1: unexpected text after the action: 2");
     EXPECT_EQ(FaultOf("spin 5 left"), "script line 1: expected up or down, not left");
     EXPECT_EQ(FaultOf("answer maybe"), "script line 1: expected yes or no, not maybe");
     EXPECT_EQ(FaultOf("key Enter"), "script line 1: unknown key Enter");
