@@ -290,7 +290,7 @@ TEST_F(ReportTest, ACaseThatTheProjectDoesNotHaveIsWrongUsage) {
     options.cases = ReadCases("1,5000");
     EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitUsage);
     EXPECT_THAT(err.str(), testing::MatchesRegex(".*: there is no case 5000, the project has [0-9]+\n"));
-    EXPECT_EQ(std::count(err.str().begin(), err.str().end(), '\n'), 1);
+    EXPECT_EQ(std::ranges::count(err.str(), '\n'), 1);
     EXPECT_EQ(out.str(), "");
 }
 
