@@ -9,12 +9,14 @@
 
 namespace lumerin {
 
+// The names are the compiler's. NOLINTBEGIN(bugprone-reserved-identifier)
 extern "C" {
 
 void* __stack_chk_guard = nullptr;  // stored before each return address that is guarded
-[[noreturn]] void __stack_chk_fail();
-[[noreturn]] void __chk_fail();
+void __stack_chk_fail() __attribute__((noreturn));
+void __chk_fail() __attribute__((noreturn));
 }
+// NOLINTEND(bugprone-reserved-identifier)
 
 namespace {
 
@@ -22,7 +24,7 @@ constexpr UINT kStackOverrun = 0xc0000409;  // the system's code for it
 
 // Before all other constructors. A function that is guarded must not run while the guard changes, nor must
 // this one be.
-[[gnu::constructor(101), gnu::no_stack_protector]] void ChooseGuard() {
+__attribute__((constructor(101), no_stack_protector)) void ChooseGuard() {
     LARGE_INTEGER counter{};
     FILETIME time{};
     QueryPerformanceCounter(&counter);
