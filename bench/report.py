@@ -108,8 +108,8 @@ def main():
     table = Table()
     times = {name: measure_project(table, build, folder, name) for name in PROJECTS}
     collect, report = (times[BIG][index] / times["cases-80"][index] for index in (0, 1))
-    table.line(f"load + collect, {BIG} : cases-80", f"{collect:.2f} x", "9 to 11 x", 9 <= collect <= 11)
-    # The start of the process is a sixth of the smaller report.
+    # No faster than the file. The small file costs more a byte: the start, and pages of the system's cache.
+    table.at_most(f"load + collect, {BIG} : cases-80", collect, 11)
     table.at_most(f"full report, {BIG} : cases-80", report, 11)
     measure_writers(table, build, folder)
     measure_numbers(table, build)

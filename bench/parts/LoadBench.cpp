@@ -34,6 +34,6 @@ BENCHMARK_CAPTURE(CollectStep, ExtraMemberForces, kTableExtraMembers);
 
 }  // namespace
 
-BENCHMARK_MAIN();
-
 }  // namespace lumerin
+
+BENCHMARK_MAIN();

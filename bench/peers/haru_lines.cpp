@@ -9,8 +9,6 @@
 
 #include "../ReadyLines.h"
 
-using namespace lumerin;
-
 int main(int argc, char** argv) {
     if (argc != 3) return 2;
     const long lines = std::strtol(argv[1], nullptr, 10);
