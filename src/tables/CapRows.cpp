@@ -37,11 +37,6 @@ constexpr std::array<KeyForm, 3> kMomentKey = {{
     {"CL", "Centerline of ", nullptr, nullptr},
 }};
 
-template <std::size_t N>
-std::string_view At(const std::array<std::string_view, N>& list, int index) {
-    return index >= 0 && index < static_cast<int>(N) ? list[Index(index)] : std::string_view{};
-}
-
 bool Holds(const CCapTable& table, int position, int slot, int kind) {
     return position >= 0 && position < table.Positions() && slot >= 0 && slot < table.Slots() && kind >= 0 &&
            kind < table.Kinds();
@@ -140,7 +135,7 @@ std::string CapSupportLabel(TableId table, StructureType structureType, int supp
 
 std::string CapBearingLabel(TableId table, const CBearingLocation& bearing, int side) {
     const std::string_view form = table == kTableCapShear
-                                      ? At(kShearBearings[side == 0 ? 0 : 1], bearing.m_nRowCode)
+                                      ? TextAt(kShearBearings[side == 0 ? 0 : 1], bearing.m_nRowCode)
                                       : MomentBearingForm(bearing.m_nRowCode);
     return FormatNumbered(form, bearing.m_nBearing + 1);
 }

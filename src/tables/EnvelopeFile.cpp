@@ -63,15 +63,10 @@ constexpr std::array<StatusLine, 11> kStatusLines{{
 
 // By side and row code. Unlike in the tables, both sides of a bearing have the same text when there are two
 // rows.
-constexpr std::array<std::array<const char*, 4>, 2> kShearBearings = {{
+constexpr std::array<std::array<std::string_view, 4>, 2> kShearBearings = {{
     {"Brg %i LR", "Brg %i RR", "Brg %i L", "Brg %i L"},
     {"Brg %i LR", "Brg %i RR", "Brg %i R", "Brg %i R"},
 }};
-
-template <std::size_t N>
-std::string_view TextAt(const std::array<const char*, N>& texts, int index) {
-    return index >= 0 && index < static_cast<int>(N) ? texts[Index(index)] : "";
-}
 
 std::string RowLabel(TableId table, const CCapRow& row) {
     const bool shear = table == kTableCapShear;

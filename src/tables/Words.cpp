@@ -2,6 +2,7 @@
 #include "tables/Words.h"
 
 #include <cstddef>
+#include <iterator>
 
 #include "framework/Index.h"
 
@@ -108,11 +109,6 @@ constexpr std::array<std::string_view, 3> kMomentSupports{" %i LF", " %i CL", " 
 // By row code: 0 left row, 1 right row, 2 the only row, 3 both rows at one place.
 constexpr std::array<std::string_view, 4> kMomentBearings{"Brg %i LR", "Brg %i RR", "Brg %i", "Brg %i"};
 
-template <std::size_t N>
-std::string_view At(const std::array<std::string_view, N>& list, int index) {
-    return index >= 0 && index < static_cast<int>(N) ? list[Index(index)] : std::string_view{};
-}
-
 }  // namespace
 
 std::string_view ClassHeading(CodeFamily family, LimitClass limitClass) {
@@ -122,20 +118,24 @@ std::string_view ClassHeading(CodeFamily family, LimitClass limitClass) {
     return {};
 }
 
+std::string_view TextAt(std::span<const std::string_view> texts, int index) {
+    return index >= 0 && index < std::ssize(texts) ? texts[Index(index)] : std::string_view{};
+}
+
 std::string_view FamilyName(CodeFamily family) {
-    return At(kFamilyNames, family);
+    return TextAt(kFamilyNames, family);
 }
 
 std::string_view ShearSupportForm(int kind) {
-    return At(kShearSupports, kind);
+    return TextAt(kShearSupports, kind);
 }
 
 std::string_view MomentSupportForm(int kind) {
-    return At(kMomentSupports, kind);
+    return TextAt(kMomentSupports, kind);
 }
 
 std::string_view MomentBearingForm(int rowCode) {
-    return At(kMomentBearings, rowCode);
+    return TextAt(kMomentBearings, rowCode);
 }
 
 const char* TableTitle(TableId table, StructureType structureType) {

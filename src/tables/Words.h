@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string_view>
 
 #include "model/Types.h"
@@ -37,6 +38,8 @@ inline constexpr const char* g_NameSeparator = "_";
 std::string_view ClassHeading(CodeFamily family, LimitClass limitClass);
 inline constexpr std::string_view g_MaximumWord =
     "MAXIMUM ";  // before it in tables of D/C ratios and extremes
+// A text of a list; empty where the index is outside it.
+std::string_view TextAt(std::span<const std::string_view> texts, int index);
 // "AASHTO-LRFD" and its like; empty in another family.
 std::string_view FamilyName(CodeFamily family);
 // The label of a section of the cap at a support or at a bearing, with %i for the number; empty for a kind or
