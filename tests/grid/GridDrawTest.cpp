@@ -163,6 +163,40 @@ TEST_F(GridDraw, ACellHasAPlaceAsLongAsItIsNotScrolledOut) {
     EXPECT_EQ(place(44, 17), (GridRect{50, 40, 100, 60}));
 }
 
+// A window that counts how often all of it is drawn anew.
+class CountingGrid : public HeadlessGrid {
+  public:
+    CountingGrid(CGridCtrl& grid, GridSize size) : HeadlessGrid(grid, size) {}
+    void InvalidateAll() override { ++m_nWhole; }
+    int m_nWhole = 0;
+};
+
+// The scroll bars are set before each paint: a picture that fits them must not be asked for again.
+TEST(GridBars, OnlyAPictureThatIsScrolledTooFarIsDrawnAnewWithTheBars) {
+    CGridCtrl grid;
+    auto host = std::make_unique<CountingGrid>(grid, GridSize{250, 200});
+    CountingGrid& window = *host;
+    grid.SetHost(std::move(host));
+    grid.SetRowCount(50);
+    grid.SetColumnCount(20);
+    for (int row = 0; row < 50; ++row) grid.SetRowHeight(row, 20);
+    for (int column = 0; column < 20; ++column) grid.SetColumnWidth(column, 50);
+    grid.UpdateScrollBars();
+    // Both bars leave 233 by 183: nine rows and four columns.
+    for (const CCellID end : {CCellID{0, 0}, CCellID{49, 0}, CCellID{0, 19}, CCellID{49, 19}}) {
+        grid.ScrollCellIntoView(end.row, end.column);
+        window.m_nWhole = 0;
+        grid.UpdateScrollBars();
+        EXPECT_EQ(window.m_nWhole, 0) << end.row << ' ' << end.column;
+    }
+    EXPECT_EQ(grid.FirstVisibleCell(), (CCellID{41, 16}));
+    grid.SetColumnCount(19);
+    window.m_nWhole = 0;
+    grid.UpdateScrollBars();
+    EXPECT_EQ(grid.FirstVisibleCell(), (CCellID{41, 15}));
+    EXPECT_EQ(window.m_nWhole, 1);
+}
+
 }  // namespace
 
 }  // namespace lumerin

@@ -90,6 +90,27 @@ TEST_F(GridEdit, EscapeOnTheGridOpensNothing) {
     EXPECT_EQ(m_host->Editor(), nullptr);
 }
 
+// The platform can refuse an edit window; the key then counts as one that the grid has no use for.
+class RefusingGrid : public HeadlessGrid {
+  public:
+    explicit RefusingGrid(CGridCtrl& grid) : HeadlessGrid(grid, {250, 200}) {}
+    bool OpenEditor(std::unique_ptr<CInPlaceEdit>, const GridRect&) override { return false; }
+};
+
+TEST_F(GridEdit, ACharacterIsNotUsedWhereNoEditorOpens) {
+    BuildOne(CGridCell::classCGridCell, "old");
+    EXPECT_TRUE(m_grid.OnChar('x', {}));
+    Press(kKeyEscape);
+    m_grid.SetCellState(0, 0, kCellReadOnly);
+    EXPECT_FALSE(m_grid.OnChar('x', {}));
+    m_grid.SetCellState(0, 0, 0);
+    m_grid.SetHost(std::make_unique<RefusingGrid>(m_grid));
+    EXPECT_FALSE(m_grid.OnChar('x', {}));
+    EXPECT_FALSE(m_grid.GetCell(0, 0)->IsEditing());
+    EXPECT_EQ(m_grid.OpenEditor(), nullptr);
+    EXPECT_EQ(Text(), "old");
+}
+
 TEST_F(GridEdit, CharactersWithControlOpenNothing) {
     BuildOne(CGridCell::classCGridCell, "old");
     EXPECT_FALSE(m_grid.OnChar('x', kCtrl));

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <filesystem>
+#include <fstream>
 #include <thread>
 
 #include "session/ReportControls.h"
@@ -131,6 +133,21 @@ TEST_F(LaunchTest, TheModelIsReleasedAfterTheDialog) {
         EXPECT_FALSE(g_DataSet.IsPierless());
     });
     EXPECT_TRUE(g_DataSet.IsPierless());
+}
+
+// The documents of a run that was killed leave a new file beside them. Each call looks for such files again,
+// also in a folder that an earlier call has cleared.
+TEST_F(LaunchTest, EachCallRemovesWhatAKilledRunLeft) {
+    const SampleFolder folder;
+    const std::string input = folder.Write("pier") + ".in";
+    const std::filesystem::path left = std::filesystem::path(input).parent_path() / "~00000C.LML";
+    for (int call = 0; call < 2; ++call) {
+        std::ofstream(left) << "half a document";
+        Launch(input, 2, [&](HeadlessDialog& dialog) {
+            dialog.Click(IDC_MAX_AXIAL);
+            EXPECT_FALSE(std::filesystem::exists(left)) << call;
+        });
+    }
 }
 
 TEST_F(LaunchTest, ASecondCallReadsItsOwnProject) {
