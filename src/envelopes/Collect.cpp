@@ -66,7 +66,7 @@ std::unique_ptr<TableSearch> BeginSearch(TableId table, const PierInput& input, 
     }
 }
 
-SearchPass::SearchPass(const SearchInput& input, std::span<const TableId> tables)
+SearchPass::SearchPass(const SearchInput& input, std::span<const TableId> tables, const Taker& take)
     : m_data(input.data), m_selection(input.selection) {
     const ResultTables sizes(m_data);
     for (const TableId table : tables) m_tables.push_back({table, {}});
@@ -79,6 +79,7 @@ SearchPass::SearchPass(const SearchInput& input, std::span<const TableId> tables
         }
         m_finite.push_back(input.forces[p]->ReadCases([&](int loadCase, CaseForces forces) {
             for (TableSearch* search : searches) search->Take(loadCase, forces);
+            if (take) take(p, loadCase, forces);
         }));
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <span>
 #include <vector>
@@ -30,8 +31,11 @@ extern const std::span<const TableId> kSearchedTables;
 // is kept apart from any result table, so that a table can take its own part of it at any time.
 class SearchPass {
   public:
+    // Receives every case of every substructure (both from 0) besides the searches.
+    using Taker = std::function<void(std::size_t pier, int loadCase, CaseForces forces)>;
+
     // Reads every case, selected or not. Throws CFileException.
-    SearchPass(const SearchInput& input, std::span<const TableId> tables);
+    SearchPass(const SearchInput& input, std::span<const TableId> tables, const Taker& take = {});
 
     // Writes what was found for a table and runs the check of its numbers, which can clear the table's
     // validity in `results`. Tables 2 and 6 of a project whose first substructure has no columns are not

@@ -13,14 +13,6 @@ namespace lumerin {
 
 class CaseSelection;
 
-// A row of the element table of the pile file.
-struct CElementRow {
-    int number = 0;                       // element number, from 1
-    int nodeI = 0, nodeJ = 0, nodeK = 0;  // from 0
-    int section = 0;                      // 1: neither column nor cap
-    int last = 0;                         // not used
-};
-
 // The project being reported, as its files describe it. The load fills it, and it does not change afterwards.
 // The fields from m_nExtraMembers on hold the values of the last substructure; they are used for projects
 // with one substructure.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -48,6 +49,21 @@ struct CBearing {
 
 struct CBearingRow {
     std::vector<CBearing> m_Bearings;
+};
+
+// A row of the element table of the pile file.
+struct CElementRow {
+    int number = 0;                       // element number, from 1
+    int nodeI = 0, nodeJ = 0, nodeK = 0;  // from 0
+    int section = 0;                      // 1: neither column nor cap
+    int last = 0;                         // not used
+};
+
+// The whole model as its file lists it, with the foundation, which no member of the substructure is part of.
+// For pictures and for the identity of elements outside the members.
+struct CModelLists {
+    std::vector<std::array<double, 3>> m_Nodes;  // by node number less one
+    std::vector<CElementRow> m_Rows;             // in the order of their force records
 };
 
 // A load case, combination or time step; its forces are in the substructure's force block.

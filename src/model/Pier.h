@@ -99,8 +99,9 @@ class CPier {
     std::vector<CPile> m_Piles;
     CFrame m_Frame;
     std::vector<std::array<double, 3>> m_dNodes;  // the substructure's own nodes, foundation nodes left out
-    std::vector<CBearingRow> m_BearingRows;       // none, 1 or 2
-    std::vector<std::uint8_t> m_ElementMask;      // 1: no row (index: number - 1)
+    CModelLists m_Lists;
+    std::vector<CBearingRow> m_BearingRows;   // none, 1 or 2
+    std::vector<std::uint8_t> m_ElementMask;  // 1: no row (index: number - 1)
 
     std::vector<CBearingLocation> m_BearingList;
     std::vector<double> m_BearingX;
@@ -124,6 +125,7 @@ class CPier {
     int m_nCapBearings = 0;
     int m_nMaxRowBearings = 0;
     int m_nLoadCases = 0;
+    int m_nAnalysedCases = 0;  // those that did not converge included
     CodeFamily m_nCodeFamily = kFamilyNone;
     bool m_bCombinations = false;
     std::array<std::uint8_t, 72> m_AshBlockA{};   // of the code family file; carried, not interpreted

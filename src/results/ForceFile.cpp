@@ -56,7 +56,9 @@ class ZeroRows : public ForceRows {
 class ForceFile::Pass {
   public:
     Pass(const ForceFile& source, const CaseTaker& take)
-        : m_source(source), m_take(take), m_forces(Index(source.m_elements) * kForcesPerElement, 0.0F) {}
+        : m_source(source),
+          m_take(take),
+          m_forces((Index(source.m_elements) + source.m_others.size()) * kForcesPerElement, 0.0F) {}
 
     FiniteForces Run() {
         if (m_source.m_reads.empty()) {
@@ -86,7 +88,7 @@ class ForceFile::Pass {
             }
             for (std::size_t r = 0; r < records;) {
                 const std::size_t here = std::min(block - inBlock, records - r);
-                StoreRun(inBlock, here, piece.data() + r * kForceRecordWords);
+                StoreRun(loadCase, inBlock, here, piece.data() + r * kForceRecordWords);
                 r += here;
                 inBlock += here;
                 if (inBlock < block) continue;
@@ -98,13 +100,13 @@ class ForceFile::Pass {
     }
 
     // Stores consecutive records of one case's block.
-    void StoreRun(std::size_t inBlock, std::size_t count, const float* words) {
+    void StoreRun(int loadCase, std::size_t inBlock, std::size_t count, const float* words) {
         std::span<const ForceTarget> targets(m_source.m_targets);
         targets = targets.subspan(inBlock, count);
         while (!targets.empty()) {
             const std::size_t finite = StoreForceRecords(targets, words, m_forces.data());
             if (finite == targets.size()) return;
-            Note(targets[finite]);
+            Note(loadCase, targets[finite], words + finite * kForceRecordWords);
             targets = targets.subspan(finite + 1);
             words += (finite + 1) * kForceRecordWords;
         }
@@ -119,17 +121,57 @@ class ForceFile::Pass {
         for (const CForceRead& read : m_source.m_reads) {
             if (before + read.record <= m_source.m_whole) m_file.Read(record.data(), before + read.record);
             const ForceTarget target{read.element, read.kind};
-            if (!StoreForceRecord(target.kind, record.data(), ForcesOf(target))) Note(target);
+            Store(loadCase, target, record);
         }
+        ReadOthers(loadCase);
         m_take(loadCase, m_forces);
+    }
+
+    // Missing ones have zeros: no table shows them, so no earlier record takes their place.
+    void ReadOthers(int loadCase) {
+        const long long before = loadCase * m_source.m_block;
+        int element = m_source.m_elements;
+        for (const long long other : m_source.m_others) {
+            Record record{};
+            if (before + other <= m_source.m_whole) m_file.Read(record.data(), before + other);
+            Store(loadCase, {element++, ForceKind::frame}, record);
+        }
+    }
+
+    void Store(int loadCase, const ForceTarget& target, const Record& record) {
+        if (!StoreForceRecord(target.kind, record.data(), ForcesOf(target))) {
+            Note(loadCase, target, record.data());
+        }
     }
 
     float* ForcesOf(const ForceTarget& target) {
         return m_forces.data() + Index(target.element) * kForcesPerElement;
     }
 
-    // The forces of the element are not all finite.
-    void Note(const ForceTarget& target) {
+    // The forces of the element are not all finite in its record.
+    void Note(int loadCase, const ForceTarget& target, const float* words) {
+        const float* forces = ForcesOf(target);
+        const auto place = [&](std::size_t force) {
+            const int i = static_cast<int>(force);
+            return ForceFault{0, loadCase, target.element, i / kComponents, i % kComponents};
+        };
+        bool finite = true;
+        for (std::size_t i = 0; i < kForcesPerElement; ++i) {
+            if (std::isfinite(forces[i])) continue;
+            finite = false;
+            Count(m_finite.notFinite, place(i));
+        }
+        if (target.kind != ForceKind::extraMember) {
+            if (!std::isfinite(words[kRatioWordAtI])) Count(m_finite.replacedRatios, place(kDemandCapacity));
+            if (!std::isfinite(words[kRatioWordAtJ])) {
+                Count(m_finite.replacedRatios, place(kComponents + kDemandCapacity));
+            }
+        }
+        if (!finite) NoteFamily(target);
+    }
+
+    // A force of the element is not finite.
+    void NoteFamily(const ForceTarget& target) {
         if (target.kind == ForceKind::pile) {
             m_finite.piles = false;
             const bool head = m_source.m_isHead[Index(target.element)] != 0;
@@ -140,6 +182,12 @@ class ForceFile::Pass {
         const bool column =
             target.element >= m_source.m_firstColumnElement && target.element < m_source.m_endOfColumns;
         if (target.kind == ForceKind::frame && column) m_finite.columns = false;
+    }
+
+    static void Count(ForceFault& fault, const ForceFault& place) {
+        const long long before = fault.count;
+        if (before == 0) fault = place;
+        fault.count = before + 1;
     }
 
     const ForceFile& m_source;
@@ -154,6 +202,7 @@ ForceFile::ForceFile(const CPier& pier, const PierCounts& counts, std::vector<CF
     : m_path(file.Path()),
       m_reads(std::move(reads)),
       m_block(static_cast<long long>(counts.pileElements) + counts.elements),
+      m_pileRecords(counts.pileElements),
       m_cases(pier.m_nLoadCases),
       m_elements(pier.ElementCount()),
       m_readOf(Index(m_elements), -1),
@@ -173,6 +222,7 @@ ForceFile::ForceFile(const CPier& pier, const PierCounts& counts, std::vector<CF
     file.Seek(0);  // a file that could not be opened is reported here
     m_whole = file.Length() / kForceRecordBytes;
     m_stamp = StampOf(m_path);
+    ListOthers();
     MapBlock();
     // The first record of the plan shows whether the file can be read at all.
     Record record{};
@@ -183,9 +233,33 @@ ForceFile::ForceFile(const CPier& pier, const PierCounts& counts, std::vector<CF
     FollowMissingRecords();
 }
 
+void ForceFile::ListOthers() {
+    std::vector<bool> taken(Index(std::max(m_block, 0LL)), false);
+    for (const CForceRead& read : m_reads) {
+        if (read.record >= 1 && read.record <= m_block) taken[Index(read.record - 1)] = true;
+    }
+    for (std::size_t i = 0; i < taken.size(); ++i) {
+        if (!taken[i]) m_others.push_back(static_cast<long long>(i) + 1);
+    }
+}
+
+ForceLayout ForceFile::Layout() const {
+    ForceLayout layout;
+    layout.block = m_block;
+    layout.whole = m_whole;
+    layout.firstFrameRecord = m_pileRecords + 1;
+    layout.others = m_others;
+    layout.recordOf.assign(m_readOf.size(), 0);
+    for (const CForceRead& read : m_reads) layout.recordOf[Index(read.element)] = read.record;
+    return layout;
+}
+
 void ForceFile::MapBlock() {
     if (m_block <= 0) return;
     m_targets.assign(Index(m_block), ForceTarget{});
+    for (std::size_t i = 0; i < m_others.size(); ++i) {
+        m_targets[Index(m_others[i] - 1)] = {m_elements + static_cast<int>(i), ForceKind::frame};
+    }
     for (std::size_t i = 0; i < m_reads.size(); ++i) {
         const CForceRead& read = m_reads[i];
         const bool inside = read.record >= 1 && read.record <= m_block;
@@ -223,6 +297,10 @@ std::unique_ptr<ForceRows> ForceFile::OpenRows() const {
 }
 
 std::optional<ForceFile::Source> ForceFile::SourceOf(int loadCase, int element) const {
+    if (element >= m_elements) {
+        const long long record = loadCase * m_block + m_others.at(Index(element - m_elements));
+        return Source{record <= m_whole ? record : 0, ForceKind::frame};
+    }
     const int place = m_readOf.at(Index(element));
     if (place < 0) return {};
     const ForceKind kind = m_reads[Index(place)].kind;

@@ -27,6 +27,7 @@ class ForceFile : public ForceSource {
 
     FiniteForces ReadCases(const CaseTaker& take) const override;
     std::unique_ptr<ForceRows> OpenRows() const override;
+    ForceLayout Layout() const override;
     bool IsUnchanged() const override { return m_reads.empty() || StampOf(m_path) == m_stamp; }
     std::string Name() const override { return m_path; }
 
@@ -45,17 +46,21 @@ class ForceFile : public ForceSource {
     class Pass;
 
     void MapBlock();
+    void ListOthers();
     void FollowMissingRecords();
 
     std::string m_path;
     std::vector<CForceRead> m_reads;
-    long long m_block;  // records of one case
+    long long m_block;        // records of one case
+    long long m_pileRecords;  // the first records of a block
     int m_cases, m_elements;
     std::vector<int> m_readOf;           // by element, its place in the plan; -1: it has no record
     std::vector<std::uint8_t> m_isHead;  // by element: 1, the head of a pile
     int m_firstColumnElement = 0, m_endOfColumns = 0;
-    // The element of each record of a block. Empty when a record is outside its block or has two elements, or
-    // an element has two records: such a file is read record by record, by its numbers.
+    std::vector<long long> m_others;  // the records of a block that no element of the list has, rising
+    // The element of each record of a block, the others after the list's. Empty when a record is outside its
+    // block or has two elements, or an element has two records: such a file is read record by record, by its
+    // numbers.
     std::vector<ForceTarget> m_targets;
     long long m_whole = 0;  // whole records of the file
     int m_wholeCases = 0;   // cases at the beginning whose block is complete

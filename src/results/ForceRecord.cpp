@@ -15,13 +15,12 @@ namespace {
 
 constexpr std::uint32_t kTurn = 0x80000000U;  // the bit of a float's sign
 
-// Replaces ratios that are not numbers. Returns whether all fourteen forces are finite now.
-bool RepairRatios(ForceKind kind, float* forces) {
+// Replaces ratios that are not numbers.
+void RepairRatios(ForceKind kind, float* forces) {
     for (const std::size_t ratio :
          {std::size_t{kDemandCapacity}, std::size_t{kComponents + kDemandCapacity}}) {
         if (kind != ForceKind::extraMember && !std::isfinite(forces[ratio])) forces[ratio] = 0.0F;
     }
-    return std::all_of(forces, forces + kForcesPerElement, [](float force) { return std::isfinite(force); });
 }
 
 // The word of each force. Only the sign bit is turned, so that a value that is not a number keeps its bits.
@@ -53,7 +52,10 @@ bool StoreWordByWord(ForceKind kind, const float* words, float* forces) {
         if (i == kTorqueAtI && kind == ForceKind::pile) bits ^= kTurn;
         std::memcpy(forces + i, &bits, sizeof bits);
     }
-    return RepairRatios(kind, forces);
+    const bool finite =
+        std::all_of(forces, forces + kForcesPerElement, [](float force) { return std::isfinite(force); });
+    if (!finite) RepairRatios(kind, forces);
+    return finite;
 }
 
 template <typename Store>
@@ -106,7 +108,8 @@ bool StoreInQuads(ForceKind kind, const float* words, float* forces) {
     const FloatQuad lanes =
         (ZeroIfFinite(at1) + ZeroIfFinite(at5)) + (ZeroIfFinite(at11) + ZeroIfFinite(at13));
     if ((lanes[0] + lanes[1]) + (lanes[2] + lanes[3]) == 0.0F) return true;
-    return RepairRatios(kind, forces);
+    RepairRatios(kind, forces);
+    return false;
 }
 
 #else

@@ -24,11 +24,12 @@ struct ForceTarget {
 //     forces   0    1   2  3  4    5   6   7  8  9  10  11   12  13
 //     words   13   -1  -2  6  5  +-15 11  14  3  4  -8  -7  -16  12
 // End I: FAX, F22, F33, M22, M33, torque, D/C; end J the same. Ratios that are not numbers become 0.0, except
-// those of extra members. Returns whether all fourteen forces are finite then.
+// those of extra members. Returns whether all fourteen are finite in the record.
+inline constexpr std::size_t kRatioWordAtI = 11, kRatioWordAtJ = 12;
 bool StoreForceRecord(ForceKind kind, const float* words, float* forces);
 
 // Stores consecutive records, each in the forces of its target, which are at `forces` by element. Ends after
-// the first record whose forces are not all finite and returns its place; all are finite: the count of
+// the first record whose forces are not all finite in it and returns its place; all are finite: the count of
 // targets.
 std::size_t StoreForceRecords(std::span<const ForceTarget> targets, const float* words, float* forces);
 

@@ -13,8 +13,8 @@
 
 namespace lumerin {
 
-// The forces of all elements of a substructure in one load case, in the order of its element list: fourteen
-// floats an element.
+// The forces of a substructure in one load case, fourteen floats an element: the elements in the order of its
+// list, then those of the block's records that belong to none of them (ForceLayout::others).
 using CaseForces = std::span<const float>;
 
 inline ElementForces ForcesOf(CaseForces forces, int element) {
@@ -40,6 +40,18 @@ class ForceRows {
     virtual ForceRow At(int loadCase, int element) = 0;
 };
 
+// How a substructure's forces are laid out in records, the same for every case.
+struct ForceLayout {
+    std::vector<long long> recordOf;  // by element of the list, its record in a case's block, from 1; 0: none
+    // The records of a block that belong to no element of the list, rising: the foundation's, for one.
+    std::vector<long long> others;
+    long long block = 0;             // records of one case
+    long long whole = 0;             // whole records that the file has
+    long long firstFrameRecord = 0;  // after those of the piles: the first row of the model's element table
+
+    bool HasRecord(int loadCase, long long record) const { return loadCase * block + record <= whole; }
+};
+
 // Where the forces of a substructure are. They are read when they are needed, never kept.
 class ForceSource {
   public:
@@ -50,7 +62,9 @@ class ForceSource {
 
     // Passes every case in order. Returns what is not finite in any of them. Throws CFileException.
     virtual FiniteForces ReadCases(const CaseTaker& take) const = 0;
+    // Rows of the same elements, the others included.
     virtual std::unique_ptr<ForceRows> OpenRows() const = 0;
+    virtual ForceLayout Layout() const = 0;
     // Whether the forces are still those that the project was loaded with.
     virtual bool IsUnchanged() const { return true; }
     // The file, for messages.

@@ -142,6 +142,7 @@ void StoreModel(PierModel& model, CPier& pier) {
     pier.m_nPierNodes = model.pierNodes;
     pier.m_nFoundationNodes = model.foundationNodes;
     pier.m_dNodes = std::move(model.nodes);
+    pier.m_nAnalysedCases = counts.analysedCases;
     pier.m_ElementMask = model.elementMask;
     pier.AllocateMembers(MemberCountsOf(counts), counts.loadCases);
 }
@@ -220,6 +221,7 @@ class Loader {
         AssignExtraMemberNumbers(pier, *model);
         AssignExtraMemberSections(pier, *model);
         AssignMemberSections(pier, *model);
+        pier.m_Lists = {std::move(model->allNodes), std::move(model->elementTable)};
         return true;
     }
 

@@ -118,7 +118,7 @@ bool ReadPileModelCounts(CSeqFile& file, Messages& messages, PierCounts& counts,
         return false;
     }
     counts.pileNodesTotal = words[0];
-    counts.loadCases = words[1];
+    counts.loadCases = counts.analysedCases = words[1];
     rows = {words[3], words[4]};
     counts.pileTableSize = words[5];
     counts.piles = words[6];
@@ -196,12 +196,13 @@ int SplitNodes(PierModel& model) {
 
 void ReadNodes(CSeqFile& file, int skipped, PierModel& model) {
     const int nodes = model.counts.nodes;
-    model.nodes.reserve(Index(nodes - std::clamp(skipped, 0, nodes)));
+    model.allNodes.reserve(Index(nodes));
     std::array<double, 3> node{};
     for (int i = 0; i < nodes; ++i) {
         file.ReadRecord(node.data(), 24, "node");
-        if (i >= skipped) model.nodes.push_back(node);
+        model.allNodes.push_back(node);
     }
+    model.nodes.assign(model.allNodes.begin() + std::clamp(skipped, 0, nodes), model.allNodes.end());
     for (int i = 0; i < nodes; ++i) file.ReadRecord(node.data(), 24, "second node set");
 }
 

@@ -26,11 +26,12 @@ struct PierCounts {
     int elementGaps = 0;   // in the numbering of the element table
     int closingCount = 0;  // not used
     int piles = 0, pileNodes = 0;
-    int pileNodesTotal = 0;        // as the file states it
-    int pilesFromNodes = 0;        // by that total
-    int pileElements = 0;          // of all piles
-    int pileTableSize = 0;         // entries that are skipped
-    int loadCases = 0;             // that converged
+    int pileNodesTotal = 0;  // as the file states it
+    int pilesFromNodes = 0;  // by that total
+    int pileElements = 0;    // of all piles
+    int pileTableSize = 0;   // entries that are skipped
+    int loadCases = 0;       // that converged
+    int analysedCases = 0;
     int analysisMode = 0;          // AnalysisMode
     double convergenceReal = 0.0;  // not used
     int convergenceInteger = 0;    // not used
@@ -40,6 +41,7 @@ struct PierCounts {
 struct PierModel {
     PierCounts counts;
     std::vector<std::array<double, 3>> nodes;  // the substructure's own, foundation nodes left out
+    std::vector<std::array<double, 3>> allNodes;
     int pierNodes = 0, foundationNodes = 0;
     std::vector<CElementRow> elementTable;
     std::vector<std::uint8_t> elementMask;       // 1: that element number (less one) has no row

@@ -10,6 +10,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <limits>
 #include <memory>
 #include <numeric>
 #include <random>
@@ -68,8 +69,20 @@ class PlannedFile : public testing::Test {
                                  forces.data() + static_cast<std::size_t>(read.element) * kForcesPerElement);
             }
             cases.push_back(forces);
+            AppendOthers(c, records, cases.back());
         }
         return cases;
+    }
+    // The records of the block that the plan does not have, zeros for those that the file does not have.
+    void AppendOthers(int loadCase, const std::vector<Record>& records, std::vector<float>& forces) const {
+        for (long long r = 1; r <= counts.pileElements; ++r) {
+            if (std::ranges::find(reads, r, &CForceRead::record) != reads.end()) continue;
+            const auto number = static_cast<std::size_t>(loadCase * counts.pileElements + r);
+            const Record record = number <= records.size() ? records[number - 1] : Record{};
+            ForceRow row{};
+            StoreForceRecord(ForceKind::frame, record.data(), row.data());
+            forces.insert(forces.end(), row.begin(), row.end());
+        }
     }
 
     ScratchFolder folder;
@@ -124,12 +137,52 @@ TEST_F(PlannedFile, AnyPlanAndAnyLengthGiveWhatOneBufferWould) {
         for (int c = cases - 1; c >= 0; --c) {
             const std::vector<float>& forces = expected[static_cast<std::size_t>(c)];
             ASSERT_EQ(Bits(found[static_cast<std::size_t>(c)]), Bits(forces)) << round << ", case " << c;
-            for (int e = 0; e < elements; ++e) {
+            const int rowCount = static_cast<int>(forces.size() / kForcesPerElement);
+            for (int e = 0; e < rowCount; ++e) {
                 ASSERT_EQ(Bits(rows->At(c, e)), Bits(ForcesOf(forces, e)))
                     << round << ", case " << c << ", element " << e;
             }
         }
     }
+}
+
+TEST_F(PlannedFile, TheLayoutNamesTheRecordsOfElementsAndTheOthers) {
+    SetSize(4, 3, 2);
+    Write(std::vector<Record>(7));
+    // Element 1 has no record; the records 1 and 3 have no element.
+    reads = {{4, 0, ForceKind::pile}, {2, 2, ForceKind::frame}};
+    const ForceLayout layout = Open()->Layout();
+    EXPECT_EQ(layout.recordOf, (std::vector<long long>{4, 0, 2}));
+    EXPECT_EQ(layout.others, (std::vector<long long>{1, 3}));
+    EXPECT_EQ(layout.block, 4);
+    EXPECT_TRUE(layout.HasRecord(0, 4));
+    EXPECT_TRUE(layout.HasRecord(1, 3));  // the seventh record of the file
+    EXPECT_FALSE(layout.HasRecord(1, 4));
+}
+
+// Values that are not finite are counted, with the first of them in the order of cases and records.
+TEST_F(PlannedFile, APassCountsWhatIsNotFinite) {
+    constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+    SetSize(3, 2, 2);
+    reads = {{1, 0, ForceKind::frame}, {2, 1, ForceKind::extraMember}};
+    std::vector<Record> records(6);
+    records[1][kRatioWordAtJ] = kNan;  // case 0, element 1: an extra member's ratio is not replaced
+    records[2][1] = kNan;              // case 0, record 3, no element: F22 at I
+    records[3][kRatioWordAtI] = kNan;  // case 1, element 0: replaced
+    records[3][kRatioWordAtJ] = kNan;
+    Write(records);
+    const FiniteForces found = Open()->ReadCases([](int, CaseForces) {});
+    EXPECT_EQ(found.notFinite.count, 2);
+    EXPECT_EQ(found.notFinite.loadCase, 0);
+    EXPECT_EQ(found.notFinite.element, 1);
+    EXPECT_EQ(found.notFinite.end, kEndJ);
+    EXPECT_EQ(found.notFinite.component, kDemandCapacity);
+    EXPECT_EQ(found.replacedRatios.count, 2);
+    EXPECT_EQ(found.replacedRatios.loadCase, 1);
+    EXPECT_EQ(found.replacedRatios.element, 0);
+    EXPECT_EQ(found.replacedRatios.end, kEndI);
+    EXPECT_FALSE(found.extraMembers);
+    EXPECT_TRUE(found.columns && found.piles && found.pileHeads);
 }
 
 TEST_F(PlannedFile, ARecordBeforeTheFirstEndsTheLoad) {

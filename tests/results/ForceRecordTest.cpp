@@ -106,11 +106,9 @@ TEST(ForceRecord, BothWaysFindEachWordThatIsNoNumber) {
                 const std::vector<ForceTarget> targets{{0, kind}};
                 const Stored quads = StoreAll(StoreForceRecords, targets, words, 1);
                 EXPECT_EQ(quads, StoreAll(StoreForceRecordsWordByWord, targets, words, 1)) << place;
-                // Words 0, 9 and 10 feed no force; 11 and 12 are the ratios, which piles and frames repair.
+                // Words 0, 9 and 10 feed no force.
                 const bool unread = place == 0 || place == 9 || place == 10;
-                const bool ratio = place == 11 || place == 12;
-                const bool finite = unread || (ratio && kind != ForceKind::extraMember);
-                EXPECT_EQ(quads.ends.front(), finite ? 1U : 0U) << place;
+                EXPECT_EQ(quads.ends.front(), unread ? 1U : 0U) << place;
             }
         }
     }

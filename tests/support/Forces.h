@@ -38,6 +38,14 @@ class MemoryForces : public ForceSource {
         return finite;
     }
     std::unique_ptr<ForceRows> OpenRows() const override { return std::make_unique<Rows>(*this); }
+    ForceLayout Layout() const override {
+        ForceLayout layout;
+        layout.block = m_pier.ElementCount();
+        layout.whole = layout.block * static_cast<long long>(m_pier.m_LoadCases.size());
+        layout.firstFrameRecord = 1;
+        for (long long record = 1; record <= layout.block; ++record) layout.recordOf.push_back(record);
+        return layout;
+    }
     bool IsUnchanged() const override { return unchanged; }
     std::string Name() const override { return "memory"; }
 
