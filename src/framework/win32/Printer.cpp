@@ -48,7 +48,8 @@ std::vector<char> ReadDefaults() {
     std::vector<char> settings(Index(size));
     auto* mode = reinterpret_cast<DEVMODEA*>(settings.data());
     const LONG read = DocumentPropertiesA(nullptr, printer.Get(), name.data(), mode, nullptr, DM_OUT_BUFFER);
-    return read >= 0 ? settings : std::vector<char>();
+    if (read < 0) settings.clear();
+    return settings;
 }
 
 }  // namespace

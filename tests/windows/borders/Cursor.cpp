@@ -55,6 +55,11 @@ void TestCursor(const Words& words) {
     visits.onBox = [&](HWND) {
         MoveOver(front);
         Check(IsWaiting(), "it is up beside the box");
+        // A control asks the dialog before it puts up its own.
+        const HWND button = GetDlgItem(front, kCoverSheet);
+        SendMessageA(button, WM_SETCURSOR, reinterpret_cast<WPARAM>(button),
+                     MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+        Check(IsWaiting(), "it is up over a button too");
         MoveAway();
     };
     for (int call = 0; call < 2; ++call) module.launch(0, words.at(0).c_str(), "4.17", "", "", "");

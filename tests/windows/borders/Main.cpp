@@ -25,6 +25,8 @@ constexpr Test kTests[] = {
     {"ole", TestOle},                  // PROJECT
     {"threads", TestThreads},          // PROJECT
     {"cursor", TestCursor},            // PROJECT
+    {"printer", TestPrinter},          // PROJECT
+    {"drawing", TestDrawing},          // PROJECT
     {"preload", TestPreload},          // PROJECT LIBRARY MESSAGE
 };
 

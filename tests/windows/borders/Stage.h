@@ -87,5 +87,7 @@ void TestOle(const Words& words);
 void TestThreads(const Words& words);
 void TestCursor(const Words& words);
 void TestPreload(const Words& words);
+void TestPrinter(const Words& words);
+void TestDrawing(const Words& words);
 
 }  // namespace lumerin
