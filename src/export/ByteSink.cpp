@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "export/ByteSink.h"
+
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "export/TableWriter.h"
+#include "text/Paths.h"
+
+namespace lumerin {
+
+std::string WhyNotWritten(const std::string& path) {
+    std::error_code ignored;
+    const std::string folder = FolderOf(path).empty() ? "." : FolderOf(path);
+    if (!std::filesystem::is_directory(folder, ignored)) return "there is no folder " + folder;
+    if (std::filesystem::is_directory(path, ignored)) return "it is a folder: " + path;
+    const bool isThere = std::filesystem::exists(path, ignored);
+    if (access(folder.c_str(), W_OK) != 0 || (isThere && access(path.c_str(), W_OK) != 0)) {
+        return "permission denied: " + path;
+    }
+    return "cannot be written: " + path;
+}
+
+FileSink::FileSink(const std::string& path) : m_path(path) {
+    if (!m_file.Open(path)) throw ExportError(WhyNotWritten(path));
+}
+
+void FileSink::Write(std::string_view bytes) {
+    if (!m_file.Write(bytes.data(), bytes.size())) {
+        throw ExportError("the file could not be stored whole: " + m_path);
+    }
+}
+
+void FileSink::Commit() {
+    if (!m_file.Commit()) throw ExportError("the file could not be stored whole: " + m_path);
+}
+
+void StreamSink::Write(std::string_view bytes) {
+    if (!m_out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()))) {
+        throw ExportError("the standard output could not be written");
+    }
+}
+
+void StreamSink::Commit() {
+    if (!m_out.flush()) throw ExportError("the standard output could not be written");
+}
+
+}  // namespace lumerin

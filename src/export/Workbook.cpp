@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+#include "export/Workbook.h"
+
+#include <xlsxwriter.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <fstream>
+#include <vector>
+
+#include "export/ByteSink.h"
+#include "export/Cells.h"
+#include "export/TableWriter.h"
+
+namespace lumerin {
+
+namespace {
+
+constexpr lxw_color_t kHeadFill = 0xDDE5EE, kUnitColor = 0x555555, kLine = 0x8899AA;
+constexpr lxw_color_t kRed = 0x9C0006, kRedFill = 0xFFC7CE, kGreen = 0x006100, kGreenFill = 0xC6EFCE;
+constexpr double kTitleSize = 14.0;
+
+std::time_t SecondsOf(const LocalTime& time) {
+    std::tm parts{};
+    parts.tm_year = time.year - 1900;
+    parts.tm_mon = time.month - 1;
+    parts.tm_mday = time.day;
+    parts.tm_hour = time.hour;
+    parts.tm_min = time.minute;
+    parts.tm_sec = time.second;
+    return timegm(&parts);
+}
+
+void FillWith(lxw_format* format, lxw_color_t color) {
+    format_set_pattern(format, LXW_PATTERN_SOLID);
+    format_set_bg_color(format, color);
+}
+
+}  // namespace
+
+TemporaryFolder::TemporaryFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "lumerin-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr) throw ExportError("no temporary folder can be made: " + name);
+    m_path = name;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(m_path, ignored);
+}
+
+Workbook::Workbook(const std::string& path, const LocalTime& created) : m_path(path), m_created(created) {
+    // Whether the file can be written is known before any row is.
+    FileSink probe(path);
+    m_folderName = m_folder.Path().string();
+    m_stored = (m_folder.Path() / "workbook.xlsx").string();
+    lxw_workbook_options options{};
+    options.constant_memory = LXW_TRUE;
+    options.tmpdir = m_folderName.data();
+    options.use_zip64 = LXW_FALSE;
+    m_workbook = workbook_new_opt(m_stored.c_str(), &options);
+    if (m_workbook == nullptr) throw ExportError("there is not enough memory for the workbook " + path);
+    MakeFormats();
+    SetTitle("");
+}
+
+Workbook::~Workbook() {
+    if (m_workbook != nullptr) lxw_workbook_free(m_workbook);
+}
+
+void Workbook::MakeFormats() {
+    for (lxw_format*& format : m_formats) {
+        format = workbook_add_format(m_workbook);
+        if (format == nullptr) throw ExportError("there is not enough memory for the workbook " + m_path);
+    }
+    format_set_num_format(Format(CellStyle::integer), "0");
+    format_set_num_format(Format(CellStyle::real), "0.00");
+    for (const CellStyle style : {CellStyle::head, CellStyle::unit}) {
+        FillWith(Format(style), kHeadFill);
+    }
+    format_set_bold(Format(CellStyle::head));
+    format_set_italic(Format(CellStyle::unit));
+    format_set_font_color(Format(CellStyle::unit), kUnitColor);
+    format_set_bottom(Format(CellStyle::unit), LXW_BORDER_THIN);
+    format_set_bottom_color(Format(CellStyle::unit), kLine);
+    format_set_bold(Format(CellStyle::title));
+    format_set_font_size(Format(CellStyle::title), kTitleSize);
+    format_set_bold(Format(CellStyle::label));
+    format_set_bold(Format(CellStyle::good));
+    format_set_font_color(Format(CellStyle::good), kGreen);
+    FillWith(Format(CellStyle::good), kGreenFill);
+    format_set_bold(Format(CellStyle::bad));
+    format_set_font_color(Format(CellStyle::bad), kRed);
+    FillWith(Format(CellStyle::bad), kRedFill);
+    m_overLimit = workbook_add_format(m_workbook);
+    if (m_overLimit == nullptr) throw ExportError("there is not enough memory for the workbook " + m_path);
+    format_set_bold(m_overLimit);
+    format_set_font_color(m_overLimit, kRed);
+    format_set_bg_color(m_overLimit, kRedFill);
+}
+
+lxw_worksheet* Workbook::AddSheet(const std::string& name) {
+    lxw_worksheet* sheet = workbook_add_worksheet(m_workbook, name.c_str());
+    if (sheet == nullptr) throw ExportError(m_path + ": no sheet can be made: " + name);
+    return sheet;
+}
+
+void Workbook::SetTitle(const std::string& title) {
+    std::string text = title, program = "Lumerin";
+    lxw_doc_properties properties{};
+    properties.title = text.data();
+    properties.author = program.data();
+    properties.company = program.data();
+    properties.created = SecondsOf(m_created);
+    workbook_set_properties(m_workbook, &properties);
+}
+
+void Workbook::CheckTemporaryFiles() const {
+    // The library does not look whether its temporary files were stored, and would make a workbook of the
+    // part that was.
+    std::uintmax_t bytes = 0;
+    lxw_sheet* sheet = nullptr;
+    STAILQ_FOREACH(sheet, m_workbook->sheets, list_pointers) {
+        std::FILE* rows = sheet->u.worksheet->optimize_tmpfile;
+        if (rows == nullptr) continue;
+        const long size = std::fflush(rows) == 0 && std::ferror(rows) == 0 ? std::ftell(rows) : -1;
+        if (size < 0) throw ExportError("the temporary files in " + m_folderName + " could not be stored");
+        bytes += static_cast<std::uintmax_t>(size);
+    }
+    std::error_code ignored;
+    const auto space = std::filesystem::space(m_folder.Path(), ignored);
+    // A second form of the largest sheet, and the workbook.
+    if (!ignored && space.available < 2 * bytes) {
+        throw ExportError("there is not enough space for temporary files in " + m_folderName);
+    }
+}
+
+void Workbook::Close() {
+    CheckTemporaryFiles();
+    const lxw_error code = workbook_close(m_workbook);
+    m_workbook = nullptr;
+    if (code != LXW_NO_ERROR) throw ExportError(m_path + ": " + lxw_strerror(code));
+    FileSink file(m_path);
+    std::ifstream stored(m_stored, std::ios::binary);
+    std::vector<char> piece(kFlushBytes);
+    while (stored.read(piece.data(), static_cast<std::streamsize>(piece.size())) || stored.gcount() > 0) {
+        file.Write({piece.data(), static_cast<std::size_t>(stored.gcount())});
+    }
+    if (!stored.eof()) throw ExportError("the temporary files in " + m_folderName + " cannot be read");
+    file.Commit();
+}
+
+}  // namespace lumerin
