@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "cli/DriveCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <memory>
 
+#include "cli/CommonArguments.h"
 #include "cli/ScriptDriver.h"
 #include "script/Border.h"
 #include "session/DesignerDlg.h"
@@ -86,6 +89,48 @@ ExitStatus DriveScript(const DriveOptions& options, const std::string& script, s
     }
     if (!allLoaded) return kExitNotLoaded;
     return driver.FailedOutputs().empty() ? kExitDone : kExitIncomplete;
+}
+
+namespace {
+
+constexpr const char* kDriveFooter =
+    "Actions: click ID, text ID TEXT, focus ID, select ID N, spin ID up|down, cell ROW COL TEXT,\n"
+    "mouse WHAT PLACE, hover ROW COL, graph-click X, answer yes|no, key NAME, key F1 ID, type TEXT,\n"
+    "where, dump, shot FILE (a picture, in the host with a screen only), again [FILE.in]; # begins a\n"
+    "comment. Keys: Esc, Return, Tab, Backspace, Delete, Insert, Up, Down, Left, Right, Home, End,\n"
+    "PageUp, PageDown, with Ctrl+ and Shift+ before them, Ctrl+A, Ctrl+C, Ctrl+V, Ctrl+X. Keys and\n"
+    "texts go to the control that has the focus; where prints it. The mouse can move, press, release,\n"
+    "click, double, right (click), wheel N and scroll PART on the grid: mouse click Shift 3 1.\n\n"
+    "Prints what happens as JSON, one object a line. Exit status: 0 done, 2 wrong usage or a line that is\n"
+    "no action, 3 the project could not be loaded (the script is played all the same).";
+
+}  // namespace
+
+ProgramCommand AddDriveCommand(CLI::App& program) {
+    struct Arguments {
+        DriveOptions options;
+        std::string format = "text";
+    };
+    const auto arguments = std::make_shared<Arguments>();
+    DriveOptions& options = arguments->options;
+    CLI::App& command = *program.add_subcommand("drive", "Play a script on the dialogs of a project");
+    command.add_option("PROJECT", options.project, "Input file of a project (.in)")->required();
+    command.add_option("SCRIPT", options.script, "File of actions, one a line; - for standard input")
+        ->required();
+    command.add_option("--format", arguments->format,
+                       "Format that the dialog starts on: text, pdf, excel or a number (default text)");
+    command.add_flag("!--without-plot-module", options.hasPlotModule,
+                     "Behave as on a machine without the plot module");
+    AddText(command, "--text-a", options.textA, "The fourth argument of the export; nothing shows it");
+    AddText(command, "--text-b", options.textB, "The fifth argument; nothing shows it");
+    AddText(command, "--plot-argument", options.plotArgument, "The sixth argument, for the plot module");
+    AddCommonOptions(command, options.common);
+    command.footer(kDriveFooter);
+    return {&command, [arguments](std::ostream& out, std::ostream& err) {
+                arguments->options.format = ReadStartFormat(arguments->format);
+                ApplyOptions(arguments->options.common);
+                return RunDrive(arguments->options, out, err);
+            }};
 }
 
 }  // namespace lumerin

@@ -4,8 +4,8 @@
 #include <ostream>
 #include <string>
 
+#include "cli/Command.h"
 #include "cli/Options.h"
-#include "cli/ReportDriver.h"
 
 namespace lumerin {
 
@@ -24,5 +24,8 @@ ExitStatus RunDrive(const DriveOptions& options, std::ostream& out, std::ostream
 // The same with the script's text.
 ExitStatus DriveScript(const DriveOptions& options, const std::string& script, std::ostream& out,
                        std::ostream& err);
+
+// "drive": plays a script on the dialogs.
+ProgramCommand AddDriveCommand(CLI::App& program);
 
 }  // namespace lumerin

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "cli/EmbedmentCommand.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <stdexcept>
 
+#include "cli/CommonArguments.h"
 #include "cli/Progress.h"
 #include "cli/ScriptDriver.h"
 #include "embedment/SvgCanvas.h"
@@ -77,7 +80,7 @@ ExitStatus EmbedmentDriver::Run() {
 
 void EmbedmentDriver::Fail(ExitStatus status, const std::string& text) {
     PrintLine(m_err, m_options.project + ": " + text);
-    m_status = std::max(m_status, status);
+    m_status = Worse(m_status, status);
 }
 
 void EmbedmentDriver::Drive(headless::HeadlessDialog& dialog) {
@@ -98,7 +101,7 @@ void EmbedmentDriver::DriveReport(headless::HeadlessDialog& dialog) {
 
 void EmbedmentDriver::DriveStudy(headless::HeadlessDialog& dialog, const CMPTEDlg& study) {
     // A message while the dialog opens means that the study is incomplete.
-    if (m_nMessages > 0) m_status = std::max(m_status, kExitIncomplete);
+    if (m_nMessages > 0) m_status = Worse(m_status, kExitIncomplete);
     if (!ChooseView(dialog)) return;
     PrintTable(dialog, study);
     if (!m_options.picture.empty()) WritePicture(study);
@@ -118,7 +121,7 @@ bool EmbedmentDriver::ChooseView(headless::HeadlessDialog& dialog) {
     }
     dialog.SelectEntry(IDC_STUDY_QUANTITY, m_options.quantity);
     if (m_nMessages == before) return true;
-    m_status = std::max(m_status, kExitUsage);
+    m_status = Worse(m_status, kExitUsage);
     return false;
 }
 
@@ -170,7 +173,7 @@ int EmbedmentDriver::OnShellOpen(const std::string&, const std::string& file, co
     if (code > 32 && document != m_sFailed) {
         m_Written.push_back(document);
     } else {
-        m_status = std::max(m_status, kExitIncomplete);
+        m_status = Worse(m_status, kExitIncomplete);
     }
     return code;
 }
@@ -178,6 +181,41 @@ int EmbedmentDriver::OnShellOpen(const std::string&, const std::string& file, co
 ExitStatus RunEmbedment(const EmbedmentOptions& options, std::ostream& out, std::ostream& err) {
     EmbedmentDriver driver(options, out, err);
     return driver.Run();
+}
+
+ProgramCommand AddEmbedmentCommand(CLI::App& program) {
+    struct Arguments {
+        EmbedmentOptions options;
+        std::string envelope;
+    };
+    const auto arguments = std::make_shared<Arguments>();
+    EmbedmentOptions& options = arguments->options;
+    CLI::App& command = *program.add_subcommand("embedment", "Show the embedment study of a project");
+    command.add_option("PROJECT", options.project, "Input file of a project (.in)")->required();
+    CLI::Option* loadCase =
+        command.add_option("--case", options.loadCase, "Number of the load case (default 1)");
+    command.add_option("--envelope", arguments->envelope, "max or min over all cases in place of one case")
+        ->excludes(loadCase);
+    command
+        .add_option("--quantity", options.quantity,
+                    "0 lateral displacement (default), 1 along x, 2 along y, 3 greatest, 4 least axial force")
+        ->check(CLI::Range(0, 4));
+    command.add_option("--svg", options.picture, "Write the curve to this file");
+    command.add_flag("--excel", options.workbook, "Write the table as a workbook beside the project");
+    AddCommonOptions(command, options.common);
+    command.footer(
+        "Prints the table and the path of each file that was written. Exit status: 0 done, 1 the project "
+        "has\n"
+        "no study or a part of it could not be read or written, 2 wrong usage or no such case, 3 the "
+        "project\n"
+        "could not be loaded.");
+    return {&command, [arguments](std::ostream& out, std::ostream& err) {
+                if (!arguments->envelope.empty()) {
+                    arguments->options.envelope = ReadEnvelope(arguments->envelope);
+                }
+                ApplyOptions(arguments->options.common);
+                return RunEmbedment(arguments->options, out, err);
+            }};
 }
 
 }  // namespace lumerin

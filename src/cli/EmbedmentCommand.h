@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "cli/Command.h"
 #include "cli/Options.h"
-#include "cli/ReportDriver.h"
 #include "framework/headless/Headless.h"
 
 namespace lumerin {
@@ -55,5 +55,8 @@ class EmbedmentDriver : public headless::Sink {
 
 int ReadEnvelope(std::string_view text);  // max or min: the entry of the dialog's list
 ExitStatus RunEmbedment(const EmbedmentOptions& options, std::ostream& out, std::ostream& err);
+
+// "embedment": the study of a project, its curve and its workbook.
+ProgramCommand AddEmbedmentCommand(CLI::App& program);
 
 }  // namespace lumerin

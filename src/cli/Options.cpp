@@ -126,6 +126,14 @@ int ReadStartFormat(std::string_view text) {
     return fault == std::errc() && at == end ? number : ReadFormat(text);
 }
 
+std::string LowerCase(std::string_view text) {
+    std::string lower(text);
+    for (char& c : lower) {
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    }
+    return lower;
+}
+
 int TableButton(std::string_view name) {
     for (const NamedButton& table : kTables) {
         if (name == table.name) return table.button;

@@ -34,6 +34,9 @@ int ReadFormat(std::string_view text);  // text, pdf, excel: the number of the f
 // The same, or any number, as a host might pass it.
 int ReadStartFormat(std::string_view text);
 
+// With lower case letters in place of A to Z.
+std::string LowerCase(std::string_view text);
+
 // The report dialog's button of a table's short name; 0 when there is no such table.
 int TableButton(std::string_view name);
 std::string TableNames();  // for the help text

@@ -44,7 +44,7 @@ ExitStatus ReportDriver::Run(const std::string& project, int format) {
 }
 
 void ReportDriver::Worsen(ExitStatus status) {
-    m_status = std::max(m_status, status);
+    m_status = Worse(m_status, status);
 }
 
 void ReportDriver::Say(const std::string& text) {
@@ -170,7 +170,7 @@ ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostr
         for (const int format : options.formats) {
             ReportDriver driver(options, out, err);
             const ExitStatus status = driver.Run(project, format);
-            worst = std::max(worst, status);
+            worst = Worse(worst, status);
             if (status >= kExitUsage) break;
         }
     }

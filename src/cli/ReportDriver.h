@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/ExitStatus.h"
 #include "cli/Options.h"
 #include "cli/Progress.h"
 #include "framework/headless/Headless.h"
@@ -13,9 +14,6 @@
 namespace lumerin {
 
 class CDesignerDlg;
-
-// The exit statuses of the program, the worse one last.
-enum ExitStatus { kExitDone = 0, kExitIncomplete = 1, kExitUsage = 2, kExitNotLoaded = 3 };
 
 struct ReportRequest {
     std::vector<std::string> projects;

@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "cli/DriveCommand.h"
+#include "framework/headless/Headless.h"
 #include "session/ReportControls.h"
 #include "session/Session.h"
 #include "support/SampleFolder.h"

@@ -10,6 +10,7 @@
 #include <sstream>
 
 #include "cli/DriveCommand.h"
+#include "framework/headless/Headless.h"
 #include "samples/CommandLine.h"
 #include "support/SampleFolder.h"
 

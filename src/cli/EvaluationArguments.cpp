@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "cli/EvaluationArguments.h"
+
+#include <CLI/CLI.hpp>
+#include <cmath>
+#include <stdexcept>
+#include <string>
+
+#include "cli/Options.h"
+
+namespace lumerin {
+
+namespace {
+
+void RequirePositive(const std::string& option, double value) {
+    if (std::isfinite(value) && value > 0.0) return;
+    throw std::invalid_argument(option + " takes a number that is greater than 0");
+}
+
+void AddCapacity(CLI::App& command, const std::string& option, std::optional<double>& capacity,
+                 const std::string& help) {
+    command
+        .add_option_function<double>(
+            option,
+            [option, &capacity](double value) {
+                RequirePositive(option, value);
+                capacity = value;
+            },
+            help)
+        ->type_name("FORCE");
+}
+
+}  // namespace
+
+void AddCaseOptions(CLI::App& command, CaseChoice& cases) {
+    command
+        .add_option_function<std::vector<std::string>>(
+            "--cases",
+            [&cases](const std::vector<std::string>& texts) {
+                for (const std::string& text : texts) ReadCases(text, cases);
+            },
+            "Consider these cases alone: numbers, ranges and patterns of limit states and titles, such as "
+            "1,3,5-9 or 'STRENGTH-*'")
+        ->allow_extra_args(false)
+        ->type_name("LIST");
+    command
+        .add_option_function<std::vector<std::string>>(
+            "--class",
+            [&cases](const std::vector<std::string>& texts) {
+                for (const std::string& text : texts) ReadClasses(text, cases);
+            },
+            "Consider the cases of these limit classes alone, such as strength,service")
+        ->allow_extra_args(false)
+        ->type_name("LIST");
+}
+
+void AddLimitOptions(CLI::App& command, Limits& limits) {
+    command
+        .add_option_function<double>(
+            "--limit",
+            [&limits](double value) {
+                RequirePositive("--limit", value);
+                limits.ratio = value;
+            },
+            "The greatest D/C ratio that passes (default 1.0)")
+        ->type_name("RATIO");
+    AddCapacity(command, "--pile-compression", limits.pileCompression,
+                "Hold pile heads against this capacity in compression, in units of the project");
+    AddCapacity(command, "--pile-tension", limits.pileTension,
+                "Hold pile heads against this capacity in tension, in units of the project");
+}
+
+void AddUnitsOption(CLI::App& command, std::optional<UnitSystem>& units) {
+    command
+        .add_option_function<std::string>(
+            "--units",
+            [&units](const std::string& text) {
+                units = ReadUnitSystem(LowerCase(text));
+                if (!units) throw std::invalid_argument("\"" + text + "\" is no unit system (us, si)");
+            },
+            "us (kips, ft, in) or si (kN, m); default: those of each project")
+        ->type_name("SYSTEM");
+}
+
+void AddEvaluationArguments(CLI::App& command, EvaluationArguments& arguments) {
+    AddCaseOptions(command, arguments.cases);
+    AddLimitOptions(command, arguments.limits);
+    AddUnitsOption(command, arguments.units);
+}
+
+}  // namespace lumerin

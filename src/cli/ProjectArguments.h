@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "records/OpenProject.h"
+
+namespace CLI {
+class App;
+}
+
+namespace lumerin {
+
+// The projects of a command: PROJECT... and --files-from FILE|-.
+struct ProjectArguments {
+    std::vector<std::string> given;
+    std::string listFile;  // a file with a project a line; "-": standard input; empty: none
+};
+
+// The variables must live as long as the parser.
+void AddProjectArguments(CLI::App& command, ProjectArguments& arguments);
+
+// The projects in order, first those of the command line. Throws std::invalid_argument with a text for the
+// user when there is none, a name is empty, or the list cannot be read. Whether a project exists is not
+// looked at.
+std::vector<ProjectName> ReadProjects(const ProjectArguments& arguments);
+
+}  // namespace lumerin
