@@ -172,6 +172,7 @@ void CapSupportSearch::Finish(CapSupportTables tables) const {
             }
         }
     }
+    tables.found = next;
 }
 
 CapBearingSearch::CapBearingSearch(const PierInput& input, const CapForm& form)

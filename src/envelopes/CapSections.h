@@ -40,6 +40,7 @@ struct CapSupportTables {
     CCapTable& table;
     std::vector<double>& x;
     std::vector<CSupportLocation>& list;
+    std::size_t& found;  // entries of the list that were written
 };
 
 // The search at all faces and centrelines of the supports.

@@ -32,6 +32,7 @@ struct CapTableForm {
     CCapTable PierResults::*supports;
     std::vector<double> PierResults::*supportX;
     std::vector<CSupportLocation> PierResults::*supportList;
+    std::size_t PierResults::*found;
     CCapTable PierResults::*bearings;
     std::vector<double> PierResults::*pointX;
     int rowsOfBearing;
@@ -41,6 +42,7 @@ const CapTableForm kShear{kShearForm,
                           &PierResults::shearSupports,
                           &PierResults::shearSupportX,
                           &PierResults::shearSupportList,
+                          &PierResults::shearSupportsFound,
                           &PierResults::shearBearings,
                           &PierResults::shearPointX,
                           2,
@@ -49,6 +51,7 @@ const CapTableForm kMoment{kMomentForm,
                            &PierResults::momentSupports,
                            &PierResults::momentSupportX,
                            &PierResults::momentSupportList,
+                           &PierResults::momentSupportsFound,
                            &PierResults::momentBearings,
                            &PierResults::momentPointX,
                            1,
@@ -65,8 +68,8 @@ class CapTableSearch : public TableSearch {
     }
 
     void Finish(PierResults& results) const override {
-        m_supports.Finish(
-            {results.*m_table.supports, results.*m_table.supportX, results.*m_table.supportList});
+        m_supports.Finish({results.*m_table.supports, results.*m_table.supportX, results.*m_table.supportList,
+                           results.*m_table.found});
         m_table.storeBearings(m_pier, m_bearings, results.*m_table.bearings);
         MergePoints(results.*m_table.supportX, m_pier.m_BearingX, m_table.rowsOfBearing,
                     results.*m_table.pointX);

@@ -47,18 +47,33 @@ ElementSearch::ElementSearch(const PierInput& input, int others) : m_input(input
     const std::size_t classes = Index(m_results.classes);
     m_results.ratios.resize(classes * Index(m_results.elements) * 2);
     m_results.cap.resize(classes * Index(m_results.capElements) * 2);
+    m_results.greatestAxial.resize(pier.m_Piles.size());
+    m_results.leastAxial.resize(pier.m_Piles.size());
 }
 
 void ElementSearch::Take(int loadCase, CaseForces forces) {
     if (!m_input.selection.IsCaseSelected(loadCase)) return;
     const int slot = m_input.pier.SlotOf(loadCase);
     if (slot < 0 || slot >= m_results.classes) return;
+    TakeHeads(loadCase, forces);
     TakeRatios(loadCase, forces, &m_results.ratios[Index(slot) * Index(m_results.elements) * 2]);
     for (int e = 0; e < m_results.capElements; ++e) {
         const ElementForces element = ForcesOf(forces, m_results.firstCapElement + e);
         CapEnvelopeEnd* ends = &m_results.cap[(Index(slot) * Index(m_results.capElements) + Index(e)) * 2];
         TakeCapEnd(loadCase, element[kF22], element[kM33], ends[kEndI]);
         TakeCapEnd(loadCase, element[kComponents + kF22], element[kComponents + kM33], ends[kEndJ]);
+    }
+}
+
+void ElementSearch::TakeHeads(int loadCase, CaseForces forces) {
+    std::size_t p = 0;
+    for (const CPile& pile : m_input.pier.m_Piles) {
+        EndExtreme& greatest = m_results.greatestAxial[p];
+        EndExtreme& least = m_results.leastAxial[p++];
+        if (pile.m_nElements < 1) continue;
+        const float axial = ForcesOf(forces, pile.m_nFirstElement)[kComponents + kAxial];
+        if (IsGreater(axial, greatest)) greatest = {loadCase, axial};
+        if (IsLess(axial, least)) least = {loadCase, axial};
     }
 }
 

@@ -30,6 +30,8 @@ struct ElementResults {
     std::vector<EndExtreme> ratios;            // [class][element][end]
     int firstCapElement = 0, capElements = 0;  // of the element list
     std::vector<CapEnvelopeEnd> cap;           // [class][element of the cap][end]
+    // The axial forces of each pile's head, over all classes.
+    std::vector<EndExtreme> greatestAxial, leastAxial;
 
     const EndExtreme& Ratio(int limitClass, int element, int end) const {
         return ratios[(Index(limitClass) * Index(elements) + Index(element)) * 2 + Index(end)];
@@ -50,6 +52,8 @@ class ElementSearch {
     ElementResults TakeResults() { return std::move(m_results); }
 
   private:
+    void TakeHeads(int loadCase, CaseForces forces);
+
     PierInput m_input;
     ElementResults m_results;
 };

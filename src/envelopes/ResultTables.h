@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <vector>
 
 #include "envelopes/Records.h"
@@ -27,6 +28,7 @@ struct PierResults {
     // keep zeros.
     std::vector<double> momentSupportX, shearSupportX;
     std::vector<CSupportLocation> momentSupportList, shearSupportList;
+    std::size_t momentSupportsFound = 0, shearSupportsFound = 0;
     std::vector<double> momentPointX, shearPointX;  // merged with the bearings
 };
 

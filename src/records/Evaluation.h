@@ -10,6 +10,7 @@
 #include "envelopes/ResultTables.h"
 #include "model/CaseSelection.h"
 #include "records/CaseChoice.h"
+#include "records/ElementIdentity.h"
 #include "records/Findings.h"
 #include "records/OpenProject.h"
 #include "records/Table.h"
@@ -39,6 +40,8 @@ class Evaluation {
     UnitSystem Units() const { return UnitSystemOf(Data().m_nUnits); }
     // By substructure; empty where the needs did not ask for elements.
     std::span<const ElementResults> Elements() const { return m_elements; }
+    // The elements of each substructure that have forces, and the masked ones.
+    std::span<const ElementIdentity> Identities(std::size_t pier) const { return m_identities.at(pier); }
     // Those of the files always; those of the forces when a pass was made.
     const std::vector<Finding>& Findings() const { return m_findings; }
     bool HasReadForces() const { return m_hasReadForces; }
@@ -51,6 +54,7 @@ class Evaluation {
     CaseSelection m_selection;
     ResultTables m_results;
     std::vector<ElementResults> m_elements;
+    std::vector<std::vector<ElementIdentity>> m_identities;
     std::vector<Finding> m_findings;
     bool m_hasReadForces = false;
     mutable RowReader m_rows;

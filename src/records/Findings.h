@@ -33,7 +33,7 @@ std::vector<Finding> FindInFiles(const std::string& basePath, const CDataSet& da
 std::vector<Finding> FindInForces(const CDataSet& data, const ForceSources& forces,
                                   std::span<const FiniteForces> checks);
 // Incomplete trials of the embedment study; none where the project has no study.
-std::vector<Finding> FindInStudy(const std::string& basePath);
+std::vector<Finding> FindInStudy(const std::string& inputFile);
 
 bool HasError(std::span<const Finding> findings);
 // One line: "error: missing-records: bridge.vmd: 12 force records are missing (first: case 3, element 18)".

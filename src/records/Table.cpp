@@ -56,6 +56,10 @@ class Converter {
 
 }  // namespace
 
+std::string_view ProgramVersion() {
+    return LUMERIN_VERSION;
+}
+
 const Table* FindTable(std::string_view name) {
     for (const Table& table : AllTables()) {
         if (table.name == name) return &table;

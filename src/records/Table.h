@@ -52,6 +52,9 @@ struct Table {
     void (*rows)(const Evaluation& evaluation, const RowTaker& take);
 };
 
+// The version of the program, as its option --version prints it.
+std::string_view ProgramVersion();
+
 // The version of the tables: raised when a column is added. Columns are never moved or renamed.
 inline constexpr int kTablesVersion = 1;
 

@@ -19,6 +19,8 @@ struct FiniteForces {
     bool piles = true, columns = true, extraMembers = true;
     bool pileHeads = true;  // D/C ratio and axial force at the head ends
 
+    bool hasRatio = false;  // a D/C ratio of any element is not 0
+
     ForceFault notFinite;       // forces that are not finite, wherever they are
     ForceFault replacedRatios;  // ratios that are not finite in the file; 0.0 takes their place
 };

@@ -62,7 +62,7 @@ class ForceFile::Pass {
 
     FiniteForces Run() {
         if (m_source.m_reads.empty()) {
-            for (int c = 0; c < m_source.m_cases; ++c) m_take(c, m_forces);
+            for (int c = 0; c < m_source.m_cases; ++c) Hand(c);
             return m_finite;
         }
         CFileException failure(CFileException::none, m_source.m_path, "");
@@ -92,7 +92,7 @@ class ForceFile::Pass {
                 r += here;
                 inBlock += here;
                 if (inBlock < block) continue;
-                m_take(loadCase++, m_forces);
+                Hand(loadCase++);
                 inBlock = 0;
             }
             done += records;
@@ -124,7 +124,20 @@ class ForceFile::Pass {
             Store(loadCase, target, record);
         }
         ReadOthers(loadCase);
+        Hand(loadCase);
+    }
+
+    // The case is complete.
+    void Hand(int loadCase) {
+        if (!m_finite.hasRatio) LookForRatio();
         m_take(loadCase, m_forces);
+    }
+
+    // Usually the first case has one, and no other is looked at.
+    void LookForRatio() {
+        for (std::size_t i = kDemandCapacity; i < m_forces.size() && !m_finite.hasRatio; i += kComponents) {
+            m_finite.hasRatio = m_forces[i] != 0.0F;
+        }
     }
 
     // Missing ones have zeros: no table shows them, so no earlier record takes their place.

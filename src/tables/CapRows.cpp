@@ -62,6 +62,8 @@ struct Walk {
         row.sLabel =
             CapSupportLabel(block.table, block.pier.m_nStructureType, place.m_nSupport, place.m_nKind);
         row.pEntry = &results.At(place.m_nSupport, block.slot, place.m_nKind, block.extreme);
+        row.bUnused =
+            cursor >= (IsShear() ? block.results.shearSupportsFound : block.results.momentSupportsFound);
         row.nPoint = point;
         row.support = place;
         visit(row);

@@ -20,6 +20,7 @@ struct CCapRow {
     const CCapEntry* pEntry = nullptr;  // never null during a walk
     bool bBearing = false;
     bool bSideHasResult = true;  // false on bearing rows of the shear table alone
+    bool bUnused = false;        // an entry of the list of sections that no section took
     int nPoint = 0;              // of the pier's merged points, with the row's x
     CSupportLocation support;    // of a support row
     CBearingLocation bearing;    // of a bearing row

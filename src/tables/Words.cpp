@@ -102,6 +102,9 @@ constexpr std::array<NamedClass, 7> kClassHeadings{{
     {kFamilyArema, kStrength, "LOAD FACTOR DESIGN DATA"},
     {kFamilyArema, kService, "SERVICE LOAD DESIGN DATA"},
 }};
+// By structure type code.
+constexpr std::array<std::string_view, kStructureTypes> kTypeNames{
+    "pier", "pile group", "single pile", "mast", "wall", "wall", "pile group", "pile bent", "column group"};
 constexpr std::array<std::string_view, 3> kFamilyNames{"AASHTO-LRFD", "AASHTO-LFD", "AREMA"};
 
 constexpr std::array<std::string_view, 4> kShearSupports{" %i LF", " %i LCL", " %i RCL", " %i RF"};
@@ -124,6 +127,11 @@ std::string_view TextAt(std::span<const std::string_view> texts, int index) {
 
 std::string_view FamilyName(CodeFamily family) {
     return TextAt(kFamilyNames, family);
+}
+
+std::string_view StructureTypeName(StructureType structureType) {
+    const std::string_view name = TextAt(kTypeNames, structureType);
+    return name.empty() ? "unknown" : name;
 }
 
 std::string_view ShearSupportForm(int kind) {

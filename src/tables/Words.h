@@ -53,5 +53,7 @@ const char* TableTitle(TableId table, StructureType structureType);
 // The words for the vertical members of a structure type; empty where the type is outside 0 to 8.
 const char* MemberShortName(StructureType structureType);
 const char* MemberName(StructureType structureType);
+// "pier", "pile bent" and the like; "unknown" where the type is outside 0 to 8.
+std::string_view StructureTypeName(StructureType structureType);
 
 }  // namespace lumerin
