@@ -74,6 +74,21 @@ TEST(Members, FollowOneAnotherInTheElementList) {
     EXPECT_EQ(pier.m_Frame.m_XMembers[1].m_nElements, 1);
 }
 
+TEST(Members, ThatAreNotCountedAreNone) {
+    const CPier pier = Allocated({}, 0);
+    EXPECT_TRUE(pier.m_Piles.empty());
+    EXPECT_TRUE(pier.m_Frame.m_Columns.empty());
+    EXPECT_TRUE(pier.m_Frame.m_XMembers.empty());
+    EXPECT_EQ(pier.m_Frame.m_Cantilevers[0].m_nElements, 0);
+    EXPECT_EQ(pier.m_Frame.m_Beam.m_nElements, 0);
+    EXPECT_EQ(pier.m_Frame.m_Cantilevers[1].m_nElements, 0);
+    // A pile without a count of nodes has no element.
+    CMemberCounts onePile;
+    onePile.piles = 1;
+    EXPECT_EQ(Allocated(onePile, 0).m_Piles.at(0).m_nNodes, 0);
+    EXPECT_EQ(Allocated(onePile, 0).ElementCount(), 0);
+}
+
 TEST(Members, APileOfTwoNodesHasOneElementThatIsHeadAndTip) {
     CMemberCounts counts;
     counts.piles = 1;

@@ -54,6 +54,56 @@ TEST(LoadProject, EveryCaseIsSelectedAtFirst) {
     EXPECT_TRUE(selection.IsCaseSelected(1));
 }
 
+// The counts that all tables share are those of the substructure that is read last.
+TEST(LoadProject, TheDataSetHasTheCountsOfTheLastSubstructure) {
+    ResultProject project;
+    project.mode = 1;
+    project.substructures = {MakePier(), MakePier()};
+    ResultSubstructure& last = project.substructures[1];
+    last.columnNodes = 3;
+    last.cantileverNodes = 2;
+    last.spanNodes = 4;
+    last.columnSections = 5;
+    last.extraMembers = 1;
+    last.xMemberSections = 6;
+    last.sections.resize(3, {1, 12.0, 10.0});
+    last.piles = 3;
+    last.pileNodes = 4;
+    last.rowsB = 3;
+    last.pileSections.assign(3, {1, 1, 1});
+    // The foundation's two nodes; five a column, three a cantilever, four of the span.
+    last.nodes.assign(2 + 2 * 5 + 2 * 3 + 4, {});
+    // The foundation's eight rows; four a column, three a cantilever, five of the span, the extra member,
+    // whose number leaves two out.
+    last.rows.resize(8);
+    for (int i = 0; i < 2 * 4 + 2 * 3 + 5; ++i) last.rows.push_back({9 + i, 0, 0, 1});
+    last.rows.push_back({30, 1, 2, 1});
+    project.Write();
+    ASSERT_TRUE(project.Load());
+    const CDataSet& data = project.Data();
+    EXPECT_EQ(data.m_nPiers, 2);
+    EXPECT_EQ(data.m_nAnalysisMode, 1);
+    EXPECT_EQ(data.m_nLoadCases, 2);
+    EXPECT_EQ(data.m_nStructureType, kTypePier);
+    EXPECT_EQ(data.m_nColumns, 2);
+    EXPECT_EQ(data.m_nCantilevers, 2);
+    EXPECT_EQ(data.m_nColumnNodes, 3);
+    EXPECT_EQ(data.m_nCantileverNodes, 2);
+    EXPECT_EQ(data.m_nSpanNodes, 4);
+    EXPECT_EQ(data.m_nColumnSections, 5);
+    EXPECT_EQ(data.m_nExtraMembers, 1);
+    EXPECT_EQ(data.m_nXMemberSections, 6);
+    EXPECT_EQ(data.m_nSectionRecords, 3);
+    EXPECT_EQ(data.m_nElements, 28);
+    EXPECT_EQ(data.m_nElementGaps, 2);
+    EXPECT_EQ(data.m_nPiles, 3);
+    EXPECT_EQ(data.m_nPileNodes, 4);
+    EXPECT_EQ(data.m_nPileNodesTotal, 12);
+    EXPECT_EQ(data.m_nPilesFromNodes, 3);
+    EXPECT_EQ(data.m_nPileElements, 9);
+    EXPECT_EQ(data.m_nPilTableSize, 1);
+}
+
 TEST(LoadProject, WithoutColumnsThereIsNoFrame) {
     ResultProject project;
     project.Write();

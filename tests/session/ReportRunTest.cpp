@@ -63,6 +63,23 @@ TEST_F(ReportRunTest, TheSpreadsheetGoesToTheSpreadsheetProgram) {
     });
 }
 
+std::string BytesOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+// The rows of the first table fit on an upright page of 612 by 792 points; the other tables are wider.
+TEST_F(ReportRunTest, ThePagesOfAllTablesButTheFirstLieOnTheirSide) {
+    const std::string base = Project("pier");
+    Launch(base + ".in", 1, [&](HeadlessDialog& dialog) {
+        for (const int id : kTableButtons) {
+            dialog.Click(id);
+            const std::string page = id == IDC_MAX_AXIAL ? "[ 0 0 612 792 ]" : "[ 0 0 792 612 ]";
+            EXPECT_THAT(BytesOf(g_OutputFilePath), HasSubstr("/MediaBox " + page)) << id;
+        }
+    });
+}
+
 TEST_F(ReportRunTest, TheOptionsReachTheSessionBeforeTheTable) {
     const std::string base = Project("pier");
     Launch(base + ".in", 1, [&](HeadlessDialog& dialog) {
