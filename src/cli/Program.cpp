@@ -4,8 +4,10 @@
 #include <CLI/CLI.hpp>
 #include <sstream>
 
+#include "cli/CheckCommand.h"
 #include "cli/DriveCommand.h"
 #include "cli/EmbedmentCommand.h"
+#include "cli/InfoCommand.h"
 #include "cli/ReportCommand.h"
 #include "script/Border.h"
 
@@ -17,9 +19,7 @@ using AddCommand = ProgramCommand (*)(CLI::App&);
 
 // In the order of the help.
 constexpr AddCommand kCommands[] = {
-    AddReportCommand,
-    AddEmbedmentCommand,
-    AddDriveCommand,
+    AddReportCommand, AddCheckCommand, AddInfoCommand, AddEmbedmentCommand, AddDriveCommand,
 };
 
 }  // namespace

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <ostream>
+#include <vector>
+
+#include "cli/Command.h"
+#include "records/CaseChoice.h"
+#include "records/Evaluation.h"
+#include "records/OpenProject.h"
+
+namespace lumerin {
+
+enum class CheckFormat { text, json, csv };
+
+struct CheckRequest {
+    std::vector<ProjectName> projects;
+    CaseChoice cases;
+    Limits limits;
+    std::optional<UnitSystem> units;  // none: those of each project
+    CheckFormat format = CheckFormat::text;
+    std::size_t top = 0;  // how many of the greatest ratios are listed
+    bool brief = false;   // one line a project
+    bool colour = false;
+};
+
+// The verdict of each project. A project that fails in any way does not stop the others.
+ExitStatus RunCheck(const CheckRequest& request, std::ostream& out, std::ostream& err);
+
+ProgramCommand AddCheckCommand(CLI::App& program);
+
+}  // namespace lumerin
