@@ -7,6 +7,7 @@
 #include "cli/CheckCommand.h"
 #include "cli/DriveCommand.h"
 #include "cli/EmbedmentCommand.h"
+#include "cli/ExportCommand.h"
 #include "cli/InfoCommand.h"
 #include "cli/ReportCommand.h"
 #include "script/Border.h"
@@ -19,7 +20,7 @@ using AddCommand = ProgramCommand (*)(CLI::App&);
 
 // In the order of the help.
 constexpr AddCommand kCommands[] = {
-    AddReportCommand, AddCheckCommand, AddInfoCommand, AddEmbedmentCommand, AddDriveCommand,
+    AddReportCommand, AddCheckCommand, AddInfoCommand, AddExportCommand, AddEmbedmentCommand, AddDriveCommand,
 };
 
 }  // namespace

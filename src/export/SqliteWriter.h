@@ -37,12 +37,14 @@ class SqliteWriter : public TableWriter {
     void CreateOwnTables();
     void KeepUnits(const Table& table, UnitSystem system);
     void CreateTable(const Table& table);
+    void CreateIndices(const Table& table);
     void DropProject();
 
     std::string m_path, m_version;
     Database m_database;
     bool m_isNew = false;  // the file had nothing, and no project is stored yet
     std::string m_project, m_tables;
+    const Table* m_table = nullptr;  // that is being written
     std::optional<Statement> m_insert;
 };
 

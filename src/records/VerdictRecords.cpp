@@ -25,6 +25,7 @@ constexpr auto kFindingColumns =
     JoinColumns(kProjectColumn,
                 Column{"substructure", "number of the substructure, from 1; empty: the whole project",
                        ColumnType::integer},
+                Column{"finding", "number of the finding, from 1", ColumnType::integer, Quantity::none, true},
                 Column{"code", "kind of the finding, the same word in every release", ColumnType::text},
                 Column{"severity", "error, warning or note", ColumnType::text},
                 Column{"file", "file that it is about, without its folder", ColumnType::text},
@@ -34,8 +35,12 @@ constexpr auto kFindingColumns =
 
 void FindingRows(const Evaluation& evaluation, const RowTaker& take) {
     RowBuffer row(evaluation.Opened().name.name, take);
+    long long number = 0;
     for (const Finding& finding : evaluation.Findings()) {
-        row.Begin(Index(finding.substructure)).Text(finding.code).Text(SeverityName(finding.severity));
+        row.Begin(Index(finding.substructure))
+            .Integer(++number)
+            .Text(finding.code)
+            .Text(SeverityName(finding.severity));
         row.Text(finding.file).Text(finding.text).Integer(finding.count).Text(finding.firstPlace).Hand();
     }
 }
