@@ -154,9 +154,9 @@ void PrintCheck(const CheckResult& result, bool details, bool colour, std::ostre
         out << "  no element has a D/C ratio in the chosen cases\n";
     } else {
         const EndRatio& ratio = worst->worst;
-        out << "  D/C " << RatioText(ratio.ratio, result.limit) << "  " << ratio.place << " (" << ratio.family
-            << ", substructure " << ratio.substructure << ")  " << CaseOf(ratio.loadCase, ratio.limitState)
-            << "  limit ";
+        out << "  D/C " << RatioText(ratio.ratio, result.limit) << "  " << ratio.place << " ("
+            << Spaced(ratio.family) << ", substructure " << ratio.substructure << ")  "
+            << CaseOf(ratio.loadCase, ratio.limitState) << "  limit ";
         std::string limit;
         AppendNumber(limit, result.limit);
         out << limit;

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "records/Table.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <set>
+
+#include "support/RecordsProject.h"
+#include "support/SampleFolder.h"
+
+namespace lumerin {
+
+using testing::ElementsAre;
+
+TEST(Tables, NamesOfTablesAndColumnsAreDifferentAndPlain) {
+    std::set<std::string_view> tables;
+    for (const Table& table : AllTables()) {
+        EXPECT_TRUE(tables.insert(table.name).second) << table.name;
+        EXPECT_EQ(FindTable(table.name), &table);
+        std::set<std::string_view> columns;
+        for (const Column& column : table.columns) {
+            EXPECT_TRUE(columns.insert(column.name).second) << table.name << " " << column.name;
+            EXPECT_EQ(column.name.find_first_not_of("abcdefghijklmnopqrstuvwxyz_0123456789"),
+                      std::string_view::npos);
+            EXPECT_FALSE(column.meaning.empty());
+        }
+        EXPECT_EQ(table.columns[0].name, "project");
+        EXPECT_EQ(table.columns[1].name, "substructure");
+    }
+    EXPECT_EQ(tables.size(), 15U);
+    EXPECT_EQ(FindTable("no_such_table"), nullptr);
+}
+
+// Every table of every sample project: as many values as columns, of the types that the columns say, and no
+// two rows with the same key.
+TEST(Tables, RowsFitTheirColumnsAndKeysAreUnique) {
+    const SampleFolder folder;
+    for (const char* preset : {"pier", "bent", "group", "walls", "bridge", "history"}) {
+        const auto opened = LoadByName(ProjectName(folder.Write(preset)));
+        for (const Table& table : AllTables()) {
+            if (table.name == "element_forces" || table.name == "pile_heads") continue;  // they are long
+            const Evaluation evaluation(*opened, {}, {}, table.needs);
+            std::set<std::string> keys;
+            bool hasKey = false;
+            EachRow(table, evaluation, UnitSystem::si, [&](std::span<const Value> row) {
+                ASSERT_EQ(row.size(), table.columns.size()) << table.name;
+                std::string key;
+                for (std::size_t i = 0; i < row.size(); ++i) {
+                    const ColumnType type = table.columns[i].type;
+                    const Value& value = row[i];
+                    const bool fits =
+                        std::holds_alternative<std::monostate>(value) ||
+                        (type == ColumnType::text && std::holds_alternative<std::string_view>(value)) ||
+                        (type == ColumnType::integer && std::holds_alternative<std::int64_t>(value)) ||
+                        (type == ColumnType::flag && std::holds_alternative<bool>(value)) ||
+                        (type == ColumnType::real &&
+                         (std::holds_alternative<float>(value) || std::holds_alternative<double>(value)));
+                    EXPECT_TRUE(fits) << table.name << " " << table.columns[i].name;
+                    if (!table.columns[i].key) continue;
+                    hasKey = true;
+                    if (const auto* text = std::get_if<std::string_view>(&value)) key += *text;
+                    if (const auto* number = std::get_if<std::int64_t>(&value))
+                        key += std::to_string(*number);
+                    key += '|';
+                }
+                if (table.name == "findings") return;  // a project's findings have no key
+                EXPECT_TRUE(keys.insert(key).second) << preset << " " << table.name << " " << key;
+            });
+            EXPECT_TRUE(hasKey || keys.empty()) << table.name;
+        }
+    }
+}
+
+TEST(Tables, AnElementsForcesAreThoseOfItsRecordAndMissingOnesAreAbsent) {
+    RecordsProject project;
+    project.Set(0, 5, kFaxWordJ, 7.5F);
+    project.Set(1, 1, kF22WordI, 2.0F);
+    project.WriteAll();
+    // The record 5 of case 2 is missing.
+    std::filesystem::resize_file(project.Path(".vmd"), 9 * 68);
+    const auto rows = RowsOf(project.Evaluate(), "element_forces");
+    ASSERT_EQ(rows.size(), 20U);  // five records, two ends, two cases
+    EXPECT_THAT(rows[9], ElementsAre("1", "5", "1", "other", "", "J", "7", "1", "7.5", "0", "0", "-0", "-0",
+                                     "-0", "0"));
+    EXPECT_THAT(rows[10],
+                ElementsAre("1", "1", "2", "pile", "1", "I", "1", "2", "0", "-2", "-0", "0", "0", "-0", "0"));
+    EXPECT_THAT(rows[18], ElementsAre("1", "5", "1", "other", "", "I", "6", "2", "", "", "", "", "", "", ""));
+}
+
+TEST(Tables, ValuesAreConvertedByTheirQuantity) {
+    RecordsProject project;
+    project.Set(0, 1, kFaxWordJ, -100.0F);
+    project.Set(0, 1, kRatioJ, 0.5F);
+    project.WriteAll();
+    const Evaluation& evaluation = project.Evaluate(NeedsOf(std::vector{FindTable("pile_axial")}));
+    EXPECT_THAT(RowsOf(evaluation, "pile_axial")[0],
+                ElementsAre("1", "1", "", "", "", "", "", "-100", "1", "", "0.5"));
+    const auto converted = RowsOf(evaluation, "pile_axial", UnitSystem::si)[0];
+    EXPECT_NEAR(std::stod(converted[7]), -444.82216152605, 1e-10);  // 100 kips in kN
+    EXPECT_EQ(converted[10], "0.5");
+}
+
+TEST(Tables, TheProjectsRowHasItsCountsAndVerdict) {
+    RecordsProject project;
+    project.Set(0, 1, kRatioJ, 1.5F);
+    project.WriteAll();
+    const auto rows = RowsOf(project.Evaluate(), "projects");
+    ASSERT_EQ(rows.size(), 1U);
+    const std::vector<std::string>& row = rows[0];
+    // title, substructures, types, code, units, cases, converged, chosen, limit, dc, passes, errors, warnings
+    EXPECT_THAT(std::vector<std::string>(row.begin() + 1, row.begin() + 14),
+                ElementsAre("", "1", "pile group", "", "us", "3", "2", "2", "1", "1.5", "no", "0", "1"));
+    EXPECT_EQ(row.back(), std::to_string(kTablesVersion));
+}
+
+}  // namespace lumerin
