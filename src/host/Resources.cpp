@@ -149,6 +149,11 @@ void PrintRound(std::ostream& out, int round, const Resources& resources) {
 void LeakOneOfEach() {
     CreatePen(PS_SOLID, 1, RGB(1, 2, 3));
     CreatePopupMenu();
+    // With a bitmap for its colours and one for its outline.
+    const std::array<BYTE, 4> outline{}, colours{};
+    CreateIcon(nullptr, 1, 1, 1, 32, outline.data(), colours.data());
+    ACCEL key{FVIRTKEY, VK_F1, 1};
+    CreateAcceleratorTableA(&key, 1);
     CreateWindowExA(0, "STATIC", "", 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
     char program[MAX_PATH] = "";
     GetModuleFileNameA(nullptr, program, MAX_PATH);
