@@ -8,6 +8,7 @@
 #include "framework/Clock.h"
 #include "framework/headless/Headless.h"
 #include "session/Constants.h"
+#include "session/OutputFiles.h"
 #include "session/ReportControls.h"
 
 namespace lumerin {
@@ -60,7 +61,8 @@ constexpr NamedButton kTables[] = {
 
 void ApplyOptions(const CommonOptions& options) {
     headless::Settings& state = headless::State();
-    if (options.fontSize > 0) state.viewerNumbers["iPointSize"] = options.fontSize * kTenthsOfAPoint;
+    if (options.fontSize > 0)
+        state.userNumbers[kTextViewerKey]["iPointSize"] = options.fontSize * kTenthsOfAPoint;
     if (options.clock.empty()) return;
     LocalTime time;
     if (!ParseClock(options.clock, time)) {

@@ -157,10 +157,9 @@ int ReportDriver::OnShellOpen(const std::string&, const std::string& file, const
     return m_options.open ? StartViewer(m_sWritten) : code;
 }
 
-services::PlotModuleResult ReportDriver::OnPlotModule(const std::string&,
-                                                      const services::PlotModuleCall& call, std::string&) {
+PlotModuleResult ReportDriver::OnPlotModule(const PlotModuleCall& call, std::string&) {
     m_sWritten = call.dataFile;
-    return services::PlotModuleResult::called;
+    return PlotModuleResult::called;
 }
 
 ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostream& err) {

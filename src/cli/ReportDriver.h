@@ -10,6 +10,7 @@
 #include "cli/Options.h"
 #include "cli/Progress.h"
 #include "framework/headless/Headless.h"
+#include "session/headless/PlotModuleSink.h"
 
 namespace lumerin {
 
@@ -27,7 +28,7 @@ struct ReportRequest {
 
 // Writes the tables of one project in one format: one call of the export, in which the report dialog's
 // buttons are pressed. Paths of written files go to `out`, messages to `err`.
-class ReportDriver : public headless::Sink {
+class ReportDriver : public headless::Sink, public PlotModuleSink {
   public:
     ReportDriver(const ReportRequest& options, std::ostream& out, std::ostream& err);
 
@@ -36,8 +37,7 @@ class ReportDriver : public headless::Sink {
     MessageAnswer OnMessage(const headless::Message& message) override;
     void OnOutputFailed(const std::string& path) override;
     int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters) override;
-    services::PlotModuleResult OnPlotModule(const std::string& module, const services::PlotModuleCall& call,
-                                            std::string& systemText) override;
+    PlotModuleResult OnPlotModule(const PlotModuleCall& call, std::string& systemText) override;
 
   private:
     void Drive(headless::HeadlessDialog& dialog);

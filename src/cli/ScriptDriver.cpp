@@ -187,11 +187,12 @@ int ScriptDriver::OnShellOpen(const std::string&, const std::string& file, const
     return code;
 }
 
-services::PlotModuleResult ScriptDriver::OnPlotModule(const std::string& module,
-                                                      const services::PlotModuleCall& call, std::string&) {
-    if (!m_bHasPlotModule) return services::PlotModuleResult::moduleMissing;
-    m_lines.Module(module, call);
-    return services::PlotModuleResult::called;
+PlotModuleResult ScriptDriver::OnPlotModule(const PlotModuleCall& call, std::string&) {
+    if (!m_bHasPlotModule) return PlotModuleResult::moduleMissing;
+    m_lines.Module(
+        kPlotModuleName, call.format,
+        {call.dataFile, call.plot, call.family, call.version, call.zeroA, call.zeroB, call.argument});
+    return PlotModuleResult::called;
 }
 
 }  // namespace lumerin

@@ -9,12 +9,13 @@
 #include "framework/headless/Headless.h"
 #include "script/JsonLines.h"
 #include "script/Script.h"
+#include "session/headless/PlotModuleSink.h"
 
 namespace lumerin {
 
 // Plays a script on the dialogs of one call and reports every event as a JSON line. The current action goes
 // to the front dialog; a dialog that a press opens takes the actions that follow, until it is closed.
-class ScriptDriver : public headless::Sink {
+class ScriptDriver : public headless::Sink, public PlotModuleSink {
   public:
     ScriptDriver(std::vector<ScriptAction> actions, std::ostream& out);
 
@@ -34,8 +35,7 @@ class ScriptDriver : public headless::Sink {
     MessageAnswer OnMessage(const headless::Message& message) override;
     void OnOutputFailed(const std::string& path) override { m_FailedOutputs.push_back(path); }
     int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters) override;
-    services::PlotModuleResult OnPlotModule(const std::string& module, const services::PlotModuleCall& call,
-                                            std::string& systemText) override;
+    PlotModuleResult OnPlotModule(const PlotModuleCall& call, std::string& systemText) override;
 
   private:
     void Play(const ScriptAction& action, headless::HeadlessDialog& dialog);

@@ -25,14 +25,15 @@ struct GraphCall {
     std::vector<GraphValue> values;
 };
 
-// A plot control, as a driver of its dialog sees it. It keeps the properties and methods of its last drawing.
+// A graph control, as a driver of its dialog sees it. It keeps the properties and methods of its last
+// drawing.
 class GraphPeer {
   public:
     virtual ~GraphPeer() = default;
 
     // Everything that the dialog set and called for the drawing that is shown, in order.
     virtual std::vector<GraphCall> LastDrawing() const = 0;
-    // Clicks the plot at that x and notifies the dialog.
+    // Clicks the graph at that x and notifies the dialog.
     virtual void Click(double x) = 0;
 };
 

@@ -73,45 +73,37 @@ int WaitCursorDepth();
 
 }  // namespace backend
 
-// Services of the platform, named for what they do for the product.
+// Services of the platform other than windows.
 namespace services {
 
 // Starts `file` (the full path of a program, or a document in quotes) by the shell; an empty verb is the
-// default one. Returns the shell's code: above 32 is success, the other codes are listed in
-// session/OutputFiles.h.
+// default one. Returns the shell's code: above 32 is success, the other codes are those of
+// the system.
 int ShellOpen(const std::string& verb, const std::string& file, const std::string& parameters);
 
 // Starts the program that is registered on the machine under that name ("Excel") with a document in quotes;
 // no other program of that name. Returns the shell's code: 2 where none is registered.
 int StartProgram(const std::string& program, const std::string& document);
 
-// Full path of the process's program, and of the module that contains the product.
-std::string HostProgramPath();
+// Full path of the process's program, and of the module that contains this code.
+std::string ProgramPath();
 std::string ModulePath();
 
-// The text viewer's settings, by value name. False: there is no such value, and the argument is unchanged.
-bool ReadViewerNumber(const char* name, int& value);
+// A setting that a program keeps for the current user, by the program's key and the value's name. False:
+// there is no such value, and the argument is unchanged.
+bool ReadUserNumber(const char* key, const char* name, int& value);
 // A text value is returned only when it fits into `capacity` bytes, the terminating zero included.
-bool ReadViewerText(const char* name, unsigned capacity, std::string& value);
+bool ReadUserText(const char* key, const char* name, unsigned capacity, std::string& value);
 
-LocalTime Now();
+// The local time; with a name, the fixed time in the environment variable of that name, where it is set.
+LocalTime Now(const char* fixedTimeVariable = nullptr);
 
 // Reports that a file could not be opened for writing or was not stored completely. The dialogs show no
 // message for it; a program without a screen names the file.
-void TellOutputFailed(const std::string& path);
+void ReportOutputFailed(const std::string& path);
 
 // Sets the application's default printer to landscape or portrait, where it has one.
 void SetPrinterLandscape(bool landscape);
-
-// Loads the plot module from the host's folder, the system's folders or the machine's PATH, never from the
-// current folder or that of the data file, and calls its export with the eight arguments of the plot call.
-enum class PlotModuleResult { called, moduleMissing, exportMissing };
-struct PlotModuleCall {
-    int format = 0;  // 0 spreadsheet, 1 otherwise
-    std::string dataFile, plot, family, version, zeroA, zeroB, argument;
-};
-PlotModuleResult CallPlotModule(const char* module, const char* exportName, const PlotModuleCall& call,
-                                std::string& systemText);
 
 // Whether paths are UTF-8 on this platform; otherwise they are bytes of the Western code page, as texts are.
 bool PathsAreUtf8();
@@ -122,10 +114,10 @@ char FolderSeparator();
 
 }  // namespace services
 
-// The application's name, the title of a message box without one of its own.
-inline constexpr const char* kApplicationName = "Lumerin";
+// Sets the application's name, the title of its message boxes; empty until then. The caller keeps the text.
+void SetApplicationName(const char* name);
 
-// The message box of the application; without a title of its own it carries the application's name.
+// The message box of the application, with the application's name as its title.
 MessageAnswer AfxMessageBox(const std::string& text, MessageIcon icon = MessageIcon::exclamation,
                             MessageButtons buttons = MessageButtons::ok);
 

@@ -46,8 +46,8 @@ bool ParseClock(std::string_view text, LocalTime& time) {
     return true;
 }
 
-bool ReadClockFromEnvironment(LocalTime& time) {
-    const char* text = std::getenv("LUMERIN_CLOCK");
+bool ReadClockFromEnvironment(const char* variable, LocalTime& time) {
+    const char* text = variable == nullptr ? nullptr : std::getenv(variable);
     return text != nullptr && ParseClock(text, time);
 }
 

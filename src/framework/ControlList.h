@@ -6,7 +6,7 @@
 namespace lumerin {
 
 // A dialog's controls are written once, in a list of lines such as
-//     PUSH_BUTTON(IDC_MAX_AXIAL, "Max Axial Forces at Pile Heads", 204, 78, 170, 14)
+//     PUSH_BUTTON(IDC_APPLY, "Apply to All", 204, 78, 170, 14)
 // (session/dialogs/*.inc). The Windows resource script and the tables of the headless backend both include
 // the same list, each with its own meaning of the macros; this is the table's meaning.
 

@@ -11,6 +11,8 @@ namespace lumerin {
 
 namespace {
 
+constinit const char* g_applicationName = "";
+
 std::size_t ControlIndex(const DialogTemplate& spec, int id) {
     std::size_t index = 0;
     while (index < spec.controls.size() && spec.controls[index].id != id) ++index;
@@ -82,8 +84,12 @@ void DDX_Text(CDataExchange& exchange, int id, int& value) {
     if (text != wanted) backend::SetText(window, wanted);
 }
 
+void SetApplicationName(const char* name) {
+    g_applicationName = name;
+}
+
 MessageAnswer AfxMessageBox(const std::string& text, MessageIcon icon, MessageButtons buttons) {
-    return backend::ShowMessage(text, kApplicationName, icon, buttons);
+    return backend::ShowMessage(text, g_applicationName, icon, buttons);
 }
 
 bool CDialog::UpdateData(bool saveAndValidate) {

@@ -17,6 +17,7 @@
 #include "host/Token.h"
 #include "host/WindowDriver.h"
 #include "text/Paths.h"
+#include "text/Product.h"
 #include "text/Utf8.h"
 
 using namespace lumerin;
@@ -186,7 +187,7 @@ HostExit DriveRounds(const HostOptions& options, ModuleExport launch) {
 }
 
 HostExit Run(const HostOptions& options) {
-    if (!options.clock.empty()) _putenv_s("LUMERIN_CLOCK", options.clock.c_str());
+    if (!options.clock.empty()) _putenv_s(kClockVariable, options.clock.c_str());
     const ViewerFont font(options.fontSize);
     const ModuleExport launch = LoadModule(!options.script.empty());
     if (!options.script.empty() && options.rounds > 0) return DriveRounds(options, launch);

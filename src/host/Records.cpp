@@ -83,16 +83,7 @@ void Records::PrintLine(const std::string& line) {
         m_lines.Open(fields[1].empty() ? fields[2] : fields[1], fields[1].empty() ? "" : fields[2]);
     }
     if (fields.size() == 10 && fields[0] == kRecordModule) {
-        services::PlotModuleCall call;
-        call.format = std::atoi(fields[2].c_str());
-        call.dataFile = fields[3];
-        call.plot = fields[4];
-        call.family = fields[5];
-        call.version = fields[6];
-        call.zeroA = fields[7];
-        call.zeroB = fields[8];
-        call.argument = fields[9];
-        m_lines.Module(fields[1], call);
+        m_lines.Module(fields[1], std::atoi(fields[2].c_str()), {fields.begin() + 3, fields.end()});
     }
 }
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <random>
 
-#include "framework/win32/DriverToken.h"
+#include "text/Product.h"
 
 namespace lumerin {
 

@@ -83,12 +83,11 @@ void JsonLines::Open(const std::string& file, const std::string& parameters) {
     m_out << line.dump() << '\n';
 }
 
-void JsonLines::Module(std::string_view module, const services::PlotModuleCall& call) {
+void JsonLines::Module(std::string_view module, int number, const std::vector<std::string>& texts) {
     Json line;
     line["module"] = ForUser(module);
-    line["arguments"] = Json::array({call.format, ForUser(call.dataFile), ForUser(call.plot),
-                                     ForUser(call.family), ForUser(call.version), ForUser(call.zeroA),
-                                     ForUser(call.zeroB), ForUser(call.argument)});
+    line["arguments"] = Json::array({number});
+    for (const std::string& text : texts) line["arguments"].push_back(ForUser(text));
     m_out << line.dump() << '\n';
 }
 

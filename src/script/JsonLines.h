@@ -44,7 +44,8 @@ class JsonLines {
     // A viewer start as it is passed to the shell: a document, or a program with a document as its parameter.
     // Quotes around the document and the program's folder are left out.
     void Open(const std::string& file, const std::string& parameters);
-    void Module(std::string_view module, const services::PlotModuleCall& call);
+    // A call of another module's export: its number, then its texts, in the order of the arguments.
+    void Module(std::string_view module, int number, const std::vector<std::string>& texts);
     void Row(int row, const std::vector<std::string>& cells);
     void Focus(const FocusState& state);
     void Plot(const std::vector<GraphCall>& calls);

@@ -6,6 +6,7 @@
 #include "embedment/dialog/EmbedmentDialog.h"
 #include "session/ChoseLoadCasesDlg.h"
 #include "session/Constants.h"
+#include "session/PlotModule.h"
 #include "session/PlotWords.h"
 #include "session/ReportControls.h"
 #include "session/Session.h"
@@ -210,7 +211,7 @@ void CDesignerDlg::OnEmbedment(int) {
 }
 
 void CDesignerDlg::LaunchPlotModule() {
-    services::PlotModuleCall call;
+    PlotModuleCall call;
     call.format = std::min(m_nFormat, 1);
     call.dataFile = g_OutputFilePath;
     call.plot = FirstPlotWord(g_DataSet, m_state.selection);
@@ -220,14 +221,14 @@ void CDesignerDlg::LaunchPlotModule() {
     call.zeroB = call.zeroA;
     call.argument = g_EnvelopePlotArgument;
     std::string systemText;
-    switch (services::CallPlotModule("Sorvane.dll", "LaunchSorvane", call, systemText)) {
-        case services::PlotModuleResult::moduleMissing:
+    switch (CallPlotModule(call, systemText)) {
+        case PlotModuleResult::moduleMissing:
             AfxMessageBox(kNoPlotModuleText);
             break;
-        case services::PlotModuleResult::exportMissing:
+        case PlotModuleResult::exportMissing:
             AfxMessageBox(systemText);
             break;
-        case services::PlotModuleResult::called:
+        case PlotModuleResult::called:
             break;
     }
 }

@@ -8,7 +8,9 @@
 #include "framework/WholeFile.h"
 #include "session/Constants.h"
 #include "session/DesignerDlg.h"
+#include "session/ProgramFiles.h"
 #include "session/Session.h"
+#include "text/Product.h"
 
 namespace lumerin {
 
@@ -33,7 +35,7 @@ std::string HostText(const char* argument) {
 unsigned Launch(int reportFormat, const char* inputFile, const char* version, const char* textA,
                 const char* textB, const char* envelopeArgument) {
     WholeFile::BeginRun();
-    g_HostProgramPath = services::HostProgramPath();
+    g_HostProgramPath = HostProgramPath();
     TrimRightCharacters(g_HostProgramPath, g_ModuleFileName);
     g_InitialReportFormat = reportFormat;
     g_InputFilePath = TextOrEmpty(inputFile);
@@ -84,6 +86,7 @@ unsigned LaunchLumerin(int reportFormat, const char* inputFile, const char* vers
                        const char* textB, const char* envelopeArgument) {
     const RunningCall call;
     if (!call.IsFirst()) return 0u;
+    SetApplicationName(kApplicationName);
     try {
         return Launch(reportFormat, inputFile, version, textA, textB, envelopeArgument);
     } catch (...) {

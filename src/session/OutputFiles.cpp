@@ -86,18 +86,18 @@ void ReportViewerResult(int code) {
 }
 
 void ReadViewerSettings(ViewerSettings& settings) {
-    services::ReadViewerText("szHeader", kTextCapacity, settings.m_sHeader);
-    services::ReadViewerText("szTrailer", kTextCapacity, settings.m_sTrailer);
-    services::ReadViewerNumber("iMarginLeft", settings.m_nMarginLeft);
-    services::ReadViewerNumber("iMarginRight", settings.m_nMarginRight);
-    services::ReadViewerNumber("iMarginTop", settings.m_nMarginTop);
-    services::ReadViewerNumber("iMarginBottom", settings.m_nMarginBottom);
-    services::ReadViewerNumber("iPointSize", settings.m_nPointSize);
+    services::ReadUserText(kTextViewerKey, "szHeader", kTextCapacity, settings.m_sHeader);
+    services::ReadUserText(kTextViewerKey, "szTrailer", kTextCapacity, settings.m_sTrailer);
+    services::ReadUserNumber(kTextViewerKey, "iMarginLeft", settings.m_nMarginLeft);
+    services::ReadUserNumber(kTextViewerKey, "iMarginRight", settings.m_nMarginRight);
+    services::ReadUserNumber(kTextViewerKey, "iMarginTop", settings.m_nMarginTop);
+    services::ReadUserNumber(kTextViewerKey, "iMarginBottom", settings.m_nMarginBottom);
+    services::ReadUserNumber(kTextViewerKey, "iPointSize", settings.m_nPointSize);
 }
 
 std::string ReadViewerValue(const char* name) {
     int value = 0;
-    return services::ReadViewerNumber(name, value) ? std::to_string(value) : "";
+    return services::ReadUserNumber(kTextViewerKey, name, value) ? std::to_string(value) : "";
 }
 
 int ViewerFontSize() {

@@ -28,6 +28,9 @@ void StartTableBuilder(CPdfExport& table);
 // One message box for a shell code of 32 or less.
 void ReportViewerResult(int code);
 
+// The key of the text viewer's settings, which the product only reads.
+inline constexpr const char* kTextViewerKey = "SOFTWARE\\Microsoft\\Notepad";
+
 // The text viewer's page settings, as the report dialog keeps them. Values that cannot be read are unchanged.
 struct ViewerSettings {
     int m_nMarginLeft = 0, m_nMarginRight = 0, m_nMarginTop = 0, m_nMarginBottom = 0, m_nPointSize = 0;

@@ -5,6 +5,7 @@
 
 #include "framework/Backend.h"
 #include "session/Constants.h"
+#include "session/ProgramFiles.h"
 #include "text/Utf8.h"
 
 namespace lumerin {
@@ -67,13 +68,13 @@ void TrimRightCharacters(std::string& text, const std::string& characters) {
 }
 
 std::string HostProgramFolder() {
-    std::string folder = services::HostProgramPath();
+    std::string folder = HostProgramPath();
     TrimRightCharacters(folder, g_HostProgramName);
     return folder;
 }
 
 std::string ModuleFolder() {
-    std::string folder = services::ModulePath();
+    std::string folder = ModulePath();
     TrimRightCharacters(folder, g_ModuleFileName);
     return folder;
 }

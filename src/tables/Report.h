@@ -8,12 +8,12 @@
 #include <vector>
 
 #include "envelopes/ResultTables.h"
-#include "framework/Backend.h"
 #include "framework/Index.h"
 #include "model/Applicability.h"
 #include "model/CaseSelection.h"
 #include "model/DataSet.h"
 #include "results/ForceSource.h"
+#include "text/Clock.h"
 
 namespace lumerin {
 
@@ -33,8 +33,8 @@ struct ReportOptions {
     std::string projectBasePath;  // the input file without its last three characters
     std::string projectFolder;    // with its trailing separator
     std::string projectFileName;
-    int viewerFontSize = 0;                          // of the text viewer, in points; 0: not known
-    std::function<LocalTime()> now = services::Now;  // the clock of dates and stamps
+    int viewerFontSize = 0;                         // of the text viewer, in points; 0: not known
+    std::function<LocalTime()> now = DocumentTime;  // the clock of dates and stamps
 };
 
 // The rows of all substructures, read when they are asked for. A file is opened with its first row and stays

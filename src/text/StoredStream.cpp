@@ -65,7 +65,7 @@ void StoredStream::Close() {
 // Called while another failure is handled, so it must not fail.
 void StoredStream::TellFailure() const {
     try {
-        services::TellOutputFailed(m_strPath);
+        services::ReportOutputFailed(m_strPath);
     } catch (const std::exception&) {
         // There is no memory for the message either.
     }

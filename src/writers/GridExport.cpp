@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "writers/GridExport.h"
 
-#include "framework/Backend.h"
 #include "framework/Index.h"
 #include "grid/CellNumber.h"
 #include "tables/Words.h"
+#include "text/Clock.h"
 #include "text/Format.h"
 #include "text/StoredStream.h"
 #include "writers/WorkbookFrame.h"
@@ -77,7 +77,7 @@ std::string ExportGrid(const std::string& inputFile, const GridSheet& sheet, con
     const std::string cleaned = RemoveBlanks(sheet.title);
     std::string path = WorkbookPath(inputFile, cleaned);
     StoredStream out(path);
-    out << WorkbookHead(true, services::Now());
+    out << WorkbookHead(true, DocumentTime());
     WriteSheetHead(out, cleaned, sheet, grid);
     for (int row = 0; row < grid.GetRowCount(); ++row) {
         out << "    <Row>"

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "framework/headless/Headless.h"
+#include "session/OutputFiles.h"
 #include "session/ReportControls.h"
 
 namespace lumerin {
@@ -59,11 +60,11 @@ TEST(Options, FontSizeAndClockReachTheServices) {
     CommonOptions options;
     ApplyOptions(options);
     int tenths = 0;
-    EXPECT_FALSE(services::ReadViewerNumber("iPointSize", tenths));
+    EXPECT_FALSE(services::ReadUserNumber(kTextViewerKey, "iPointSize", tenths));
     options.fontSize = 12;
     options.clock = "2026-11-14T08:30:05";
     ApplyOptions(options);
-    EXPECT_TRUE(services::ReadViewerNumber("iPointSize", tenths));
+    EXPECT_TRUE(services::ReadUserNumber(kTextViewerKey, "iPointSize", tenths));
     EXPECT_EQ(tenths, 120);
     EXPECT_EQ(services::Now().minute, 30);
     options.clock = "yesterday";

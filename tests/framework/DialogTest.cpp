@@ -251,6 +251,7 @@ TEST_F(DialogTest, AFileFaultInAHandlerIsReportedAndTheDialogStaysOpen) {
         if (id == 15) throw CFileException(CFileException::badFormat, "p.PLF", "the mark is wrong");
         if (id == 14) throw std::bad_alloc();
     };
+    SetApplicationName("Test program");
     const int result = Run(dialog, [](HeadlessDialog& front) {
         EXPECT_TRUE(front.Click(15));
         EXPECT_TRUE(front.Click(14));
@@ -260,7 +261,7 @@ TEST_F(DialogTest, AFileFaultInAHandlerIsReportedAndTheDialogStaysOpen) {
     EXPECT_EQ(result, IDOK);
     ASSERT_EQ(sink.messages.size(), 2U);
     EXPECT_EQ(sink.messages[0].text, "p.PLF: the mark is wrong");
-    EXPECT_EQ(sink.messages[0].title, "Lumerin");
+    EXPECT_EQ(sink.messages[0].title, "Test program");
     EXPECT_EQ(sink.messages[1].text, "There is not enough memory for this operation.");
 }
 
@@ -295,18 +296,18 @@ TEST_F(DialogTest, WaitCursorsAreCounted) {
     EXPECT_EQ(backend::WaitCursorDepth(), 0);
 }
 
-TEST_F(DialogTest, ViewerSettingsAreAbsentUntilSet) {
+TEST_F(DialogTest, SettingsOfTheUserAreAbsentUntilSet) {
     int size = 5;
     std::string header = "kept";
-    EXPECT_FALSE(services::ReadViewerNumber("iPointSize", size));
+    EXPECT_FALSE(services::ReadUserNumber("Program", "size", size));
     EXPECT_EQ(size, 5);
-    headless::State().viewerNumbers["iPointSize"] = 120;
-    EXPECT_TRUE(services::ReadViewerNumber("iPointSize", size));
+    headless::State().userNumbers["Program"]["size"] = 120;
+    EXPECT_TRUE(services::ReadUserNumber("Program", "size", size));
     EXPECT_EQ(size, 120);
-    headless::State().viewerTexts["szHeader"] = "&f";
-    EXPECT_FALSE(services::ReadViewerText("szHeader", 2, header));  // no space for the zero
+    headless::State().userTexts["Program"]["header"] = "&f";
+    EXPECT_FALSE(services::ReadUserText("Program", "header", 2, header));  // no space for the zero
     EXPECT_EQ(header, "kept");
-    EXPECT_TRUE(services::ReadViewerText("szHeader", 3, header));
+    EXPECT_TRUE(services::ReadUserText("Program", "header", 3, header));
     EXPECT_EQ(header, "&f");
 }
 

@@ -77,7 +77,7 @@ TEST_F(JsonLinesTest, ADocumentLosesItsQuotesAndAProgramItsFolder) {
 }
 
 TEST_F(JsonLinesTest, APlotModuleCallListsItsEightArguments) {
-    lines.Module("Sorvane.dll", {1, "p_Envelopes.txt", "Shear", "STRENGTH", "5.2.1", "0", "0", "x"});
+    lines.Module("Sorvane.dll", 1, {"p_Envelopes.txt", "Shear", "STRENGTH", "5.2.1", "0", "0", "x"});
     EXPECT_EQ(
         out.str(),
         "{\"module\":\"Sorvane.dll\",\"arguments\":[1,\"p_Envelopes.txt\",\"Shear\",\"STRENGTH\",\"5.2.1\","

@@ -101,6 +101,7 @@ TEST_F(LaunchTest, APathOfThreeCharactersOpensNoProject) {
         dialog.Click(IDC_MAX_AXIAL);
         ASSERT_EQ(sink.messages.size(), 1U);
         EXPECT_EQ(sink.messages[0].text, "There is currently no input file selected.");
+        EXPECT_EQ(sink.messages[0].title, "Lumerin");
     });
 }
 

@@ -234,12 +234,12 @@ TEST_F(OutputFiles, CodesAboveTheLastAreSuccess) {
 }
 
 TEST_F(OutputFiles, ViewerSettingsThatAreThereArrive) {
-    headless::State().viewerNumbers = {{"iMarginLeft", 750},
-                                       {"iMarginRight", 751},
-                                       {"iMarginTop", 1000},
-                                       {"iMarginBottom", 1001},
-                                       {"iPointSize", 110}};
-    headless::State().viewerTexts = {{"szHeader", "&f"}, {"szTrailer", "&p"}};
+    headless::State().userNumbers[kTextViewerKey] = {{"iMarginLeft", 750},
+                                                     {"iMarginRight", 751},
+                                                     {"iMarginTop", 1000},
+                                                     {"iMarginBottom", 1001},
+                                                     {"iPointSize", 110}};
+    headless::State().userTexts[kTextViewerKey] = {{"szHeader", "&f"}, {"szTrailer", "&p"}};
     ViewerSettings settings;
     ReadViewerSettings(settings);
     EXPECT_EQ(settings.m_nMarginLeft, 750);
@@ -252,7 +252,7 @@ TEST_F(OutputFiles, ViewerSettingsThatAreThereArrive) {
 }
 
 TEST_F(OutputFiles, ViewerSettingsThatAreMissingStayAsTheyWere) {
-    headless::State().viewerNumbers = {{"iMarginTop", 5}};
+    headless::State().userNumbers[kTextViewerKey] = {{"iMarginTop", 5}};
     ViewerSettings settings{1, 2, 3, 4, 90, "trailer", "header"};
     ReadViewerSettings(settings);
     EXPECT_EQ(settings.m_nMarginLeft, 1);
@@ -264,7 +264,7 @@ TEST_F(OutputFiles, ViewerSettingsThatAreMissingStayAsTheyWere) {
 
 // A text gets four bytes, the size that the number before it has left.
 TEST_F(OutputFiles, ViewerTextsOfMoreThanThreeCharactersDoNotArrive) {
-    headless::State().viewerTexts = {{"szHeader", "Page &p"}, {"szTrailer", "abc"}};
+    headless::State().userTexts[kTextViewerKey] = {{"szHeader", "Page &p"}, {"szTrailer", "abc"}};
     ViewerSettings settings;
     ReadViewerSettings(settings);
     EXPECT_EQ(settings.m_sHeader, "");
@@ -272,20 +272,20 @@ TEST_F(OutputFiles, ViewerTextsOfMoreThanThreeCharactersDoNotArrive) {
 }
 
 TEST_F(OutputFiles, AViewerValueIsDecimalText) {
-    headless::State().viewerNumbers = {{"iPointSize", 100}};
+    headless::State().userNumbers[kTextViewerKey] = {{"iPointSize", 100}};
     EXPECT_EQ(ReadViewerValue("iPointSize"), "100");
-    headless::State().viewerNumbers["iPointSize"] = -3;
+    headless::State().userNumbers[kTextViewerKey]["iPointSize"] = -3;
     EXPECT_EQ(ReadViewerValue("iPointSize"), "-3");  // read afresh
-    headless::State().viewerNumbers.clear();
+    headless::State().userNumbers[kTextViewerKey].clear();
     EXPECT_EQ(ReadViewerValue("iPointSize"), "");
 }
 
 // The setting is in tenths of a point.
 TEST_F(OutputFiles, TheViewersFontSizeIsInWholePoints) {
     EXPECT_EQ(ViewerFontSize(), 0);
-    headless::State().viewerNumbers["iPointSize"] = 109;
+    headless::State().userNumbers[kTextViewerKey]["iPointSize"] = 109;
     EXPECT_EQ(ViewerFontSize(), 10);
-    headless::State().viewerNumbers["iPointSize"] = 140;
+    headless::State().userNumbers[kTextViewerKey]["iPointSize"] = 140;
     EXPECT_EQ(ViewerFontSize(), 14);
 }
 

@@ -301,8 +301,7 @@ TEST_F(ReportRunTest, EnvelopesCallThePlotModuleWithEightArguments) {
     headless::SetModalDriver([](HeadlessDialog& dialog) { dialog.Click(IDC_CAP_ENVELOPES); });
     LaunchLumerin(2, (base + ".in").c_str(), "5.2.1", "", "", " plot it ");
     ASSERT_EQ(sink.calls.size(), 1U);
-    EXPECT_EQ(sink.calls[0].module, "Sorvane.dll");
-    const services::PlotModuleCall& call = sink.calls[0].call;
+    const PlotModuleCall& call = sink.calls[0];
     EXPECT_EQ(call.format, 1);
     EXPECT_EQ(call.dataFile, base + "_Envelopes.txt");
     EXPECT_EQ(call.plot, "Shear");
@@ -317,14 +316,14 @@ TEST_F(ReportRunTest, EnvelopesCallThePlotModuleWithEightArguments) {
 
 TEST_F(ReportRunTest, AMissingPlotModuleIsReportedByNameOrByTheSystem) {
     const std::string base = Project("bent");
-    sink.moduleResult = services::PlotModuleResult::moduleMissing;
+    sink.moduleResult = PlotModuleResult::moduleMissing;
     sink.moduleText = "The specified procedure could not be found.";
     Launch(base + ".in", 0, [&](HeadlessDialog& dialog) {
         dialog.Click(IDC_CAP_ENVELOPES);
-        EXPECT_EQ(sink.calls.back().call.format, 0);
+        EXPECT_EQ(sink.calls.back().format, 0);
         EXPECT_EQ(sink.messages.back().text,
                   "Pier Cap Envelopes could not be displayed.  Please contact Ovrelle.");
-        sink.moduleResult = services::PlotModuleResult::exportMissing;
+        sink.moduleResult = PlotModuleResult::exportMissing;
         dialog.Click(IDC_CAP_ENVELOPES);
         EXPECT_EQ(sink.messages.back().text, "The specified procedure could not be found.");
         // A second press loads the module again.

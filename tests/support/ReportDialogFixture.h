@@ -12,6 +12,7 @@
 #include "session/Launch.h"
 #include "session/ReportControls.h"
 #include "session/Session.h"
+#include "support/ProductSink.h"
 #include "support/SampleFolder.h"
 
 namespace lumerin {
@@ -77,7 +78,7 @@ class ReportDialogTest : public testing::Test {
     }
 
     ReportState model;  // of the dialog over it
-    headless::RecordingSink sink;
+    ProductSink sink;
 
   private:
     void Install(Press press) {

@@ -8,7 +8,7 @@ namespace lumerin {
 
 namespace headless {
 
-// A plot control attaches its peer when the dialog binds it; the driver reads and clicks through the peer.
+// A graph control attaches its peer when the dialog binds it; the driver reads and clicks through the peer.
 void AttachGraph(WindowHandle window, GraphPeer& peer);
 
 }  // namespace headless

@@ -17,15 +17,15 @@
 namespace lumerin {
 
 // The backend without a screen. A window is a record of its state, and all effects outside the process
-// (message boxes, viewer starts, module calls) go to a sink. The program `lumerin` and the tests install the
-// sink and the driver that presses the dialogs' buttons.
+// (message boxes, starts of other programs) go to a sink. A program without a screen and the tests install
+// the sink and the driver that presses the dialogs' buttons.
 
 struct NativeWindow {
     const ControlSpec* spec = nullptr;  // null: the dialog itself
     NativeWindow* parent = nullptr;
     CWnd* object = nullptr;      // the object that the dialog bound to the control, if any
     GridPeer* grid = nullptr;    // of a grid control
-    GraphPeer* graph = nullptr;  // of a plot control
+    GraphPeer* graph = nullptr;  // of a graph control
     std::string text;
     bool enabled = true, visible = true, checked = false;
     std::vector<std::string> entries;  // of a combo box
@@ -67,7 +67,7 @@ class HeadlessDialog {
     bool TypeCell(int row, int column, const std::string& text);
     // The mouse on the grid and beside it.
     bool Mouse(const MouseAction& action);
-    // A click on the plot at that place of its x axis.
+    // A click on the graph at that place of its x axis.
     bool ClickGraph(double x);
     bool PressEscape();
     bool PressReturn();
@@ -96,7 +96,7 @@ struct Message {
 };
 
 // Receives all effects outside the process. The base class accepts everything silently: questions get
-// State().answer, viewer starts State().shellCode, and the plot module is present.
+// State().answer, starts of programs State().shellCode.
 class Sink {
   public:
     Sink() = default;
@@ -107,9 +107,6 @@ class Sink {
     virtual void OnDialogOpened(HeadlessDialog&) {}  // after the dialog's initialisation
     virtual MessageAnswer OnMessage(const Message& message);
     virtual int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters);
-    virtual services::PlotModuleResult OnPlotModule(const std::string& module,
-                                                    const services::PlotModuleCall& call,
-                                                    std::string& systemText);
     virtual void OnPrinterOrientation(bool /*landscape*/) {}
     virtual void OnOutputFailed(const std::string& /*path*/) {}
 };
@@ -124,15 +121,18 @@ void SetModalDriver(ModalDriver driver);
 
 // Null removes the sink. The caller owns the sink and keeps it alive while it is installed.
 void SetSink(Sink* sink);
+// The installed sink, or one that accepts everything silently.
+Sink& CurrentSink();
 
 struct Settings {
     MessageAnswer answer = MessageAnswer::yes;  // to the next questions
     int shellCode = 42;                         // any code above 32 is success
-    std::optional<LocalTime> clock;             // unset: LUMERIN_CLOCK, else the machine's clock
-    std::map<std::string, int> viewerNumbers;   // the text viewer's settings; absent by default
-    std::map<std::string, std::string> viewerTexts;
+    std::optional<LocalTime> clock;             // unset: a fixed time of the environment, else the machine's
+    // The current user's settings, by key and name; absent by default.
+    std::map<std::string, std::map<std::string, int>> userNumbers;
+    std::map<std::string, std::map<std::string, std::string>> userTexts;
     std::string clipboard;
-    std::string programPath, modulePath;  // empty: the host's and the module's names beside the program
+    std::string programPath, modulePath;  // empty: the program that runs
     ModalDriver driver;
     Sink* sink = nullptr;
     int waitCursorDepth = 0;
@@ -147,25 +147,16 @@ class RecordingSink : public Sink {
     struct ShellStart {
         std::string verb, file, parameters;
     };
-    struct ModuleCall {
-        std::string module;
-        services::PlotModuleCall call;
-    };
 
     void OnDialogOpened(HeadlessDialog& dialog) override { dialogs.push_back(dialog.Title()); }
     MessageAnswer OnMessage(const Message& message) override;
     int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters) override;
-    services::PlotModuleResult OnPlotModule(const std::string& module, const services::PlotModuleCall& call,
-                                            std::string& systemText) override;
     void OnPrinterOrientation(bool landscape) override { orientations.push_back(landscape); }
 
     std::vector<std::string> dialogs;
     std::vector<Message> messages;
     std::vector<ShellStart> starts;
-    std::vector<ModuleCall> calls;
     std::vector<bool> orientations;
-    services::PlotModuleResult moduleResult = services::PlotModuleResult::called;
-    std::string moduleText;
 };
 
 }  // namespace headless

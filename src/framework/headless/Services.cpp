@@ -5,6 +5,9 @@
 #include <array>
 #include <cstdint>
 #include <ctime>
+#include <map>
+#include <string>
+#include <utility>
 
 #include "framework/Clock.h"
 #include "framework/Index.h"
@@ -16,18 +19,22 @@ namespace lumerin {
 
 namespace {
 
-headless::Sink& CurrentSink() {
-    static headless::Sink silent;
-    headless::Sink* sink = headless::State().sink;
-    return sink == nullptr ? silent : *sink;
-}
-
-// With its trailing separator.
-std::string ProgramFolder() {
+std::string RunningProgram() {
     std::array<char, 4096> path{};
     const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
-    const std::string program(path.data(), length > 0 ? Index(length) : 0);
-    return program.substr(0, program.rfind('/') + 1);
+    return std::string(path.data(), length > 0 ? Index(length) : 0);
+}
+
+// False: there is no such value.
+template <class Value>
+bool ReadUserValue(const std::map<std::string, std::map<std::string, Value>>& settings, const char* key,
+                   const char* name, Value& value) {
+    const auto values = settings.find(key);
+    if (values == settings.end()) return false;
+    const auto found = values->second.find(name);
+    if (found == values->second.end()) return false;
+    value = found->second;
+    return true;
 }
 
 }  // namespace
@@ -42,7 +49,7 @@ void LeaveCall() noexcept {}
 
 MessageAnswer ShowMessage(const std::string& text, const std::string& title, MessageIcon icon,
                           MessageButtons buttons) {
-    return CurrentSink().OnMessage({text, title, icon, buttons});
+    return headless::CurrentSink().OnMessage({text, title, icon, buttons});
 }
 
 void BeginWaitCursor() {
@@ -63,45 +70,39 @@ int WaitCursorDepth() {
 namespace services {
 
 int ShellOpen(const std::string& verb, const std::string& file, const std::string& parameters) {
-    return CurrentSink().OnShellOpen(verb, file, parameters);
+    return headless::CurrentSink().OnShellOpen(verb, file, parameters);
 }
 
 int StartProgram(const std::string& program, const std::string& document) {
-    return CurrentSink().OnShellOpen("open", program, document);
+    return headless::CurrentSink().OnShellOpen("open", program, document);
 }
 
-// The native program is its own host and contains the module's code. Files beside host or module are looked
-// for beside the program; host and module have the file names from which the product cuts the last letters.
-std::string HostProgramPath() {
+std::string ProgramPath() {
     const std::string& path = headless::State().programPath;
-    return path.empty() ? ProgramFolder() + "Tarnsway.exe" : path;
+    return path.empty() ? RunningProgram() : path;
 }
 
 std::string ModulePath() {
     const std::string& path = headless::State().modulePath;
-    return path.empty() ? ProgramFolder() + "Lumerin.dll" : path;
+    return path.empty() ? RunningProgram() : path;
 }
 
-bool ReadViewerNumber(const char* name, int& value) {
-    const auto& numbers = headless::State().viewerNumbers;
-    const auto found = numbers.find(name);
-    if (found == numbers.end()) return false;
-    value = found->second;
+bool ReadUserNumber(const char* key, const char* name, int& value) {
+    return ReadUserValue(headless::State().userNumbers, key, name, value);
+}
+
+bool ReadUserText(const char* key, const char* name, unsigned capacity, std::string& value) {
+    std::string text;
+    if (!ReadUserValue(headless::State().userTexts, key, name, text) || text.size() + 1 > capacity)
+        return false;
+    value = std::move(text);
     return true;
 }
 
-bool ReadViewerText(const char* name, unsigned capacity, std::string& value) {
-    const auto& texts = headless::State().viewerTexts;
-    const auto found = texts.find(name);
-    if (found == texts.end() || found->second.size() + 1 > capacity) return false;
-    value = found->second;
-    return true;
-}
-
-LocalTime Now() {
+LocalTime Now(const char* fixedTimeVariable) {
     if (headless::State().clock) return *headless::State().clock;
     LocalTime now;
-    if (ReadClockFromEnvironment(now)) return now;
+    if (ReadClockFromEnvironment(fixedTimeVariable, now)) return now;
     const std::time_t seconds = std::time(nullptr);
     std::tm local{};
     if (localtime_r(&seconds, &local) == nullptr) return now;
@@ -115,17 +116,12 @@ LocalTime Now() {
     return now;
 }
 
-void TellOutputFailed(const std::string& path) {
-    CurrentSink().OnOutputFailed(path);
+void ReportOutputFailed(const std::string& path) {
+    headless::CurrentSink().OnOutputFailed(path);
 }
 
 void SetPrinterLandscape(bool landscape) {
-    CurrentSink().OnPrinterOrientation(landscape);
-}
-
-PlotModuleResult CallPlotModule(const char* module, const char* /*exportName*/, const PlotModuleCall& call,
-                                std::string& systemText) {
-    return CurrentSink().OnPlotModule(module, call, systemText);
+    headless::CurrentSink().OnPrinterOrientation(landscape);
 }
 
 bool PathsAreUtf8() {

@@ -24,17 +24,18 @@ void SetSink(Sink* sink) {
     State().sink = sink;
 }
 
+Sink& CurrentSink() {
+    static Sink silent;
+    Sink* sink = State().sink;
+    return sink == nullptr ? silent : *sink;
+}
+
 MessageAnswer Sink::OnMessage(const Message& message) {
     return message.buttons == MessageButtons::yesNo ? State().answer : MessageAnswer::ok;
 }
 
 int Sink::OnShellOpen(const std::string&, const std::string&, const std::string&) {
     return State().shellCode;
-}
-
-services::PlotModuleResult Sink::OnPlotModule(const std::string&, const services::PlotModuleCall&,
-                                              std::string&) {
-    return services::PlotModuleResult::called;
 }
 
 MessageAnswer RecordingSink::OnMessage(const Message& message) {
@@ -46,14 +47,6 @@ int RecordingSink::OnShellOpen(const std::string& verb, const std::string& file,
                                const std::string& parameters) {
     starts.push_back({verb, file, parameters});
     return Sink::OnShellOpen(verb, file, parameters);
-}
-
-services::PlotModuleResult RecordingSink::OnPlotModule(const std::string& module,
-                                                       const services::PlotModuleCall& call,
-                                                       std::string& systemText) {
-    calls.push_back({module, call});
-    systemText = moduleText;
-    return moduleResult;
 }
 
 }  // namespace headless

@@ -72,7 +72,7 @@ Handle CreateNew(const std::string& path, bool& taken) {
 Handle CreateNameless() {
     const char* folder = std::getenv("TMPDIR");
     std::string path = folder == nullptr || *folder == '\0' ? "/tmp" : folder;
-    path += "/lumerin.XXXXXX";
+    path += "/nameless.XXXXXX";
     const int file = mkostemp(path.data(), O_CLOEXEC);
     if (file < 0) return kNoHandle;
     unlink(path.c_str());

@@ -5,7 +5,7 @@ namespace lumerin {
 
 namespace {
 
-constexpr const char* kObjectProperty = "LumerinObject";
+constexpr const char* kObjectProperty = "FrameworkObject";
 
 BOOL CALLBACK UnbindControl(HWND control, LPARAM) {
     if (HANDLE property = RemovePropA(control, kObjectProperty))

@@ -11,10 +11,11 @@ namespace {
 
 constexpr std::uint32_t kNoToken = 0;
 
-std::uint32_t ReadToken() {
+constinit std::uint32_t g_driverToken = kNoToken;
+
+std::uint32_t ReadToken(const char* variable) {
     std::array<char, 16> text{};
-    const DWORD length =
-        GetEnvironmentVariableA(kDriverTokenVariable, text.data(), static_cast<DWORD>(text.size()));
+    const DWORD length = GetEnvironmentVariableA(variable, text.data(), static_cast<DWORD>(text.size()));
     if (length == 0 || length >= text.size()) return kNoToken;
     std::uint32_t token = kNoToken;
     const char* end = text.data() + length;
@@ -22,13 +23,13 @@ std::uint32_t ReadToken() {
     return fault == std::errc() && at == end ? token : kNoToken;
 }
 
-// Read when the module is loaded: the driver removes it from the environment afterwards, so that the programs
-// that the module starts do not get it.
-const std::uint32_t g_driverToken = ReadToken();
-
 }  // namespace
 
 namespace win32 {
+
+void ReadDriverToken(const char* variable) noexcept {
+    g_driverToken = ReadToken(variable);
+}
 
 bool IsFromDriver(WPARAM token) {
     return g_driverToken != kNoToken && token == g_driverToken;

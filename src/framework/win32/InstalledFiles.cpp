@@ -115,7 +115,7 @@ std::string DefaultText(HKEY root, const std::string& name, REGSAM view) {
 namespace win32 {
 
 std::string FindLibrary(const std::string& name, const std::string& excluded) {
-    const std::string host = services::HostProgramPath();
+    const std::string host = services::ProgramPath();
     for (const std::string& folder :
          {host.substr(0, host.rfind('\\') + 1), SystemFolder(), WindowsFolder()}) {
         std::string path = FileIn(folder, name);

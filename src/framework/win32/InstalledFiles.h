@@ -8,7 +8,8 @@
 namespace lumerin {
 
 // Finds programs and libraries that are installed on the machine. The platform's own searches also look into
-// the current folder, which is often the project's, and would run a program that somebody has put there.
+// the current folder, which is often that of the documents, and would run a program that somebody has put
+// there.
 namespace win32 {
 
 // Full path of a library in the host's folder, a folder of the system, or a folder of PATH. Neither the

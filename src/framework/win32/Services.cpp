@@ -11,20 +11,19 @@
 
 namespace lumerin {
 
-// Services of the platform other than windows: the shell, paths, the text viewer's settings, the clock.
+// Services of the platform other than windows: the shell, paths, settings of the user, the clock.
 
 namespace {
 
 constexpr int kProgramMissing = 2;  // the shell's code
-constexpr const char* kViewerKey = "SOFTWARE\\Microsoft\\Notepad";
 
-// The text viewer's settings of the current user. The product only reads them.
-class ViewerKey {
+// A key of the current user's settings, for reading alone.
+class UserKey {
   public:
-    ViewerKey() { RegOpenKeyExA(HKEY_CURRENT_USER, kViewerKey, 0, KEY_READ, &m_key); }
-    ViewerKey(const ViewerKey&) = delete;
-    ViewerKey& operator=(const ViewerKey&) = delete;
-    ~ViewerKey() {
+    explicit UserKey(const char* key) { RegOpenKeyExA(HKEY_CURRENT_USER, key, 0, KEY_READ, &m_key); }
+    UserKey(const UserKey&) = delete;
+    UserKey& operator=(const UserKey&) = delete;
+    ~UserKey() {
         if (m_key != nullptr) RegCloseKey(m_key);
     }
     // False: there is no such value, or it has more bytes than `size`.
@@ -62,7 +61,7 @@ int StartProgram(const std::string& program, const std::string& document) {
     return path.empty() ? kProgramMissing : ShellOpen("open", path, document);
 }
 
-std::string HostProgramPath() {
+std::string ProgramPath() {
     return PathOf(nullptr);
 }
 
@@ -70,26 +69,26 @@ std::string ModulePath() {
     return PathOf(win32::ModuleInstance());
 }
 
-bool ReadViewerNumber(const char* name, int& value) {
+bool ReadUserNumber(const char* key, const char* name, int& value) {
     DWORD number = 0;
-    if (!ViewerKey().Read(name, &number, sizeof number)) return false;
+    if (!UserKey(key).Read(name, &number, sizeof number)) return false;
     value = static_cast<int>(number);
     return true;
 }
 
-bool ReadViewerText(const char* name, unsigned capacity, std::string& value) {
+bool ReadUserText(const char* key, const char* name, unsigned capacity, std::string& value) {
     std::array<char, 260> text{};
-    if (capacity >= text.size() || !ViewerKey().Read(name, text.data(), capacity)) return false;
+    if (capacity >= text.size() || !UserKey(key).Read(name, text.data(), capacity)) return false;
     value = text.data();
     return true;
 }
 
-// The module shows no message here; engineers do not expect one.
-void TellOutputFailed(const std::string& /*path*/) {}
+// No message is shown: the user sees that no document opens.
+void ReportOutputFailed(const std::string& /*path*/) {}
 
-LocalTime Now() {
+LocalTime Now(const char* fixedTimeVariable) {
     LocalTime now;
-    if (ReadClockFromEnvironment(now)) return now;
+    if (ReadClockFromEnvironment(fixedTimeVariable, now)) return now;
     SYSTEMTIME time{};
     GetLocalTime(&time);
     now.year = time.wYear;

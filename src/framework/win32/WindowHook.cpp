@@ -9,8 +9,8 @@ namespace lumerin {
 
 namespace {
 
-constexpr const char* kTargetProperty = "LumerinTarget";
-constexpr const char* kProcedureProperty = "LumerinProcedure";
+constexpr const char* kTargetProperty = "FrameworkHookTarget";
+constexpr const char* kProcedureProperty = "FrameworkHookProcedure";
 
 WNDPROC OwnProcedure(HWND window) {
     return reinterpret_cast<WNDPROC>(GetPropA(window, kProcedureProperty));

@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include <array>
+#include "session/PlotModule.h"
 
 #include "framework/win32/InstalledFiles.h"
 #include "framework/win32/Windows32.h"
 
 namespace lumerin {
-
-// The call of the plot module's export.
 
 namespace {
 
@@ -28,14 +26,11 @@ std::string SystemText(DWORD error) {
 
 }  // namespace
 
-namespace services {
-
-PlotModuleResult CallPlotModule(const char* module, const char* exportName, const PlotModuleCall& call,
-                                std::string& systemText) {
+PlotModuleResult CallPlotModule(const PlotModuleCall& call, std::string& systemText) {
     const std::string folder = call.dataFile.substr(0, call.dataFile.find_last_of("\\/:") + 1);
-    const HMODULE library = win32::LoadFullPath(win32::FindLibrary(module, folder));
+    const HMODULE library = win32::LoadFullPath(win32::FindLibrary(kPlotModuleName, folder));
     if (library == nullptr) return PlotModuleResult::moduleMissing;
-    const FARPROC address = GetProcAddress(library, exportName);
+    const FARPROC address = GetProcAddress(library, kPlotExportName);
     if (address == nullptr) {
         systemText = SystemText(GetLastError());
         FreeLibrary(library);
@@ -47,7 +42,5 @@ PlotModuleResult CallPlotModule(const char* module, const char* exportName, cons
     // The module stays loaded: its windows stay open after the call.
     return PlotModuleResult::called;
 }
-
-}  // namespace services
 
 }  // namespace lumerin

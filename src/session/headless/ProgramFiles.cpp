@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#include "session/ProgramFiles.h"
+
+#include "framework/headless/Headless.h"
+#include "session/Constants.h"
+
+namespace lumerin {
+
+namespace {
+
+std::string BesideProgram(const char* name) {
+    const std::string program = services::ProgramPath();
+    return program.substr(0, program.rfind('/') + 1) + name;
+}
+
+}  // namespace
+
+std::string HostProgramPath() {
+    const std::string& path = headless::State().programPath;
+    return path.empty() ? BesideProgram(g_HostProgramName) : path;
+}
+
+std::string ModulePath() {
+    const std::string& path = headless::State().modulePath;
+    return path.empty() ? BesideProgram(g_ModuleFileName) : path;
+}
+
+}  // namespace lumerin
