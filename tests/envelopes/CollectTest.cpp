@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "support/Searches.h"
 
 namespace lumerin {
@@ -95,6 +97,17 @@ TEST_F(Collect, ColumnTablesBecomeInvalidWhereTheFirstPierHasNoColumns) {
         EXPECT_EQ(results.valid, AllValidBut({})) << type;
         EXPECT_EQ(results.piers[0].columnDc.At(0, 0), RecordAt(0, 0, 0, 1, kEndI)) << type;
     }
+}
+
+TEST_F(Collect, ATableThatThePassDoesNotSearchIsLeftAsItIs) {
+    AddFrame(1);  // column tables of this type become invalid where they are searched
+    const SearchPass pass({data, forces.Sources(), selection, messages}, std::array{kTablePileDc});
+    pass.Store(kTableColumnDc, results);
+    pass.Store(kTablePileForces, results);
+    EXPECT_EQ(results.valid, AllValidBut({}));
+    EXPECT_EQ(results.piers[0].pileForces.At(0, 0, 0), CMaxRecord{});
+    pass.Store(kTablePileDc, results);
+    EXPECT_EQ(results.piers[0].pileDc.At(0, 0), RecordAt(0, 0, 0, 0, kEndI));
 }
 
 TEST_F(Collect, ABadNumberInAnyPierMakesTheFamilysTablesInvalid) {

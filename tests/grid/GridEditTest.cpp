@@ -136,6 +136,21 @@ TEST_F(GridEdit, ReturnAndTheMouseStartWithTheCaretAtTheEnd) {
     EXPECT_EQ(Editor().Read().end, 3);
 }
 
+// The platform types Return, Backspace and Esc as the control characters of these keys.
+TEST_F(GridEdit, ControlCharactersCountAsTheirKeys) {
+    BuildOne(CGridCell::classCGridCell, "old");
+    m_host->TypeChar('\r');
+    ASSERT_NE(m_host->Editor(), nullptr);
+    EXPECT_EQ(Editor().Read().text, "old");
+    EXPECT_EQ(Editor().Read().start, 3);
+    Press(kKeyEscape);
+    m_host->TypeChar('\b');
+    EXPECT_EQ(Editor().Read().text, "ol");
+    Press(kKeyEscape);
+    EXPECT_FALSE(m_grid.OnChar('\x1b', {}));
+    EXPECT_FALSE(m_grid.OnChar('\t', {}));
+}
+
 TEST_F(GridEdit, BackspaceStartsAtTheEndAndDeletes) {
     BuildOne(CGridCell::classCGridCell, "old");
     Press(kKeyBackspace);
