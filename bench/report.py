@@ -48,7 +48,9 @@ def measure_project(table, build, folder, name):
                 [build / "lumerin", "report", project, "--table", "full", "--format", "text"]]
     peer = pathlib.Path(__file__).parent / "peers" / "sections.py"
     commands.append(["/usr/bin/python3", peer, plan, *files])
-    sums, stages, reports, numpy = measure.rounds(commands, ROUNDS)
+    # The verdict reads the same file; the limit is one that every project passes, for status 0.
+    commands.append([build / "lumerin", "check", "--brief", "--limit", "100", project])
+    sums, stages, reports, numpy, checks = measure.rounds(commands, ROUNDS)
     if abs(stages[0]["extremes"] - numpy[0]["extremes"]) > 1e-3:
         raise SystemExit(f"{name}: NumPy finds other extremes than the product")
     seconds = lambda run: run["seconds"]
@@ -69,6 +71,9 @@ def measure_project(table, build, folder, name):
         f"{name}: full report : (a)", f"{report / yard:.2f} x")
     table.at_least(f"{name}: (b) : full report", peer / report, 5) if big else table.line(
         f"{name}: (b) : full report", f"{peer / report:.2f} x")
+    verdict = measure.median(checks, wall) / report
+    table.at_most(f"{name}: check : full report", verdict, 1.2) if big else table.line(
+        f"{name}: check : full report", f"{verdict:.2f} x")
     table.at_most(f"{name}: peak memory", peak, 64 * 1.048576 + 200 * cases / 1e6, "MB")
     return collect, report
 

@@ -46,10 +46,10 @@ std::string ElementOf(const EndRatio& ratio) {
     return std::to_string(ratio.element) + (ratio.end == kEndI ? " I" : " J");
 }
 
-std::vector<TextTable::Column> RatioColumns(UnitSystem units, std::string_view first) {
-    std::vector<TextTable::Column> columns{{"", Align::left},         {std::string(first), Align::left},
-                                           {"D/C", Align::right},     {"place", Align::left},
-                                           {"element", Align::right}, {"case", Align::left}};
+std::vector<TextTable::Column> RatioColumns(UnitSystem units) {
+    std::vector<TextTable::Column> columns{
+        {"", Align::left},      {"sub", Align::right},     {"member", Align::left}, {"D/C", Align::right},
+        {"place", Align::left}, {"element", Align::right}, {"case", Align::left}};
     for (std::size_t i = 0; i < kForceNames.size(); ++i) {
         const Quantity quantity = i < 3 ? Quantity::force : Quantity::moment;
         columns.push_back(
@@ -58,11 +58,12 @@ std::vector<TextTable::Column> RatioColumns(UnitSystem units, std::string_view f
     return columns;
 }
 
-std::vector<std::string> RatioCells(const EndRatio& ratio, const std::string& first, double limit) {
+std::vector<std::string> RatioCells(const EndRatio& ratio, double limit) {
     const bool over = static_cast<double>(ratio.ratio) > limit;
     std::vector<std::string> cells{
         over ? "over" : "",
-        first,
+        std::to_string(ratio.substructure),
+        Spaced(ratio.family),
         RatioText(ratio.ratio, limit),
         ratio.place,
         ElementOf(ratio),
@@ -72,14 +73,13 @@ std::vector<std::string> RatioCells(const EndRatio& ratio, const std::string& fi
 }
 
 void PrintFamilies(const CheckResult& result, std::ostream& out) {
-    TextTable table(RatioColumns(result.units, "member"));
+    TextTable table(RatioColumns(result.units));
     std::string counts;
     for (const FamilyVerdict& family : result.verdict.families) {
-        const std::string name =
-            std::to_string(family.worst.substructure) + " " + Spaced(family.worst.family);
-        table.Add(RatioCells(family.worst, name, family.limit));
+        table.Add(RatioCells(family.worst, family.limit));
         if (family.endsOver == 0) continue;
-        counts += std::string(kIndent) + name + ": " + std::to_string(family.endsOver) + " of " +
+        counts += std::string(kIndent) + "substructure " + std::to_string(family.worst.substructure) + ", " +
+                  Spaced(family.worst.family) + ": " + std::to_string(family.endsOver) + " of " +
                   std::to_string(family.ends) + " element ends are over the limit\n";
     }
     table.Print(out, kIndent);
@@ -105,13 +105,9 @@ void PrintHeads(const CheckResult& result, std::ostream& out) {
 
 void PrintTop(const CheckResult& result, std::ostream& out) {
     if (result.top.empty()) return;
-    TextTable table(RatioColumns(result.units, "greatest"));
-    int rank = 0;
-    for (const EndRatio& ratio : result.top) {
-        const std::string name =
-            std::to_string(++rank) + ". " + std::to_string(ratio.substructure) + " " + Spaced(ratio.family);
-        table.Add(RatioCells(ratio, name, result.limit));
-    }
+    TextTable table(RatioColumns(result.units));
+    for (const EndRatio& ratio : result.top) table.Add(RatioCells(ratio, result.limit));
+    out << '\n' << kIndent << "the greatest ratios of element ends\n";
     table.Print(out, kIndent);
 }
 

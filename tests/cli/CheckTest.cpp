@@ -71,8 +71,8 @@ TEST_F(CheckTest, OverTheLimitIsStatusOneAndMarked) {
     const Outcome outcome = Check(request, {project.Base() + ".in"});
     EXPECT_EQ(outcome.status, kExitIncomplete);
     EXPECT_THAT(outcome.out, HasSubstr("  FAIL  D/C 0.875"));
-    EXPECT_THAT(outcome.out, HasSubstr("  over  1 pile"));
-    EXPECT_THAT(outcome.out, HasSubstr("1 pile: 1 of 8 element ends are over the limit"));
+    EXPECT_THAT(outcome.out, HasSubstr("  over    1  pile "));
+    EXPECT_THAT(outcome.out, HasSubstr("substructure 1, pile: 1 of 8 element ends are over the limit"));
 }
 
 // 1.0000001 is over a limit of 1, and three decimals would say 1.000.
