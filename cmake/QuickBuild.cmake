@@ -19,9 +19,11 @@ target_compile_options(lumerin-precompiled INTERFACE
 # Sources of one target in one compilation must not have the same local name; those that have are listed here.
 set(LUMERIN_ALONE
     samples/Project.cpp
-    src/cli/Viewer.cpp
+    src/cli/InfoPrint.cpp src/cli/Options.cpp src/cli/Viewer.cpp
     src/embedment/dialog/MPTEDlg.cpp src/embedment/dialog/MPTEPlot.cpp
     src/grid/GridLayout.cpp
+    src/records/ElementRecords.cpp src/records/ModelRecords.cpp src/records/SectionRecords.cpp
+    src/records/StudyRecords.cpp src/records/VerdictRecords.cpp
     src/results/ReadData.cpp
     src/session/DesignerDlg.cpp
     src/tables/EnvelopeFile.cpp src/tables/Words.cpp
@@ -32,6 +34,10 @@ set(LUMERIN_ALONE
     tests/text/TwelveDecimalsTest.cpp
     tests/writers/SheetMaxAxialTest.cpp)
 list(TRANSFORM LUMERIN_ALONE PREPEND ${CMAKE_SOURCE_DIR}/)
+
+# For sources that read a command line. CLI11 is all templates, which run once and cost more to optimise than the rest of
+# a library.
+set(LUMERIN_PARSER_OPTIONS $<IF:$<OR:$<BOOL:${LUMERIN_SANITIZE}>,$<CONFIG:Debug>>,-O0,-O1>)
 
 # lumerin_quick_build(TARGET): compiles the target's sources by sixes where LUMERIN_UNITY is on.
 function(lumerin_quick_build target)

@@ -43,9 +43,10 @@ class Identifier {
         AddMembers();
         AddOthers();
         std::ranges::stable_sort(m_found, {}, &ElementIdentity::record);
-        const auto repeated = std::ranges::unique(
-            m_found, [](const ElementIdentity& a, const ElementIdentity& b) { return a.record == b.record; });
-        m_found.erase(repeated.begin(), repeated.end());
+        const auto sameRecord = [](const ElementIdentity& a, const ElementIdentity& b) {
+            return a.record == b.record;
+        };
+        m_found.erase(std::unique(m_found.begin(), m_found.end(), sameRecord), m_found.end());
         m_found.insert(m_found.end(), m_masked.begin(), m_masked.end());
         return std::move(m_found);
     }
