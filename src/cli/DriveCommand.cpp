@@ -88,7 +88,7 @@ ExitStatus DriveScript(const DriveOptions& options, const std::string& script, s
         PrintLine(err, "lumerin: " + path + " could not be written whole");
     }
     if (!allLoaded) return kExitNotLoaded;
-    return driver.FailedOutputs().empty() ? kExitDone : kExitIncomplete;
+    return driver.FailedOutputs().empty() && !driver.HasRefused() ? kExitDone : kExitIncomplete;
 }
 
 namespace {
@@ -101,8 +101,9 @@ constexpr const char* kDriveFooter =
     "PageUp, PageDown, with Ctrl+ and Shift+ before them, Ctrl+A, Ctrl+C, Ctrl+V, Ctrl+X. Keys and\n"
     "texts go to the control that has the focus; where prints it. The mouse can move, press, release,\n"
     "click, double, right (click), wheel N and scroll PART on the grid: mouse click Shift 3 1.\n\n"
-    "Prints what happens as JSON, one object a line. Exit status: 0 done, 2 wrong usage or a line that is\n"
-    "no action, 3 the project could not be loaded (the script is played all the same).";
+    "Prints what happens as JSON, one object a line. Exit status: 0 done, 1 an action was refused or a\n"
+    "file could not be written whole, 2 wrong usage or a line that is no action, 3 the project could not\n"
+    "be loaded (the script is played all the same).";
 
 }  // namespace
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "cli/Options.h"
+#include "cli/Suggest.h"
 
 namespace lumerin {
 
@@ -30,6 +31,19 @@ void AddCapacity(CLI::App& command, const std::string& option, std::optional<dou
         ->type_name("FORCE");
 }
 
+// As ReadClasses, with the nearest class for a wrong word.
+void ReadKnownClasses(const std::string& text, CaseChoice& cases) {
+    const std::vector<std::string> names = {
+        "strength", "service", "extreme", "fatigue", "load factor design", "service load design"};
+    for (const std::string& part : SplitList(text)) {
+        try {
+            ReadClasses(part, cases);
+        } catch (const std::invalid_argument& fault) {
+            throw std::invalid_argument(fault.what() + Suggestion(part, names));
+        }
+    }
+}
+
 }  // namespace
 
 void AddCaseOptions(CLI::App& command, CaseChoice& cases) {
@@ -47,7 +61,7 @@ void AddCaseOptions(CLI::App& command, CaseChoice& cases) {
         .add_option_function<std::vector<std::string>>(
             "--class",
             [&cases](const std::vector<std::string>& texts) {
-                for (const std::string& text : texts) ReadClasses(text, cases);
+                for (const std::string& text : texts) ReadKnownClasses(text, cases);
             },
             "Consider the cases of these limit classes alone, such as strength,service")
         ->allow_extra_args(false)

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <stdexcept>
 
+#include "cli/Suggest.h"
 #include "framework/Clock.h"
 #include "framework/headless/Headless.h"
 #include "session/Constants.h"
@@ -17,45 +18,26 @@ namespace {
 
 constexpr int kTenthsOfAPoint = 10;  // the text viewer keeps its font size so
 
-std::vector<std::string_view> SplitList(std::string_view text) {
-    std::vector<std::string_view> parts;
-    for (std::size_t from = 0; from <= text.size();) {
-        const std::size_t comma = std::min(text.find(',', from), text.size());
-        parts.push_back(text.substr(from, comma - from));
-        from = comma + 1;
-    }
-    return parts;
-}
-
-int CaseNumber(std::string_view text) {
-    int number = 0;
-    const char* end = text.data() + text.size();
-    const auto [at, fault] = std::from_chars(text.data(), end, number);
-    if (fault != std::errc() || at != end || number < 1) {
-        throw std::invalid_argument("\"" + std::string(text) + "\" is not the number of a case");
-    }
-    return number;
-}
-
-struct NamedButton {
-    const char* name;
-    int button;
+constexpr TableName kTables[] = {
+    {"axial", IDC_MAX_AXIAL, kTableMaxAxial},
+    {"pile-dc", IDC_PILE_DC, kTablePileDc},
+    {"column-dc", IDC_COLUMN_DC, kTableColumnDc},
+    {"cap-shear", IDC_CAP_SHEAR, kTableCapShear},
+    {"cap-moment", IDC_CAP_MOMENT, kTableCapMoment},
+    {"pile-forces", IDC_PILE_FORCES, kTablePileForces},
+    {"column-forces", IDC_COLUMN_FORCES, kTableColumnForces},
+    {"extra-members", IDC_EXTRA_MEMBERS, kTableExtraMembers},
+    {"pile-heads", IDC_PILE_HEADS, kTablePileHeads, kFormatSpreadsheet},
+    {"title", IDC_TITLE_PAGE, kTableTitlePage},
+    {"envelopes", IDC_CAP_ENVELOPES, kTableCapShear, kFormatEnvelopes},
+    {"full", IDC_FULL_REPORT, kTableFullReport},
 };
 
-constexpr NamedButton kTables[] = {
-    {"axial", IDC_MAX_AXIAL},
-    {"pile-dc", IDC_PILE_DC},
-    {"column-dc", IDC_COLUMN_DC},
-    {"cap-shear", IDC_CAP_SHEAR},
-    {"cap-moment", IDC_CAP_MOMENT},
-    {"pile-forces", IDC_PILE_FORCES},
-    {"column-forces", IDC_COLUMN_FORCES},
-    {"extra-members", IDC_EXTRA_MEMBERS},
-    {"pile-heads", IDC_PILE_HEADS},
-    {"title", IDC_TITLE_PAGE},
-    {"envelopes", IDC_CAP_ENVELOPES},
-    {"full", IDC_FULL_REPORT},
-};
+std::vector<std::string> AllTableNames() {
+    std::vector<std::string> names;
+    for (const TableName& table : kTables) names.emplace_back(table.name);
+    return names;
+}
 
 }  // namespace
 
@@ -71,34 +53,21 @@ void ApplyOptions(const CommonOptions& options) {
     state.clock = time;
 }
 
-CaseRanges ReadCases(std::string_view text) {
-    CaseRanges ranges;
-    for (const std::string_view part : SplitList(text)) {
-        const std::size_t dash = part.find('-');
-        const int first = CaseNumber(part.substr(0, dash));
-        const int last = dash == std::string_view::npos ? first : CaseNumber(part.substr(dash + 1));
-        if (last < first) throw std::invalid_argument("the range " + std::string(part) + " runs backwards");
-        ranges.emplace_back(first, last);
+std::vector<std::string> SplitList(std::string_view text) {
+    std::vector<std::string> parts;
+    for (std::size_t from = 0; from <= text.size();) {
+        const std::size_t comma = std::min(text.find(',', from), text.size());
+        parts.emplace_back(text.substr(from, comma - from));
+        from = comma + 1;
     }
-    return ranges;
-}
-
-bool HoldsCase(const CaseRanges& cases, int number) {
-    return std::any_of(cases.begin(), cases.end(), [number](const auto& range) {
-        return range.first <= number && number <= range.second;
-    });
-}
-
-int LastCase(const CaseRanges& cases) {
-    int last = 0;
-    for (const auto& range : cases) last = std::max(last, range.second);
-    return last;
+    return parts;
 }
 
 FooterChoice ReadFooter(std::string_view text) {
     FooterChoice parts{false, false, false, false};
-    if (text == "none") return parts;
-    for (const std::string_view part : SplitList(text)) {
+    if (LowerCase(text) == "none") return parts;
+    for (const std::string& given : SplitList(text)) {
+        const std::string part = LowerCase(given);
         if (part == "date") {
             parts.date = true;
         } else if (part == "time") {
@@ -108,17 +77,21 @@ FooterChoice ReadFooter(std::string_view text) {
         } else if (part == "filename") {
             parts.fileName = true;
         } else {
-            throw std::invalid_argument("\"" + std::string(part) + "\" is no part of a footer");
+            throw std::invalid_argument("\"" + given + "\" is no part of a footer" +
+                                        Suggestion(given, {"date", "time", "version", "filename"}) +
+                                        " (date, time, version, filename, or none)");
         }
     }
     return parts;
 }
 
 int ReadFormat(std::string_view text) {
-    if (text == "text") return kFormatText;
-    if (text == "pdf") return kFormatPdf;
-    if (text == "excel") return kFormatSpreadsheet;
-    throw std::invalid_argument("\"" + std::string(text) + "\" is no format (text, pdf, excel)");
+    const std::string word = LowerCase(text);
+    if (word == "text") return kFormatText;
+    if (word == "pdf") return kFormatPdf;
+    if (word == "excel") return kFormatSpreadsheet;
+    throw std::invalid_argument("\"" + std::string(text) + "\" is no format" +
+                                Suggestion(text, {"text", "pdf", "excel"}) + " (text, pdf, excel)");
 }
 
 int ReadStartFormat(std::string_view text) {
@@ -136,16 +109,28 @@ std::string LowerCase(std::string_view text) {
     return lower;
 }
 
-int TableButton(std::string_view name) {
-    for (const NamedButton& table : kTables) {
-        if (name == table.name) return table.button;
+const TableName* FindTableName(std::string_view name) {
+    const std::string word = LowerCase(name);
+    for (const TableName& table : kTables) {
+        if (word == table.name) return &table;
     }
-    return 0;
+    return nullptr;
+}
+
+const TableName& ReadTable(std::string_view text) {
+    if (const TableName* table = FindTableName(text)) return *table;
+    throw std::invalid_argument("\"" + std::string(text) + "\" is no table" +
+                                Suggestion(text, AllTableNames()) + " (" + TableNames() + ")");
+}
+
+int TableButton(std::string_view name) {
+    const TableName* table = FindTableName(name);
+    return table == nullptr ? 0 : table->button;
 }
 
 std::string TableNames() {
     std::string names;
-    for (const NamedButton& table : kTables) {
+    for (const TableName& table : kTables) {
         if (!names.empty()) names += ", ";
         names += table.name;
     }

@@ -3,8 +3,9 @@
 
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
+
+#include "model/Types.h"
 
 namespace lumerin {
 
@@ -19,24 +20,33 @@ struct CommonOptions {
 // Sets font size and clock of the services.
 void ApplyOptions(const CommonOptions& options);
 
-// Numbers of cases from 1, as ranges of first and last.
-using CaseRanges = std::vector<std::pair<int, int>>;
-CaseRanges ReadCases(std::string_view text);  // "1,3,5-9"
-bool HoldsCase(const CaseRanges& cases, int number);
-int LastCase(const CaseRanges& cases);
-
 struct FooterChoice {
     bool date = true, time = true, version = true, fileName = true;
 };
 FooterChoice ReadFooter(std::string_view text);  // "none", or a list of date, time, version, filename
 
-int ReadFormat(std::string_view text);  // text, pdf, excel: the number of the format
+// text, pdf, excel, in letters of either case: the number of the format.
+int ReadFormat(std::string_view text);
 // The same, or any number, as a host might pass it.
 int ReadStartFormat(std::string_view text);
 
+// The parts of a list between commas.
+std::vector<std::string> SplitList(std::string_view text);
 // With lower case letters in place of A to Z.
 std::string LowerCase(std::string_view text);
 
+// A table of the report dialog by its short name.
+struct TableName {
+    const char* name;
+    int button;
+    TableId table;
+    int kind =
+        -1;  // of its file where every format makes the same one (ReportFormat); -1: that of the format
+};
+// Null: there is no such table.
+const TableName* FindTableName(std::string_view name);
+// The table of a word of the user. Throws std::invalid_argument with the nearest name.
+const TableName& ReadTable(std::string_view text);
 // The report dialog's button of a table's short name; 0 when there is no such table.
 int TableButton(std::string_view name);
 std::string TableNames();  // for the help text

@@ -2,10 +2,13 @@
 #include "cli/ReportCommand.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 
 #include "cli/CommonArguments.h"
+#include "cli/EvaluationArguments.h"
+#include "cli/ProjectArguments.h"
 #include "cli/ReportDriver.h"
 
 namespace lumerin {
@@ -14,28 +17,75 @@ namespace {
 
 struct ReportArguments {
     ReportRequest request;
-    std::vector<std::string> formats;
-    std::string cases, footer;
+    ProjectArguments projects;
+    std::vector<std::string> tables, formats;
+    std::string footer;
 };
 
 constexpr const char* kReportFooter =
-    "Prints the path of each file that was written. Exit status: 0 done, 1 a table does not apply, has\n"
-    "nothing to show or could not be written whole, or a project was loaded with a message, 2 wrong\n"
-    "usage, 3 a project could not be loaded or its force file changed during the run (the others are\n"
-    "done all the same).";
+    "Examples:\n"
+    "  lumerin report bridge.in\n"
+    "  lumerin report bridge --table axial,pile-dc --format pdf -o reports\n"
+    "  lumerin report bridge --table cap-moment --class strength -o - | less\n"
+    "  lumerin report --files-from projects.txt --name '{project}-{table}' --json\n"
+    "\n"
+    "Prints the path of each file that was written; messages and findings go to standard error. No status "
+    "keeps the other formats and projects from being done. Of several statuses the first of 2, 3, 4, 1, 0 is "
+    "that of the program.\n"
+    "\n"
+    "Exit status:\n"
+    "  0  done\n"
+    "  1  a table does not apply, has nothing to show or could not be written\n"
+    "     whole, or a project was loaded with a message\n"
+    "  2  wrong usage\n"
+    "  3  a project could not be loaded, or its force file changed meanwhile\n"
+    "  4  the data of a project have errors (its files are written all the\n"
+    "     same, unless --strict is given)";
+
+// The options that say where documents go.
+void AddOutputOptions(CLI::App& command, ReportRequest& request) {
+    command
+        .add_option("-o,--output", request.output.folder,
+                    "Write the files to this folder, which is made if it is missing; - writes one document "
+                    "to standard output")
+        ->type_name("DIR");
+    command
+        .add_option("--name", request.output.name,
+                    "Name the files after this pattern of {project} and {table}; the extension is added")
+        ->type_name("PATTERN");
+    command.add_flag("--json", request.json,
+                     "Print one record a project: status, files, findings, messages, milliseconds");
+    command.add_flag("--open", request.open, "Open each file that was written");
+}
+
+std::vector<std::string> PartsOf(const std::vector<std::string>& lists) {
+    std::vector<std::string> parts;
+    for (const std::string& list : lists) {
+        for (std::string& part : SplitList(list)) parts.push_back(std::move(part));
+    }
+    return parts;
+}
+
+template <class Value>
+void AddOnce(std::vector<Value>& values, Value value) {
+    if (std::find(values.begin(), values.end(), value) == values.end()) values.push_back(std::move(value));
+}
 
 ExitStatus RunReport(ReportArguments& arguments, std::ostream& out, std::ostream& err) {
     ReportRequest& request = arguments.request;
-    for (const std::string& format : arguments.formats) request.formats.push_back(ReadFormat(format));
+    for (const std::string& word : PartsOf(arguments.formats)) AddOnce(request.formats, ReadFormat(word));
+    for (const std::string& word : PartsOf(arguments.tables)) {
+        AddOnce(request.tables, std::string(ReadTable(word).name));
+    }
     if (request.formats.empty()) request.formats.push_back(ReadFormat("text"));
     if (request.tables.empty()) request.tables.emplace_back("full");
-    for (const std::string& table : request.tables) {
-        if (TableButton(table) == 0) {
-            throw std::invalid_argument("\"" + table + "\" is no table (" + TableNames() + ")");
-        }
-    }
-    if (!arguments.cases.empty()) request.cases = ReadCases(arguments.cases);
     if (!arguments.footer.empty()) request.footer = ReadFooter(arguments.footer);
+    if (request.json && request.output.ToStandardOutput()) {
+        throw std::invalid_argument("--json and -o - both write to standard output");
+    }
+    for (const ProjectName& project : ReadProjects(arguments.projects)) {
+        request.projects.push_back(project.inputFile);
+    }
     ApplyOptions(request.common);
     return RunReports(request, out, err);
 }
@@ -44,17 +94,28 @@ ExitStatus RunReport(ReportArguments& arguments, std::ostream& out, std::ostream
 
 ProgramCommand AddReportCommand(CLI::App& program) {
     const auto arguments = std::make_shared<ReportArguments>();
+    ReportRequest& request = arguments->request;
     CLI::App& command = *program.add_subcommand("report", "Write tables of one or more projects");
-    command.add_option("PROJECT", arguments->request.projects, "Input file of a project (.in)")->required();
-    command.add_option("--table", arguments->request.tables, "A table: " + TableNames() + " (default full)")
-        ->allow_extra_args(false);
-    command.add_option("--format", arguments->formats, "text, pdf or excel (default text)")
-        ->allow_extra_args(false);
-    command.add_option("--cases", arguments->cases, "Consider these cases alone, such as 1,3,5-9");
-    command.add_option("--footer", arguments->footer,
-                       "none, or a list of date,time,version,filename (default all)");
-    command.add_flag("--open", arguments->request.open, "Open each file that was written");
-    AddCommonOptions(command, arguments->request.common);
+    AddProjectArguments(command, arguments->projects);
+    command
+        .add_option(
+            "--table", arguments->tables,
+            "Tables, separated by commas or with the option repeated: " + TableNames() + " (default full)")
+        ->allow_extra_args(false)
+        ->type_name("LIST");
+    command.add_option("--format", arguments->formats, "Formats, likewise: text, pdf, excel (default text)")
+        ->allow_extra_args(false)
+        ->type_name("LIST");
+    AddCaseOptions(command, request.cases);
+    command
+        .add_option("--footer", arguments->footer,
+                    "none, or a list of date,time,version,filename (default all)")
+        ->type_name("LIST");
+    AddOutputOptions(command, request);
+    command.add_flag("--findings", request.findings,
+                     "Look for faults in the forces, although no table needs them");
+    command.add_flag("--strict", request.strict, "Write nothing for a project whose data have errors");
+    AddCommonOptions(command, request.common);
     command.footer(kReportFooter);
     return {&command,
             [arguments](std::ostream& out, std::ostream& err) { return RunReport(*arguments, out, err); }};

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ReportDriver.h"
 
-#include <algorithm>
+#include <filesystem>
+#include <stdexcept>
+#include <utility>
 
 #include "cli/ScriptDriver.h"
+#include "cli/Terminal.h"
 #include "cli/Viewer.h"
 #include "script/Border.h"
 #include "session/Constants.h"
 #include "session/DesignerDlg.h"
 #include "session/Launch.h"
+#include "session/OutputFiles.h"
 #include "session/ReportControls.h"
 
 namespace lumerin {
@@ -18,29 +22,47 @@ namespace {
 constexpr int kIncludeColumn = 1;  // of the load case grid
 constexpr int kFormatButtons[] = {IDC_FORMAT_EXCEL, IDC_FORMAT_PDF, IDC_FORMAT_TEXT};  // by ReportFormat
 
+// The line with its severity in a colour.
+std::string PaintedLine(const Finding& finding, const std::ostream& err) {
+    const std::string line = LineOf(finding);
+    const std::string word(SeverityName(finding.severity));
+    if (!line.starts_with(word)) return line;
+    return Painted(word, finding.severity == Severity::error ? Paint::red : Paint::yellow, err) +
+           line.substr(word.size());
+}
+
 }  // namespace
 
-ReportDriver::ReportDriver(const ReportRequest& options, std::ostream& out, std::ostream& err)
-    : m_options(options), m_out(out), m_err(err) {}
+ReportDriver::ReportDriver(const ReportRequest& options, const ProjectName& project, std::string place,
+                           std::ostream& out, std::ostream& err)
+    : m_options(options), m_project(project), m_sPlace(std::move(place)), m_out(out), m_err(err) {}
 
-ExitStatus ReportDriver::Run(const std::string& project, int format) {
-    m_sProject = project;
+ExitStatus ReportDriver::Run(int format) {
     m_nFormat = format;
     m_nMessages = 0;
     m_bCasesChosen = false;
     m_sCasesFault = "the dialog offers no choice of cases";
     m_status = kExitDone;
-    m_progress.emplace(m_err, "Loading " + ForUser(project));
+    m_progress.emplace(m_err, m_sPlace + "Loading " + ForUser(m_project.inputFile));
     headless::SetSink(this);
     headless::SetModalDriver([this](headless::HeadlessDialog& dialog) {
         m_progress.reset();
         Drive(dialog);
     });
-    LaunchLumerin(format, project.c_str(), m_options.common.version.c_str(), "", "", "");
+    std::optional<OutputNaming> naming;
+    if (!m_options.output.IsUsual()) {
+        naming.emplace([this](const std::string& path) { return PathOfPress(path); });
+    }
+    LaunchLumerin(format, m_project.inputFile.c_str(), m_options.common.version.c_str(), "", "", "");
     headless::SetModalDriver(nullptr);
     headless::SetSink(nullptr);
     m_progress.reset();
+    m_report.status = Worse(m_report.status, m_status);
     return m_status;
+}
+
+std::string ReportDriver::PathOfPress(const std::string& path) const {
+    return PathOf(m_options.output, {m_project.basePath, m_sTable, path});
 }
 
 void ReportDriver::Worsen(ExitStatus status) {
@@ -49,7 +71,8 @@ void ReportDriver::Worsen(ExitStatus status) {
 
 void ReportDriver::Say(const std::string& text) {
     m_progress.reset();
-    PrintLine(m_err, text);
+    m_report.messages.push_back(ForUser(text));
+    PrintLine(m_err, m_project.inputFile + ": " + text);
 }
 
 void ReportDriver::Drive(headless::HeadlessDialog& dialog) {
@@ -67,15 +90,19 @@ void ReportDriver::DriveReport(headless::HeadlessDialog& dialog, CDesignerDlg& r
     }
     // A message during the load means that the data are incomplete.
     if (m_nMessages > 0) Worsen(kExitIncomplete);
+    CheckFiles(report.State());
     SetFooter(dialog);
-    if (!m_options.cases.empty()) {
-        dialog.Click(IDC_CUSTOM_CASES);
-        dialog.Click(IDC_CHOOSE_CASES);
-        if (!m_bCasesChosen) {
-            if (!m_sCasesFault.empty()) Say(m_sProject + ": " + m_sCasesFault);
-            Worsen(kExitUsage);
-            return;
-        }
+    NoteTables(dialog);
+    if (!ChooseCases(dialog)) return;
+    if (m_options.findings || m_options.strict) {
+        m_progress.emplace(m_err, m_sPlace + "Reading the forces of " + ForUser(m_project.inputFile));
+        dialog.Run([&report] { RequirePass(report.State()); });
+        m_progress.reset();
+    }
+    CheckForces(report.State());
+    if (m_options.strict && HasError(m_report.findings)) {
+        Say("nothing is written, because the data have errors");
+        return;
     }
     for (const std::string& table : m_options.tables) {
         PressTable(dialog, report, table);
@@ -84,6 +111,41 @@ void ReportDriver::DriveReport(headless::HeadlessDialog& dialog, CDesignerDlg& r
         Worsen(kExitNotLoaded);
         return;
     }
+    CheckForces(report.State());
+}
+
+void ReportDriver::CheckFiles(const ReportState& state) {
+    if (!std::exchange(m_bFilesChecked, true)) {
+        AddFindings(FindInFiles(m_project.basePath, SessionProject(), state.forces));
+        AddFindings(FindInStudy(m_project.inputFile));
+    }
+    if (HasError(m_report.findings)) Worsen(kExitUnsound);
+}
+
+void ReportDriver::CheckForces(const ReportState& state) {
+    if (m_bForcesChecked || state.pass == nullptr) return;
+    m_bForcesChecked = true;
+    AddFindings(FindInForces(SessionProject(), state.forces, state.pass->Finite()));
+    if (HasError(m_report.findings)) Worsen(kExitUnsound);
+}
+
+void ReportDriver::AddFindings(const std::vector<Finding>& findings) {
+    for (const Finding& finding : findings) {
+        m_report.findings.push_back(finding);
+        if (finding.severity == Severity::note) continue;
+        m_progress.reset();
+        m_err << ForUser(m_project.inputFile) << ": " << PaintedLine(finding, m_err) << std::endl;
+    }
+}
+
+bool ReportDriver::ChooseCases(headless::HeadlessDialog& dialog) {
+    if (m_options.cases.IsAll()) return true;
+    dialog.Click(IDC_CUSTOM_CASES);
+    dialog.Click(IDC_CHOOSE_CASES);
+    if (m_bCasesChosen) return true;
+    if (!m_sCasesFault.empty()) Say(m_sCasesFault);
+    Worsen(kExitUsage);
+    return false;
 }
 
 void ReportDriver::SetFooter(headless::HeadlessDialog& dialog) {
@@ -101,46 +163,67 @@ void ReportDriver::SetFooter(headless::HeadlessDialog& dialog) {
 void ReportDriver::DriveCases(headless::HeadlessDialog& dialog) {
     const NativeWindow* control = dialog.FindKind(ControlKind::grid);
     if (control == nullptr || control->grid == nullptr) return;
-    const int cases = control->grid->RowCount() - 1;
-    if (LastCase(m_options.cases) > cases) {
-        m_sCasesFault = "there is no case " + std::to_string(LastCase(m_options.cases)) +
-                        ", the project has " + std::to_string(std::max(cases, 0));
+    CaseSelection selection;
+    try {
+        selection = Select(SessionProject(), m_options.cases);
+    } catch (const std::invalid_argument& fault) {
+        m_sCasesFault = fault.what();
         return;
     }
     m_sCasesFault = "the dialog of the load cases does not accept the choice";
     dialog.Click(IDC_CASES_NONE);
-    for (int row = 1; row <= cases; ++row) {
-        if (HoldsCase(m_options.cases, row)) dialog.TypeCell(row, kIncludeColumn, "1");
+    for (int row = 1; row < control->grid->RowCount(); ++row) {
+        if (selection.IsFirstPierCaseSelected(SessionProject(), row - 1)) {
+            dialog.TypeCell(row, kIncludeColumn, "1");
+        }
     }
     dialog.Click(IDOK);
     m_bCasesChosen = !dialog.IsOpen();
 }
 
+void ReportDriver::NoteTables(const headless::HeadlessDialog& dialog) {
+    m_offered.clear();
+    for (const std::string& table : m_options.tables) {
+        const NativeWindow* button = dialog.Find(TableButton(table));
+        if (button != nullptr && button->enabled && button->visible) m_offered.insert(table);
+    }
+}
+
 void ReportDriver::PressTable(headless::HeadlessDialog& dialog, CDesignerDlg& report,
                               const std::string& table) {
+    m_sTable = table;
     m_sWritten.clear();
     m_sFailed.clear();
-    m_progress.emplace(m_err, "Writing the table " + table + " of " + ForUser(m_sProject));
+    m_progress.emplace(m_err,
+                       m_sPlace + "Writing the table " + table + " of " + ForUser(m_project.inputFile));
     const bool pressed = dialog.Click(TableButton(table));
     m_progress.reset();
     if (!pressed) {
-        Say(m_sProject + ": the table " + table + " does not apply to this project");
+        Say("the table " + table +
+            (m_offered.contains(table) ? " has no cases among the chosen ones"
+                                       : " does not apply to this project"));
         Worsen(kExitIncomplete);
         return;
     }
     if (m_sWritten.empty() || !m_sFailed.empty()) Worsen(kExitIncomplete);
     if (!m_sFailed.empty()) {
-        Say(m_sProject + ": the table " + table + " could not be written whole: " + m_sFailed);
+        const std::string why = WriteFault(m_sFailed);
+        Say("the table " + table + " could not be written whole: " + (why.empty() ? m_sFailed : why));
     } else if (!m_sWritten.empty()) {
-        m_out << m_sWritten << std::endl;
+        NoteWritten();
     }
     // The table of the pile heads changes the format to the spreadsheet, and it stays so.
     if (report.m_nFormat != m_nFormat) dialog.Click(kFormatButtons[m_nFormat]);
 }
 
+void ReportDriver::NoteWritten() {
+    m_report.files.push_back(m_sWritten);
+    if (!m_options.json && !m_options.output.ToStandardOutput()) m_out << m_sWritten << std::endl;
+}
+
 MessageAnswer ReportDriver::OnMessage(const headless::Message& message) {
     ++m_nMessages;
-    if (message.buttons == MessageButtons::ok) Say(m_sProject + ": " + message.text);
+    if (message.buttons == MessageButtons::ok) Say(message.text);
     return Sink::OnMessage(message);
 }
 
@@ -149,10 +232,13 @@ void ReportDriver::OnOutputFailed(const std::string& path) {
 }
 
 int ReportDriver::OnShellOpen(const std::string&, const std::string& file, const std::string& parameters) {
+    constexpr int kShellSuccess = 42;
+    // A file that was not written is not shown: an earlier file of that name has other numbers. Why it was
+    // not written is said better than by a viewer that does not find it.
+    if (!m_sFailed.empty()) return kShellSuccess;
     const int code = ShellCodeOfDocument(file, parameters);
     const std::string document = OpenedDocument(file, parameters);
-    // A file that was not written is not shown: an earlier file of that name has other numbers.
-    if (code <= 32 || !m_sFailed.empty() || !IsDocumentThere(document)) return code;
+    if (code <= 32 || !IsDocumentThere(document)) return code;
     m_sWritten = document;
     return m_options.open ? StartViewer(m_sWritten) : code;
 }
@@ -160,20 +246,6 @@ int ReportDriver::OnShellOpen(const std::string&, const std::string& file, const
 PlotModuleResult ReportDriver::OnPlotModule(const PlotModuleCall& call, std::string&) {
     m_sWritten = call.dataFile;
     return PlotModuleResult::called;
-}
-
-ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostream& err) {
-    ExitStatus worst = kExitDone;
-    for (const std::string& project : options.projects) {
-        const SharedLoad shared;
-        for (const int format : options.formats) {
-            ReportDriver driver(options, out, err);
-            const ExitStatus status = driver.Run(project, format);
-            worst = Worse(worst, status);
-            if (status >= kExitUsage) break;
-        }
-    }
-    return worst;
 }
 
 }  // namespace lumerin

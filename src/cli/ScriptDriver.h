@@ -28,6 +28,8 @@ class ScriptDriver : public headless::Sink, public PlotModuleSink {
     // The first action for which no dialog was open; null when all were played.
     const ScriptAction* FirstLeftOver() const;
 
+    // Whether an action was refused, in any call.
+    bool HasRefused() const { return m_lines.HasRefused(); }
     // Files that could not be written whole, in order.
     const std::vector<std::string>& FailedOutputs() const { return m_FailedOutputs; }
 

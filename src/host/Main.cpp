@@ -29,7 +29,7 @@ namespace {
 
 constexpr const char* kViewerKey = "SOFTWARE\\Microsoft\\Notepad";
 constexpr UINT kTickMilliseconds = 10;
-enum HostExit { kDone = 0, kUsage = 2, kBroken = 3 };
+enum HostExit { kDone = 0, kRefused = 1, kUsage = 2, kBroken = 3 };
 
 struct HostOptions {
     std::string project, script, version, clock;
@@ -116,8 +116,12 @@ std::string ReadScript(const std::string& path) {
     return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
-// The first line of the script for which no dialog was open; 0 when all were played.
-int PlayScript(const HostOptions& options, ModuleExport launch, std::ostream& out) {
+struct Played {
+    int leftOver = 0;      // the first line of the script for which no dialog was open; 0: all were played
+    bool refused = false;  // an action was refused
+};
+
+Played PlayScript(const HostOptions& options, ModuleExport launch, std::ostream& out) {
     Driver() = std::make_unique<WindowDriver>(ParseScript(ReadScript(options.script)), out);
     if (options.waits) Driver()->TellWaits();
     // The mouse of the machine stays out of the dialogs.
@@ -135,17 +139,18 @@ int PlayScript(const HostOptions& options, ModuleExport launch, std::ostream& ou
     }
     KillTimer(nullptr, timer);
     const ScriptAction* left = Driver()->FirstLeftOver();
-    const int line = left == nullptr ? 0 : left->line;
+    const Played played{left == nullptr ? 0 : left->line, Driver()->HasRefused()};
     Driver().reset();
-    return line;
+    return played;
 }
 
 HostExit Drive(const HostOptions& options, ModuleExport launch) {
-    const int left = PlayScript(options, launch, std::cout);
-    if (left != 0)
-        std::cerr << "Tarnsway: script line " << left << ": the last dialog is closed" << std::endl;
+    const Played played = PlayScript(options, launch, std::cout);
+    if (played.leftOver != 0)
+        std::cerr << "Tarnsway: script line " << played.leftOver << ": the last dialog is closed"
+                  << std::endl;
     std::cout.flush();
-    return kDone;
+    return played.refused ? kRefused : kDone;
 }
 
 // The first line in which two rounds differ, as each has it.
@@ -164,12 +169,14 @@ std::string Difference(const std::string& first, const std::string& round) {
 // of the dialogs must be the same in every round; otherwise an action was not played.
 HostExit DriveRounds(const HostOptions& options, ModuleExport launch) {
     std::string first;
+    bool refused = false;
     for (int round = 1; round <= options.rounds; ++round) {
         {
             std::ostringstream lines;
-            const int left = PlayScript(options, launch, lines);
-            if (left != 0) {
-                std::cerr << "Tarnsway: round " << round << ", script line " << left
+            const Played played = PlayScript(options, launch, lines);
+            refused = refused || played.refused;
+            if (played.leftOver != 0) {
+                std::cerr << "Tarnsway: round " << round << ", script line " << played.leftOver
                           << ": the last dialog is closed" << std::endl;
                 return kBroken;
             }
@@ -183,7 +190,7 @@ HostExit DriveRounds(const HostOptions& options, ModuleExport launch) {
         if (options.leaks) LeakOneOfEach();
         PrintRound(std::cout, round, CountResources());
     }
-    return kDone;
+    return refused ? kRefused : kDone;
 }
 
 HostExit Run(const HostOptions& options) {

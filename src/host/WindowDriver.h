@@ -33,6 +33,8 @@ class WindowDriver {
     const ScriptAction* TakeAgain();
     // The first action for which no dialog was open; null when all were played.
     const ScriptAction* FirstLeftOver() const;
+    // Whether an action was refused, in any call.
+    bool HasRefused() const { return m_lines.HasRefused(); }
 
   private:
     void NoteTime();

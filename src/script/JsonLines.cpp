@@ -144,7 +144,10 @@ void JsonLines::Result(unsigned result) {
 }
 
 void JsonLines::Refused(std::string_view what) {
-    m_out << "refused " << what << '\n';
+    m_bRefused = true;
+    Json line;
+    line["refused"] = ForUser(what);
+    m_out << line.dump() << '\n';
 }
 
 }  // namespace lumerin

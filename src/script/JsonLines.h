@@ -50,11 +50,13 @@ class JsonLines {
     void Focus(const FocusState& state);
     void Plot(const std::vector<GraphCall>& calls);
     void Result(unsigned result);
-    // The only line that is not JSON: an action that a user could not have done.
+    // An action that a user could not have done.
     void Refused(std::string_view what);
+    bool HasRefused() const { return m_bRefused; }
 
   private:
     std::ostream& m_out;
+    bool m_bRefused = false;
 };
 
 }  // namespace lumerin

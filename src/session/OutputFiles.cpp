@@ -2,6 +2,7 @@
 #include "session/OutputFiles.h"
 
 #include <charconv>
+#include <utility>
 
 #include "framework/Backend.h"
 #include "session/Constants.h"
@@ -37,10 +38,28 @@ constexpr ViewerFailure kViewerFailures[] = {
 // The table image builder, a program beside the host.
 constexpr const char* kBuilderName = "Jarlimex.exe";
 
+const OutputNaming::Namer* g_namer = nullptr;
+
 constexpr int kLastFailureCode = 32;
 constexpr unsigned kTextCapacity = 4;  // the size that the read of the number before it left
 
 }  // namespace
+
+OutputNaming::OutputNaming(Namer namer) : m_namer(std::move(namer)) {
+    g_namer = &m_namer;
+}
+
+OutputNaming::~OutputNaming() {
+    g_namer = nullptr;
+}
+
+std::string TableFileName(unsigned table, unsigned kind) {
+    const char* name = kind == kFormatEnvelopes ? g_EnvelopesName : g_TableFileNames[table];
+    const char* extension = g_ExtensionText;
+    if (kind == kFormatSpreadsheet) extension = g_ExtensionSpreadsheet;
+    if (kind == kFormatPdf) extension = g_ExtensionPdf;
+    return std::string(name) + extension;
+}
 
 void BuildOutputFilePath(unsigned table, unsigned kind) {
     if (table >= static_cast<unsigned>(kTableCount)) {
@@ -51,11 +70,8 @@ void BuildOutputFilePath(unsigned table, unsigned kind) {
         AfxMessageBox("Invalid file type selected.  Table cannot be generated.");
         return;
     }
-    const char* name = kind == kFormatEnvelopes ? g_EnvelopesName : g_TableFileNames[table];
-    const char* extension = g_ExtensionText;
-    if (kind == kFormatSpreadsheet) extension = g_ExtensionSpreadsheet;
-    if (kind == kFormatPdf) extension = g_ExtensionPdf;
-    g_OutputFilePath = g_ProjectBasePath + g_NameSeparator + name + extension;
+    g_OutputFilePath = g_ProjectBasePath + g_NameSeparator + TableFileName(table, kind);
+    if (g_namer != nullptr) g_OutputFilePath = (*g_namer)(g_OutputFilePath);
 }
 
 void ShowOutputFile(int format) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace lumerin {
@@ -9,6 +10,24 @@ class CPdfExport;
 
 // How report files are named, opened in viewers, and how a failed start is worded. All output is written
 // beside the project and shares its base name; a run replaces the earlier file of the same table and format.
+
+// While an object exists, the file of each press gets the path that a function makes of the one beside the
+// project. One object at a time; the module, whose files are found by their names, has none.
+class OutputNaming {
+  public:
+    using Namer = std::function<std::string(const std::string& path)>;
+    explicit OutputNaming(Namer namer);
+    OutputNaming(const OutputNaming&) = delete;
+    OutputNaming& operator=(const OutputNaming&) = delete;
+    ~OutputNaming();
+
+  private:
+    Namer m_namer;
+};
+
+// The file name of a table (TableId) in a kind (ReportFormat or kFormatEnvelopes), without the project's part
+// of it.
+std::string TableFileName(unsigned table, unsigned kind);
 
 // Sets g_OutputFilePath for a table (TableId) and a kind (ReportFormat or kFormatEnvelopes). An invalid
 // table or kind shows its message and leaves the earlier path.

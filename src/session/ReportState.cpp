@@ -96,7 +96,11 @@ ReportOptions SessionOptions() {
     return options;
 }
 
-void CollectSessionTable(TableId table, ReportState& state) {
+const CDataSet& SessionProject() {
+    return g_DataSet;
+}
+
+const SearchPass& RequirePass(ReportState& state) {
     // The searches keep the sink as long as the pass exists.
     static BoxMessages messages;
     if (!state.pass || state.pass->Selection() != state.selection) {
@@ -104,7 +108,11 @@ void CollectSessionTable(TableId table, ReportState& state) {
         state.pass = std::make_unique<SearchPass>(
             SearchInput{g_DataSet, state.forces, state.selection, messages}, kSearchedTables);
     }
-    state.pass->Store(table, state.results);
+    return *state.pass;
+}
+
+void CollectSessionTable(TableId table, ReportState& state) {
+    RequirePass(state).Store(table, state.results);
 }
 
 bool RequireUnchangedForces(ReportState& state) {

@@ -65,6 +65,12 @@ void EndSessionProject(ReportState& state);
 // The options of the session for the press that is running.
 ReportOptions SessionOptions();
 
+// The project of the dialog; empty between two calls.
+const CDataSet& SessionProject();
+
+// The pass over the forces for the state's selection; made where there is none. Throws CFileException.
+const SearchPass& RequirePass(ReportState& state);
+
 // Stores what the searches find for a table of the project. The first table of a selection reads the forces,
 // once for all tables; the next ones take what was found. Throws CFileException.
 void CollectSessionTable(TableId table, ReportState& state);

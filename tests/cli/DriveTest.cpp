@@ -83,11 +83,13 @@ TEST_F(DriveTest, DumpsWhatEachControlShows) {
 }
 
 TEST_F(DriveTest, ADisabledOrHiddenControlRefuses) {
-    Drive(folder.Write("pier") + ".in",
-          "click 1039\nclick 2\nclick 77\nshot a.png\ncell 1 1 0\ntext 1004 a\n");
+    EXPECT_EQ(Drive(folder.Write("pier") + ".in",
+                    "click 1039\nclick 2\nclick 77\nshot a.png\ncell 1 1 0\ntext 1004 a\n"),
+              kExitIncomplete);
     const std::vector<std::string> refused{lines.begin() + 1, lines.end() - 1};
-    EXPECT_THAT(refused, testing::ElementsAre("refused 1039", "refused 2", "refused 77", "refused shot",
-                                              "refused cell 1 1", "refused 1004"));
+    EXPECT_THAT(refused, testing::ElementsAre(R"({"refused":"1039"})", R"({"refused":"2"})",
+                                              R"({"refused":"77"})", R"({"refused":"shot"})",
+                                              R"({"refused":"cell 1 1"})", R"({"refused":"1004"})"));
 }
 
 TEST_F(DriveTest, CharactersAfterOneThatShowsAMessageAreLost) {

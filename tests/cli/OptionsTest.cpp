@@ -13,22 +13,6 @@ namespace lumerin {
 
 namespace {
 
-TEST(Options, CasesAreNumbersAndRanges) {
-    const CaseRanges cases = ReadCases("1,3,5-9");
-    EXPECT_TRUE(HoldsCase(cases, 1));
-    EXPECT_FALSE(HoldsCase(cases, 2));
-    EXPECT_TRUE(HoldsCase(cases, 3));
-    EXPECT_FALSE(HoldsCase(cases, 4));
-    EXPECT_TRUE(HoldsCase(cases, 5));
-    EXPECT_TRUE(HoldsCase(cases, 9));
-    EXPECT_FALSE(HoldsCase(cases, 10));
-    EXPECT_EQ(LastCase(cases), 9);
-    EXPECT_EQ(LastCase(ReadCases("7-7,2")), 7);
-    for (const char* text : {"", "0", "a", "1,", ",1", "3-2", "1-", "-1", "1 2", "99999999999", "1-2-3"}) {
-        EXPECT_THROW(ReadCases(text), std::invalid_argument) << text;
-    }
-}
-
 TEST(Options, FooterPartsAreAListOrNone) {
     const FooterChoice some = ReadFooter("time,filename");
     EXPECT_FALSE(some.date);

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+
+#include "cli/FindingJson.h"
+#include "cli/ReportDriver.h"
+#include "script/Border.h"
+#include "session/OutputFiles.h"
+#include "session/ReportState.h"
+#include "tables/Words.h"
+
+namespace lumerin {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+// Each document that the request asks for, once.
+std::vector<PlannedDocument> DocumentsOf(const ReportRequest& options,
+                                         const std::vector<ProjectName>& projects) {
+    std::vector<PlannedDocument> documents;
+    for (const ProjectName& project : projects) {
+        const std::size_t first = documents.size();
+        for (const std::string& table : options.tables) {
+            for (const int format : options.formats) {
+                const TableName& known = ReadTable(table);
+                const int kind = known.kind < 0 ? format : known.kind;
+                const std::string path =
+                    project.basePath + g_NameSeparator +
+                    TableFileName(static_cast<unsigned>(known.table), static_cast<unsigned>(kind));
+                const bool isNew = std::none_of(
+                    documents.begin() + static_cast<std::ptrdiff_t>(first), documents.end(),
+                    [&](const PlannedDocument& other) { return other.table == table && other.path == path; });
+                if (isNew) documents.push_back({project.basePath, table, path});
+            }
+        }
+    }
+    return documents;
+}
+
+std::string RecordOf(const ProjectName& project, const ProjectReport& report, long long milliseconds) {
+    Json record;
+    record["project"] = project.name;
+    record["status"] = static_cast<int>(report.status);
+    record["files"] = Json::array();
+    for (const std::string& file : report.files) record["files"].push_back(ForUser(file));
+    record["findings"] = FindingsJson(report.findings);
+    record["messages"] = report.messages;
+    record["milliseconds"] = milliseconds;
+    return record.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+// One project in all formats.
+ProjectReport ReportProject(const ReportRequest& options, const ProjectName& project,
+                            const std::string& place, std::ostream& out, std::ostream& err) {
+    if (!ProjectExists(project)) {
+        const std::string text = "no project " + project.inputFile;
+        PrintLine(err, "lumerin: " + text);
+        return {kExitNotLoaded, {}, {ForUser(text)}, {}};
+    }
+    const SharedLoad shared;
+    ReportDriver driver(options, project, place, out, err);
+    for (const int format : options.formats) {
+        const ExitStatus status = driver.Run(format);
+        // What cannot be loaded, or has no such cases, is the same in the next format.
+        if (status == kExitUsage || status == kExitNotLoaded) break;
+        if (options.strict && HasError(driver.Report().findings)) break;
+    }
+    return driver.Report();
+}
+
+ExitStatus ReportToStandardOutput(ReportRequest options, const ProjectName& project, std::ostream& out,
+                                  std::ostream& err) {
+    const DocumentFolder folder;
+    options.output.folder = folder.Path();
+    // The document goes to `out`, so the path of its temporary file is printed nowhere.
+    options.json = true;
+    const ProjectReport report = ReportProject(options, project, "", out, err);
+    for (const std::string& path : report.files) {
+        std::ifstream document(path, std::ios::binary);
+        out << document.rdbuf();
+    }
+    out.flush();
+    return report.status;
+}
+
+}  // namespace
+
+ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostream& err) {
+    using Clock = std::chrono::steady_clock;
+    std::vector<ProjectName> projects;
+    for (const std::string& name : options.projects) projects.emplace_back(name);
+    RequireOwnPaths(options.output, DocumentsOf(options, projects));
+    if (options.output.ToStandardOutput()) {
+        return ReportToStandardOutput(options, projects.at(0), out, err);
+    }
+    if (!options.output.folder.empty()) {
+        // Each document says why it cannot be written there.
+        std::error_code ignored;
+        std::filesystem::create_directories(options.output.folder, ignored);
+    }
+    BatchSummary summary("done", "incomplete");
+    for (std::size_t i = 0; i < projects.size(); ++i) {
+        const std::string place =
+            projects.size() > 1 ? std::to_string(i + 1) + " of " + std::to_string(projects.size()) + ": "
+                                : "";
+        const Clock::time_point start = Clock::now();
+        const ProjectReport report = ReportProject(options, projects[i], place, out, err);
+        summary.Add(report.status);
+        if (!options.json) continue;
+        const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
+        out << RecordOf(projects[i], report, took.count()) << std::endl;
+    }
+    summary.Print(err);
+    return summary.Worst();
+}
+
+}  // namespace lumerin

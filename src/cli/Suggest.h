@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lumerin {
+
+// The word that the user may have meant: the one with the fewest letters to insert, delete, replace or swap,
+// at most one for each three letters. Empty: none is near. Letters of either case are the same.
+std::string NearestWord(std::string_view given, std::span<const std::string> words);
+
+// "; do you mean axial?", or nothing when no word is near.
+std::string Suggestion(std::string_view given, const std::vector<std::string>& words,
+                       std::string_view before = "", std::string_view after = "");
+
+}  // namespace lumerin

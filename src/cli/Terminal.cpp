@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "cli/Terminal.h"
+
+#include <fcntl.h>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+#include <iostream>
+#include <vector>
+
+#include "framework/Index.h"
+
+namespace lumerin {
+
+namespace {
+
+constexpr std::size_t kUsualWidth = 80, kLeastWidth = 40;
+
+// Characters of UTF-8, each one column wide.
+std::size_t Columns(std::string_view text) {
+    return Index(std::count_if(text.begin(), text.end(),
+                               [](char c) { return (static_cast<unsigned char>(c) & 0xC0u) != 0x80u; }));
+}
+
+std::string WrappedLine(std::string_view line, std::size_t width, std::size_t indent) {
+    std::string text;
+    std::size_t used = 0;
+    while (!line.empty()) {
+        const std::size_t blank = std::min(line.find(' '), line.size());
+        const std::string_view word = line.substr(0, blank);
+        line.remove_prefix(std::min(blank + 1, line.size()));
+        if (used > 0 && used + 1 + Columns(word) > width) {
+            text += '\n' + std::string(indent, ' ');
+            used = indent;
+        } else if (used > 0) {
+            text += ' ';
+            ++used;
+        }
+        text += word;
+        used += Columns(word);
+    }
+    return text;
+}
+
+}  // namespace
+
+bool IsTerminal(const std::ostream& stream) {
+    if (&stream == &std::cout) return isatty(STDOUT_FILENO) != 0;
+    if (&stream == &std::cerr) return isatty(STDERR_FILENO) != 0;
+    return false;
+}
+
+std::size_t TerminalWidth() {
+    std::size_t width = 0;
+    winsize size{};
+    if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0) width = size.ws_col;
+    if (width == 0) {
+        const char* text = std::getenv("COLUMNS");
+        const std::string_view columns = text == nullptr ? "" : text;
+        std::from_chars(columns.data(), columns.data() + columns.size(), width);
+    }
+    return width == 0 ? kUsualWidth : std::max(width, kLeastWidth);
+}
+
+bool UsesColour(const std::ostream& stream) {
+    const char* forbidden = std::getenv("NO_COLOR");
+    return IsTerminal(stream) && (forbidden == nullptr || *forbidden == '\0');
+}
+
+std::string Painted(std::string_view text, Paint paint, const std::ostream& stream) {
+    if (!UsesColour(stream)) return std::string(text);
+    const char* code = "1";
+    if (paint == Paint::red) code = "31";
+    if (paint == Paint::yellow) code = "33";
+    if (paint == Paint::green) code = "32";
+    return std::string("\033[").append(code).append("m").append(text).append("\033[0m");
+}
+
+std::string Wrapped(std::string_view text, std::size_t width, std::size_t indent) {
+    std::string wrapped;
+    for (std::size_t from = 0; from <= text.size();) {
+        const std::size_t end = std::min(text.find('\n', from), text.size());
+        const std::string_view line = text.substr(from, end - from);
+        if (from > 0) wrapped += '\n';
+        wrapped += line.starts_with(' ') ? std::string(line) : WrappedLine(line, width, indent);
+        from = end + 1;
+    }
+    return wrapped;
+}
+
+void OpenStandardStreams() {
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        // The lowest free number is given, which is that of the stream.
+        if (fcntl(stream, F_GETFD) == -1) open("/dev/null", O_RDONLY);
+    }
+}
+
+}  // namespace lumerin
