@@ -59,6 +59,7 @@ int main(int argc, char** argv) {
     for (const char* preset : {"pier", "bent", "group", "walls", "bridge", "history"}) {
         const Archive archive = SampleArchive(preset);
         Write(folder / "project", preset, Pack(archive));
+        Write(folder / "records", preset, Pack(archive));
         for (const Seed& seed : kSeeds) {
             const std::string bytes = FileOf(archive, seed.file);
             if (!bytes.empty()) Write(folder / seed.target, preset, bytes);

@@ -30,6 +30,9 @@ class Playground {
     // Opens the report dialog on the project and plays the script; the output's lines go to nowhere.
     void Play(const std::string& script, int format = 2) const;
 
+    // Makes every table of records of the project, its verdict and its description.
+    void EvaluateTables() const;
+
   private:
     std::string m_folder;
 };

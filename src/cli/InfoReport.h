@@ -39,7 +39,7 @@ struct CaseInfo {
 };
 
 struct ProjectInfo {
-    ProjectName name;
+    ProjectName name{""};
     ExitStatus status = kExitDone;
     std::string fault;  // why the project could not be loaded; else empty
     std::string title, code, units, kindOfCases;
