@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <array>
+#include <string>
 
 #include "framework/Index.h"
 #include "model/CapChain.h"
@@ -26,9 +27,8 @@ constexpr auto kCapColumns = JoinColumns(
         "ok; missing: no element there, or a masked one; none: no element on that side, or no chosen case; "
         "unused: the row repeats a section that the cap does not have, as the printed table does",
         ColumnType::text},
-    kElementColumn, kSectionColumn, kNodeColumn,
-    Column{"second_node", "node J of an element that contains the place; node is its node I then",
-           ColumnType::integer},
+    kElementColumn, kSectionColumn,
+    Column{"nodes", "NODE number; both nodes of an element that contains the place: 20,24", ColumnType::text},
     Column{"end", "end of the element, I or J; I,J inside it", ColumnType::text}, kCaseColumns, kForceColumns,
     kRatioColumn);
 
@@ -60,17 +60,13 @@ void AddValue(double value, RowBuffer& row) {
 void AddEntry(const CDataSet& data, const CCapRow& from, RowBuffer& row) {
     const CCapRecord& record = from.pEntry->record;
     if (record.m_nMissing == 1) {
-        row.Absent(7 + kForceColumns.size() + 1);
+        row.Absent(6 + kForceColumns.size() + 1);
         return;
     }
     row.Integer(record.m_nElementNumber).IntegerFrom(0, record.m_nSection);
     const bool inside = !from.bBearing && record.m_nEnd == kInsideElement;
-    row.Integer(record.m_nNode);
-    if (inside) {
-        row.Integer(record.m_nSecondNode);
-    } else {
-        row.Absent();
-    }
+    const std::string node = std::to_string(record.m_nNode);
+    row.OwnText(inside ? node + "," + std::to_string(record.m_nSecondNode) : node);
     if (!from.bSideHasResult || record.m_nLoadCase < 0) {
         row.Absent(3 + kForceColumns.size() + 1);
         return;

@@ -61,8 +61,7 @@ def cap_line(row, has_states, forces=FORCES):
     place = row["place"].split()
     if row["status"] == "missing":
         return place + ["miss"] + [ABSENT] * (5 + has_states + len(forces))
-    node = row["node"] + ("," + row["second_node"] if row["second_node"] else "")
-    words = place + [row["element"], row["section"], node]
+    words = place + [row["element"], row["section"], row["nodes"]]
     if row["status"] == "none":
         return words + [ABSENT] * (1 + has_states) + ["none"] + [ABSENT] * (len(forces) + 1)
     return words + [row["case"], *state(row), row["end"], *(fixed(row[name]) for name in forces), fixed(row["dc"])]
