@@ -14,6 +14,7 @@
 #include "cli/CheckReport.h"
 #include "cli/InfoReport.h"
 #include "cli/ScriptDriver.h"
+#include "framework/File.h"
 #include "records/Verdict.h"
 #include "script/Script.h"
 #include "session/DesignerDlg.h"
