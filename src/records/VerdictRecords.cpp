@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <ctime>
+#include <cstdio>
 #include <filesystem>
 #include <set>
 
@@ -138,12 +138,17 @@ std::string TimeOf(const std::string& path) {
     std::error_code fault;
     const auto written = std::filesystem::last_write_time(FindFileAnyCase(path), fault);
     if (fault) return {};
-    const auto since = std::chrono::file_clock::to_sys(written).time_since_epoch();
-    const std::time_t seconds = std::chrono::duration_cast<std::chrono::seconds>(since).count();
-    std::array<char, 32> text{};
-    std::tm parts{};
-    if (gmtime_r(&seconds, &parts) == nullptr) return {};
-    return {text.data(), std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%SZ", &parts)};
+    const auto second = std::chrono::floor<std::chrono::seconds>(std::chrono::file_clock::to_sys(written));
+    const auto day = std::chrono::floor<std::chrono::days>(second);
+    const std::chrono::year_month_day date(day);
+    const std::chrono::hh_mm_ss time(second - day);
+    std::array<char, 64> text{};
+    const int length =
+        std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ",
+                      static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
+                      static_cast<unsigned>(date.day()), static_cast<int>(time.hours().count()),
+                      static_cast<int>(time.minutes().count()), static_cast<int>(time.seconds().count()));
+    return {text.data(), Index(length)};
 }
 
 long long CountChosen(const Evaluation& evaluation) {
