@@ -94,16 +94,32 @@ ExitStatus DriveScript(const DriveOptions& options, const std::string& script, s
 namespace {
 
 constexpr const char* kDriveFooter =
-    "Actions: click ID, text ID TEXT, focus ID, select ID N, spin ID up|down, cell ROW COL TEXT,\n"
-    "mouse WHAT PLACE, hover ROW COL, graph-click X, answer yes|no, key NAME, key F1 ID, type TEXT,\n"
-    "where, dump, shot FILE (a picture, in the host with a screen only), again [FILE.in]; # begins a\n"
-    "comment. Keys: Esc, Return, Tab, Backspace, Delete, Insert, Up, Down, Left, Right, Home, End,\n"
-    "PageUp, PageDown, with Ctrl+ and Shift+ before them, Ctrl+A, Ctrl+C, Ctrl+V, Ctrl+X. Keys and\n"
-    "texts go to the control that has the focus; where prints it. The mouse can move, press, release,\n"
-    "click, double, right (click), wheel N and scroll PART on the grid: mouse click Shift 3 1.\n\n"
-    "Prints what happens as JSON, one object a line. Exit status: 0 done, 1 an action was refused or a\n"
-    "file could not be written whole, 2 wrong usage or a line that is no action, 3 the project could not\n"
-    "be loaded (the script is played all the same).";
+    "Examples:\n"
+    "  lumerin drive bridge.in press.script\n"
+    "  echo 'click 1004' | lumerin drive bridge.in - --format pdf\n"
+    "\n"
+    "Actions, one a line; # begins a comment:\n"
+    "  click ID, text ID TEXT, focus ID, select ID N, spin ID up|down,\n"
+    "  cell ROW COL TEXT, mouse WHAT PLACE, hover ROW COL, graph-click X,\n"
+    "  answer yes|no, key NAME, key F1 ID, type TEXT, where, dump,\n"
+    "  shot FILE (a picture, in the host with a screen only),\n"
+    "  again [FILE.in]\n"
+    "\n"
+    "Keys: Esc, Return, Tab, Backspace, Delete, Insert, Up, Down, Left, Right, Home, End, PageUp, PageDown, "
+    "with Ctrl+ and Shift+ before them, Ctrl+A, Ctrl+C, Ctrl+V, Ctrl+X. Keys and texts go to the control "
+    "that "
+    "has the focus; where prints it. The mouse can move, press, release, click, double, right (click), "
+    "wheel N and scroll PART on the grid: mouse click Shift 3 1.\n"
+    "\n"
+    "Prints what happens as JSON, one object a line; {\"refused\":...} is an action that a user could not "
+    "have "
+    "done.\n"
+    "\n"
+    "Exit status:\n"
+    "  0  done\n"
+    "  1  an action was refused, or a file could not be written whole\n"
+    "  2  wrong usage, or a line that is no action\n"
+    "  3  the project could not be loaded (the script is played all the same)";
 
 }  // namespace
 

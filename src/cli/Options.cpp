@@ -137,4 +137,18 @@ std::string TableNames() {
     return names;
 }
 
+std::vector<std::string> QuantityWords() {
+    return {"lateral", "lateral-x", "lateral-y", "max-axial", "min-axial"};
+}
+
+int ReadQuantity(std::string_view text) {
+    const std::vector<std::string> words = QuantityWords();
+    const std::string word = LowerCase(text);
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (word == words[i] || word == std::to_string(i)) return static_cast<int>(i);
+    }
+    throw std::invalid_argument("\"" + std::string(text) + "\" is no quantity" + Suggestion(text, words) +
+                                " (lateral, lateral-x, lateral-y, max-axial, min-axial)");
+}
+
 }  // namespace lumerin

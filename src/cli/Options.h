@@ -51,4 +51,9 @@ const TableName& ReadTable(std::string_view text);
 int TableButton(std::string_view name);
 std::string TableNames();  // for the help text
 
+// The quantities of the embedment study, in the order of its dialog.
+std::vector<std::string> QuantityWords();
+// A quantity by its word or number. Throws std::invalid_argument with the nearest word.
+int ReadQuantity(std::string_view text);
+
 }  // namespace lumerin

@@ -25,7 +25,11 @@ class Program {
 
   private:
     ExitStatus RunCommand(std::ostream& out, std::ostream& err);
-    ExitStatus PrintHelp(const std::string& command, std::ostream& out, std::ostream& err) const;
+    ExitStatus PrintHelp(const std::string& command, std::ostream& out) const;
+    // Throws std::invalid_argument with the nearest command.
+    void RequireCommand(const std::string& word) const;
+    // What to say about a word that no option takes; `usual` where it is not a command's.
+    std::string ExtraWord(const std::string& usual) const;
 
     std::unique_ptr<CLI::App> m_parser;
     std::vector<ProgramCommand> m_commands;

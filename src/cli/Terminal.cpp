@@ -80,14 +80,26 @@ std::string Painted(std::string_view text, Paint paint, const std::ostream& stre
 }
 
 std::string Wrapped(std::string_view text, std::size_t width, std::size_t indent) {
-    std::string wrapped;
+    std::string wrapped, paragraph;
+    const auto end = [&](bool more) {
+        wrapped += WrappedLine(paragraph, width, indent);
+        if (more && !paragraph.empty()) wrapped += '\n';
+        paragraph.clear();
+    };
     for (std::size_t from = 0; from <= text.size();) {
-        const std::size_t end = std::min(text.find('\n', from), text.size());
-        const std::string_view line = text.substr(from, end - from);
-        if (from > 0) wrapped += '\n';
-        wrapped += line.starts_with(' ') ? std::string(line) : WrappedLine(line, width, indent);
-        from = end + 1;
+        const std::size_t feed = std::min(text.find('\n', from), text.size());
+        const std::string_view line = text.substr(from, feed - from);
+        const bool isLast = feed == text.size();
+        from = feed + 1;
+        if (!line.empty() && !line.starts_with(' ')) {
+            paragraph.append(paragraph.empty() ? "" : " ").append(line);
+            continue;
+        }
+        end(true);
+        wrapped += line;
+        if (!isLast) wrapped += '\n';
     }
+    end(false);
     return wrapped;
 }
 

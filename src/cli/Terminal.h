@@ -19,8 +19,8 @@ enum class Paint { red, yellow, green, bold };
 // The text in a colour where the stream shows colours, else the text.
 std::string Painted(std::string_view text, Paint paint, const std::ostream& stream);
 
-// The lines of a text, broken at blanks to `width` columns; lines after the first of each paragraph begin
-// with `indent` blanks. A line that begins with a blank is left as it is.
+// The paragraphs of a text, broken at blanks to `width` columns; lines after the first of each begin with
+// `indent` blanks. An empty line ends a paragraph, and a line that begins with a blank is left as it is.
 std::string Wrapped(std::string_view text, std::size_t width, std::size_t indent = 0);
 
 // Gives the first three descriptors a file where they are closed, so that no document gets their number. To

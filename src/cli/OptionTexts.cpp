@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "cli/OptionTexts.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+
+#include "cli/Options.h"
+#include "cli/Terminal.h"
+#include "records/Table.h"
+
+namespace lumerin {
+
+namespace {
+
+constexpr std::size_t kMeaningColumn = 24;
+
+OptionText TextOf(const CLI::Option& option) {
+    OptionText text;
+    text.isArgument = option.get_positional();
+    text.isRequired = option.get_required();
+    text.isRepeated = option.get_expected_max() > 1;
+    text.meaning = option.get_description();
+    if (text.isArgument) {
+        text.names.push_back(option.get_name(true));
+        return text;
+    }
+    for (const std::string& name : option.get_snames()) text.names.push_back("-" + name);
+    for (const std::string& name : option.get_lnames()) text.names.push_back("--" + name);
+    if (option.get_items_expected_max() == 0) return text;
+    // A check appends its own words after a colon.
+    const std::string type = option.get_type_name();
+    text.value = type.substr(0, type.find(':'));
+    return text;
+}
+
+std::string Joined(const std::vector<std::string>& words, const char* between) {
+    std::string text;
+    for (const std::string& word : words) {
+        if (!text.empty()) text += between;
+        text += word;
+    }
+    return text;
+}
+
+// A name and its meaning in two columns.
+std::string Entry(const std::string& name, const std::string& meaning, std::size_t width) {
+    std::string line = "  " + name;
+    if (line.size() + 2 > kMeaningColumn) {
+        line += '\n' + std::string(kMeaningColumn, ' ');
+    } else {
+        line.append(kMeaningColumn - line.size(), ' ');
+    }
+    const std::string wrapped = Wrapped(meaning, width - kMeaningColumn);
+    for (const char c : wrapped) {
+        line += c;
+        if (c == '\n') line.append(kMeaningColumn, ' ');
+    }
+    return line + '\n';
+}
+
+}  // namespace
+
+std::vector<OptionText> OptionsOf(const CLI::App& parser) {
+    std::vector<OptionText> texts;
+    for (const CLI::Option* option : parser.get_options()) {
+        if (!option->get_group().empty()) texts.push_back(TextOf(*option));
+    }
+    std::stable_partition(texts.begin(), texts.end(), [](const OptionText& text) { return text.isArgument; });
+    return texts;
+}
+
+std::vector<CommandText> CommandsOf(const CLI::App& program) {
+    std::vector<CommandText> commands;
+    for (const CLI::App* command : program.get_subcommands([](const CLI::App*) { return true; })) {
+        commands.push_back({command->get_name(), command->get_description(), command});
+    }
+    return commands;
+}
+
+std::string UsageOf(const CLI::App& parser) {
+    std::string usage = "[OPTIONS]";
+    for (const OptionText& option : OptionsOf(parser)) {
+        if (!option.isArgument) continue;
+        const std::string name = option.names.front() + (option.isRepeated ? "..." : "");
+        usage += option.isRequired ? ' ' + name : " [" + name + ']';
+    }
+    return CommandsOf(parser).empty() ? usage : usage + " COMMAND ...";
+}
+
+std::vector<std::string> WordsOf(std::string_view command, std::string_view option) {
+    const std::vector<std::string> documents = {"text", "pdf", "excel"};
+    if (option == "--format") {
+        if (command == "check") return {"text", "json", "csv"};
+        if (command == "info") return {"text", "json"};
+        if (command == "export") return {"csv", "jsonl", "sqlite", "xlsx"};
+        return documents;
+    }
+    if (option == "--table" && command == "export") {
+        std::vector<std::string> names;
+        for (const Table& table : AllTables()) names.emplace_back(table.name);
+        return names;
+    }
+    if (option == "--table") {
+        std::vector<std::string> names = SplitList(TableNames());
+        for (std::string& name : names) name.erase(0, name.find_first_not_of(' '));
+        return names;
+    }
+    if (option == "--class") return {"strength", "service", "extreme", "fatigue"};
+    if (option == "--units") return {"us", "si"};
+    if (option == "--footer") return {"none", "date", "time", "version", "filename"};
+    if (option == "--envelope") return {"max", "min"};
+    if (option == "--quantity") return QuantityWords();
+    return {};
+}
+
+std::string HelpOf(const CLI::App& parser, const std::string& name, std::size_t width) {
+    std::string text = Wrapped(parser.get_description(), width) + "\n\n";
+    text += Wrapped("Usage: " + name + ' ' + UsageOf(parser), width, 2) + '\n';
+    std::string arguments, options;
+    for (const OptionText& option : OptionsOf(parser)) {
+        const std::string value = option.value.empty() ? "" : ' ' + option.value;
+        (option.isArgument ? arguments : options) +=
+            Entry(Joined(option.names, ", ") + value, option.meaning, width);
+    }
+    if (!arguments.empty()) text += "\nArguments:\n" + arguments;
+    if (!options.empty()) text += "\nOptions:\n" + options;
+    std::string commands;
+    for (const CommandText& command : CommandsOf(parser)) {
+        commands += Entry(command.name, command.meaning, width);
+    }
+    if (!commands.empty()) text += "\nCommands:\n" + commands;
+    const std::string footer = parser.get_footer();
+    return footer.empty() ? text : text + '\n' + Wrapped(footer, width) + '\n';
+}
+
+}  // namespace lumerin
