@@ -27,6 +27,7 @@ constexpr Test kTests[] = {
     {"cursor", TestCursor},            // PROJECT
     {"printer", TestPrinter},          // PROJECT
     {"drawing", TestDrawing},          // PROJECT
+    {"copied-text", TestCopiedText},   // PROJECT
     {"preload", TestPreload},          // PROJECT LIBRARY MESSAGE
 };
 

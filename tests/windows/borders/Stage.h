@@ -89,5 +89,6 @@ void TestCursor(const Words& words);
 void TestPreload(const Words& words);
 void TestPrinter(const Words& words);
 void TestDrawing(const Words& words);
+void TestCopiedText(const Words& words);
 
 }  // namespace lumerin
