@@ -215,6 +215,18 @@ TEST_F(GridFocus, ScrollingIntoViewMovesNoFurtherThanNeeded) {
     EXPECT_EQ(m_grid.FirstVisibleCell(), (CCellID{2, 1}));
 }
 
+TEST_F(GridFocus, TheRowsInViewStayWhenRowsBelowThemGo) {
+    Build(50, 2, {250, 200});  // ten rows a page
+    m_grid.OnScroll(true, 20);
+    ASSERT_EQ(m_grid.FirstVisibleCell().row, 20);
+    m_grid.SetRowCount(40);
+    m_grid.UpdateScrollBars();
+    EXPECT_EQ(m_grid.FirstVisibleCell().row, 20);
+    m_grid.SetRowCount(25);
+    m_grid.UpdateScrollBars();
+    EXPECT_EQ(m_grid.FirstVisibleCell().row, 15);  // the last page is full
+}
+
 TEST_F(GridFocus, CellsFollowTheFixedOnes) {
     Build(50, 3, {250, 200});
     m_grid.SetFixedRowCount(1);
