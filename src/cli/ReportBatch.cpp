@@ -7,6 +7,8 @@
 
 #include "cli/FindingJson.h"
 #include "cli/ReportDriver.h"
+#include "cli/WorkbookReport.h"
+#include "export/TableWriter.h"
 #include "script/Border.h"
 #include "session/OutputFiles.h"
 #include "session/ReportState.h"
@@ -18,12 +20,18 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+// The workbook of a project; it has no table's name.
+PlannedDocument WorkbookOf(const ProjectName& project) {
+    return {project.basePath, "report", WorkbookReportPath(project)};
+}
+
 // Each document that the request asks for, once.
 std::vector<PlannedDocument> DocumentsOf(const ReportRequest& options,
                                          const std::vector<ProjectName>& projects) {
     std::vector<PlannedDocument> documents;
     for (const ProjectName& project : projects) {
         const std::size_t first = documents.size();
+        if (options.workbook) documents.push_back(WorkbookOf(project));
         for (const std::string& table : options.tables) {
             for (const int format : options.formats) {
                 const TableName& known = ReadTable(table);
@@ -53,6 +61,42 @@ std::string RecordOf(const ProjectName& project, const ProjectReport& report, lo
     return record.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
+// Writes the workbook of a project and adds what came of it.
+void AddWorkbook(const ReportRequest& options, const ProjectName& project, ProjectReport& report,
+                 std::ostream& out, std::ostream& err) {
+    const auto say = [&](const std::string& text) {
+        PrintLine(err, project.inputFile + ": " + text);
+        report.messages.push_back(ForUser(text));
+    };
+    try {
+        const std::string path = PathOf(options.output, WorkbookOf(project));
+        const WorkbookReportResult result =
+            WriteWorkbookReport({project, options.cases, {}, options.strict, path});
+        if (HasError(result.findings)) report.status = Worse(report.status, kExitUnsound);
+        // The other formats have reported the load and the data.
+        if (options.formats.empty()) {
+            report.findings = result.findings;
+            for (const std::string& message : result.messages) say(message);
+            for (const Finding& finding : result.findings) {
+                if (finding.severity == Severity::note) continue;
+                PrintLine(err, project.inputFile + ": " + LineOf(finding));
+            }
+        }
+        if (!result.isWritten) return;
+        report.files.push_back(path);
+        if (!options.json) out << ForUser(path) << std::endl;
+    } catch (const ExportError& fault) {
+        say(fault.what());
+        report.status = Worse(report.status, kExitIncomplete);
+    } catch (const std::invalid_argument& fault) {
+        say(fault.what());
+        report.status = Worse(report.status, kExitUsage);
+    } catch (const std::exception& fault) {
+        say(fault.what());
+        report.status = Worse(report.status, kExitNotLoaded);
+    }
+}
+
 // One project in all formats.
 ProjectReport ReportProject(const ReportRequest& options, const ProjectName& project,
                             const std::string& place, std::ostream& out, std::ostream& err) {
@@ -69,7 +113,11 @@ ProjectReport ReportProject(const ReportRequest& options, const ProjectName& pro
         if (status == kExitUsage || status == kExitNotLoaded) break;
         if (options.strict && HasError(driver.Report().findings)) break;
     }
-    return driver.Report();
+    ProjectReport report = driver.Report();
+    if (options.workbook && Worse(report.status, kExitNotLoaded) != report.status) {
+        AddWorkbook(options, project, report, out, err);
+    }
+    return report;
 }
 
 ExitStatus ReportToStandardOutput(ReportRequest options, const ProjectName& project, std::ostream& out,

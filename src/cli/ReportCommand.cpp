@@ -73,11 +73,22 @@ void AddOnce(std::vector<Value>& values, Value value) {
 
 ExitStatus RunReport(ReportArguments& arguments, std::ostream& out, std::ostream& err) {
     ReportRequest& request = arguments.request;
-    for (const std::string& word : PartsOf(arguments.formats)) AddOnce(request.formats, ReadFormat(word));
+    for (const std::string& word : PartsOf(arguments.formats)) {
+        if (LowerCase(word) == "xlsx") {
+            request.workbook = true;
+        } else {
+            AddOnce(request.formats, ReadFormat(word));
+        }
+    }
+    if (request.workbook && request.formats.empty() && !arguments.tables.empty()) {
+        throw std::invalid_argument(
+            "the workbook of --format xlsx has all tables; for some of them use: lumerin export --format "
+            "xlsx");
+    }
     for (const std::string& word : PartsOf(arguments.tables)) {
         AddOnce(request.tables, std::string(ReadTable(word).name));
     }
-    if (request.formats.empty()) request.formats.push_back(ReadFormat("text"));
+    if (request.formats.empty() && !request.workbook) request.formats.push_back(ReadFormat("text"));
     if (request.tables.empty()) request.tables.emplace_back("full");
     if (!arguments.footer.empty()) request.footer = ReadFooter(arguments.footer);
     if (request.json && request.output.ToStandardOutput()) {
@@ -103,7 +114,9 @@ ProgramCommand AddReportCommand(CLI::App& program) {
             "Tables, separated by commas or with the option repeated: " + TableNames() + " (default full)")
         ->allow_extra_args(false)
         ->type_name("LIST");
-    command.add_option("--format", arguments->formats, "Formats, likewise: text, pdf, excel (default text)")
+    command
+        .add_option("--format", arguments->formats,
+                    "Formats, likewise: text, pdf, excel, xlsx (default text)")
         ->allow_extra_args(false)
         ->type_name("LIST");
     AddCaseOptions(command, request.cases);

@@ -26,6 +26,7 @@ struct ReportRequest {
     std::vector<std::string> projects;
     std::vector<std::string> tables;  // short names
     std::vector<int> formats;
+    bool workbook = false;  // one of all tables, besides the formats
     CaseChoice cases;
     FooterChoice footer;
     OutputOptions output;
