@@ -28,7 +28,7 @@ class MeasuredProject {
     const CDataSet& Data() const { return m_project.data; }
     const ResultTables& Results() const { return m_results; }
     const ForceSources& Forces() const { return m_project.forces; }
-    // A row reader serves one document.
+    // One row reader for each document.
     Report MakeReport(RowReader& rows) const {
         return {m_project.data, m_selection, m_results, m_enabled, m_options, rows};
     }

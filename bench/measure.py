@@ -29,7 +29,7 @@ class Run:
 
 
 def rounds(commands, count):
-    """Runs all commands in turn, `count` times behind one run that counts for nothing; a list for each.
+    """Runs all commands in turn, `count` times after a first run that is not counted; a list for each.
 
     In turn, so that a machine that slows down for a while slows down all of them.
     """

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""report.py BUILD PROJECTS: measures the whole program and its yardsticks and prints one table.
+"""report.py BUILD PROJECTS: measures the whole program and what it is compared with, and prints one table.
 
 BUILD has the programs, PROJECTS the sample projects; bench/run.sh makes both. The count of rounds is five.
 """
@@ -113,7 +113,7 @@ def main():
     table = Table()
     times = {name: measure_project(table, build, folder, name) for name in PROJECTS}
     collect, report = (times[BIG][index] / times["cases-80"][index] for index in (0, 1))
-    # No faster than the file. The small file costs more a byte: the start, and pages of the system's cache.
+    # Time grows with the length of the file. The small file costs more for each byte: start-up, and pages of the system's cache.
     table.at_most(f"load + collect, {BIG} : cases-80", collect, 11)
     table.at_most(f"full report, {BIG} : cases-80", report, 11)
     measure_writers(table, build, folder)

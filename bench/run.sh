@@ -1,7 +1,7 @@
 #!/bin/bash
 # bench/run.sh: installs what the benchmarks need, builds them, makes four projects and prints one table of
 # times, peak memory and ratios to yardsticks that are measured beside them. bench/run.sh parts runs the
-# benchmarks of the parts instead; further words go to them.
+# benchmarks of the parts instead, with the further arguments.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 

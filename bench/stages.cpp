@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// bench-stages: times single stages of the product in one process and prints "name value" lines.
+// bench-stages: measures single stages of the product in one process and prints "name value" lines.
 //   collect PROJECT.in         load and the eight collect steps
 //   plan PROJECT.in            input of sections.py: records by family and section, classes by case
 //   sheet PROJECT.in FILE      the pile head sheet
-//   pdf LINES FILE             ready lines set on pages
+//   pdf LINES FILE             prepared lines written as pages
 //   format                     numbers to text, against the C library
 #include <algorithm>
 #include <chrono>
@@ -39,7 +39,7 @@ std::string BaseOf(const char* project) {
     return path.substr(0, path.rfind('.'));
 }
 
-// The values at the extremes of a table, added up: sections.py must come to the same sum.
+// The sum of the values at the extremes of a table, which sections.py must reproduce.
 double SumOfExtremes(const CPier& pier, ForceRows& rows, MemberFamily family, const CRecordTable& table) {
     double sum = 0.0;
     for (int section = 0; section < table.Sections(); ++section) {
@@ -129,7 +129,7 @@ void RunSheet(const char* path, const char* file) {
     for (const CPier& pier : project.Data().m_Piers) {
         rows += static_cast<long long>(pier.m_Piles.size()) * pier.m_nLoadCases;
     }
-    constexpr int kCellsOfARow = 12;  // the empty one in front left out
+    constexpr int kCellsOfARow = 12;  // without the empty first cell
     std::printf("seconds %.6f\ncells %lld\n", seconds, rows * kCellsOfARow);
 }
 
@@ -148,7 +148,7 @@ void RunPdf(long lines, const char* file) {
     if (out.Failed()) throw std::runtime_error("the document could not be written");
 }
 
-// Forces as tables hold them: floats of several thousands and ratios about one, made wide.
+// Forces as tables hold them: floats of several thousands and ratios of about one, as doubles.
 std::vector<double> MakeNumbers() {
     std::vector<double> numbers(1 << 16);
     unsigned state = 20261114;

@@ -54,7 +54,7 @@ void CapModel::Solve(const CapLoads& loads) {
     }
 }
 
-// The supports of a part share what pushes along it.
+// The supports of a part share the load along its axis.
 void CapModel::ShareAlong(const CapLoads& loads) {
     const std::size_t parts = m_part.back() + 1;
     std::vector<double> push(parts, 0.0);
@@ -154,7 +154,8 @@ double CapModel::FixedMoment(std::size_t support, const std::vector<double>& loa
     return total * length / 10.0;
 }
 
-// In the plane the columns hold the cap and sway with it; across, the spans rest on them without moment.
+// In its plane the cap is fixed to the columns and sways with them; out of plane the spans are simply
+// supported.
 double CapModel::SupportMoment(const Plane& plane, std::size_t support, bool rightSide,
                                const std::vector<double>& loads, double weight, bool framed) const {
     const bool isFirst = support == 0;

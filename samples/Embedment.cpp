@@ -38,7 +38,7 @@ Extremes AxialExtremes(const std::vector<PileHead>& piles) {
     return result;
 }
 
-// Short piles turn about a point near their tip: the head moves little at first and then runs away.
+// Short piles turn about a point near their tip: the head moves little at first, then at a growing rate.
 double Flexibility(double length, double fullLength) {
     const double ratio = fullLength / length;
     return 0.5 + 0.03 * ratio * ratio * ratio * ratio * ratio * ratio;
@@ -86,7 +86,7 @@ class Trial {
         line += Pair(MostMoved(piles, flexibility, PushAnyWay), 6);
         line += Pair(MostMoved(piles, flexibility, PushAlong), 6);
         line += Pair(MostMoved(piles, flexibility, PushAcross), 6);
-        // A shorter pile sheds load to its neighbours.
+        // A shorter pile transfers load to its neighbours.
         const double share = 1.0 + 0.02 * (m_fullLength / m_length - 1.0);
         line += Pair({axial.greatest.value / share, axial.greatest.pile}, 4);
         line += Pair({axial.least.value * share, axial.least.pile}, 4);

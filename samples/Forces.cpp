@@ -11,12 +11,12 @@ namespace lumerin {
 namespace samples {
 namespace {
 
-// Share of the head's lateral force times length that the head is held by.
+// Fixity moment at the head, as a share of lateral force times length.
 constexpr double headFixity = 0.12;
 constexpr int calibrationCases = 256;
 
-// The force file has the sign of forces on the element, which turns round some of them; a pile's torque at
-// its end I turns too.
+// The force file has the signs of forces on the element, which are opposite for some components; so is the
+// torque of a pile at its end I.
 void AppendRecord(std::vector<float>& words, const SectionForces& i, const SectionForces& j, double ratioI,
                   double ratioJ, double torqueSignI) {
     const double record[wordsPerRecord] = {
@@ -59,8 +59,8 @@ ForceModel::ForceModel(const Project& project, std::size_t index)
     Calibrate();
 }
 
-// Axial force runs out along the shaft; the lateral force bends the upper part, and the moment turns its sign
-// a little below the head. Shear is the slope of the moment.
+// Axial force decreases along the shaft; the lateral force bends the upper part, and the moment changes its
+// sign a little below the head. Shear is the slope of the moment.
 void ForceModel::BuildPileShapes() {
     const auto& plan = m_substructure.plan;
     const double length = plan.pileLength * LengthFactor(plan.units);
@@ -96,7 +96,7 @@ void ForceModel::MeasureFoundation() {
     }
 }
 
-// Members are designed for the loads they see: the greatest demands among spread cases come out near 1.
+// Members are designed for their loads: the greatest demands among spread cases come out near 1.
 void ForceModel::Calibrate() {
     const int samples = std::min(m_cases, calibrationCases);
     std::array<Capacity, 4> most;
@@ -188,7 +188,7 @@ void ForceModel::Solve(int caseIndex) {
     SharePiles();
 }
 
-// What a column holds the cap with beyond the sway also pushes its ends apart, as in any frame.
+// The column's moment at the cap that is not from sway also thrusts its ends apart, as in any frame.
 void ForceModel::SolveColumns() {
     const auto& loads = m_substructure.plan.loads;
     for (std::size_t c = 0; c < m_columns.size(); ++c) {
@@ -256,7 +256,8 @@ void ForceModel::SolveBent() {
     }
 }
 
-// A stiff footing: axial forces are linear over the pile heads, and the leading rows take more of the push.
+// A stiff footing: axial forces are linear over the pile heads, and the leading rows carry more of the
+// lateral load.
 void ForceModel::SharePiles() {
     const double piles = static_cast<double>(m_piles.size());
     const double down = m_foundation.down + m_substructure.plan.loads.footingWeight * m_loads.dead * piles;

@@ -17,7 +17,7 @@ namespace samples {
 
 constexpr std::size_t wordsPerRecord = 17;
 
-// What a pile takes at its head; axial force is negative in compression.
+// Forces on a pile at its head; axial force is negative in compression.
 struct PileHead {
     double axial = 0.0;
     double shear2 = 0.0;

@@ -186,7 +186,7 @@ class Builder {
         }
     }
 
-    // A missing element takes its number with it: that is the gap the readers see.
+    // The number of a missing element is not used again, so the numbers have a gap there.
     void AddCapElements(int first, int last) {
         const int section = firstColumnSection + std::max(Plan().columnSections, 1);
         for (int i = first; i < last; ++i) {
@@ -217,7 +217,7 @@ class Builder {
         }
     }
 
-    // The load node of a group hangs on its corner piles.
+    // The load node of a group is connected to its corner piles.
     void AddGroupElements() {
         const int piles = m_result.PileCount();
         const int corners[] = {1, Plan().pileColumns, piles - Plan().pileColumns + 1, piles};

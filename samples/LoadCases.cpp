@@ -55,7 +55,7 @@ std::span<const LimitState> StatesOf(CodeFamily family) {
     return {};
 }
 
-// Takes turns between the classes, so that few cases reach all of them, and keeps the order of the codes.
+// Assigns the classes in turn, so that few cases include all of them, and keeps the order of the codes.
 std::vector<LimitState> ChooseStates(std::span<const LimitState> states, std::size_t count) {
     std::array<std::vector<LimitState>, 4> byClass;
     for (const auto& state : states) byClass[static_cast<std::size_t>(state.loadClass)].push_back(state);
@@ -94,13 +94,14 @@ CaseLoads Draw(Random& random, const FactorRange& range) {
     return loads;
 }
 
-// A wave of period 1 and height 1 from two parabolas: smooth to the eye and free of library functions.
+// A wave of period 1 and height 1 from two parabolas: smooth, and the same on every machine, since it calls
+// no library function.
 double Wave(double t) {
     const double u = t - static_cast<double>(static_cast<long long>(t));
     return u < 0.5 ? 8.0 * u * (1.0 - 2.0 * u) : -8.0 * (u - 0.5) * (2.0 - 2.0 * u);
 }
 
-// Strong shaking builds up over the first fifth of a record and dies away slowly.
+// Strong motion grows over the first fifth of a record and decays slowly.
 double ShakingEnvelope(double part) {
     return part < 0.2 ? part * 5.0 : 1.0 / (1.0 + 8.0 * (part - 0.2) * (part - 0.2) * 4.0);
 }
@@ -146,7 +147,7 @@ CaseLoads LoadGenerator::CombinationLoads(int index) const {
     return Draw(random, classFactors[static_cast<int>(ClassOf(index))]);
 }
 
-// Case 1 is dead load alone; then traffic, wind and impact take turns.
+// Case 1 is dead load alone; then traffic, wind and impact in turn.
 CaseLoads LoadGenerator::PlainLoads(int index) const {
     constexpr FactorRange turns[] = {{1.0, 1.0, 0.8, 1.0, 0.02},
                                      {1.0, 1.0, 0.0, 0.0, 0.12},

@@ -27,7 +27,7 @@ struct LimitRow {
     int count = 0;
 };
 
-// Shares the cases out over the limit states, with every class in use where there are cases enough.
+// Distributes the cases over the limit states, with every class in use where there are enough cases.
 // Empty without combinations.
 std::vector<LimitRow> DistributeLimitStates(CodeFamily family, int cases);
 

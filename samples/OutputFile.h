@@ -16,7 +16,7 @@ namespace lumerin {
 
 namespace samples {
 
-// What went wrong, as one line for the person at the terminal.
+// The fault, as one line for the terminal.
 class SampleError : public std::runtime_error {
   public:
     using std::runtime_error::runtime_error;
@@ -39,10 +39,10 @@ class OutputFile {
     void Write(std::span<const char> bytes);
     void Write(std::string_view text) { Write(std::span<const char>(text.data(), text.size())); }
 
-    // Leaves a hole, which reads as zeros; something must follow it.
+    // Leaves a hole, which reads as zeros; data must follow it.
     void Skip(std::int64_t bytes);
 
-    // Stores what is still held back. A file that is not closed may lack its end.
+    // Writes what is still in the buffer. A file that is not closed may lack its end.
     void Close();
 
   private:

@@ -35,7 +35,7 @@ void SetPiles(SubstructurePlan& plan, PileField field, double spacing, double le
     plan.pileNodes = nodes;
 }
 
-// A foundation of more piles than the preset's own carries that much more bridge.
+// A foundation with more piles than the preset's own carries proportionally more load.
 void ScaleLoads(SubstructurePlan& plan, int presetPiles) {
     const double factor = static_cast<double>(plan.pileRows * plan.pileColumns) / presetPiles;
     plan.loads.dead *= factor;
@@ -281,7 +281,7 @@ void CheckName(const std::string& name) {
     if (bad) throw SampleError("'" + name + "' cannot be the name of a project");
 }
 
-// The piles get shorter from trial to trial; one folder was lost and one analysis broke off.
+// The piles get shorter from trial to trial; one folder is missing and one analysis did not finish.
 EmbedmentStudy ShorteningStudy(int trials) {
     EmbedmentStudy study;
     for (int trial = 0; trial < trials; ++trial) study.lengths.push_back(60.0 - 32.0 / trials * trial);

@@ -69,7 +69,7 @@ void WriteModelHeader(SequentialFile& file, const Substructure& sub) {
     file.Write(Record().Zeros(10));
 }
 
-// Node k only turns the local axes; the first node serves every element.
+// Node k only orients the local axes; the first node does for every element.
 void WriteElements(SequentialFile& file, const Substructure& sub) {
     file.Write(Record().Ints({0, static_cast<std::int32_t>(sub.elements.size())}));
     for (const auto& row : sub.elements) {

@@ -111,7 +111,7 @@ void WriteKeyedFile(const std::filesystem::path& base, const Project& project) {
     file.Close();
 }
 
-// Between two combinations the host leaves none to two lines on their factors.
+// Between two combinations the host writes from none to two lines about their factors.
 void WriteCombinations(const std::filesystem::path& base, const std::vector<LimitRow>& rows) {
     LineFile file(WithSuffix(base, ".CMB"));
     for (const auto& row : rows) {

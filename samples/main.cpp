@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// make-sample: writes a sample project, with every file the host would leave beside its input.
+// make-sample: writes a sample project, with every file that the host would write beside its input.
 #include <iostream>
 
 #include "samples/CommandLine.h"

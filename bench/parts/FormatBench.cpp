@@ -9,7 +9,7 @@
 
 namespace lumerin {
 
-// Numbers to text, and the C library beside it.
+// Numbers to text, compared with the C library.
 namespace {
 
 constexpr int kWidth = 10;

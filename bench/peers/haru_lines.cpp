@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// haru_lines LINES FILE: sets LINES ready lines on pages through libharu, without compression: the same text,
-// font and lines per page as bench-stages pdf.
+// haru_lines LINES FILE: writes LINES prepared lines as pages with libharu, without compression: the same
+// text, font and lines per page as bench-stages pdf.
 #include <hpdf.h>
 
 #include <chrono>

@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""sections.py PLAN FORCES: what the five section tables and their checks look for, in NumPy.
+"""sections.py PLAN FORCES: the searches of the five section tables and of their checks, in NumPy.
 
 Memory-maps a force file and finds, for each section and limit class, the greatest D/C ratio and the thirteen
 extremes of the forces with their places, and whether every number is finite. PLAN is what `bench-stages plan`
@@ -65,7 +65,7 @@ class Search:
 
     def sum(self):
         forces = sum(sense * float(value) for (_, sense), (value, _) in self.best.items())
-        return forces + float(self.best[6, 1][0]) if self.best else 0.0  # the ratio stands in two tables
+        return forces + float(self.best[6, 1][0]) if self.best else 0.0  # the ratio is in two tables
 
 
 def runs_of(classes):

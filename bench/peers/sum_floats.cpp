@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// sum_floats FILE...: reads the files once, in blocks, and sums every float. What reading the force files
-// costs a program that does next to nothing with them; the other times are given as multiples of this one.
+// sum_floats FILE...: reads the files once, in blocks, and sums every float: the cost of reading the force
+// files for a program that hardly computes. The other times are given as multiples of this one.
 #include <chrono>
 #include <cstdio>
 #include <memory>
@@ -21,7 +21,7 @@ bool AddFile(const char* path, std::vector<float>& block, double& sum) {
     std::setvbuf(file.get(), nullptr, _IONBF, 0);
     for (;;) {
         const std::size_t floats = std::fread(block.data(), sizeof(float), block.size(), file.get());
-        // Eight sums side by side, as one alone would wait for each addition.
+        // Eight independent sums: with one, each addition would wait for the one before it.
         float sums[8] = {};
         std::size_t i = 0;
         for (; i + 8 <= floats; i += 8) {

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kNumbers = 11;  // pile, element, pile again, load case; then six forces and the ratio
 constexpr int kTextColumn = 5;
-constexpr std::size_t kReady = 1009;  // distinct rows, given again and again
+constexpr std::size_t kReady = 1009;  // distinct rows, written repeatedly
 
 std::array<std::array<double, kNumbers>, kReady> MakeRows() {
     std::array<std::array<double, kNumbers>, kReady> rows{};
