@@ -12,6 +12,7 @@
 #include "cli/ExportCommand.h"
 #include "cli/InfoCommand.h"
 #include "cli/OptionTexts.h"
+#include "cli/PlotCommand.h"
 #include "cli/ReportCommand.h"
 #include "cli/Suggest.h"
 #include "cli/Terminal.h"
@@ -25,7 +26,7 @@ using AddCommand = ProgramCommand (*)(CLI::App&);
 
 // In the order of the help.
 constexpr AddCommand kCommands[] = {
-    AddReportCommand, AddCheckCommand, AddInfoCommand, AddExportCommand, AddEmbedmentCommand, AddDriveCommand,
+    AddReportCommand, AddCheckCommand, AddInfoCommand, AddExportCommand, AddPlotCommand, AddEmbedmentCommand, AddDriveCommand,
 };
 
 constexpr const char* kProgramFooter =
