@@ -9,6 +9,7 @@
 
 #include "cli/CommonArguments.h"
 #include "cli/ScriptDriver.h"
+#include "records/OpenProject.h"
 #include "script/Border.h"
 #include "session/DesignerDlg.h"
 #include "session/Launch.h"
@@ -145,6 +146,8 @@ ProgramCommand AddDriveCommand(CLI::App& program) {
     command.footer(kDriveFooter);
     return {&command, [arguments](std::ostream& out, std::ostream& err) {
                 arguments->options.format = ReadStartFormat(arguments->format);
+                std::string& project = arguments->options.project;
+                if (!project.empty()) project = ProjectName(project).inputFile;
                 ApplyOptions(arguments->options.common);
                 return RunDrive(arguments->options, out, err);
             }};

@@ -3,28 +3,32 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <fstream>
 #include <memory>
 #include <stdexcept>
 
 #include "cli/CommonArguments.h"
+#include "cli/OutputPlan.h"
 #include "cli/Progress.h"
 #include "cli/ScriptDriver.h"
-#include "embedment/SvgCanvas.h"
+#include "cli/Suggest.h"
 #include "embedment/dialog/MPTEDlg.h"
+#include "framework/Index.h"
 #include "framework/WholeFile.h"
+#include "records/OpenProject.h"
 #include "script/Border.h"
 #include "session/Constants.h"
 #include "session/DesignerDlg.h"
 #include "session/Launch.h"
 #include "session/ReportControls.h"
+#include "text/Format.h"
 
 namespace lumerin {
 
 namespace {
 
-constexpr double kPictureWidth = 900.0, kPictureHeight = 540.0;
 constexpr const char* kColumnGap = "  ";
 
 using Rows = std::vector<std::vector<std::string>>;
@@ -56,9 +60,11 @@ bool WritePictureFile(const std::string& path, const std::string& picture) {
 }  // namespace
 
 int ReadEnvelope(std::string_view text) {
-    if (text == "max") return 0;
-    if (text == "min") return 1;
-    throw std::invalid_argument("\"" + std::string(text) + "\" is no envelope (max, min)");
+    const std::string word = LowerCase(text);
+    if (word == "max") return 0;
+    if (word == "min") return 1;
+    throw std::invalid_argument("\"" + std::string(text) + "\" is no envelope" +
+                                Suggestion(text, {"max", "min"}) + " (max, min)");
 }
 
 EmbedmentDriver::EmbedmentDriver(const EmbedmentOptions& options, std::ostream& out, std::ostream& err)
@@ -102,21 +108,34 @@ void EmbedmentDriver::DriveReport(headless::HeadlessDialog& dialog) {
 void EmbedmentDriver::DriveStudy(headless::HeadlessDialog& dialog, const CMPTEDlg& study) {
     // A message while the dialog opens means that the study is incomplete.
     if (m_nMessages > 0) m_status = Worse(m_status, kExitIncomplete);
-    if (!ChooseView(dialog)) return;
-    PrintTable(dialog, study);
+    bool isFirst = true;
+    for (const bool envelope : Views()) {
+        if (!ChooseView(dialog, envelope)) return;
+        if (!isFirst) m_out << '\n';
+        PrintTable(dialog, study, envelope);
+        if (isFirst && m_options.workbook) dialog.Click(IDC_STUDY_EXPORT);
+        isFirst = false;
+    }
+    if (m_options.maxDisplacement) PrintAnswer(study);
     if (!m_options.picture.empty()) WritePicture(study);
-    if (m_options.workbook) dialog.Click(IDC_STUDY_EXPORT);
     if (!m_Written.empty()) m_out << '\n';
     for (const std::string& path : m_Written) m_out << path << '\n';
     m_out.flush();
 }
 
-bool EmbedmentDriver::ChooseView(headless::HeadlessDialog& dialog) {
+std::vector<bool> EmbedmentDriver::Views() const {
+    if (m_options.envelope < 0) return {false};
+    if (m_options.hasCase) return {true, false};
+    return {true};
+}
+
+bool EmbedmentDriver::ChooseView(headless::HeadlessDialog& dialog, bool envelope) {
     const int before = m_nMessages;
-    if (m_options.envelope >= 0) {
+    if (envelope) {
         dialog.Click(IDC_STUDY_ENVELOPE);
         dialog.SelectEntry(IDC_STUDY_ENVELOPE_MODE, m_options.envelope);
     } else {
+        dialog.Click(IDC_STUDY_INDIVIDUAL);
         dialog.TypeText(IDC_STUDY_CASE, std::to_string(m_options.loadCase));
     }
     dialog.SelectEntry(IDC_STUDY_QUANTITY, m_options.quantity);
@@ -125,17 +144,28 @@ bool EmbedmentDriver::ChooseView(headless::HeadlessDialog& dialog) {
     return false;
 }
 
-void EmbedmentDriver::PrintTable(headless::HeadlessDialog& dialog, const CMPTEDlg& study) {
+// The dialog's own title names the single case, also for an envelope.
+std::string EmbedmentDriver::NameOf(const CMPTEDlg& study, bool envelope) const {
+    if (envelope) return m_options.envelope == 0 ? "Max Envelope" : "Min Envelope";
+    const std::string title = study.BuildPlotTitle(m_options.loadCase, m_options.quantity);
+    return title.substr(0, title.find(" - "));
+}
+
+std::string EmbedmentDriver::TitleOf(const CMPTEDlg& study) const {
+    std::string title;
+    for (const bool envelope : Views()) {
+        title += (title.empty() ? "" : ", ") + NameOf(study, envelope);
+    }
+    return title + " - Embedment vs " + kQuantityNames.at(Index(m_options.quantity));
+}
+
+void EmbedmentDriver::PrintTable(headless::HeadlessDialog& dialog, const CMPTEDlg& study, bool envelope) {
     const NativeWindow* grid = dialog.FindKind(ControlKind::grid);
     if (grid == nullptr || grid->grid == nullptr) return;
     Rows rows;
     for (int row = 0; row < grid->grid->RowCount(); ++row) rows.push_back(grid->grid->RowTexts(row));
     const std::vector<std::size_t> widths = ColumnWidths(rows);
-    // The plot's caption names the single case, also for an envelope.
-    const NativeWindow* quantity = dialog.Find(IDC_STUDY_QUANTITY);
-    const NativeWindow* envelope = dialog.Find(IDC_STUDY_ENVELOPE_MODE);
-    m_out << (m_options.envelope >= 0 ? envelope->text + " - Embedment vs " + quantity->text
-                                      : study.BuildPlotTitle(m_options.loadCase, m_options.quantity))
+    m_out << NameOf(study, envelope) << " - Embedment vs " << kQuantityNames.at(Index(m_options.quantity))
           << '\n';
     for (const auto& row : rows) {
         std::string line;
@@ -147,12 +177,93 @@ void EmbedmentDriver::PrintTable(headless::HeadlessDialog& dialog, const CMPTEDl
     }
 }
 
-void EmbedmentDriver::WritePicture(const CMPTEDlg& study) {
-    const std::string picture = PlotAsSvg(study.m_Graph.Plot(), kPictureWidth, kPictureHeight);
-    if (WritePictureFile(m_options.picture, picture)) {
-        m_Written.push_back(m_options.picture);
+StudyCurve EmbedmentDriver::CurveOf(const CMPTEDlg& study, bool envelope) const {
+    StudyCurve curve{NameOf(study, envelope), {}};
+    const CEmbedmentResults& results = study.m_pResults;
+    for (int trial = 0; trial < results.GetTrialCount(); ++trial) {
+        StudyPoint point{trial + 1, !results.IsTrialIncomplete(trial), results.GetEmbedment(trial)};
+        int loadCase = m_options.loadCase - 1;
+        if (envelope) loadCase = study.GetEnvelopePoint(trial, m_options.quantity, m_options.envelope).nCase;
+        point.value = results.GetValue(trial, loadCase, m_options.quantity);
+        point.pile = results.GetLocation(trial, loadCase, m_options.quantity);
+        point.loadCase = loadCase + 1;
+        curve.points.push_back(point);
+    }
+    return curve;
+}
+
+StudyCurve EmbedmentDriver::HeldCurve(const CMPTEDlg& study) const {
+    if (m_options.envelope < 0) return CurveOf(study, false);
+    StudyCurve curve = CurveOf(study, true);
+    const CEmbedmentResults& results = study.m_pResults;
+    for (StudyPoint& point : curve.points) {
+        // A component of the displacement can be greatest in either direction.
+        for (const int mode : {0, 1}) {
+            const CEnvelopePoint end = study.GetEnvelopePoint(point.trial - 1, m_options.quantity, mode);
+            if (std::fabs(end.dValue) <= std::fabs(point.value)) continue;
+            point.value = end.dValue;
+            point.loadCase = end.nCase + 1;
+            point.pile = results.GetLocation(point.trial - 1, end.nCase, m_options.quantity);
+        }
+    }
+    return curve;
+}
+
+void EmbedmentDriver::PrintAnswer(const CMPTEDlg& study) {
+    const bool us = study.m_nUnits == 0;
+    const std::string length = us ? " ft" : " m", displacement = us ? " in" : " m";
+    const auto number = [](double value, int decimals) { return FormatFixed(value, decimals); };
+    const EmbedmentAnswer answer = FindEmbedment(HeldCurve(study).points, *m_options.maxDisplacement);
+    const auto trial = [&](const StudyPoint& point) {
+        return "trial " + std::to_string(point.trial) + ": " + number(point.value, 6) + displacement +
+               ", case " + std::to_string(point.loadCase) + ", pile " + std::to_string(point.pile);
+    };
+    m_out << '\n'
+          << kQuantityNames.at(Index(m_options.quantity)) << " of at most "
+          << FormatGeneral(*m_options.maxDisplacement) << displacement << ", "
+          << (m_options.envelope < 0 ? NameOf(study, false) : "all cases") << '\n';
+    if (answer.shortest) {
+        m_out << "  Shortest tried embedment that holds: " << number(answer.shortest->embedment, 2) << length
+              << " (" << trial(*answer.shortest) << ")\n";
     } else {
-        Fail(kExitIncomplete, "the picture " + m_options.picture + " could not be written");
+        m_out << "  No tried embedment holds\n";
+        m_status = Worse(m_status, kExitIncomplete);
+    }
+    if (answer.interpolated) {
+        m_out << "  Interpolated embedment: " << number(*answer.interpolated, 2) << length
+              << " (too short: " << number(answer.tooShort->embedment, 2) << length << ", "
+              << trial(*answer.tooShort) << ")\n";
+    } else if (answer.shortest) {
+        m_out << "  Interpolated embedment: none, because no shorter trial exceeds the limit\n";
+    }
+    m_out << "  Incomplete trials: ";
+    const char* separator = "";
+    for (const int incomplete : answer.incomplete) {
+        m_out << separator << incomplete;
+        separator = ", ";
+    }
+    m_out << (answer.incomplete.empty() ? "none\n" : "\n");
+}
+
+void EmbedmentDriver::WritePicture(const CMPTEDlg& study) {
+    std::vector<StudyCurve> curves;
+    for (const bool envelope : Views()) curves.push_back(CurveOf(study, envelope));
+    std::string missing;
+    for (const StudyPoint& point : curves.front().points) {
+        if (point.isComplete && std::isfinite(point.value)) continue;
+        missing += (missing.empty() ? "" : ", ") + std::to_string(point.trial);
+    }
+    // No change of the status: the table says so too.
+    if (!missing.empty()) Fail(kExitDone, "the picture has a gap for the incomplete trials " + missing);
+    const char* const unit = study.m_nUnits == 0 ? "(ft)" : "(m)";
+    const StudyLabels labels{TitleOf(study), std::string("Embedment Length ") + unit,
+                             study.BuildYLabel(m_options.quantity)};
+    if (WritePictureFile(m_options.picture, StudyPicture(labels, curves))) {
+        m_Written.insert(m_Written.begin(), m_options.picture);
+    } else {
+        const std::string why = WriteFault(m_options.picture);
+        Fail(kExitIncomplete,
+             "the picture " + m_options.picture + " could not be written" + (why.empty() ? "" : ": " + why));
     }
 }
 
@@ -183,38 +294,90 @@ ExitStatus RunEmbedment(const EmbedmentOptions& options, std::ostream& out, std:
     return driver.Run();
 }
 
+namespace {
+
+constexpr const char* kEmbedmentFooter =
+    "Examples:\n"
+    "  lumerin embedment bridge.in --case 3 --svg curve.svg\n"
+    "  lumerin embedment bridge --quantity lateral-x --envelope max --case 3\n"
+    "  lumerin embedment bridge --max-displacement 1.0\n"
+    "\n"
+    "Prints the table and the path of each file that was written. With an envelope and a case both tables "
+    "are "
+    "printed, and the picture has both curves; the workbook is that of the envelope. --max-displacement "
+    "prints the shortest tried embedment with which the displacement and that of every longer trial is at "
+    "most the limit, in any direction; the interpolated one, on the straight line to the next shorter trial; "
+    "and the trials that are incomplete. Without --case it holds all cases against the limit.\n"
+    "\n"
+    "Exit status:\n"
+    "  0  done\n"
+    "  1  the project has no study, a part of it could not be read or\n"
+    "     written, or no tried embedment holds\n"
+    "  2  wrong usage, or no such case\n"
+    "  3  the project could not be loaded";
+
+struct EmbedmentArguments {
+    EmbedmentOptions options;
+    std::string project, envelope, quantity;
+};
+
+ExitStatus RunEmbedmentCommand(EmbedmentArguments& arguments, std::ostream& out, std::ostream& err) {
+    EmbedmentOptions& options = arguments.options;
+    if (!arguments.envelope.empty()) options.envelope = ReadEnvelope(arguments.envelope);
+    if (!arguments.quantity.empty()) options.quantity = ReadQuantity(arguments.quantity);
+    if (options.maxDisplacement) {
+        if (options.quantity > kLateralY) {
+            throw std::invalid_argument("--max-displacement holds displacements, not axial forces");
+        }
+        if (!(*options.maxDisplacement > 0.0)) {
+            throw std::invalid_argument("--max-displacement takes a number that is greater than 0");
+        }
+        if (!options.hasCase && options.envelope < 0) options.envelope = 0;
+    }
+    const ProjectName project(arguments.project);
+    options.project = project.inputFile;
+    ApplyOptions(options.common);
+    if (ProjectExists(project)) return RunEmbedment(options, out, err);
+    PrintLine(err, "lumerin: no project " + project.inputFile);
+    return kExitNotLoaded;
+}
+
+}  // namespace
+
 ProgramCommand AddEmbedmentCommand(CLI::App& program) {
-    struct Arguments {
-        EmbedmentOptions options;
-        std::string envelope;
-    };
-    const auto arguments = std::make_shared<Arguments>();
+    const auto arguments = std::make_shared<EmbedmentArguments>();
     EmbedmentOptions& options = arguments->options;
     CLI::App& command = *program.add_subcommand("embedment", "Show the embedment study of a project");
-    command.add_option("PROJECT", options.project, "Input file of a project (.in)")->required();
-    CLI::Option* loadCase =
-        command.add_option("--case", options.loadCase, "Number of the load case (default 1)");
-    command.add_option("--envelope", arguments->envelope, "max or min over all cases in place of one case")
-        ->excludes(loadCase);
+    command.add_option("PROJECT", arguments->project, "A project: its input file, with or without .in")
+        ->required();
     command
-        .add_option("--quantity", options.quantity,
-                    "0 lateral displacement (default), 1 along x, 2 along y, 3 greatest, 4 least axial force")
-        ->check(CLI::Range(0, 4));
-    command.add_option("--svg", options.picture, "Write the curve to this file");
+        .add_option_function<int>(
+            "--case",
+            [arguments](int loadCase) {
+                arguments->options.loadCase = loadCase;
+                arguments->options.hasCase = true;
+            },
+            "Number of the load case (default 1)")
+        ->type_name("N");
+    command
+        .add_option("--envelope", arguments->envelope,
+                    "max or min over all cases; with --case beside that case")
+        ->type_name("WORD");
+    command
+        .add_option("--quantity", arguments->quantity,
+                    "lateral displacement (default), lateral-x, lateral-y, max-axial or min-axial force")
+        ->type_name("WORD");
+    command
+        .add_option_function<double>(
+            "--max-displacement", [arguments](double limit) { arguments->options.maxDisplacement = limit; },
+            "Print which embedment keeps the displacement at or below this, in in or m")
+        ->type_name("LENGTH");
+    command.add_option("--svg", options.picture, "Write the curve to this file")->type_name("FILE");
     command.add_flag("--excel", options.workbook, "Write the table as a workbook beside the project");
     AddCommonOptions(command, options.common);
-    command.footer(
-        "Prints the table and the path of each file that was written. Exit status: 0 done, 1 the project "
-        "has\n"
-        "no study or a part of it could not be read or written, 2 wrong usage or no such case, 3 the "
-        "project\n"
-        "could not be loaded.");
+    command.footer(kEmbedmentFooter);
     return {&command, [arguments](std::ostream& out, std::ostream& err) {
-                if (!arguments->envelope.empty()) {
-                    arguments->options.envelope = ReadEnvelope(arguments->envelope);
-                }
-                ApplyOptions(arguments->options.common);
-                return RunEmbedment(arguments->options, out, err);
+                return RunEmbedmentCommand(*arguments, out, err);
             }};
 }
 

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "cli/Command.h"
 #include "cli/Options.h"
+#include "cli/StudyCurves.h"
 #include "framework/headless/Headless.h"
 
 namespace lumerin {
@@ -16,10 +18,12 @@ class CMPTEDlg;
 struct EmbedmentOptions {
     std::string project;
     int loadCase = 1;
-    int quantity = 0;       // as in the dialog's list
-    int envelope = -1;      // 0 greatest, 1 least; -1: the single case
-    std::string picture;    // the SVG file; empty: none
-    bool workbook = false;  // press the dialog's "Excel"
+    bool hasCase = false;                   // the case is shown beside the envelope
+    int quantity = 0;                       // as in the dialog's list
+    int envelope = -1;                      // 0 greatest, 1 least; -1: the single case
+    std::optional<double> maxDisplacement;  // answers which embedment holds it
+    std::string picture;                    // the SVG file; empty: none
+    bool workbook = false;                  // press the dialog's "Excel"
     CommonOptions common;
 };
 
@@ -39,9 +43,17 @@ class EmbedmentDriver : public headless::Sink {
     void Drive(headless::HeadlessDialog& dialog);
     void DriveReport(headless::HeadlessDialog& dialog);
     void DriveStudy(headless::HeadlessDialog& dialog, const CMPTEDlg& study);
-    bool ChooseView(headless::HeadlessDialog& dialog);
-    void PrintTable(headless::HeadlessDialog& dialog, const CMPTEDlg& study);
+    // A table and a curve: the envelope, or the single case.
+    std::vector<bool> Views() const;
+    bool ChooseView(headless::HeadlessDialog& dialog, bool envelope);
+    std::string NameOf(const CMPTEDlg& study, bool envelope) const;
+    std::string TitleOf(const CMPTEDlg& study) const;
+    void PrintTable(headless::HeadlessDialog& dialog, const CMPTEDlg& study, bool envelope);
+    StudyCurve CurveOf(const CMPTEDlg& study, bool envelope) const;
+    // The size of the displacement that is held against the limit.
+    StudyCurve HeldCurve(const CMPTEDlg& study) const;
     void WritePicture(const CMPTEDlg& study);
+    void PrintAnswer(const CMPTEDlg& study);
     void Fail(ExitStatus status, const std::string& text);
 
     const EmbedmentOptions& m_options;
@@ -53,7 +65,7 @@ class EmbedmentDriver : public headless::Sink {
     ExitStatus m_status = kExitDone;
 };
 
-int ReadEnvelope(std::string_view text);  // max or min: the entry of the dialog's list
+int ReadEnvelope(std::string_view text);  // max or min, in letters of either case: the entry of the list
 ExitStatus RunEmbedment(const EmbedmentOptions& options, std::ostream& out, std::ostream& err);
 
 // "embedment": the study of a project, its curve and its workbook.

@@ -32,7 +32,7 @@ std::string NearestWord(std::string_view given, std::span<const std::string> wor
     if (given.size() > kLongest) return {};
     const std::string lower = LowerCase(given);
     std::string nearest;
-    std::size_t least = std::max<std::size_t>(1, given.size() / kLettersPerFault) + 1;
+    std::size_t least = (given.size() + kLettersPerFault - 1) / kLettersPerFault + 1;
     for (const std::string& word : words) {
         const std::size_t distance = Distance(lower, LowerCase(word));
         if (distance >= least) continue;

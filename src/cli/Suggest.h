@@ -9,7 +9,8 @@
 namespace lumerin {
 
 // The word that the user may have meant: the one with the fewest letters to insert, delete, replace or swap,
-// at most one for each three letters. Empty: none is near. Letters of either case are the same.
+// at most one for each three letters that were begun. Empty: none is near. Letters of either case are the
+// same.
 std::string NearestWord(std::string_view given, std::span<const std::string> words);
 
 // "; do you mean axial?", or nothing when no word is near.

@@ -97,7 +97,7 @@ void CPlot::Call(int dispatchId, std::span<const GraphValue> arguments) {
             m_Elements.clear();
             break;
         case kGraphAddElement:
-            m_Elements.emplace_back();
+            m_Elements.push_back({{}, kSeries, {}});
             break;
         case kGraphSetRanges:
             if (arguments.size() < 4) break;
@@ -109,8 +109,8 @@ void CPlot::Call(int dispatchId, std::span<const GraphValue> arguments) {
         case kGraphPlotPoint: {
             Curve* curve = CurrentElement();
             if (arguments.size() < 2 || curve == nullptr) break;
-            if (curve->empty()) curve->emplace_back();
-            curve->back().push_back({Real(arguments[0]), Real(arguments[1])});
+            if (curve->runs.empty()) curve->runs.emplace_back();
+            curve->runs.back().push_back({Real(arguments[0]), Real(arguments[1])});
             break;
         }
         default:
@@ -120,7 +120,14 @@ void CPlot::Call(int dispatchId, std::span<const GraphValue> arguments) {
 
 void CPlot::LeaveGap() {
     Curve* curve = CurrentElement();
-    if (curve != nullptr && !curve->empty()) curve->emplace_back();
+    if (curve != nullptr && !curve->runs.empty()) curve->runs.emplace_back();
+}
+
+void CPlot::Distinguish(std::uint32_t colour, const std::string& name) {
+    if (Curve* curve = CurrentElement()) {
+        curve->colour = colour;
+        curve->name = name;
+    }
 }
 
 CPlot::Curve* CPlot::CurrentElement() {
@@ -182,8 +189,24 @@ void CPlot::Draw(PlotCanvas& canvas, double width, double height) const {
     DrawTexts(canvas, layout, width);
     if (!layout.x.IsValid() || !layout.y.IsValid()) return;
     for (const Curve& curve : m_Elements) {
-        for (const auto& run : curve) DrawSeries(canvas, layout, run);
+        for (const auto& run : curve.runs) DrawSeries(canvas, layout, run, curve.colour);
+        if (!curve.name.empty()) DrawName(canvas, layout, curve);
     }
+}
+
+void CPlot::DrawName(PlotCanvas& canvas, const Layout& layout, const Curve& curve) const {
+    if (curve.runs.empty() || curve.runs.front().empty()) return;
+    const PlotRect& frame = layout.frame;
+    const double em = layout.text.height;
+    const PlotPoint first = curve.runs.front().front();
+    const PlotPoint place{frame.left + frame.Width() * layout.x.Share(first.x),
+                          frame.bottom - frame.Height() * layout.y.Share(first.y)};
+    if (!IsFinite(place)) return;
+    // On the side of the point that has more space.
+    const bool isLeft = place.x < (frame.left + frame.right) / 2.0;
+    const double y = place.y - frame.top > em * 2.0 ? place.y - em * 0.7 : place.y + em * 1.4;
+    canvas.Text(curve.name, {place.x, y}, layout.text, isLeft ? TextAnchor::start : TextAnchor::end, false,
+                curve.colour);
 }
 
 void CPlot::DrawGrid(PlotCanvas& canvas, const Layout& layout) const {
@@ -254,7 +277,8 @@ void CPlot::DrawTexts(PlotCanvas& canvas, const Layout& layout, double width) co
             frame.Height() + em * 2.0, true);
 }
 
-void CPlot::DrawSeries(PlotCanvas& canvas, const Layout& layout, const std::vector<PlotPoint>& run) const {
+void CPlot::DrawSeries(PlotCanvas& canvas, const Layout& layout, const std::vector<PlotPoint>& run,
+                       std::uint32_t colour) const {
     const PlotRect& frame = layout.frame;
     const double em = layout.text.height;
     std::vector<PlotPoint> places;
@@ -266,7 +290,7 @@ void CPlot::DrawSeries(PlotCanvas& canvas, const Layout& layout, const std::vect
     // Lines are cut at the frame, so that the line to a point outside is still shown.
     std::vector<PlotPoint> line;
     const auto flush = [&] {
-        if (line.size() > 1) canvas.Polyline(line, std::max(1.3, em * 0.15), kSeries);
+        if (line.size() > 1) canvas.Polyline(line, std::max(1.3, em * 0.15), colour);
         line.clear();
     };
     for (std::size_t i = 1; i < places.size(); ++i) {
@@ -281,7 +305,7 @@ void CPlot::DrawSeries(PlotCanvas& canvas, const Layout& layout, const std::vect
     }
     flush();
     for (const PlotPoint& place : places) {
-        if (frame.Contains(place)) canvas.Disc(place, std::max(2.5, em * 0.3), kSeries, kWhite);
+        if (frame.Contains(place)) canvas.Disc(place, std::max(2.5, em * 0.3), colour, kWhite);
     }
 }
 

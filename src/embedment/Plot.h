@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <span>
 #include <string>
@@ -45,6 +46,9 @@ class CPlot {
     // The current element's next point is not joined to the one before it. The graph control has no such
     // member: it joins all points.
     void LeaveGap();
+    // Colour (0xRRGGBB) of the current element, and a name that is drawn at its end. The graph control has no
+    // such members.
+    void Distinguish(std::uint32_t colour, const std::string& name);
 
     void Draw(PlotCanvas& canvas, double width, double height) const;
     // The x of the data at a place of the drawing, also left and right of the frame.
@@ -67,7 +71,11 @@ class CPlot {
     };
 
     // An element's points in runs; the points of a run are joined by a line.
-    using Curve = std::vector<std::vector<PlotPoint>>;
+    struct Curve {
+        std::vector<std::vector<PlotPoint>> runs;
+        std::uint32_t colour;
+        std::string name;  // empty: none is drawn
+    };
 
     int Integer(int id, int fallback) const;
     Curve* CurrentElement();  // null: there is none
@@ -77,7 +85,9 @@ class CPlot {
     void DrawGrid(PlotCanvas& canvas, const Layout& layout) const;
     void DrawAxes(PlotCanvas& canvas, const Layout& layout) const;
     void DrawTexts(PlotCanvas& canvas, const Layout& layout, double width) const;
-    void DrawSeries(PlotCanvas& canvas, const Layout& layout, const std::vector<PlotPoint>& run) const;
+    void DrawSeries(PlotCanvas& canvas, const Layout& layout, const std::vector<PlotPoint>& run,
+                    std::uint32_t colour) const;
+    void DrawName(PlotCanvas& canvas, const Layout& layout, const Curve& curve) const;
 
     std::map<int, GraphValue> m_Properties;
     std::vector<Curve> m_Elements;

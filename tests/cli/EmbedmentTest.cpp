@@ -146,4 +146,76 @@ TEST_F(EmbedmentCommandTest, AProjectWithoutAStudyIsReported) {
     EXPECT_EQ(Run(), kExitNotLoaded);
 }
 
+// Trials of 60, 56, 52 and 48 ft, one that is missing, 40 ft, one that is unfinished, 32 ft.
+TEST_F(EmbedmentCommandTest, AnEnvelopeAndACaseAreTwoTablesAndTwoCurves) {
+    options.envelope = 0;
+    options.loadCase = 3;
+    options.hasCase = true;
+    options.picture = folder.Base("curve.svg");
+    ASSERT_EQ(Run(), kExitDone) << err.str();
+    EXPECT_THAT(out.str(), testing::StartsWith("Max Envelope - Embedment vs Lateral Displacement\n"));
+    EXPECT_THAT(out.str(), HasSubstr("\n\nLoad Comb 3 - Embedment vs Lateral Displacement\n"));
+    std::ifstream file(options.picture);
+    const std::string picture(std::istreambuf_iterator<char>(file), {});
+    EXPECT_THAT(picture, HasSubstr(">Max Envelope, Load Comb 3 - Embedment vs Lateral Displacement</text>"));
+    EXPECT_THAT(picture, HasSubstr(">Max Envelope</text>"));
+    EXPECT_THAT(picture, HasSubstr(">Load Comb 3</text>"));
+    // What is left out is named.
+    EXPECT_THAT(err.str(), HasSubstr("gap for the incomplete trials 5, 7\n"));
+}
+
+TEST_F(EmbedmentCommandTest, ADisplacementIsHeldByTheShortestTrialThatIsStillLongEnough) {
+    options.envelope = 0;
+    ASSERT_EQ(Run(), kExitDone) << err.str();
+    const double held = std::stod(Words(6)[4]), exceeded = std::stod(Words(8)[4]);  // 48 ft and 40 ft
+    ASSERT_LT(held, exceeded);
+    options.maxDisplacement = (held + exceeded) / 2.0;
+    ASSERT_EQ(Run(), kExitDone) << err.str();
+    EXPECT_THAT(out.str(), HasSubstr("  Shortest tried embedment that holds: 48.00 ft (trial 4: "));
+    EXPECT_THAT(out.str(), HasSubstr("  Interpolated embedment: 44.00 ft (too short: 40.00 ft, trial 6: "));
+    EXPECT_THAT(out.str(), HasSubstr("  Incomplete trials: 5, 7\n"));
+    options.maxDisplacement = 1e-6;
+    EXPECT_EQ(Run(), kExitIncomplete);
+    EXPECT_THAT(out.str(), HasSubstr("  No tried embedment holds\n"));
+}
+
+TEST(StudyCurves, AShorterTrialThatHoldsByChanceIsNoAnswer) {
+    const std::vector<StudyPoint> points = {{1, true, 30.0, 0.5, 1, 1},
+                                            {2, true, 40.0, -2.0, 1, 1},
+                                            {3, true, 50.0, 1.0, 1, 1},
+                                            {4, false, 0.0, 0.0, 0, 0},
+                                            {5, true, 60.0, 0.2, 1, 1}};
+    const EmbedmentAnswer answer = FindEmbedment(points, 1.0);
+    ASSERT_TRUE(answer.shortest && answer.tooShort && answer.interpolated);
+    EXPECT_EQ(answer.shortest->trial, 3);
+    EXPECT_EQ(answer.tooShort->trial, 2);
+    EXPECT_DOUBLE_EQ(*answer.interpolated, 50.0);  // it holds exactly there
+    EXPECT_EQ(answer.incomplete, std::vector<int>{4});
+    EXPECT_DOUBLE_EQ(*FindEmbedment(points, 1.5).interpolated, 45.0);
+    EXPECT_FALSE(FindEmbedment(points, 3.0).interpolated.has_value());
+    EXPECT_FALSE(FindEmbedment(points, 0.1).shortest.has_value());
+}
+
+TEST(StudyCurves, AxesHaveRoundTicksAndHoldTheirData) {
+    // Steps of 0.005 would be nine parts, one more than an axis has.
+    const RoundAxis displacement = RoundAxisFor(0.0843, 0.1204);
+    EXPECT_DOUBLE_EQ(displacement.min, 0.08);
+    EXPECT_DOUBLE_EQ(displacement.max, 0.13);
+    EXPECT_EQ(displacement.decimals, 2);
+    EXPECT_EQ(displacement.ticks, 5);
+    const RoundAxis length = RoundAxisFor(32.0, 60.0);
+    EXPECT_DOUBLE_EQ(length.min, 30.0);
+    EXPECT_DOUBLE_EQ(length.max, 60.0);
+    EXPECT_EQ(length.ticks, 6);
+    EXPECT_EQ(length.decimals, 0);
+    for (const auto& [low, high] : std::vector<std::pair<double, double>>{
+             {-1234.5, 17.0}, {5.0, 5.0}, {0.0, 0.0}, {1e-9, 3e-9}, {-3e7, -1e7}, {0.0, 1.0}}) {
+        const RoundAxis axis = RoundAxisFor(low, high);
+        EXPECT_LE(axis.min, low);
+        EXPECT_GE(axis.max, high);
+        EXPECT_GE(axis.ticks, 1);
+        EXPECT_LE(axis.ticks, 10);
+    }
+}
+
 }  // namespace lumerin
