@@ -76,6 +76,9 @@ void Workbook::MakeFormats() {
     }
     format_set_num_format(Format(CellStyle::integer), "0");
     format_set_num_format(Format(CellStyle::real), "0.00");
+    format_set_num_format(Format(CellStyle::bad), "0.00");
+    // A text after a column of numbers would touch them.
+    format_set_indent(Format(CellStyle::text), 1);
     for (const CellStyle style : {CellStyle::head, CellStyle::unit}) {
         FillWith(Format(style), kHeadFill);
     }
