@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "cli/PlotCommand.h"
+
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <sstream>
+#include <stdexcept>
+
+#include "support/RecordsProject.h"
+#include "support/SampleFolder.h"
+
+namespace lumerin {
+
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+struct Outcome {
+    ExitStatus status = kExitDone;
+    std::string out, err;
+};
+
+Outcome Plot(const PlotRequest& request) {
+    std::ostringstream out, err;
+    Outcome outcome;
+    outcome.status = RunPlot(request, out, err);
+    outcome.out = out.str();
+    outcome.err = err.str();
+    return outcome;
+}
+
+PlotRequest Of(const std::string& project, const std::string& figure) {
+    PlotRequest request;
+    request.project = project;
+    request.figure = figure;
+    return request;
+}
+
+}  // namespace
+
+TEST(Plot, APictureGoesToStandardOutputAlone) {
+    const SampleFolder folder;
+    const Outcome outcome = Plot(Of(folder.Write("bent"), "cap-moment"));
+    EXPECT_EQ(outcome.status, kExitDone);
+    EXPECT_THAT(outcome.out, StartsWith("<svg "));
+    EXPECT_THAT(outcome.out, HasSubstr("bent.in, substructure 1 (pile bent), all 18 cases"));
+    EXPECT_THAT(outcome.err, IsEmpty());
+}
+
+TEST(Plot, AFileIsWrittenWholeAndNamed) {
+    const SampleFolder folder;
+    PlotRequest request = Of(folder.Write("bent"), "dc");
+    request.output = (folder.Path() / "dc.svg").string();
+    const Outcome outcome = Plot(request);
+    EXPECT_EQ(outcome.out, request.output + "\n");
+    EXPECT_GT(std::filesystem::file_size(request.output), 1000U);
+    request.output = (folder.Path() / "none" / "dc.svg").string();
+    EXPECT_EQ(Plot(request).status, kExitIncomplete);
+}
+
+TEST(Plot, OfSeveralSubstructuresOneMustBeNamed) {
+    const SampleFolder folder;
+    PlotRequest request = Of(folder.Write("bridge"), "pile-heads");
+    EXPECT_THROW(Plot(request), std::invalid_argument);
+    request.substructure = 4;
+    EXPECT_THROW(Plot(request), std::invalid_argument);
+    request.substructure = 3;
+    EXPECT_THAT(Plot(request).out, HasSubstr("substructure 3 of 3 (pile group)"));
+}
+
+TEST(Plot, AnUnknownFigureIsWrongUsageAndAMissingProjectStatusThree) {
+    EXPECT_THROW(Plot(Of("none", "cap-torsion")), std::invalid_argument);
+    const Outcome outcome = Plot(Of("none", "dc"));
+    EXPECT_EQ(outcome.status, kExitNotLoaded);
+    EXPECT_EQ(outcome.err, "none.in: no project none.in\n");
+}
+
+// The limit and the choice of cases are those of `check`.
+TEST(Plot, LimitAndCasesAreNamed) {
+    const SampleFolder folder;
+    PlotRequest request = Of(folder.Write("bent"), "dc");
+    request.limits.ratio = 0.9;
+    ReadCases("1-6", request.cases);
+    const Outcome outcome = Plot(request);
+    EXPECT_THAT(outcome.out, HasSubstr("limit 0.9"));
+    EXPECT_THAT(outcome.out, HasSubstr("6 of 18 cases"));
+    EXPECT_THAT(outcome.out, HasSubstr("1.02 over the limit, pile 2 head, case 6 LFD-GROUP-V"));
+}
+
+TEST(Plot, DataAreTheRowsOfTheSubstructure) {
+    const SampleFolder folder;
+    PlotRequest request = Of(folder.Write("bridge"), "cap-shear");
+    request.substructure = 2;
+    request.data = true;
+    const Outcome outcome = Plot(request);
+    std::istringstream lines(outcome.out);
+    std::string line;
+    std::getline(lines, line);
+    EXPECT_THAT(line, StartsWith("project,substructure,record,element,end,"));
+    int rows = 0;
+    while (std::getline(lines, line)) {
+        EXPECT_THAT(line, HasSubstr("bridge,2,"));
+        ++rows;
+    }
+    EXPECT_GT(rows, 20);
+}
+
+TEST(Plot, UnsoundDataAreStatusFourAndTheFigureIsThere) {
+    RecordsProject project;
+    project.cases = 3;
+    project.Set(0, 1, kRatioJ, 0.5F);
+    project.WriteAll();
+    std::filesystem::resize_file(project.Path(".vmd"), 7 * 68);
+    const Outcome outcome = Plot(Of(project.Base(), "pile-heads"));
+    EXPECT_EQ(outcome.status, kExitUnsound);
+    EXPECT_THAT(outcome.out, StartsWith("<svg "));
+    EXPECT_THAT(outcome.err, HasSubstr("error: missing-records"));
+}
+
+}  // namespace lumerin
