@@ -88,12 +88,12 @@ std::string UsageOf(const CLI::App& parser) {
 }
 
 std::vector<std::string> WordsOf(std::string_view command, std::string_view option) {
-    const std::vector<std::string> documents = {"text", "pdf", "excel"};
     if (option == "--format") {
         if (command == "check") return {"text", "json", "csv"};
         if (command == "info") return {"text", "json"};
         if (command == "export") return {"csv", "jsonl", "sqlite", "xlsx"};
-        return documents;
+        if (command == "report") return {"text", "pdf", "excel", "xlsx"};
+        return {"text", "pdf", "excel"};
     }
     if (option == "--table" && command == "export") {
         std::vector<std::string> names;

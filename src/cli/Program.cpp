@@ -26,7 +26,8 @@ using AddCommand = ProgramCommand (*)(CLI::App&);
 
 // In the order of the help.
 constexpr AddCommand kCommands[] = {
-    AddReportCommand, AddCheckCommand, AddInfoCommand, AddExportCommand, AddPlotCommand, AddEmbedmentCommand, AddDriveCommand,
+    AddReportCommand, AddCheckCommand,     AddInfoCommand,  AddExportCommand,
+    AddPlotCommand,   AddEmbedmentCommand, AddDriveCommand,
 };
 
 constexpr const char* kProgramFooter =
