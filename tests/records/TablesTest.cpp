@@ -88,6 +88,61 @@ TEST(Tables, AnElementsForcesAreThoseOfItsRecordAndMissingOnesAreAbsent) {
     EXPECT_THAT(rows[18], ElementsAre("1", "5", "1", "other", "", "I", "6", "2", "", "", "", "", "", "", ""));
 }
 
+// The bent's left cantilever ends inside the first pile, so that its left face does not exist; the printed
+// table has a row for it all the same, once in each class and extreme.
+TEST(Tables, ARowOfASectionThatTheCapDoesNotHaveIsUnused) {
+    const SampleFolder folder;
+    const auto opened = LoadByName(ProjectName(folder.Write("bent")));
+    for (const char* name : {"cap_shear", "cap_moment"}) {
+        const Evaluation evaluation(*opened, {}, {}, FindTable(name)->needs);
+        int unused = 0;
+        for (const auto& row : RowsOf(evaluation, name)) {
+            const std::string &place = row[1], &side = row[2], &x = row[6], &status = row[7];
+            const bool isBearing = place.starts_with("Brg");
+            // "Brg 2 L LR": the side stands after the number.
+            const bool isLeft = isBearing && place.find(" L", 5) == 5,
+                       isRight = isBearing && place.find(" R", 5) == 5;
+            if (std::string_view(name) == "cap_shear") {
+                EXPECT_EQ(side, isLeft ? "left" : isRight ? "right" : "") << place;
+            }
+            EXPECT_EQ(x.empty(), status == "unused") << place;
+            if (status != "unused") continue;
+            ++unused;
+            EXPECT_EQ(place, "Pil 1 LF");
+        }
+        EXPECT_EQ(unused, 2 * 2) << name;  // two classes, maximum and minimum
+    }
+}
+
+TEST(Tables, PileHeadsHaveNoRowsForFatigue) {
+    const SampleFolder folder;
+    const auto opened = LoadByName(ProjectName(folder.Write("pier")));
+    const Evaluation evaluation(*opened, {}, {}, FindTable("pile_axial")->needs);
+    std::set<std::string> classes;
+    for (const auto& row : RowsOf(evaluation, "pile_axial")) classes.insert(row[2]);
+    EXPECT_THAT(classes, ElementsAre("extreme", "service", "strength"));
+}
+
+// A study of one trial and two cases: the values of case 2 are the greater ones but for the least axial
+// force.
+TEST(Tables, TheStudyHasItsCasesAndEnvelopes) {
+    RecordsProject project;
+    project.WriteAll();
+    project.WriteFile(".in", "PROBLEM\n1\n2\n3\n4\n5\n6\n7\n8\nMPTE\nM= 1\n");
+    project.WriteFile(".PEL",
+                      "1 1 0 2 20.5\n1 0.5 1 0.25 1 0.75 1 10 1 -40 2\n2 0.5 2 0.5 2 1 2 20 2 -30 1\nEOF\n");
+    const auto rows = RowsOf(project.Evaluate(TableNeeds{}), "embedment");
+    ASSERT_EQ(rows.size(), 5U * 4U);  // five quantities: two cases, two envelopes
+    EXPECT_THAT(rows[1], ElementsAre("1", "1", "20.5", "yes", "lateral", "case", "2", "0.5", "", "2"));
+    // Of equal values the envelope names the earlier case.
+    EXPECT_THAT(rows[2], ElementsAre("1", "1", "20.5", "yes", "lateral", "max", "1", "0.5", "", "1"));
+    EXPECT_THAT(rows[14], ElementsAre("1", "1", "20.5", "yes", "max_axial", "max", "2", "", "20", "2"));
+    EXPECT_THAT(rows[19], ElementsAre("1", "1", "20.5", "yes", "min_axial", "min", "1", "", "-40", "2"));
+    CaseChoice second;
+    ReadCases("2", second);
+    EXPECT_EQ(RowsOf(project.Evaluate(TableNeeds{}, second), "embedment").size(), 5U * 3U);
+}
+
 TEST(Tables, ValuesAreConvertedByTheirQuantity) {
     RecordsProject project;
     project.Set(0, 1, kFaxWordJ, -100.0F);

@@ -3,10 +3,12 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
 #include "support/RecordsProject.h"
+#include "support/SampleFolder.h"
 
 namespace lumerin {
 
@@ -59,6 +61,35 @@ TEST(Verdict, OfEqualRatiosTheEarliestCaseAndTheFirstEndAreKept) {
     EXPECT_EQ(top[1].loadCase, 1);
 }
 
+// Case 2 is of strength, case 1 of service; the classes are looked at in another order than the cases.
+TEST(Verdict, OfEqualRatiosInTwoClassesTheEarliestCaseIsKept) {
+    RecordsProject project;
+    project.substructures[0].codeFamily = kFamilyLrfd;
+    for (int c = 0; c < 2; ++c) project.Set(c, 1, kRatioJ, 0.5F);
+    project.WriteAll();
+    project.WriteLimitStates("108 1 1\n101 2 1\n");
+    const Verdict verdict = Judge(project.Evaluate());
+    EXPECT_EQ(verdict.families[0].worst.loadCase, 1);
+    EXPECT_EQ(verdict.families[0].worst.limitState, "SERVICE-I");
+}
+
+// One cap element of the bridge's pier is masked, two of its bent.
+TEST(Verdict, MaskedElementsAreNoEnds) {
+    const SampleFolder folder;
+    const auto opened = LoadByName(ProjectName(folder.Write("bridge")));
+    const Evaluation evaluation(*opened, {}, {}, FindTable("verdict")->needs);
+    for (const FamilyVerdict& family : Judge(evaluation).families) {
+        if (family.worst.family != "cap") continue;
+        const auto identities = evaluation.Identities(Index(family.worst.substructure - 1));
+        const auto cap = std::ranges::count_if(identities, [](const ElementIdentity& identity) {
+            return IsCap(identity.kind) && !identity.masked;
+        });
+        const auto masked = std::ranges::count(identities, true, &ElementIdentity::masked);
+        EXPECT_EQ(masked, family.worst.substructure);
+        EXPECT_EQ(family.ends, 2 * cap);
+    }
+}
+
 TEST(Verdict, RatiosAreComparedUnrounded) {
     RecordsProject project;
     project.Set(0, 1, kRatioJ, std::nextafter(1.0F, 2.0F));
@@ -104,7 +135,7 @@ TEST(Verdict, PileHeadsAreHeldAgainstTheirCapacities) {
     project.WriteAll();
     Limits limits;
     limits.pileCompression = 90.0;
-    limits.pileTension = 30.0;
+    limits.pileTension = 20.0;  // just enough
     const Verdict verdict = Judge(project.Evaluate({}, limits));
     ASSERT_EQ(verdict.heads.size(), 3U);
     EXPECT_EQ(verdict.heads[0].pile, 1);
