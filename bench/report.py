@@ -11,6 +11,7 @@ import sys
 import measure
 
 ROUNDS = 5
+EXPORT_ROUNDS = 3
 SHEET_ROWS_OF_THE_PEER = 200_000
 PDF_LINES = 500_000
 PROJECTS = ("cases-8", "cases-80", "cases-800", "piles-800")
@@ -102,6 +103,31 @@ def measure_writers(table, build, folder):
         os.remove(file)
 
 
+def measure_exports(table, build, folder):
+    """CSV and SQLite of every force of a project, beside pandas and the shell of SQLite."""
+    csv, ours, theirs = (folder / name for name in ("forces.csv", "forces.sqlite", "import.sqlite"))
+    export = [build / "lumerin", "export", folder / "cases-80.in", "--table", "element_forces", "-o"]
+    peers = pathlib.Path(__file__).parent / "peers"
+    fresh = lambda *command: ["sh", "-c", 'rm -f "$0"; exec "$@"', *command]
+    commands = [[*export, csv], ["/usr/bin/python3", peers / "pandas_csv.py", csv],
+                fresh(ours, *export, ours, "--format", "sqlite"),
+                fresh(theirs, "sqlite3", theirs, ".mode csv", f".import {csv} element_forces")]
+    written, pandas, stored, imported = measure.rounds(commands, EXPORT_ROUNDS)
+    wall = lambda run: run.wall
+    time, peer = measure.median(written, wall), measure.median(pandas, lambda run: run["seconds"])
+    table.line(f"element_forces as CSV, {pandas[0]['rows']:.0f} rows", f"{time:.4f} s")
+    table.line("the same rows, pandas to_csv", f"{peer:.4f} s")
+    table.at_least("pandas to_csv : CSV", peer / time, 5)
+    time, peer = measure.median(stored, wall), measure.median(imported, wall)
+    table.line("element_forces in SQLite, with its key", f"{time:.4f} s")
+    table.line("the CSV by .import of sqlite3", f"{peer:.4f} s")
+    table.at_most("SQLite : .import", time / peer, 2)
+    big, = measure.rounds([[build / "lumerin", "export", folder / f"{BIG}.in", "--table", "element_forces", "-o", csv]], 1)
+    table.at_most(f"{BIG}: element_forces as CSV, peak memory", big[0].peak / 1e6, 64 * 1.048576, "MB")
+    for file in (csv, ours, theirs):
+        os.remove(file)
+
+
 def measure_numbers(table, build):
     runs, = measure.rounds([[build / "bench-stages", "format"]], ROUNDS)
     for decimals in (2, 12):
@@ -117,6 +143,7 @@ def main():
     table.at_most(f"load + collect, {BIG} : cases-80", collect, 11)
     table.at_most(f"full report, {BIG} : cases-80", report, 11)
     measure_writers(table, build, folder)
+    measure_exports(table, build, folder)
     measure_numbers(table, build)
     print("All targets are reached." if not table.missed else f"Missed: {'; '.join(table.missed)}")
 
