@@ -77,6 +77,7 @@ finish_windows() {
 
 step "install what the tests need" install
 step "layers of the sources" tools/check-layers
+step "names" tools/check-names
 step "formatter" format
 step "native build" build native
 step "layers of the libraries" tools/check-layers build/native

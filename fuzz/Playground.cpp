@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Formats the lines and drops them.
+// Formats the lines and discards them.
 class NullBuffer : public std::streambuf {
   protected:
     int_type overflow(int_type c) override { return traits_type::not_eof(c); }

@@ -10,9 +10,9 @@
 
 namespace lumerin {
 
-// The folder in memory in which a fuzz target keeps its project, and the plays on the dialogs. A target ends
-// (by abort) when a step fails with anything but a message of the file layer: such a failure is a check that
-// nobody meant to be one.
+// The folder in memory in which a fuzz target keeps its project, and the runs of the dialogs. A target ends
+// by abort when a step fails with anything but a message of the file layer: such a failure is not a check
+// that was written for the input.
 class Playground {
   public:
     Playground();
@@ -27,7 +27,7 @@ class Playground {
     std::string Base() const { return m_folder + "/p"; }
     std::string Path(const std::string& name) const;
 
-    // Opens the report dialog on the project and plays the script; the output's lines go to nowhere.
+    // Opens the report dialog on the project and plays the script; the output is discarded.
     void Play(const std::string& script, int format = 2) const;
 
     // Makes every table of records of the project, its verdict and its description.

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::size_t kRoomToGrow = 64;
 
-// A number as counts are: small, a limit of its type, or near one.
+// A number of the size of a count: small, a limit of its type, or near one.
 std::uint32_t Count(std::minstd_rand& random) {
     static constexpr std::uint32_t kCounts[] = {
         0,   1,   2,     3,     4,          5,          7,          8,          9,         100,
@@ -22,7 +22,7 @@ std::uint32_t Count(std::minstd_rand& random) {
     return kCounts[random() % std::size(kCounts)];
 }
 
-// Changes one file and leaves the archive's own lengths right.
+// Changes one file and keeps the archive's own lengths correct.
 void ChangeFile(std::string& bytes, std::minstd_rand& random, std::size_t room) {
     if (random() % 2 == 0 && bytes.size() >= 5) {
         const std::uint32_t count = Count(random);

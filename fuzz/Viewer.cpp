@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The text viewer's settings: five numbers of four bytes each, then header and trailer apart by a zero byte.
-// They steer the pages of the text tables.
+// The text viewer's settings: five numbers of four bytes each, then header and trailer separated by a zero
+// byte. They determine the pages of the text tables.
 
 #include <array>
 #include <cstring>

@@ -16,8 +16,8 @@ namespace lumerin {
 namespace samples {
 namespace {
 
-constexpr int statusDone = 0;
-constexpr int statusFailed = 2;
+constexpr int kStatusDone = 0;
+constexpr int kStatusFailed = 2;
 
 template <typename Number>
 Number ParseNumber(const std::string& text, const char* option) {
@@ -89,12 +89,12 @@ int RunMakeSample(std::vector<std::string> arguments, std::ostream& out, std::os
         std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the back
         app.parse(arguments);
         Run(app, parsed, out);
-        return statusDone;
+        return kStatusDone;
     } catch (const CLI::Success& help) {
         return app.exit(help, out, errors);
     } catch (const std::exception& error) {
         errors << "make-sample: " << error.what() << '\n';
-        return statusFailed;
+        return kStatusFailed;
     }
 }
 

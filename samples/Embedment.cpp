@@ -29,7 +29,7 @@ Extremes AxialExtremes(const std::vector<PileHead>& piles) {
     for (std::size_t p = 0; p < piles.size(); ++p) {
         const int number = static_cast<int>(p) + 1;
         const double head = piles[p].axial;
-        const double tip = head * ForceModel::tipShare;
+        const double tip = head * ForceModel::kTipShare;
         const double greatest = head > tip ? head : tip;
         const double least = head < tip ? head : tip;
         if (p == 0 || greatest > result.greatest.value) result.greatest = {greatest, number};

@@ -12,14 +12,14 @@ namespace samples {
 namespace {
 
 // Fixity moment at the head, as a share of lateral force times length.
-constexpr double headFixity = 0.12;
-constexpr int calibrationCases = 256;
+constexpr double kHeadFixity = 0.12;
+constexpr int kCalibrationCases = 256;
 
 // The force file has the signs of forces on the element, which are opposite for some components; so is the
 // torque of a pile at its end I.
 void AppendRecord(std::vector<float>& words, const SectionForces& i, const SectionForces& j, double ratioI,
                   double ratioJ, double torqueSignI) {
-    const double record[wordsPerRecord] = {
+    const double record[kWordsPerRecord] = {
         0.0,      -i.f22, -i.f33, j.f22,  j.f33,  i.m33,   i.m22,   -j.m33,
         -j.m22,   0.0,    0.0,    ratioI, ratioJ, i.axial, j.axial, torqueSignI * i.torque,
         -j.torque};
@@ -64,12 +64,12 @@ ForceModel::ForceModel(const Project& project, std::size_t index)
 void ForceModel::BuildPileShapes() {
     const auto& plan = m_substructure.plan;
     const double length = plan.pileLength * LengthFactor(plan.units);
-    const double slope = 1.0 - 4.0 * headFixity;
+    const double slope = 1.0 - 4.0 * kHeadFixity;
     for (int node = 0; node < plan.pileNodes; ++node) {
         const double z = static_cast<double>(node) / (plan.pileNodes - 1);
         const double rest = (1.0 - z) * (1.0 - z) * (1.0 - z);
-        const double line = slope * z - headFixity;
-        m_axialShape.push_back(1.0 - (1.0 - tipShare) * z);
+        const double line = slope * z - kHeadFixity;
+        m_axialShape.push_back(1.0 - (1.0 - kTipShare) * z);
         m_momentShape.push_back(length * rest * (1.0 - z) * line);
         m_shearShape.push_back(rest * (slope * (1.0 - z) - 4.0 * line));
     }
@@ -98,7 +98,7 @@ void ForceModel::MeasureFoundation() {
 
 // Members are designed for their loads: the greatest demands among spread cases come out near 1.
 void ForceModel::Calibrate() {
-    const int samples = std::min(m_cases, calibrationCases);
+    const int samples = std::min(m_cases, kCalibrationCases);
     std::array<Capacity, 4> most;
     Capacity pile;
     for (int s = 0; s < samples; ++s) {

@@ -15,7 +15,7 @@ namespace lumerin {
 
 namespace samples {
 
-constexpr std::size_t wordsPerRecord = 17;
+constexpr std::size_t kWordsPerRecord = 17;
 
 // Forces on a pile at its head; axial force is negative in compression.
 struct PileHead {
@@ -43,7 +43,7 @@ class ForceModel {
     // Forces of a pile at a node; node 0 is its head.
     SectionForces PileForces(std::size_t pile, std::size_t node) const;
     // Axial force at the tip over that at the head.
-    static constexpr double tipShare = 0.25;
+    static constexpr double kTipShare = 0.25;
 
   private:
     // Demand of each force in units of what the member can carry.

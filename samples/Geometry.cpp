@@ -11,10 +11,10 @@ namespace lumerin {
 namespace samples {
 namespace {
 
-constexpr int connectorsPerColumn = 4;
-constexpr int connectorSection = 1;
-constexpr int firstColumnSection = 2;
-constexpr std::size_t largestNodeList = 3501;
+constexpr int kConnectorsPerColumn = 4;
+constexpr int kConnectorSection = 1;
+constexpr int kFirstColumnSection = 2;
+constexpr std::size_t kLargestNodeList = 3501;
 
 int Count(std::size_t n) {
     return static_cast<int>(n);
@@ -165,9 +165,9 @@ class Builder {
             for (int p = 1; p <= m_result.PileCount(); ++p) heads.push_back(p);
             std::stable_sort(heads.begin(), heads.end(),
                              [&](int a, int b) { return DistanceSquared(a, x) < DistanceSquared(b, x); });
-            for (int i = 0; i < connectorsPerColumn; ++i) {
+            for (int i = 0; i < kConnectorsPerColumn; ++i) {
                 const int head = heads[static_cast<std::size_t>(i) % heads.size()];
-                AddElement(head, foot, connectorSection, MemberKind::Connector, c, i);
+                AddElement(head, foot, kConnectorSection, MemberKind::Connector, c, i);
             }
         }
     }
@@ -181,14 +181,14 @@ class Builder {
         const int foot = m_columnFeet[static_cast<std::size_t>(c)];
         const int elements = m_result.ColumnElements();
         for (int e = 0; e < elements; ++e) {
-            const int section = firstColumnSection + e * Plan().columnSections / elements;
+            const int section = kFirstColumnSection + e * Plan().columnSections / elements;
             AddElement(foot + e, foot + e + 1, section, MemberKind::Column, c, e);
         }
     }
 
     // The number of a missing element is not used again, so the numbers have a gap there.
     void AddCapElements(int first, int last) {
-        const int section = firstColumnSection + std::max(Plan().columnSections, 1);
+        const int section = kFirstColumnSection + std::max(Plan().columnSections, 1);
         for (int i = first; i < last; ++i) {
             const auto at = static_cast<std::size_t>(i);
             if (m_result.capMissing[at]) {
@@ -221,8 +221,8 @@ class Builder {
     void AddGroupElements() {
         const int piles = m_result.PileCount();
         const int corners[] = {1, Plan().pileColumns, piles - Plan().pileColumns + 1, piles};
-        for (int i = 0; i < connectorsPerColumn; ++i) {
-            AddElement(corners[i], piles + 1, connectorSection, MemberKind::Connector, 0, i);
+        for (int i = 0; i < kConnectorsPerColumn; ++i) {
+            AddElement(corners[i], piles + 1, kConnectorSection, MemberKind::Connector, 0, i);
         }
     }
 
@@ -262,7 +262,7 @@ class Builder {
     void CheckNodeCount() const {
         const bool kept = Plan().type != StructureType::PileGroup;
         const auto skipped = static_cast<std::size_t>(m_result.foundationNodes);
-        if (kept && m_result.nodes.size() - skipped > largestNodeList) {
+        if (kept && m_result.nodes.size() - skipped > kLargestNodeList) {
             throw SampleError("a substructure of " + std::to_string(m_result.nodes.size() - skipped) +
                               " nodes is too large; 3501 are the most");
         }

@@ -14,7 +14,7 @@ namespace {
 
 using enum LoadClass;
 
-constexpr LimitState lrfdStates[] = {
+constexpr LimitState kLrfdStates[] = {
     {101, "Strength I", Strength},      {102, "Strength II", Strength}, {103, "Strength III", Strength},
     {104, "Strength IV", Strength},     {105, "Strength V", Strength},  {106, "Extreme Event I", Extreme},
     {107, "Extreme Event II", Extreme}, {108, "Service I", Service},    {109, "Service II", Service},
@@ -22,14 +22,14 @@ constexpr LimitState lrfdStates[] = {
     {113, "Fatigue II", Fatigue},
 };
 
-constexpr LimitState lfdStates[] = {
+constexpr LimitState kLfdStates[] = {
     {201, "Group I", Strength},   {202, "Group IA", Strength},     {203, "Group II", Strength},
     {204, "Group III", Strength}, {205, "Group IV", Strength},     {206, "Group V", Strength},
     {207, "Group VI", Strength},  {208, "Group VII", Strength},    {209, "Group VIII", Strength},
     {210, "Group IX", Strength},  {211, "Group Vessel", Strength},
 };
 
-constexpr LimitState aremaStates[] = {
+constexpr LimitState kAremaStates[] = {
     {301, "Load factor Group I", Strength},    {302, "Load factor Group IA", Strength},
     {303, "Load factor Group II", Strength},   {304, "Load factor Group III", Strength},
     {305, "Load factor Group IV", Strength},   {306, "Load factor Group V", Strength},
@@ -44,11 +44,11 @@ constexpr LimitState aremaStates[] = {
 std::span<const LimitState> StatesOf(CodeFamily family) {
     switch (family) {
         case CodeFamily::Lrfd:
-            return lrfdStates;
+            return kLrfdStates;
         case CodeFamily::Lfd:
-            return lfdStates;
+            return kLfdStates;
         case CodeFamily::Arema:
-            return aremaStates;
+            return kAremaStates;
         case CodeFamily::None:
             break;
     }
@@ -76,7 +76,7 @@ struct FactorRange {
     double lateral;
 };
 
-constexpr FactorRange classFactors[] = {
+constexpr FactorRange kClassFactors[] = {
     {0.90, 1.25, 1.35, 1.75, 0.06},
     {1.00, 1.00, 1.00, 1.30, 0.04},
     {0.90, 1.00, 0.00, 0.50, 0.34},
@@ -144,7 +144,7 @@ LoadClass LoadGenerator::ClassOf(int index) const {
 
 CaseLoads LoadGenerator::CombinationLoads(int index) const {
     Random random(m_seed, static_cast<std::uint64_t>(index), 0);
-    return Draw(random, classFactors[static_cast<int>(ClassOf(index))]);
+    return Draw(random, kClassFactors[static_cast<int>(ClassOf(index))]);
 }
 
 // Case 1 is dead load alone; then traffic, wind and impact in turn.

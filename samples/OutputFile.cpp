@@ -9,7 +9,7 @@ namespace lumerin {
 namespace samples {
 namespace {
 
-constexpr std::size_t blockSize = std::size_t{1} << 20;
+constexpr std::size_t kBlockSize = std::size_t{1} << 20;
 
 }  // namespace
 
@@ -29,12 +29,12 @@ OutputFile::OutputFile(const std::filesystem::path& path)
     : m_path(path), m_file(std::fopen(path.string().c_str(), "wb")) {
     if (!m_file) Fail();
     std::setvbuf(m_file.get(), nullptr, _IONBF, 0);
-    m_block.reserve(blockSize);
+    m_block.reserve(kBlockSize);
 }
 
 void OutputFile::Write(std::span<const char> bytes) {
     m_block.insert(m_block.end(), bytes.begin(), bytes.end());
-    if (m_block.size() >= blockSize) Flush();
+    if (m_block.size() >= kBlockSize) Flush();
 }
 
 void OutputFile::Flush() {

@@ -12,10 +12,10 @@ namespace lumerin {
 namespace samples {
 namespace {
 
-constexpr int mostCases = 10'000'000;
-constexpr int mostPilesInLine = 200;
-constexpr int studyTrials = 8;
-constexpr int mostTrials = 1000;
+constexpr int kMostCases = 10'000'000;
+constexpr int kMostPilesInLine = 200;
+constexpr int kStudyTrials = 8;
+constexpr int kMostTrials = 1000;
 
 struct PileField {
     int rows = 1;
@@ -237,7 +237,7 @@ struct Preset {
     std::vector<SubstructurePlan> (*plans)(const SampleOptions&);
 };
 
-constexpr Preset presets[] = {
+constexpr Preset kPresets[] = {
     {"pier", "Mill Road over Ash Creek", 26, CodeFamily::Lrfd, AnalysisMode::LoadCases, true, PierPlans},
     {"bent", "Branch line trestle at Low Marsh", 18, CodeFamily::Arema, AnalysisMode::LoadCases, false,
      BentPlans},
@@ -250,7 +250,7 @@ constexpr Preset presets[] = {
      false, HistoryPlans},
 };
 
-constexpr PresetInfo infos[] = {
+constexpr PresetInfo kInfos[] = {
     {"pier", "two columns, cap with cantilevers, AASHTO-LRFD combinations, embedment study"},
     {"bent", "pile bent, AREMA combinations"},
     {"group", "pile group, plain load cases, SI"},
@@ -260,11 +260,11 @@ constexpr PresetInfo infos[] = {
 };
 
 const Preset& FindPreset(const std::string& name) {
-    for (const auto& preset : presets) {
+    for (const auto& preset : kPresets) {
         if (preset.name == name) return preset;
     }
     std::string known;
-    for (const auto& preset : presets) known += (known.empty() ? "" : ", ") + std::string(preset.name);
+    for (const auto& preset : kPresets) known += (known.empty() ? "" : ", ") + std::string(preset.name);
     throw SampleError("unknown preset '" + name + "'; there are " + known);
 }
 
@@ -293,7 +293,7 @@ EmbedmentStudy ShorteningStudy(int trials) {
 }  // namespace
 
 std::span<const PresetInfo> Presets() {
-    return infos;
+    return kInfos;
 }
 
 Project MakeProject(const SampleOptions& options) {
@@ -307,13 +307,13 @@ Project MakeProject(const SampleOptions& options) {
     project.family = preset.family;
     project.mode = preset.mode;
     CheckName(project.name);
-    CheckRange("cases", project.cases, mostCases);
+    CheckRange("cases", project.cases, kMostCases);
     project.filledCases = options.filled.value_or(project.cases);
-    CheckRange("filled cases", project.filledCases, mostCases);
-    CheckRange("pile rows", options.rows.value_or(1), mostPilesInLine);
-    CheckRange("pile columns", options.columns.value_or(1), mostPilesInLine);
-    CheckRange("trials", options.trials.value_or(1), mostTrials);
-    if (preset.study) project.study = ShorteningStudy(options.trials.value_or(studyTrials));
+    CheckRange("filled cases", project.filledCases, kMostCases);
+    CheckRange("pile rows", options.rows.value_or(1), kMostPilesInLine);
+    CheckRange("pile columns", options.columns.value_or(1), kMostPilesInLine);
+    CheckRange("trials", options.trials.value_or(1), kMostTrials);
+    if (preset.study) project.study = ShorteningStudy(options.trials.value_or(kStudyTrials));
     for (const auto& plan : preset.plans(options)) project.substructures.push_back(BuildSubstructure(plan));
     return project;
 }

@@ -13,8 +13,8 @@ namespace lumerin {
 namespace samples {
 namespace {
 
-constexpr std::size_t mostSubstructures = 3;  // of any preset
-constexpr int mostTrials = 8;
+constexpr std::size_t kMostSubstructures = 3;  // of any preset
+constexpr int kMostTrials = 8;
 
 void Remove(const std::filesystem::path& path) {
     std::error_code error;
@@ -25,12 +25,12 @@ void Remove(const std::filesystem::path& path) {
 // A file left over from a project of another preset would be read as part of this one.
 void RemoveLeftovers(const std::filesystem::path& folder, const std::string& name) {
     for (const char* suffix : {".CMB", ".LIM", ".PEL"}) Remove(folder / (name + suffix));
-    for (std::size_t k = 0; k < mostSubstructures; ++k) {
+    for (std::size_t k = 0; k < kMostSubstructures; ++k) {
         for (const char* suffix : {".PLF", ".PIL", ".pls", ".ash", ".vmd"}) {
             Remove(folder / (name + NumberedSuffix(suffix, k)));
         }
     }
-    for (int trial = 2; trial <= mostTrials; ++trial) {
+    for (int trial = 2; trial <= kMostTrials; ++trial) {
         const std::string label = "MPTE" + std::to_string(trial);
         Remove(folder / label / WithSuffix(name + "_", label + ".PEL"));
     }

@@ -21,11 +21,11 @@ class Random {
     int Below(int n) { return static_cast<int>(Next() % static_cast<std::uint64_t>(n)); }
 
   private:
-    static constexpr std::uint64_t step = 0x9e3779b97f4a7c15u;
+    static constexpr std::uint64_t kStep = 0x9e3779b97f4a7c15u;
 
     // A mixer with good avalanche, known as splitmix64.
     static std::uint64_t Mix(std::uint64_t value) {
-        value += step;
+        value += kStep;
         value = (value ^ (value >> 30)) * 0xbf58476d1ce4e5b9u;
         value = (value ^ (value >> 27)) * 0x94d049bb133111ebu;
         return value ^ (value >> 31);
@@ -33,7 +33,7 @@ class Random {
 
     std::uint64_t Next() {
         const std::uint64_t value = Mix(m_state);
-        m_state += step;
+        m_state += kStep;
         return value;
     }
 

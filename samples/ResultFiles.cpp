@@ -12,10 +12,10 @@ namespace lumerin {
 namespace samples {
 namespace {
 
-constexpr char fileMark = 0x4B;
-constexpr std::size_t blockLength = 128;
-constexpr char endingMark = static_cast<char>(0x82);
-constexpr char continuedMark = static_cast<char>(0x81);
+constexpr char kFileMark = 0x4B;
+constexpr std::size_t kBlockLength = 128;
+constexpr char kEndingMark = static_cast<char>(0x82);
+constexpr char kContinuedMark = static_cast<char>(0x81);
 
 template <typename Word>
 void AppendLittleEndian(std::string& bytes, Word word) {
@@ -198,15 +198,15 @@ Record& Record::Text(std::string_view text, std::size_t width) {
 }
 
 SequentialFile::SequentialFile(const std::filesystem::path& path) : m_file(path) {
-    m_file.Write(std::string_view(&fileMark, 1));
+    m_file.Write(std::string_view(&kFileMark, 1));
 }
 
 void SequentialFile::Write(const Record& record) {
     std::string_view rest = record.Bytes();
     std::string framed;
     while (!rest.empty()) {
-        const std::size_t length = std::min(rest.size(), blockLength);
-        const char mark = rest.size() > blockLength ? continuedMark : static_cast<char>(length);
+        const std::size_t length = std::min(rest.size(), kBlockLength);
+        const char mark = rest.size() > kBlockLength ? kContinuedMark : static_cast<char>(length);
         framed.push_back(mark);
         framed.append(rest.substr(0, length));
         framed.push_back(mark);
@@ -216,7 +216,7 @@ void SequentialFile::Write(const Record& record) {
 }
 
 void SequentialFile::Close() {
-    m_file.Write(std::string_view(&endingMark, 1));
+    m_file.Write(std::string_view(&kEndingMark, 1));
     m_file.Close();
 }
 

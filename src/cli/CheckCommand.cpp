@@ -26,15 +26,15 @@ class VerdictCsv {
 
     void Add(const Evaluation& evaluation, UnitSystem system) {
         m_writer.BeginProject(evaluation.Opened().name.name);
-        m_writer.BeginTable(kTable, system);
-        EachRow(kTable, evaluation, system, [this](std::span<const Value> row) { m_writer.Row(row); });
+        m_writer.BeginTable(m_table, system);
+        EachRow(m_table, evaluation, system, [this](std::span<const Value> row) { m_writer.Row(row); });
         m_writer.EndTable();
         m_writer.EndProject();
     }
     void Close() { m_writer.Close(); }
 
   private:
-    const Table& kTable = *FindTable("verdict");
+    const Table& m_table = *FindTable("verdict");
     CsvWriter m_writer;
 };
 

@@ -107,7 +107,7 @@ void EmbedmentDriver::DriveReport(headless::HeadlessDialog& dialog) {
 
 void EmbedmentDriver::DriveStudy(headless::HeadlessDialog& dialog, const CMPTEDlg& study) {
     // A message while the dialog opens means that the study is incomplete.
-    if (m_nMessages > 0) m_status = Worse(m_status, kExitIncomplete);
+    if (m_messages > 0) m_status = Worse(m_status, kExitIncomplete);
     bool isFirst = true;
     for (const bool envelope : Views()) {
         if (!ChooseView(dialog, envelope)) return;
@@ -118,8 +118,8 @@ void EmbedmentDriver::DriveStudy(headless::HeadlessDialog& dialog, const CMPTEDl
     }
     if (m_options.maxDisplacement) PrintAnswer(study);
     if (!m_options.picture.empty()) WritePicture(study);
-    if (!m_Written.empty()) m_out << '\n';
-    for (const std::string& path : m_Written) m_out << path << '\n';
+    if (!m_written.empty()) m_out << '\n';
+    for (const std::string& path : m_written) m_out << path << '\n';
     m_out.flush();
 }
 
@@ -130,7 +130,7 @@ std::vector<bool> EmbedmentDriver::Views() const {
 }
 
 bool EmbedmentDriver::ChooseView(headless::HeadlessDialog& dialog, bool envelope) {
-    const int before = m_nMessages;
+    const int before = m_messages;
     if (envelope) {
         dialog.Click(IDC_STUDY_ENVELOPE);
         dialog.SelectEntry(IDC_STUDY_ENVELOPE_MODE, m_options.envelope);
@@ -139,7 +139,7 @@ bool EmbedmentDriver::ChooseView(headless::HeadlessDialog& dialog, bool envelope
         dialog.TypeText(IDC_STUDY_CASE, std::to_string(m_options.loadCase));
     }
     dialog.SelectEntry(IDC_STUDY_QUANTITY, m_options.quantity);
-    if (m_nMessages == before) return true;
+    if (m_messages == before) return true;
     m_status = Worse(m_status, kExitUsage);
     return false;
 }
@@ -259,7 +259,7 @@ void EmbedmentDriver::WritePicture(const CMPTEDlg& study) {
     const StudyLabels labels{TitleOf(study), std::string("Embedment Length ") + unit,
                              study.BuildYLabel(m_options.quantity)};
     if (WritePictureFile(m_options.picture, StudyPicture(labels, curves))) {
-        m_Written.insert(m_Written.begin(), m_options.picture);
+        m_written.insert(m_written.begin(), m_options.picture);
     } else {
         const std::string why = WriteFault(m_options.picture);
         Fail(kExitIncomplete,
@@ -268,21 +268,21 @@ void EmbedmentDriver::WritePicture(const CMPTEDlg& study) {
 }
 
 MessageAnswer EmbedmentDriver::OnMessage(const headless::Message& message) {
-    ++m_nMessages;
+    ++m_messages;
     Fail(kExitDone, message.text);
     return Sink::OnMessage(message);
 }
 
 void EmbedmentDriver::OnOutputFailed(const std::string& path) {
-    m_sFailed = path;
+    m_failed = path;
     Fail(kExitIncomplete, path + " could not be written whole");
 }
 
 int EmbedmentDriver::OnShellOpen(const std::string&, const std::string& file, const std::string& parameters) {
     const int code = ShellCodeOfDocument(file, parameters);
     const std::string document = OpenedDocument(file, parameters);
-    if (code > 32 && document != m_sFailed) {
-        m_Written.push_back(document);
+    if (code > 32 && document != m_failed) {
+        m_written.push_back(document);
     } else {
         m_status = Worse(m_status, kExitIncomplete);
     }

@@ -59,9 +59,9 @@ class EmbedmentDriver : public headless::Sink {
     const EmbedmentOptions& m_options;
     std::ostream& m_out;
     std::ostream& m_err;
-    int m_nMessages = 0;
-    std::vector<std::string> m_Written;
-    std::string m_sFailed;  // the last file that could not be written whole
+    int m_messages = 0;
+    std::vector<std::string> m_written;
+    std::string m_failed;  // the last file that could not be written whole
     ExitStatus m_status = kExitDone;
 };
 

@@ -12,9 +12,9 @@ Progress::Progress(std::ostream& err, std::string text) : m_err(err) {
     if (isatty(STDERR_FILENO) == 0) return;
     m_thread = std::thread([this, line = std::move(text)] {
         std::unique_lock lock(m_mutex);
-        if (m_ending.wait_for(lock, std::chrono::seconds(1), [this] { return m_bEnded; })) return;
+        if (m_ending.wait_for(lock, std::chrono::seconds(1), [this] { return m_ended; })) return;
         m_err << line << " ..." << std::flush;
-        m_bShown = true;
+        m_shown = true;
     });
 }
 
@@ -22,11 +22,11 @@ void Progress::End() {
     if (!m_thread.joinable()) return;
     {
         const std::lock_guard lock(m_mutex);
-        m_bEnded = true;
+        m_ended = true;
     }
     m_ending.notify_one();
     m_thread.join();
-    if (m_bShown) m_err << "\r\033[K" << std::flush;
+    if (m_shown) m_err << "\r\033[K" << std::flush;
 }
 
 }  // namespace lumerin

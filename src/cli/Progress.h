@@ -24,8 +24,8 @@ class Progress {
     std::ostream& m_err;
     std::mutex m_mutex;
     std::condition_variable m_ending;
-    bool m_bEnded = false;
-    bool m_bShown = false;
+    bool m_ended = false;
+    bool m_shown = false;
     std::thread m_thread;
 };
 

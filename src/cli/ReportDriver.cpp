@@ -35,15 +35,15 @@ std::string PaintedLine(const Finding& finding, const std::ostream& err) {
 
 ReportDriver::ReportDriver(const ReportRequest& options, const ProjectName& project, std::string place,
                            std::ostream& out, std::ostream& err)
-    : m_options(options), m_project(project), m_sPlace(std::move(place)), m_out(out), m_err(err) {}
+    : m_options(options), m_project(project), m_place(std::move(place)), m_out(out), m_err(err) {}
 
 ExitStatus ReportDriver::Run(int format) {
-    m_nFormat = format;
-    m_nMessages = 0;
-    m_bCasesChosen = false;
-    m_sCasesFault = "the dialog offers no choice of cases";
+    m_format = format;
+    m_messages = 0;
+    m_casesChosen = false;
+    m_casesFault = "the dialog offers no choice of cases";
     m_status = kExitDone;
-    m_progress.emplace(m_err, m_sPlace + "Loading " + ForUser(m_project.inputFile));
+    m_progress.emplace(m_err, m_place + "Loading " + ForUser(m_project.inputFile));
     headless::SetSink(this);
     headless::SetModalDriver([this](headless::HeadlessDialog& dialog) {
         m_progress.reset();
@@ -62,7 +62,7 @@ ExitStatus ReportDriver::Run(int format) {
 }
 
 std::string ReportDriver::PathOfPress(const std::string& path) const {
-    return PathOf(m_options.output, {m_project.basePath, m_sTable, path});
+    return PathOf(m_options.output, {m_project.basePath, m_table, path});
 }
 
 void ReportDriver::Worsen(ExitStatus status) {
@@ -89,13 +89,13 @@ void ReportDriver::DriveReport(headless::HeadlessDialog& dialog, CDesignerDlg& r
         return;
     }
     // A message during the load means that the data are incomplete.
-    if (m_nMessages > 0) Worsen(kExitIncomplete);
+    if (m_messages > 0) Worsen(kExitIncomplete);
     CheckFiles(report.State());
     SetFooter(dialog);
     NoteTables(dialog);
     if (!ChooseCases(dialog)) return;
     if (m_options.findings || m_options.strict) {
-        m_progress.emplace(m_err, m_sPlace + "Reading the forces of " + ForUser(m_project.inputFile));
+        m_progress.emplace(m_err, m_place + "Reading the forces of " + ForUser(m_project.inputFile));
         dialog.Run([&report] { RequirePass(report.State()); });
         m_progress.reset();
     }
@@ -115,7 +115,7 @@ void ReportDriver::DriveReport(headless::HeadlessDialog& dialog, CDesignerDlg& r
 }
 
 void ReportDriver::CheckFiles(const ReportState& state) {
-    if (!std::exchange(m_bFilesChecked, true)) {
+    if (!std::exchange(m_filesChecked, true)) {
         AddFindings(FindInFiles(m_project.basePath, SessionProject(), state.forces));
         AddFindings(FindInStudy(m_project.inputFile));
     }
@@ -123,8 +123,8 @@ void ReportDriver::CheckFiles(const ReportState& state) {
 }
 
 void ReportDriver::CheckForces(const ReportState& state) {
-    if (m_bForcesChecked || state.pass == nullptr) return;
-    m_bForcesChecked = true;
+    if (m_forcesChecked || state.pass == nullptr) return;
+    m_forcesChecked = true;
     AddFindings(FindInForces(SessionProject(), state.forces, state.pass->Finite()));
     if (HasError(m_report.findings)) Worsen(kExitUnsound);
 }
@@ -142,8 +142,8 @@ bool ReportDriver::ChooseCases(headless::HeadlessDialog& dialog) {
     if (m_options.cases.IsAll()) return true;
     dialog.Click(IDC_CUSTOM_CASES);
     dialog.Click(IDC_CHOOSE_CASES);
-    if (m_bCasesChosen) return true;
-    if (!m_sCasesFault.empty()) Say(m_sCasesFault);
+    if (m_casesChosen) return true;
+    if (!m_casesFault.empty()) Say(m_casesFault);
     Worsen(kExitUsage);
     return false;
 }
@@ -167,10 +167,10 @@ void ReportDriver::DriveCases(headless::HeadlessDialog& dialog) {
     try {
         selection = Select(SessionProject(), m_options.cases);
     } catch (const std::invalid_argument& fault) {
-        m_sCasesFault = fault.what();
+        m_casesFault = fault.what();
         return;
     }
-    m_sCasesFault = "the dialog of the load cases does not accept the choice";
+    m_casesFault = "the dialog of the load cases does not accept the choice";
     dialog.Click(IDC_CASES_NONE);
     for (int row = 1; row < control->grid->RowCount(); ++row) {
         if (selection.IsFirstPierCaseSelected(SessionProject(), row - 1)) {
@@ -178,7 +178,7 @@ void ReportDriver::DriveCases(headless::HeadlessDialog& dialog) {
         }
     }
     dialog.Click(IDOK);
-    m_bCasesChosen = !dialog.IsOpen();
+    m_casesChosen = !dialog.IsOpen();
 }
 
 void ReportDriver::NoteTables(const headless::HeadlessDialog& dialog) {
@@ -191,11 +191,10 @@ void ReportDriver::NoteTables(const headless::HeadlessDialog& dialog) {
 
 void ReportDriver::PressTable(headless::HeadlessDialog& dialog, CDesignerDlg& report,
                               const std::string& table) {
-    m_sTable = table;
-    m_sWritten.clear();
-    m_sFailed.clear();
-    m_progress.emplace(m_err,
-                       m_sPlace + "Writing the table " + table + " of " + ForUser(m_project.inputFile));
+    m_table = table;
+    m_written.clear();
+    m_failed.clear();
+    m_progress.emplace(m_err, m_place + "Writing the table " + table + " of " + ForUser(m_project.inputFile));
     const bool pressed = dialog.Click(TableButton(table));
     m_progress.reset();
     if (!pressed) {
@@ -205,46 +204,46 @@ void ReportDriver::PressTable(headless::HeadlessDialog& dialog, CDesignerDlg& re
         Worsen(kExitIncomplete);
         return;
     }
-    if (m_sWritten.empty() || !m_sFailed.empty()) Worsen(kExitIncomplete);
-    if (!m_sFailed.empty()) {
-        const std::string why = WriteFault(m_sFailed);
-        Say("the table " + table + " could not be written whole: " + (why.empty() ? m_sFailed : why));
-    } else if (!m_sWritten.empty()) {
+    if (m_written.empty() || !m_failed.empty()) Worsen(kExitIncomplete);
+    if (!m_failed.empty()) {
+        const std::string why = WriteFault(m_failed);
+        Say("the table " + table + " could not be written whole: " + (why.empty() ? m_failed : why));
+    } else if (!m_written.empty()) {
         NoteWritten();
     }
     // The table of the pile heads changes the format to the spreadsheet, and it stays so.
-    if (report.m_nFormat != m_nFormat) dialog.Click(kFormatButtons[m_nFormat]);
+    if (report.m_nFormat != m_format) dialog.Click(kFormatButtons[m_format]);
 }
 
 void ReportDriver::NoteWritten() {
-    m_report.files.push_back(m_sWritten);
-    if (!m_options.json && !m_options.output.ToStandardOutput()) m_out << m_sWritten << std::endl;
+    m_report.files.push_back(m_written);
+    if (!m_options.json && !m_options.output.ToStandardOutput()) m_out << m_written << std::endl;
 }
 
 MessageAnswer ReportDriver::OnMessage(const headless::Message& message) {
-    ++m_nMessages;
+    ++m_messages;
     if (message.buttons == MessageButtons::ok) Say(message.text);
     return Sink::OnMessage(message);
 }
 
 void ReportDriver::OnOutputFailed(const std::string& path) {
-    m_sFailed = path;
+    m_failed = path;
 }
 
 int ReportDriver::OnShellOpen(const std::string&, const std::string& file, const std::string& parameters) {
     constexpr int kShellSuccess = 42;
     // A file that was not written is not shown: an earlier file of that name has other numbers. Why it was
     // not written is said better than by a viewer that does not find it.
-    if (!m_sFailed.empty()) return kShellSuccess;
+    if (!m_failed.empty()) return kShellSuccess;
     const int code = ShellCodeOfDocument(file, parameters);
     const std::string document = OpenedDocument(file, parameters);
     if (code <= 32 || !IsDocumentThere(document)) return code;
-    m_sWritten = document;
-    return m_options.open ? StartViewer(m_sWritten) : code;
+    m_written = document;
+    return m_options.open ? StartViewer(m_written) : code;
 }
 
 PlotModuleResult ReportDriver::OnPlotModule(const PlotModuleCall& call, std::string&) {
-    m_sWritten = call.dataFile;
+    m_written = call.dataFile;
     return PlotModuleResult::called;
 }
 

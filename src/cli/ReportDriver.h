@@ -81,22 +81,22 @@ class ReportDriver : public headless::Sink, public PlotModuleSink {
 
     const ReportRequest& m_options;
     const ProjectName m_project;
-    const std::string m_sPlace;
+    const std::string m_place;
     std::optional<Progress> m_progress;  // while the load or a press runs
     std::ostream& m_out;
     std::ostream& m_err;
     ProjectReport m_report;
-    bool m_bFilesChecked = false, m_bForcesChecked = false;
+    bool m_filesChecked = false, m_forcesChecked = false;
     // Of the format that is running.
-    int m_nFormat = 0;
-    int m_nMessages = 0;
+    int m_format = 0;
+    int m_messages = 0;
     ExitStatus m_status = kExitDone;
-    bool m_bCasesChosen = false;
-    std::string m_sCasesFault;        // why not, when nothing was reported yet
+    bool m_casesChosen = false;
+    std::string m_casesFault;         // why not, when nothing was reported yet
     std::set<std::string> m_offered;  // tables that the project has for all its cases
-    std::string m_sTable;             // that is being pressed
-    std::string m_sWritten;           // the file of the press, once its viewer was asked for
-    std::string m_sFailed;            // a file of that press that could not be written whole
+    std::string m_table;              // that is being pressed
+    std::string m_written;            // the file of the press, once its viewer was asked for
+    std::string m_failed;             // a file of that press that could not be written whole
 };
 
 // All projects in all formats; the worst exit status of all. A project is loaded once for all its formats,

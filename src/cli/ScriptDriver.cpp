@@ -47,10 +47,10 @@ ScriptDriver::ScriptDriver(std::vector<ScriptAction> actions, std::ostream& out)
     : m_actions(std::move(actions)), m_lines(out) {}
 
 void ScriptDriver::Drive(headless::HeadlessDialog& dialog) {
-    while (dialog.IsOpen() && m_nNext < m_actions.size()) {
-        const ScriptAction& action = m_actions[m_nNext];
+    while (dialog.IsOpen() && m_next < m_actions.size()) {
+        const ScriptAction& action = m_actions[m_next];
         if (action.verb == ScriptVerb::again) return;
-        ++m_nNext;
+        ++m_next;
         Play(action, dialog);
     }
 }
@@ -58,12 +58,12 @@ void ScriptDriver::Drive(headless::HeadlessDialog& dialog) {
 const ScriptAction* ScriptDriver::TakeAgain() {
     const ScriptAction* next = FirstLeftOver();
     if (next == nullptr || next->verb != ScriptVerb::again) return nullptr;
-    ++m_nNext;
+    ++m_next;
     return next;
 }
 
 const ScriptAction* ScriptDriver::FirstLeftOver() const {
-    return m_nNext < m_actions.size() ? &m_actions[m_nNext] : nullptr;
+    return m_next < m_actions.size() ? &m_actions[m_next] : nullptr;
 }
 
 void ScriptDriver::Play(const ScriptAction& action, headless::HeadlessDialog& dialog) {
@@ -115,7 +115,7 @@ void ScriptDriver::Play(const ScriptAction& action, headless::HeadlessDialog& di
             done = dialog.Mouse(action.mouse);
             break;
         case ScriptVerb::where:
-            TellFocus(dialog);
+            ReportFocus(dialog);
             break;
         case ScriptVerb::keyHelp:
             done = dialog.PressHelp(action.id);
@@ -136,14 +136,14 @@ bool ScriptDriver::Type(const std::string& text, headless::HeadlessDialog& dialo
     const NativeWindow* focus = dialog.Focused();
     if (focus == nullptr || !TakesText(focus->spec->kind)) return false;
     // The characters after one that opens a message box go to that box, which ignores them.
-    const int messages = m_nMessages;
+    const int messages = m_messages;
     for (const char c : text) {
-        if (messages == m_nMessages) dialog.TypeChar(static_cast<unsigned char>(c));
+        if (messages == m_messages) dialog.TypeChar(static_cast<unsigned char>(c));
     }
     return true;
 }
 
-void ScriptDriver::TellFocus(const headless::HeadlessDialog& dialog) {
+void ScriptDriver::ReportFocus(const headless::HeadlessDialog& dialog) {
     FocusState state;
     if (const NativeWindow* focus = dialog.Focused()) {
         state.id = focus->spec->id;
@@ -175,7 +175,7 @@ void ScriptDriver::OnDialogOpened(headless::HeadlessDialog& dialog) {
 }
 
 MessageAnswer ScriptDriver::OnMessage(const headless::Message& message) {
-    ++m_nMessages;
+    ++m_messages;
     m_lines.Message(message.text, message.title, message.icon);
     return Sink::OnMessage(message);
 }
@@ -188,7 +188,7 @@ int ScriptDriver::OnShellOpen(const std::string&, const std::string& file, const
 }
 
 PlotModuleResult ScriptDriver::OnPlotModule(const PlotModuleCall& call, std::string&) {
-    if (!m_bHasPlotModule) return PlotModuleResult::moduleMissing;
+    if (!m_hasPlotModule) return PlotModuleResult::moduleMissing;
     m_lines.Module(
         kPlotModuleName, call.format,
         {call.dataFile, call.plot, call.family, call.version, call.zeroA, call.zeroB, call.argument});

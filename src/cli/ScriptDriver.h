@@ -24,18 +24,18 @@ class ScriptDriver : public headless::Sink, public PlotModuleSink {
     // The action that opens the dialog once more after a call; null when another one is next, or none.
     const ScriptAction* TakeAgain();
     // Without the plot module a press that needs it fails as on a machine without it.
-    void SetHasPlotModule(bool has) { m_bHasPlotModule = has; }
+    void SetHasPlotModule(bool has) { m_hasPlotModule = has; }
     // The first action for which no dialog was open; null when all were played.
     const ScriptAction* FirstLeftOver() const;
 
     // Whether an action was refused, in any call.
     bool HasRefused() const { return m_lines.HasRefused(); }
     // Files that could not be written whole, in order.
-    const std::vector<std::string>& FailedOutputs() const { return m_FailedOutputs; }
+    const std::vector<std::string>& FailedOutputs() const { return m_failedOutputs; }
 
     void OnDialogOpened(headless::HeadlessDialog& dialog) override;
     MessageAnswer OnMessage(const headless::Message& message) override;
-    void OnOutputFailed(const std::string& path) override { m_FailedOutputs.push_back(path); }
+    void OnOutputFailed(const std::string& path) override { m_failedOutputs.push_back(path); }
     int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters) override;
     PlotModuleResult OnPlotModule(const PlotModuleCall& call, std::string& systemText) override;
 
@@ -43,15 +43,15 @@ class ScriptDriver : public headless::Sink, public PlotModuleSink {
     void Play(const ScriptAction& action, headless::HeadlessDialog& dialog);
     bool PressKey(const ScriptAction& action, headless::HeadlessDialog& dialog);
     bool Type(const std::string& text, headless::HeadlessDialog& dialog);
-    void TellFocus(const headless::HeadlessDialog& dialog);
+    void ReportFocus(const headless::HeadlessDialog& dialog);
     void Dump(headless::HeadlessDialog& dialog);
 
     std::vector<ScriptAction> m_actions;
-    std::size_t m_nNext = 0;
+    std::size_t m_next = 0;
     JsonLines m_lines;
-    std::vector<std::string> m_FailedOutputs;
-    int m_nMessages = 0;
-    bool m_bHasPlotModule = true;
+    std::vector<std::string> m_failedOutputs;
+    int m_messages = 0;
+    bool m_hasPlotModule = true;
 };
 
 // The document of a viewer start, without its quotes.

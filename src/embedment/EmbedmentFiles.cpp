@@ -22,14 +22,14 @@ class InputLines {
     bool IsOpen() const { return m_stream.is_open(); }
     bool Next() {
         m_line.clear();
-        if (m_bEnded) return false;
+        if (m_ended) return false;
         int c = m_stream.get();
         if (c == std::char_traits<char>::eof()) return false;
         while (c != std::char_traits<char>::eof() && c != '\n') {
             if (m_line.size() == kLongestLine) {
                 // The carriage return at a line's end is removed.
-                m_bEnded = c != '\r' || m_stream.peek() != '\n';
-                if (m_bEnded) break;
+                m_ended = c != '\r' || m_stream.peek() != '\n';
+                if (m_ended) break;
             }
             m_line.push_back(static_cast<char>(c));
             c = m_stream.get();
@@ -43,7 +43,7 @@ class InputLines {
   private:
     std::ifstream m_stream;
     std::string m_line;
-    bool m_bEnded = false;
+    bool m_ended = false;
 };
 
 }  // namespace

@@ -65,21 +65,21 @@ constexpr double kBoldShare = 1.06;
 
 SvgCanvas::SvgCanvas(double width, double height) {
     const std::string w = Coordinate(width), h = Coordinate(height);
-    m_sBody = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\"";
-    m_sBody += Attribute("width", w) + Attribute("height", h) + Attribute("viewBox", "0 0 " + w + ' ' + h);
-    m_sBody += " font-family=\"Segoe UI, Helvetica, Arial, sans-serif\">\n";
+    m_body = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\"";
+    m_body += Attribute("width", w) + Attribute("height", h) + Attribute("viewBox", "0 0 " + w + ' ' + h);
+    m_body += " font-family=\"Segoe UI, Helvetica, Arial, sans-serif\">\n";
 }
 
 void SvgCanvas::FillRect(const PlotRect& rect, std::uint32_t colour) {
-    m_sBody += "<rect" + Attribute("x", Coordinate(rect.left)) + Attribute("y", Coordinate(rect.top)) +
-               Attribute("width", Coordinate(rect.Width())) + Attribute("height", Coordinate(rect.Height())) +
-               Attribute("fill", ColourText(colour)) + "/>\n";
+    m_body += "<rect" + Attribute("x", Coordinate(rect.left)) + Attribute("y", Coordinate(rect.top)) +
+              Attribute("width", Coordinate(rect.Width())) + Attribute("height", Coordinate(rect.Height())) +
+              Attribute("fill", ColourText(colour)) + "/>\n";
 }
 
 // Lines of one pixel lie on the middle of a pixel.
 void SvgCanvas::RuleLine(PlotPoint from, PlotPoint to, double width, std::uint32_t colour) {
     const auto sharp = [](double value) { return Coordinate(std::floor(value) + 0.5); };
-    m_sBody +=
+    m_body +=
         "<path" +
         Attribute("d", "M" + sharp(from.x) + ' ' + sharp(from.y) + 'L' + sharp(to.x) + ' ' + sharp(to.y)) +
         Attribute("stroke", ColourText(colour)) + Attribute("stroke-width", Coordinate(width)) +
@@ -92,28 +92,28 @@ void SvgCanvas::Polyline(std::span<const PlotPoint> points, double width, std::u
         if (!places.empty()) places += ' ';
         places += Coordinate(point.x) + ',' + Coordinate(point.y);
     }
-    m_sBody += "<polyline" + Attribute("points", places) + Attribute("stroke", ColourText(colour)) +
-               Attribute("stroke-width", Coordinate(width)) +
-               " fill=\"none\" stroke-linejoin=\"round\" stroke-linecap=\"round\"/>\n";
+    m_body += "<polyline" + Attribute("points", places) + Attribute("stroke", ColourText(colour)) +
+              Attribute("stroke-width", Coordinate(width)) +
+              " fill=\"none\" stroke-linejoin=\"round\" stroke-linecap=\"round\"/>\n";
 }
 
 void SvgCanvas::Disc(PlotPoint centre, double radius, std::uint32_t fill, std::uint32_t ring) {
-    m_sBody += "<circle" + Attribute("cx", Coordinate(centre.x)) + Attribute("cy", Coordinate(centre.y)) +
-               Attribute("r", Coordinate(radius)) + Attribute("fill", ColourText(fill)) +
-               Attribute("stroke", ColourText(ring)) + Attribute("stroke-width", Coordinate(radius / 3.0)) +
-               "/>\n";
+    m_body += "<circle" + Attribute("cx", Coordinate(centre.x)) + Attribute("cy", Coordinate(centre.y)) +
+              Attribute("r", Coordinate(radius)) + Attribute("fill", ColourText(fill)) +
+              Attribute("stroke", ColourText(ring)) + Attribute("stroke-width", Coordinate(radius / 3.0)) +
+              "/>\n";
 }
 
 void SvgCanvas::Text(std::string_view text, PlotPoint at, const PlotFont& font, TextAnchor anchor,
                      bool turned, std::uint32_t colour) {
     constexpr const char* kAnchors[] = {"start", "middle", "end"};
-    m_sBody += "<text" + Attribute("font-size", Coordinate(font.height)) +
-               Attribute("text-anchor", kAnchors[Index(anchor)]) + Attribute("fill", ColourText(colour));
-    if (font.bold) m_sBody += " font-weight=\"bold\"";
+    m_body += "<text" + Attribute("font-size", Coordinate(font.height)) +
+              Attribute("text-anchor", kAnchors[Index(anchor)]) + Attribute("fill", ColourText(colour));
+    if (font.bold) m_body += " font-weight=\"bold\"";
     const std::string x = Coordinate(at.x), y = Coordinate(at.y);
-    m_sBody += turned ? Attribute("transform", "translate(" + x + ' ' + y + ") rotate(-90)")
-                      : Attribute("x", x) + Attribute("y", y);
-    m_sBody += '>' + Escaped(text) + "</text>\n";
+    m_body += turned ? Attribute("transform", "translate(" + x + ' ' + y + ") rotate(-90)")
+                     : Attribute("x", x) + Attribute("y", y);
+    m_body += '>' + Escaped(text) + "</text>\n";
 }
 
 double SvgCanvas::TextWidth(std::string_view text, const PlotFont& font) const {

@@ -24,10 +24,10 @@ class SvgCanvas : public PlotCanvas {
     double TextWidth(std::string_view text, const PlotFont& font) const override;
 
     // The whole document.
-    std::string Document() const { return m_sBody + "</svg>\n"; }
+    std::string Document() const { return m_body + "</svg>\n"; }
 
   private:
-    std::string m_sBody;
+    std::string m_body;
 };
 
 std::string PlotAsSvg(const CPlot& plot, double width, double height);

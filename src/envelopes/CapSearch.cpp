@@ -48,12 +48,12 @@ void CapPlaceList::Take(int loadCase, CaseForces forces) {
 // is the other end of the element then moves on to the neighbour.
 bool CapSide::LeavesElement() const {
     if (m_kind != kInside) return false;
-    return (m_place.m_dT == 0.0 && m_nEnd == kEndJ) || (m_place.m_dT == 1.0 && m_nEnd == kEndI);
+    return (m_place.m_dT == 0.0 && m_end == kEndJ) || (m_place.m_dT == 1.0 && m_end == kEndI);
 }
 
 CCapPlace CapSide::Neighbour() const {
     CCapPlace place = m_place;
-    m_input.pier.StepAlongCap(m_nEnd == kEndJ ? 1 : 0, place);
+    m_input.pier.StepAlongCap(m_end == kEndJ ? 1 : 0, place);
     return place;
 }
 
@@ -63,11 +63,11 @@ std::size_t CapSide::AddPlace(CapComponent component, const CCapPlace& place, in
     const int element = ElementOf(m_input, place);
     if (element < 0) return kNoPlace;
     const bool inside = m_kind == kInside && place.m_dT != 0.0 && place.m_dT != 1.0;
-    return places.Add(CapPlaceSearch(component, {m_nEnd, place.m_dT, inside}, element, beyond));
+    return places.Add(CapPlaceSearch(component, {m_end, place.m_dT, inside}, element, beyond));
 }
 
 void CapSide::AddPlaces(CapComponent component, CapPlaceList& places) {
-    if (!m_bFound) return;
+    if (!m_found) return;
     int beyond = -1;
     if (LeavesElement()) {
         const CCapPlace neighbour = Neighbour();
@@ -78,11 +78,11 @@ void CapSide::AddPlaces(CapComponent component, CapPlaceList& places) {
 }
 
 CapReading CapSide::Reading(const CCapPlace& place) const {
-    return m_kind == kInside ? CapReading{kInsideElement, place.m_dT, true} : CapReading{m_nEnd, 0.0, false};
+    return m_kind == kInside ? CapReading{kInsideElement, place.m_dT, true} : CapReading{m_end, 0.0, false};
 }
 
 CapSideResult CapSide::Result(CapComponent component, const CapPlaceList& places, int slot, int sense) {
-    if (!m_bFound || m_search == kNoPlace) return {};
+    if (!m_found || m_search == kNoPlace) return {};
     const CapHolder& holder = places.Holder(m_search, slot, sense);
     const bool masked = m_input.pier.IsMasked(Element());
     if (masked && m_kind != kAtBearing && holder.loadCase >= 0) return {};

@@ -103,21 +103,21 @@ class CapSide {
         kInside,     // by interpolation; a masked element gives nothing
         kAtBearing,  // at an end; masked elements are searched, too
     };
-    CapSide(const PierInput& input, Kind kind, int end) : m_input(input), m_kind(kind), m_nEnd(end) {
+    CapSide(const PierInput& input, Kind kind, int end) : m_input(input), m_kind(kind), m_end(end) {
         m_place.m_dT = end == kEndI ? 0.0 : 1.0;
     }
 
     void SetPlace(const CCapPlace& place) {
         m_place = place;
-        m_bFound = true;
+        m_found = true;
     }
     void FindAtNode(int node) {
         CCapPlace place;
-        if (m_input.pier.FindElementAtNode(node, place, m_nEnd)) SetPlace(place);
+        if (m_input.pier.FindElementAtNode(node, place, m_end)) SetPlace(place);
     }
-    bool IsFound() const { return m_bFound; }
+    bool IsFound() const { return m_found; }
     const CCapPlace& Place() const { return m_place; }
-    int End() const { return m_nEnd; }
+    int End() const { return m_end; }
     int Element() const { return ElementOf(m_input, m_place); }
     // Whether t is strictly inside the element, as for all faces that are not rounded to an end.
     bool HasInnerFraction() const { return m_place.m_dT != 0.0 && m_place.m_dT != 1.0; }
@@ -138,9 +138,9 @@ class CapSide {
     static constexpr std::size_t kNoPlace = static_cast<std::size_t>(-1);
     PierInput m_input;
     Kind m_kind;
-    int m_nEnd;
+    int m_end;
     CCapPlace m_place;
-    bool m_bFound = false;
+    bool m_found = false;
     std::size_t m_search = kNoPlace, m_neighbourSearch = kNoPlace;
 };
 

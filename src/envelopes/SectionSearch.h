@@ -17,17 +17,17 @@ namespace lumerin {
 
 // Elements that follow one another in the element list and count for the same section of a table.
 struct SectionRun {
-    int m_nFirstElement = 0;  // index in the substructure's element list
-    int m_nElements = 0;
-    int m_nEntry = 0;       // the section's entry in the result table
-    int m_nFirstPlace = 0;  // index of the first element's place
+    int firstElement = 0;  // index in the substructure's element list
+    int elements = 0;
+    int entry = 0;       // the section's entry in the result table
+    int firstPlace = 0;  // index of the first element's place
 };
 
 // The place of an element in its family of members.
 struct ElementPlace {
-    int m_nMember = 0;
-    int m_nElement = 0;      // inside the member
-    int m_nListElement = 0;  // in the substructure's element list
+    int member = 0;
+    int element = 0;      // inside the member
+    int listElement = 0;  // in the substructure's element list
 };
 
 // The elements of one member family that belong to an entry of a table, in the order of the walk. An element
@@ -53,9 +53,9 @@ class CSectionWalk {
 
 // An extreme's place while the search runs.
 struct FoundEnd {
-    int m_nLoadCase = -1;  // -1: nothing found
-    int m_nPlace = 0;
-    int m_nEnd = 0;
+    int loadCase = -1;  // -1: nothing found
+    int place = 0;
+    int end = 0;
 };
 
 // The highest D/C ratio of a section in a slot. The start below zero lets a ratio of exactly 0 be found, so

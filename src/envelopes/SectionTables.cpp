@@ -26,11 +26,11 @@ constexpr SectionTableForm kForms[] = {
 };
 
 CMaxRecord MakeRecord(const CPier& pier, const CSectionWalk& walk, const FoundEnd& found) {
-    if (found.m_nLoadCase < 0) return kNotFoundRecord;
-    const ElementPlace& place = walk.Place(found.m_nPlace);
-    const CElement& element = pier.Element(place.m_nListElement);
-    return {found.m_nLoadCase,        place.m_nMember, place.m_nElement,
-            element.m_nElementNumber, found.m_nEnd,    element.Node(found.m_nEnd)};
+    if (found.loadCase < 0) return kNotFoundRecord;
+    const ElementPlace& place = walk.Place(found.place);
+    const CElement& element = pier.Element(place.listElement);
+    return {found.loadCase,           place.member, place.element,
+            element.m_nElementNumber, found.end,    element.Node(found.end)};
 }
 
 // The searches of a table by section and slot. Without combinations all slots hold the same, so one does.
@@ -43,26 +43,26 @@ class SectionTableSearch : public TableSearch {
           m_walk(input.pier, form.family,
                  form.family == kXMemberFamily ? input.pier.m_nXMemberFirstSection : form.firstSection,
                  table.Sections()),
-          m_nSlots(input.pier.m_bCombinations ? table.Slots() : std::min(table.Slots(), 1)),
-          m_searches(Index(table.Sections()) * Index(m_nSlots)) {}
+          m_slots(input.pier.m_bCombinations ? table.Slots() : std::min(table.Slots(), 1)),
+          m_searches(Index(table.Sections()) * Index(m_slots)) {}
 
     void Take(int loadCase, CaseForces forces) override {
         if (!m_input.selection.IsCaseSelected(loadCase)) return;
         const int slot = m_input.pier.SlotOf(loadCase);
-        if (slot < 0 || slot >= m_nSlots) return;
+        if (slot < 0 || slot >= m_slots) return;
         for (const SectionRun& run : m_walk.Runs()) {
-            m_searches[Place(run.m_nEntry, slot)].Examine(
-                forces.data() + Index(run.m_nFirstElement) * kForcesPerElement, run.m_nElements, loadCase,
-                run.m_nFirstPlace);
+            m_searches[Place(run.entry, slot)].Examine(
+                forces.data() + Index(run.firstElement) * kForcesPerElement, run.elements, loadCase,
+                run.firstPlace);
         }
     }
 
     void Finish(PierResults& results) const override {
         CRecordTable& table = results.*m_form.records;
-        if (m_nSlots < 1) return;
+        if (m_slots < 1) return;
         for (int section = 0; section < table.Sections(); ++section) {
             for (int slot = 0; slot < table.Slots(); ++slot) {
-                const Search& search = m_searches[Place(section, std::min(slot, m_nSlots - 1))];
+                const Search& search = m_searches[Place(section, std::min(slot, m_slots - 1))];
                 for (int extreme = 0; extreme < Search::kExtremeCount; ++extreme) {
                     table.At(section, slot, extreme) =
                         MakeRecord(m_input.pier, m_walk, search.Found(extreme));
@@ -72,12 +72,12 @@ class SectionTableSearch : public TableSearch {
     }
 
   private:
-    std::size_t Place(int section, int slot) const { return Index(section) * Index(m_nSlots) + Index(slot); }
+    std::size_t Place(int section, int slot) const { return Index(section) * Index(m_slots) + Index(slot); }
 
     const SectionTableForm& m_form;
     PierInput m_input;
     CSectionWalk m_walk;
-    int m_nSlots;
+    int m_slots;
     std::vector<Search> m_searches;
 };
 

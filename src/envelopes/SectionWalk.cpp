@@ -47,8 +47,8 @@ void CSectionWalk::AddMember(const CPier& pier, int member, int firstElement, in
         m_places.push_back({member, element - firstElement, element});
         if (!m_runs.empty()) {
             SectionRun& last = m_runs.back();
-            if (last.m_nEntry == entry && last.m_nFirstElement + last.m_nElements == element) {
-                ++last.m_nElements;
+            if (last.entry == entry && last.firstElement + last.elements == element) {
+                ++last.elements;
                 continue;
             }
         }

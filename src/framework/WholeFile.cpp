@@ -84,7 +84,7 @@ bool IsTemporaryName(std::string_view name) {
 
 bool WholeFile::Open(const std::string& path) {
     Discard();
-    m_bFailed = false;
+    m_failed = false;
     const wholefile::Target target = wholefile::LookAt(path);
     if (target == wholefile::Target::refused) return false;
     m_path = path;
@@ -109,13 +109,13 @@ bool WholeFile::CreateBeside(const std::string& folder) {
 
 bool WholeFile::Write(const void* bytes, std::size_t count) {
     // After a failed write nothing more is written: bytes after a gap would hide that some are missing.
-    if (!IsOpen() || m_bFailed) return false;
-    m_bFailed = !wholefile::Write(m_handle, bytes, count);
-    return !m_bFailed;
+    if (!IsOpen() || m_failed) return false;
+    m_failed = !wholefile::Write(m_handle, bytes, count);
+    return !m_failed;
 }
 
 bool WholeFile::Commit() {
-    const bool placed = IsOpen() && !m_bFailed && wholefile::Settle(m_handle) && Place();
+    const bool placed = IsOpen() && !m_failed && wholefile::Settle(m_handle) && Place();
     Discard();
     return placed;
 }

@@ -47,7 +47,7 @@ class WholeFile {
     std::intptr_t m_handle = kNoHandle;
     std::string m_path;
     std::string m_temporary;  // empty: the bytes are in a file without a name
-    bool m_bFailed = false;
+    bool m_failed = false;
 };
 
 }  // namespace lumerin

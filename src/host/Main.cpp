@@ -80,19 +80,19 @@ unsigned Call(ModuleExport launch, const HostOptions& options, const std::string
 // The text viewer's font size in the registry, set for the run and restored after it.
 class ViewerFont {
   public:
-    explicit ViewerFont(int points) : m_bSet(points > 0) {
-        if (!m_bSet) return;
+    explicit ViewerFont(int points) : m_set(points > 0) {
+        if (!m_set) return;
         const auto tenths = static_cast<DWORD>(points) * 10;
         RegSetKeyValueA(HKEY_CURRENT_USER, kViewerKey, "iPointSize", REG_DWORD, &tenths, sizeof tenths);
     }
     ViewerFont(const ViewerFont&) = delete;
     ViewerFont& operator=(const ViewerFont&) = delete;
     ~ViewerFont() {
-        if (m_bSet) RegDeleteKeyValueA(HKEY_CURRENT_USER, kViewerKey, "iPointSize");
+        if (m_set) RegDeleteKeyValueA(HKEY_CURRENT_USER, kViewerKey, "iPointSize");
     }
 
   private:
-    bool m_bSet;
+    bool m_set;
 };
 
 std::unique_ptr<WindowDriver>& Driver() {
@@ -123,7 +123,7 @@ struct Played {
 
 Played PlayScript(const HostOptions& options, ModuleExport launch, std::ostream& out) {
     Driver() = std::make_unique<WindowDriver>(ParseScript(ReadScript(options.script)), out);
-    if (options.waits) Driver()->TellWaits();
+    if (options.waits) Driver()->ReportWaits();
     // The mouse of the machine stays out of the dialogs.
     SetCursorPos(0, 0);
     const UINT_PTR timer = SetTimer(nullptr, 0, kTickMilliseconds, OnTimer);

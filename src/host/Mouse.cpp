@@ -165,9 +165,9 @@ void Mouse::Press(KeyState keys) {
         if (keys.control) keyboard::Hold(VK_CONTROL, true);
         if (keys.shift) keyboard::Hold(VK_SHIFT, true);
         SendButton(MOUSEEVENTF_LEFTDOWN);
-        m_bDown = true;
+        m_down = true;
         m_held = keys;
-        m_nPressed = GetTickCount();
+        m_pressTime = GetTickCount();
         m_pressed = Pointer();
     });
 }
@@ -177,23 +177,23 @@ void Mouse::Release() {
 }
 
 void Mouse::LetGo() {
-    if (m_bDown) SendButton(MOUSEEVENTF_LEFTUP);
+    if (m_down) SendButton(MOUSEEVENTF_LEFTUP);
     if (m_held.shift) keyboard::Hold(VK_SHIFT, false);
     if (m_held.control) keyboard::Hold(VK_CONTROL, false);
-    m_bDown = false;
+    m_down = false;
     m_held = {};
 }
 
 // Two presses of the script are two clicks, however fast it is played.
 void Mouse::WaitForDoubleClickTime(POINT place) {
     if (std::abs(place.x - m_pressed.x) > kNearX || std::abs(place.y - m_pressed.y) > kNearY) return;
-    ThenWait([this] { return GetTickCount() - m_nPressed > GetDoubleClickTime() + kDoubleMargin; });
+    ThenWait([this] { return GetTickCount() - m_pressTime > GetDoubleClickTime() + kDoubleMargin; });
 }
 
 // A machine that is too slow for a double click must not pass for one that sees none.
 void Mouse::PressAgain(KeyState keys) {
     Then([this] {
-        if (GetTickCount() - m_nPressed >= GetDoubleClickTime()) {
+        if (GetTickCount() - m_pressTime >= GetDoubleClickTime()) {
             throw std::runtime_error("the double click took too long");
         }
     });
@@ -236,8 +236,8 @@ bool Mouse::BeginAt(HWND grid, const MouseAction& action) {
     MoveTo(place);
     switch (action.deed) {
         case MouseDeed::move:
-            if (m_bDown && IsOutside(action.spot.place)) WaitForStillness(grid);
-            if (!m_bDown && LeavesCells(action.spot.place)) WaitForTipToGo(grid);
+            if (m_down && IsOutside(action.spot.place)) WaitForStillness(grid);
+            if (!m_down && LeavesCells(action.spot.place)) WaitForTipToGo(grid);
             break;
         case MouseDeed::press:
             WaitForDoubleClickTime(place);

@@ -46,9 +46,9 @@ class Mouse {
     bool LoseCapture(HWND grid, bool broken);
 
     std::deque<std::function<bool()>> m_steps;  // true: done
-    bool m_bDown = false;
+    bool m_down = false;
     KeyState m_held;
-    DWORD m_nPressed = 0;  // the time of the last press, and its place on the screen
+    DWORD m_pressTime = 0;  // of the last press, and its place on the screen
     POINT m_pressed{};
 };
 

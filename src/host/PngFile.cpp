@@ -76,21 +76,21 @@ class BitWriter {
         }
     }
     std::string Finish() {
-        while (m_nBits != 0) Bit(0);
+        while (m_bits != 0) Bit(0);
         return std::move(m_out);
     }
 
   private:
     void Bit(unsigned bit) {
-        m_nByte |= bit << m_nBits;
-        if (++m_nBits < 8) return;
-        m_out.push_back(static_cast<char>(m_nByte));
-        m_nByte = 0;
-        m_nBits = 0;
+        m_byte |= bit << m_bits;
+        if (++m_bits < 8) return;
+        m_out.push_back(static_cast<char>(m_byte));
+        m_byte = 0;
+        m_bits = 0;
     }
     std::string m_out;
-    unsigned m_nByte = 0;
-    int m_nBits = 0;
+    unsigned m_byte = 0;
+    int m_bits = 0;
 };
 
 // A length's symbol and the extra bits after it.

@@ -58,21 +58,21 @@ Records::Records(JsonLines& lines) : m_lines(lines) {
     char folder[MAX_PATH] = "", path[MAX_PATH] = "";
     GetTempPathA(MAX_PATH, folder);
     GetTempFileNameA(folder, "rec", 0, path);
-    m_sPath = path;
+    m_path = path;
     // The run-time library sets it in the process's environment, which started programs inherit.
     _putenv_s(kRecordVariable, path);
 }
 
 Records::~Records() {
-    DeleteFileA(m_sPath.c_str());
+    DeleteFileA(m_path.c_str());
 }
 
 bool Records::Print() {
     const bool ended = WaitForRecorders();
-    std::ifstream file(m_sPath, std::ios::binary);
+    std::ifstream file(m_path, std::ios::binary);
     const std::string text(std::istreambuf_iterator<char>(file), {});
-    for (std::size_t end; (end = text.find('\n', m_nRead)) != std::string::npos; m_nRead = end + 1) {
-        PrintLine(text.substr(m_nRead, end - m_nRead));
+    for (std::size_t end; (end = text.find('\n', m_read)) != std::string::npos; m_read = end + 1) {
+        PrintLine(text.substr(m_read, end - m_read));
     }
     return ended;
 }

@@ -24,8 +24,8 @@ class Records {
     void PrintLine(const std::string& line);
 
     JsonLines& m_lines;
-    std::string m_sPath;
-    std::size_t m_nRead = 0;  // bytes of the file that are printed
+    std::string m_path;
+    std::size_t m_read = 0;  // bytes of the file that are printed
 };
 
 }  // namespace lumerin

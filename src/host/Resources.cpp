@@ -33,8 +33,8 @@ unsigned CountNumbers(UINT_PTR step, IsOne isOne) {
 }
 
 unsigned CountGdi() {
-    const DWORD told = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    if (told != 0) return told;
+    const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
+    if (counted != 0) return counted;
     return CountNumbers<HGDIOBJ>(1, [](HGDIOBJ object) { return GetObjectType(object) != 0; });
 }
 
@@ -81,8 +81,8 @@ unsigned CountWindows() {
 }
 
 unsigned CountUser() {
-    const DWORD told = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-    if (told != 0) return told;
+    const DWORD counted = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
+    if (counted != 0) return counted;
     // A user object has two numbers.
     const auto isMenu = [](HMENU menu) { return IsMenu(menu) != FALSE; };
     const auto isTable = [](HACCEL table) { return CopyAcceleratorTableA(table, nullptr, 0) > 0; };

@@ -36,22 +36,22 @@ WindowDriver::WindowDriver(std::vector<ScriptAction> actions, std::ostream& out)
 // A tick comes when the loop has nothing else to do, so a late one shows how long messages and painting took.
 void WindowDriver::NoteTime() {
     const auto now = std::chrono::steady_clock::now();
-    if (m_LastTick.time_since_epoch().count() != 0) m_LongestWait = std::max(m_LongestWait, now - m_LastTick);
-    m_LastTick = now;
+    if (m_lastTick.time_since_epoch().count() != 0) m_longestWait = std::max(m_longestWait, now - m_lastTick);
+    m_lastTick = now;
 }
 
-void WindowDriver::TellWait(int line) {
-    if (m_bTellWaits) {
-        const auto wait = std::chrono::duration_cast<std::chrono::milliseconds>(m_LongestWait);
+void WindowDriver::ReportWait(int line) {
+    if (m_reportsWaits) {
+        const auto wait = std::chrono::duration_cast<std::chrono::milliseconds>(m_longestWait);
         std::cerr << "before line " << line << ": " << wait.count() << " ms" << std::endl;
     }
-    m_LongestWait = {};
+    m_longestWait = {};
 }
 
 void WindowDriver::Tick() {
     NoteTime();
-    if (m_nSettle > 0) {
-        --m_nSettle;
+    if (m_settle > 0) {
+        --m_settle;
         return;
     }
     const HWND front = FrontDialog();
@@ -61,23 +61,23 @@ void WindowDriver::Tick() {
         AnswerBox(front);
         return;
     }
-    m_hAnswered = nullptr;
+    m_answered = nullptr;
     NoteDialog(front);
     if (m_mouse.IsBusy()) {
         m_mouse.Step();
-        m_nSettle = kMouseSettle;
+        m_settle = kMouseSettle;
         return;
     }
     PlayNext(front);
 }
 
 void WindowDriver::AnswerBox(HWND box) {
-    if (box == m_hAnswered && ++m_nAnsweredTicks < kAnswerPatience) return;
-    m_hAnswered = box;
-    m_nAnsweredTicks = 0;
+    if (box == m_answered && ++m_answeredTicks < kAnswerPatience) return;
+    m_answered = box;
+    m_answeredTicks = 0;
     const MessageBoxState state = ReadMessageBox(box);
     m_lines.Message(state.text, state.title, state.icon);
-    const HWND wanted = m_bAnswerYes ? state.yes : state.no;
+    const HWND wanted = m_answerYes ? state.yes : state.no;
     PostMessageA(wanted != nullptr ? wanted : state.ok, BM_CLICK, 0, 0);
 }
 
@@ -88,25 +88,25 @@ void WindowDriver::NoteDialog(HWND dialog) {
         return;
     }
     m_open.push_back(dialog);
-    if (m_bTellWaits && m_open.size() == 1) {
-        const std::chrono::duration<double, std::milli> wait = std::chrono::steady_clock::now() - m_CallBegan;
+    if (m_reportsWaits && m_open.size() == 1) {
+        const std::chrono::duration<double, std::milli> wait = std::chrono::steady_clock::now() - m_callBegan;
         std::cerr << "dialog after " << wait.count() << " ms" << std::endl;
     }
     m_lines.Dialog(TextOf(dialog));
 }
 
 void WindowDriver::PlayNext(HWND dialog) {
-    if (m_nNext >= m_actions.size() || m_actions[m_nNext].verb == ScriptVerb::again) {
+    if (m_next >= m_actions.size() || m_actions[m_next].verb == ScriptVerb::again) {
         CloseDialog(dialog);
         return;
     }
     // The action is removed before it is played: it may open a window, in whose loop the ticks continue.
-    const ScriptAction& action = m_actions[m_nNext++];
-    TellWait(action.line);
+    const ScriptAction& action = m_actions[m_next++];
+    ReportWait(action.line);
     if (!Perform(action, dialog)) {
         m_lines.Refused(RefusedName(action));
     } else if (UsesKeyboard(action.verb)) {
-        m_nSettle = kKeySettle;
+        m_settle = kKeySettle;
     }
 }
 
@@ -131,7 +131,7 @@ bool WindowDriver::Perform(const ScriptAction& action, HWND dialog) {
             return actions::ClickGraph(dialog, action.x);
         case ScriptVerb::answerYes:
         case ScriptVerb::answerNo:
-            m_bAnswerYes = action.verb == ScriptVerb::answerYes;
+            m_answerYes = action.verb == ScriptVerb::answerYes;
             return true;
         case ScriptVerb::dump:
             Dump(dialog);
@@ -180,11 +180,11 @@ void WindowDriver::Dump(HWND dialog) {
 // Closes the dialog as a user would: by the button "Close", else by Cancel. A dialog that stays open is
 // ended.
 void WindowDriver::CloseDialog(HWND dialog) {
-    if (m_hClosing == dialog) {
+    if (m_closing == dialog) {
         EndDialog(dialog, IDCANCEL);
         return;
     }
-    m_hClosing = dialog;
+    m_closing = dialog;
     int id = IDCANCEL;
     for (const HWND control : ControlsOf(dialog)) {
         const bool visibleButton = KindOf(control) == ControlKind::button && HasStyle(control, WS_VISIBLE);
@@ -198,19 +198,19 @@ void WindowDriver::EndCall(unsigned result) {
     m_records.Print();
     m_lines.Result(result);
     m_open.clear();
-    m_hAnswered = m_hClosing = nullptr;
-    m_nSettle = 0;
+    m_answered = m_closing = nullptr;
+    m_settle = 0;
 }
 
 const ScriptAction* WindowDriver::TakeAgain() {
     const ScriptAction* next = FirstLeftOver();
     if (next == nullptr || next->verb != ScriptVerb::again) return nullptr;
-    ++m_nNext;
+    ++m_next;
     return next;
 }
 
 const ScriptAction* WindowDriver::FirstLeftOver() const {
-    return m_nNext < m_actions.size() ? &m_actions[m_nNext] : nullptr;
+    return m_next < m_actions.size() ? &m_actions[m_next] : nullptr;
 }
 
 }  // namespace lumerin

@@ -23,10 +23,10 @@ class WindowDriver {
     void Tick();
     // Reports on standard error how long each call takes to open its dialog, and the longest time that the
     // dialogs keep the user waiting after each action.
-    void TellWaits() { m_bTellWaits = true; }
+    void ReportWaits() { m_reportsWaits = true; }
 
     // Just before a call.
-    void BeginCall() { m_CallBegan = std::chrono::steady_clock::now(); }
+    void BeginCall() { m_callBegan = std::chrono::steady_clock::now(); }
     // Prints what was recorded during the call, and its result.
     void EndCall(unsigned result);
     // The action that opens the dialog once more after a call; null when another one is next, or none.
@@ -38,7 +38,7 @@ class WindowDriver {
 
   private:
     void NoteTime();
-    void TellWait(int line);
+    void ReportWait(int line);
     void AnswerBox(HWND box);
     void NoteDialog(HWND dialog);
     void PlayNext(HWND dialog);
@@ -48,19 +48,19 @@ class WindowDriver {
     void CloseDialog(HWND dialog);
 
     std::vector<ScriptAction> m_actions;
-    std::size_t m_nNext = 0;
+    std::size_t m_next = 0;
     JsonLines m_lines;
     Records m_records;
     Mouse m_mouse;
-    std::vector<HWND> m_open;    // the dialogs that were reported, the front one last
-    HWND m_hAnswered = nullptr;  // a message box whose button was pressed
-    HWND m_hClosing = nullptr;   // a dialog whose "Close" was pressed
-    int m_nSettle = 0;           // ticks to let pass: keys or the mouse are on their way
-    int m_nAnsweredTicks = 0;    // how long the answered box has stayed
-    bool m_bAnswerYes = true;
-    bool m_bTellWaits = false;
-    std::chrono::steady_clock::time_point m_CallBegan{}, m_LastTick{};
-    std::chrono::steady_clock::duration m_LongestWait{};
+    std::vector<HWND> m_open;   // the dialogs that were reported, the front one last
+    HWND m_answered = nullptr;  // a message box whose button was pressed
+    HWND m_closing = nullptr;   // a dialog whose "Close" was pressed
+    int m_settle = 0;           // ticks to let pass: keys or the mouse are on their way
+    int m_answeredTicks = 0;    // how long the answered box has stayed
+    bool m_answerYes = true;
+    bool m_reportsWaits = false;
+    std::chrono::steady_clock::time_point m_callBegan{}, m_lastTick{};
+    std::chrono::steady_clock::duration m_longestWait{};
 };
 
 }  // namespace lumerin

@@ -13,10 +13,10 @@ class CapPointList {
   public:
     explicit CapPointList(CPier& pier) : m_pier(pier) {
         const CFrame& frame = pier.m_Frame;
-        m_nLimit = Index(frame.m_Beam.m_nElements) + Index(frame.m_Cantilevers[0].m_nElements) +
-                   Index(frame.m_Cantilevers[1].m_nElements) + 1;
+        m_limit = Index(frame.m_Beam.m_nElements) + Index(frame.m_Cantilevers[0].m_nElements) +
+                  Index(frame.m_Cantilevers[1].m_nElements) + 1;
     }
-    bool IsFull() const { return m_pier.m_CapPointX.size() >= m_nLimit; }
+    bool IsFull() const { return m_pier.m_CapPointX.size() >= m_limit; }
     void Append(long long position, int node) {
         if (IsFull()) return;
         m_pier.m_CapPointX.push_back(NodeListX(m_pier, position));
@@ -32,42 +32,45 @@ class CapPointList {
 
   private:
     CPier& m_pier;
-    std::size_t m_nLimit = 0;
+    std::size_t m_limit = 0;
 };
 
 // The first indices of the runs of cap nodes between the supports in the node list.
-struct CapRuns {
+class CapRuns {
+  public:
     explicit CapRuns(const CPier& pier)
         : m_pier(pier),
-          m_nSupports(CapSupportCount(pier)),
-          m_nCantilever(HasCantilevers(pier) ? pier.m_nCantileverNodes + 1LL : 0),
-          m_bBent(pier.m_nStructureType == kTypePileBent) {}
+          m_supports(CapSupportCount(pier)),
+          m_cantilever(HasCantilevers(pier) ? pier.m_nCantileverNodes + 1LL : 0),
+          m_bent(pier.m_nStructureType == kTypePileBent) {}
 
-    long long LeftCantilever() const { return m_bBent ? m_nSupports : pier().m_nColumnNodes + 2LL; }
+    int Supports() const { return m_supports; }
+    // The nodes of each cantilever.
+    long long Cantilever() const { return m_cantilever; }
+    long long LeftCantilever() const { return m_bent ? m_supports : m_pier.m_nColumnNodes + 2LL; }
     // The nodes right of a support; after the last support those of the right cantilever.
     long long RightOf(int support) const {
-        if (m_bBent)
-            return m_nSupports + m_nCantilever + static_cast<long long>(support) * pier().m_nSpanNodes;
-        return SupportPosition(pier(), support) + 1 + (support == 0 ? m_nCantilever : 0);
+        if (m_bent) return m_supports + m_cantilever + static_cast<long long>(support) * m_pier.m_nSpanNodes;
+        return SupportPosition(m_pier, support) + 1 + (support == 0 ? m_cantilever : 0);
     }
-    const CPier& pier() const { return m_pier; }
 
+  private:
     const CPier& m_pier;
-    int m_nSupports;
-    long long m_nCantilever;
-    bool m_bBent;
+    int m_supports;
+    long long m_cantilever;
+    bool m_bent;
 };
 
 void BuildCapPoints(CPier& pier) {
     const CapRuns runs(pier);
-    if (runs.m_nSupports == 0) return;
+    if (runs.Supports() == 0) return;
     CapPointList points(pier);
-    points.AppendRun(runs.LeftCantilever(), runs.m_nCantilever);
-    for (int c = 0; c < runs.m_nSupports && !points.IsFull(); ++c) {
+    points.AppendRun(runs.LeftCantilever(), runs.Cantilever());
+    for (int c = 0; c < runs.Supports() && !points.IsFull(); ++c) {
         if (c > 0) points.AppendRun(runs.RightOf(c - 1), pier.m_nSpanNodes);
         points.Append(SupportPosition(pier, c), pier.GetSupportNode(c));
     }
-    points.AppendRun(runs.RightOf(runs.m_nSupports - 1), runs.m_nCantilever);
+    points.AppendRun(runs.RightOf(runs.Supports() - 1), runs.Cantilever());
 }
 
 int BearingsOfRow(const CPier& pier, std::size_t row) {
@@ -112,15 +115,15 @@ class BearingListBuilder {
     std::size_t Count(std::size_t row) const { return m_pier.m_BearingRows[row].m_Bearings.size(); }
 
     void Append(std::size_t row, std::size_t bearing, RowCode code) {
-        if (m_nNext >= m_pier.m_BearingList.size()) return;
+        if (m_next >= m_pier.m_BearingList.size()) return;
         const int node = Node(row, bearing);
-        CBearingLocation& location = m_pier.m_BearingList[m_nNext];
+        CBearingLocation& location = m_pier.m_BearingList[m_next];
         location.m_nBearing = static_cast<int>(bearing);
         location.m_nRowCode = code;
         location.m_bElementStarts = m_pier.IsCapElementEnd(node, kEndI);
         location.m_bElementEnds = m_pier.IsCapElementEnd(node, kEndJ);
-        m_pier.m_BearingX[m_nNext] = X(row, bearing);
-        ++m_nNext;
+        m_pier.m_BearingX[m_next] = X(row, bearing);
+        ++m_next;
     }
 
   private:
@@ -128,7 +131,7 @@ class BearingListBuilder {
         return m_pier.m_BearingRows[row].m_Bearings[bearing].m_nNode;
     }
     CPier& m_pier;
-    std::size_t m_nNext = 0;
+    std::size_t m_next = 0;
 };
 
 void MergeBearingRows(BearingListBuilder& list) {

@@ -103,7 +103,7 @@ class CaseRuns {
 class LimitStateList {
   public:
     LimitStateList(ifstreamex& file, int cases, CodeFamily family)
-        : m_file(file), m_nCases(cases), m_nFamily(family) {}
+        : m_file(file), m_cases(cases), m_family(family) {}
 
     void Read(std::string line) {
         do {
@@ -116,7 +116,7 @@ class LimitStateList {
     void Assign(std::vector<CLoadCase>& named, std::vector<CLoadCase>& classed) const {
         for (const auto& [begin, run] : m_rows.ByFirstCase()) {
             const std::string name = LimitStateName(run.code);
-            const LimitClass limitClass = LimitClassOf(m_nFamily, run.code).value_or(kClassOfUnknownCodes);
+            const LimitClass limitClass = LimitClassOf(m_family, run.code).value_or(kClassOfUnknownCodes);
             for (int j = begin; j < run.end; ++j) {
                 const auto at = Index(j);
                 // Names and numbers are stored in the first substructure, from which all tables take them.
@@ -140,23 +140,23 @@ class LimitStateList {
     // False: the list names more combinations than there are cases, which ends it.
     bool Note(int code, int first, int count) {
         // A count below 0 moves back; cases before the first are skipped.
-        const long long begin = m_nDone, end = begin + count;
+        const long long begin = m_done, end = begin + count;
         const CaseRun run{Inside(end), code, static_cast<unsigned>(first) - static_cast<unsigned>(begin)};
         if (Inside(begin) < run.end) {
             m_rows.Overlay(Inside(begin), run);
-            if (!LimitClassOf(m_nFamily, code)) m_unknown.Overlay(Inside(begin), run);
+            if (!LimitClassOf(m_family, code)) m_unknown.Overlay(Inside(begin), run);
         }
-        m_nDone = end;
-        return count < 1 || end <= m_nCases;
+        m_done = end;
+        return count < 1 || end <= m_cases;
     }
     int Inside(long long j) const {
-        return static_cast<int>(std::clamp(j, 0LL, static_cast<long long>(m_nCases)));
+        return static_cast<int>(std::clamp(j, 0LL, static_cast<long long>(m_cases)));
     }
 
     ifstreamex& m_file;
-    int m_nCases;
-    CodeFamily m_nFamily;
-    long long m_nDone = 0;  // cases that earlier rows took
+    int m_cases;
+    CodeFamily m_family;
+    long long m_done = 0;  // cases that earlier rows took
     CaseRuns m_rows, m_unknown;
 };
 

@@ -31,11 +31,11 @@ class FrameNumbering {
   public:
     explicit FrameNumbering(CPier& pier) : m_pier(pier) {
         const StructureType type = pier.m_nStructureType;
-        m_nElement = FoundationElements(pier) + 1;
+        m_element = FoundationElements(pier) + 1;
         if (type == kTypePier || type == kTypeMast || type == kTypeWallA || type == kTypeWallB) {
-            m_nNode = pier.m_nFoundationNodes + 1;
+            m_node = pier.m_nFoundationNodes + 1;
         } else if (!pier.m_Piles.empty() && pier.m_Piles[0].m_nElements > 0) {
-            m_nNode = pier.Element(pier.m_Piles[0].m_nFirstElement).m_nNodeI;
+            m_node = pier.Element(pier.m_Piles[0].m_nFirstElement).m_nNodeI;
         }
     }
 
@@ -47,10 +47,10 @@ class FrameNumbering {
             if (i == 0) NumberLeftCantilever();
             if (!hasCap) continue;
             if (i == m_pier.m_nColumns - 1) {
-                if (isPier && m_pier.m_nColumns >= 2) ++m_nNode;
+                if (isPier && m_pier.m_nColumns >= 2) ++m_node;
                 NumberRightCantilever(i);
             } else {
-                if (isPier && i > 0) ++m_nNode;
+                if (isPier && i > 0) ++m_node;
                 NumberSpan(i);
             }
         }
@@ -60,7 +60,7 @@ class FrameNumbering {
   private:
     CElement& Next(const CMember& member, int e) {
         CElement& element = m_pier.Element(member.m_nFirstElement + e);
-        element.m_nElementNumber = m_nElement++;
+        element.m_nElementNumber = m_element++;
         return element;
     }
 
@@ -68,29 +68,29 @@ class FrameNumbering {
         const CMember& column = m_pier.m_Frame.m_Columns[Index(i)];
         for (int e = 0; e < ColumnElements(m_pier); ++e) {
             CElement& element = Next(column, e);
-            element.m_nNodeI = m_nNode;
-            element.m_nNodeJ = ++m_nNode;
+            element.m_nNodeI = m_node;
+            element.m_nNodeJ = ++m_node;
         }
-        m_ColumnTops.push_back(m_nNode);
+        m_columnTops.push_back(m_node);
     }
 
     // The node at which a support meets the cap.
     int TopNode(int support) const {
         const std::size_t s = Index(support);
-        if (m_pier.m_nStructureType != kTypePileBent) return m_ColumnTops.at(s);
+        if (m_pier.m_nStructureType != kTypePileBent) return m_columnTops.at(s);
         if (s >= m_pier.m_Piles.size() || m_pier.m_Piles[s].m_nElements < 1) return 0;
         return m_pier.Element(m_pier.m_Piles[s].m_nFirstElement).m_nNodeJ;
     }
 
     void NumberLeftCantilever() {
         const CMember& cantilever = m_pier.m_Frame.m_Cantilevers[0];
-        if (m_pier.m_nStructureType == kTypePileBent) m_nNode = m_pier.m_nPiles;
-        ++m_nNode;
+        if (m_pier.m_nStructureType == kTypePileBent) m_node = m_pier.m_nPiles;
+        ++m_node;
         for (int e = 0; e < cantilever.m_nElements; ++e) {
             CElement& element = Next(cantilever, e);
-            element.m_nNodeI = m_nNode;
-            element.m_nNodeJ = e == cantilever.m_nElements - 1 ? TopNode(0) : m_nNode + 1;
-            ++m_nNode;
+            element.m_nNodeI = m_node;
+            element.m_nNodeJ = e == cantilever.m_nElements - 1 ? TopNode(0) : m_node + 1;
+            ++m_node;
         }
     }
 
@@ -100,10 +100,10 @@ class FrameNumbering {
             CElement& element = Next(cantilever, e);
             if (e == 0) {
                 element.m_nNodeI = TopNode(support);
-                element.m_nNodeJ = m_nNode;
+                element.m_nNodeJ = m_node;
             } else {
-                element.m_nNodeI = m_nNode;
-                element.m_nNodeJ = ++m_nNode;
+                element.m_nNodeI = m_node;
+                element.m_nNodeJ = ++m_node;
             }
         }
     }
@@ -117,11 +117,11 @@ class FrameNumbering {
             CElement& element = Next(beam, count * span + e);
             if (e == 0) {
                 element.m_nNodeI = TopNode(span);
-                element.m_nNodeJ = m_nNode;
+                element.m_nNodeJ = m_node;
             } else {
-                element.m_nNodeI = m_nNode;
-                element.m_nNodeJ = e == count - 1 ? 0 : m_nNode + 1;
-                ++m_nNode;
+                element.m_nNodeI = m_node;
+                element.m_nNodeJ = e == count - 1 ? 0 : m_node + 1;
+                ++m_node;
             }
         }
     }
@@ -138,29 +138,29 @@ class FrameNumbering {
     }
 
     CPier& m_pier;
-    int m_nElement = 1;
-    int m_nNode = 0;
-    std::vector<int> m_ColumnTops;
+    int m_element = 1;
+    int m_node = 0;
+    std::vector<int> m_columnTops;
 };
 
 // Goes through the element table and the mask together and gives each element its row's section.
 class SectionCursor {
   public:
     SectionCursor(CPier& pier, const PierModel& model, bool useMask)
-        : m_pier(pier), m_model(model), m_bUseMask(useMask) {
-        m_nRow = m_nMask = Index(FoundationElements(pier));
+        : m_pier(pier), m_model(model), m_useMask(useMask) {
+        m_row = m_mask = Index(FoundationElements(pier));
     }
 
     void Assign(int firstElement, int count) {
         for (int e = 0; e < count; ++e) {
             CElement& element = m_pier.Element(firstElement + e);
             const bool masked =
-                m_bUseMask && m_nMask < m_model.elementMask.size() && m_model.elementMask[m_nMask] != 0;
-            ++m_nMask;
+                m_useMask && m_mask < m_model.elementMask.size() && m_model.elementMask[m_mask] != 0;
+            ++m_mask;
             if (masked) {
                 element.m_nSection = -1;
-            } else if (m_nRow < m_model.elementTable.size()) {
-                element.m_nSection = m_model.elementTable[m_nRow++].section;
+            } else if (m_row < m_model.elementTable.size()) {
+                element.m_nSection = m_model.elementTable[m_row++].section;
             }
         }
     }
@@ -168,8 +168,8 @@ class SectionCursor {
   private:
     CPier& m_pier;
     const PierModel& m_model;
-    bool m_bUseMask;
-    std::size_t m_nRow = 0, m_nMask = 0;
+    bool m_useMask;
+    std::size_t m_row = 0, m_mask = 0;
 };
 
 // Runs `column` and `cap` over the members of a frame in the order of the element table: for a pier each

@@ -21,7 +21,7 @@ struct BlockFlags {
 
 class BlockReader {
   public:
-    BlockReader(ifstreamex& file, bool squaredWidth) : m_file(file), m_bSquared(squaredWidth) {}
+    BlockReader(ifstreamex& file, bool squaredWidth) : m_file(file), m_squared(squaredWidth) {}
 
     void Read(CPier& pier) {
         NextLine();
@@ -56,7 +56,7 @@ class BlockReader {
         ReadKeyedInt(m_line, "S", section.m_nShape);
         ReadKeyedDouble(m_line, "D", section.m_dD);
         ReadKeyedDouble(m_line, "W", section.m_dWidth);
-        if (ReadKeyedDouble(m_line, "Z", section.m_dZ) && m_bSquared) {
+        if (ReadKeyedDouble(m_line, "Z", section.m_dZ) && m_squared) {
             section.m_dZ = std::sqrt(section.m_dZ);
             section.m_dWidth = std::sqrt(section.m_dWidth);
         }
@@ -97,7 +97,7 @@ class BlockReader {
     }
 
     ifstreamex& m_file;
-    bool m_bSquared;
+    bool m_squared;
     BlockFlags m_flags;
     std::string m_line;
 };

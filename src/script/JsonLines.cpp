@@ -144,7 +144,7 @@ void JsonLines::Result(unsigned result) {
 }
 
 void JsonLines::Refused(std::string_view what) {
-    m_bRefused = true;
+    m_refused = true;
     Json line;
     line["refused"] = ForUser(what);
     m_out << line.dump() << '\n';

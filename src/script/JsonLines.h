@@ -52,11 +52,11 @@ class JsonLines {
     void Result(unsigned result);
     // An action that a user could not have done.
     void Refused(std::string_view what);
-    bool HasRefused() const { return m_bRefused; }
+    bool HasRefused() const { return m_refused; }
 
   private:
     std::ostream& m_out;
-    bool m_bRefused = false;
+    bool m_refused = false;
 };
 
 }  // namespace lumerin

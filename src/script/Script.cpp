@@ -18,7 +18,7 @@ bool IsBlank(char c) {
 // The words of one line, taken from its start.
 class LineReader {
   public:
-    LineReader(std::string_view line, int number) : m_rest(line), m_nLine(number) {
+    LineReader(std::string_view line, int number) : m_rest(line), m_line(number) {
         for (std::size_t i = 0; i < m_rest.size(); ++i) {
             if (m_rest[i] == '#' && (i == 0 || IsBlank(m_rest[i - 1]))) m_rest = m_rest.substr(0, i);
         }
@@ -62,14 +62,14 @@ class LineReader {
     }
     // The rest as a text for a control.
     std::string Text() { return FromUser(Rest()); }
-    [[noreturn]] void Fail(const std::string& fault) const { throw ScriptError(m_nLine, fault); }
+    [[noreturn]] void Fail(const std::string& fault) const { throw ScriptError(m_line, fault); }
 
   private:
     void SkipBlanks() {
         while (!m_rest.empty() && IsBlank(m_rest.front())) m_rest.remove_prefix(1);
     }
     std::string_view m_rest;
-    int m_nLine;
+    int m_line;
 };
 
 constexpr const char* kControlWord = "a control's identifier";

@@ -60,24 +60,24 @@ unsigned Launch(int reportFormat, const char* inputFile, const char* version, co
 // and one model.
 class RunningCall {
   public:
-    RunningCall() : m_bFirst(!Flag().test_and_set()) {
-        if (m_bFirst) backend::EnterCall();
+    RunningCall() : m_first(!Flag().test_and_set()) {
+        if (m_first) backend::EnterCall();
     }
     RunningCall(const RunningCall&) = delete;
     RunningCall& operator=(const RunningCall&) = delete;
     ~RunningCall() {
-        if (!m_bFirst) return;
+        if (!m_first) return;
         backend::LeaveCall();
         Flag().clear();
     }
-    bool IsFirst() const { return m_bFirst; }
+    bool IsFirst() const { return m_first; }
 
   private:
     static std::atomic_flag& Flag() {
         static constinit std::atomic_flag flag;
         return flag;
     }
-    const bool m_bFirst;
+    const bool m_first;
 };
 
 }  // namespace

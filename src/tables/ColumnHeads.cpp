@@ -106,10 +106,10 @@ void AddSteppedLines(ColumnHead& head, const HeadTexts& texts, const CPier& firs
 
 ColumnHead BuildColumnHead(const CDataSet& data, const TableLayout& layout) {
     ColumnHead head;
-    head.linesBehind = layout.head.linesBehind;
-    head.linesBehindFirst = layout.head.linesBehindFirst;
+    head.linesAfter = layout.head.linesAfter;
+    head.linesAfterFirst = layout.head.linesAfterFirst;
     // Two lines are counted even where a head has fewer.
-    head.counted = 2 + head.linesBehind + head.linesBehindFirst;
+    head.counted = 2 + head.linesAfter + head.linesAfterFirst;
     if (data.IsPierless()) return head;
     const CPier& first = data.FirstPier();
     const int mode = data.m_nAnalysisMode;
@@ -121,7 +121,7 @@ ColumnHead BuildColumnHead(const CDataSet& data, const TableLayout& layout) {
     const bool cap = layout.table == kTableCapShear || layout.table == kTableCapMoment;
     AddSteppedLines(head, layout.head, first, mode, us, cap);
     // A section table with an empty head has no empty line after it either.
-    if (head.lines.empty()) head.linesBehind = 0;
+    if (head.lines.empty()) head.linesAfter = 0;
     return head;
 }
 

@@ -37,7 +37,7 @@ class CMemberWalk {
             if (m_member.family == kXMemberFamily && pier.m_nExtraMembers <= 0) continue;
             if (!WritePierHeading(pier, static_cast<int>(p) + 1)) continue;
             for (const LimitClass slot : data.FirstPier().Slots()) WriteBlock(p, slot);
-            if (m_member.gapBehindPier) m_sink.Gap(2);
+            if (m_member.gapAfterPier) m_sink.Gap(2);
         }
     }
 

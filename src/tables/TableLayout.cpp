@@ -41,7 +41,7 @@ constexpr TableLayout kMaxAxial{
     .table = kTableMaxAxial,
     .text = {.wide = {false, 41}, .narrow = {true, 13}, .furtherWide = {40, 36}, .furtherNarrow = {20, 16}},
     .pdf = {.wide = {false, 38}, .narrow = {true, 19}, .furtherWide = {37, 32}, .furtherNarrow = {20, 16}},
-    .head = {.linesBehind = 0, .linesBehindFirst = 2},
+    .head = {.linesAfter = 0, .linesAfterFirst = 2},
 };
 
 constexpr TableLayout kPileDc{
@@ -59,7 +59,7 @@ constexpr TableLayout kPileDc{
                .missingRatio = {"     No valid load case", "     No valid load case"},
                .pierHeading = kPileHeading,
                .pierHeadingType8 = kColumnHeading,
-               .gapBehindPier = true},
+               .gapAfterPier = true},
 };
 
 constexpr TableLayout kColumnDc{

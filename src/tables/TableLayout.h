@@ -42,8 +42,8 @@ struct HeadTexts {
     const char* unitsSi = "";
     std::size_t aremaWidth = 15;  // of the limit state column's heading
     bool mode2IsTimeStep = false;
-    int linesBehind = 1;       // empty lines that belong to the head on every page
-    int linesBehindFirst = 0;  // further ones at a block's start
+    int linesAfter = 1;       // empty lines that belong to the head on every page
+    int linesAfterFirst = 0;  // further ones at a block's start
 };
 
 // A row of tables 1, 2, 5, 6 and 7.
@@ -61,7 +61,7 @@ struct MemberRowTexts {
     const char* pierHeading = "";
     const char* pierHeadingType8 = "";
     const char* pierHeadingBent = "";  // for a pile bent, which then has no blocks; empty: no such rule
-    bool gapBehindPier = false;        // two further empty lines after a substructure
+    bool gapAfterPier = false;         // two further empty lines after a substructure
 };
 
 // The words of tables 3 and 4.
@@ -93,9 +93,9 @@ const TableLayout& LayoutOf(TableId table);  // 0 to 7
 // The column head of a table for the current project.
 struct ColumnHead {
     std::vector<std::string> lines;
-    int linesBehind = 0;       // empty lines after it on every page
-    int linesBehindFirst = 0;  // further ones at a block's start
-    int counted = 0;           // lines that the page arithmetic counts for it at a block's start
+    int linesAfter = 0;       // empty lines after it on every page
+    int linesAfterFirst = 0;  // further ones at a block's start
+    int counted = 0;          // lines that the page arithmetic counts for it at a block's start
 };
 ColumnHead BuildColumnHead(const CDataSet& data, const TableLayout& layout);
 

@@ -37,7 +37,7 @@ class CTextSink : public CLineSink {
 
     void Head(const ColumnHead& head) override {
         for (const std::string& line : head.lines) m_out << line << "\n";
-        for (int i = 0; i < head.linesBehind + head.linesBehindFirst; ++i) m_out << "\n";
+        for (int i = 0; i < head.linesAfter + head.linesAfterFirst; ++i) m_out << "\n";
         m_nLines += head.counted;
     }
 

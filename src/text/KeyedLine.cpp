@@ -18,7 +18,7 @@ char Upper(char c) {
 }
 
 // The text after the first occurrence of the key.
-bool FindBehindKey(std::string_view text, std::string_view key, std::string_view& rest) {
+bool FindAfterKey(std::string_view text, std::string_view key, std::string_view& rest) {
     std::string wanted(key);
     if (wanted.size() == 1) wanted += '=';
     const auto same = [](char a, char b) { return Upper(a) == Upper(b); };
@@ -66,7 +66,7 @@ template <class Value>
 int ReadKeyedValues(std::string_view text, std::string_view key, std::span<Value> out) {
     std::fill(out.begin(), out.end(), Value{});
     std::string_view rest;
-    if (!FindBehindKey(text, key, rest)) return 0;
+    if (!FindAfterKey(text, key, rest)) return 0;
     SkipBlanks(rest);
     int read = 0;
     for (Value& slot : out) {

@@ -30,23 +30,23 @@ class StoredStream {
     }
     void Write(std::string_view text);
     // Bytes stored so far, those in the buffer included.
-    std::int64_t Position() const { return m_nPosition; }
+    std::int64_t Position() const { return m_position; }
     // Puts the file in its place. Sets the fail state when the file system has refused a part of it; the
     // earlier file is unchanged then.
     void Close();
     bool IsOpen() const { return m_file.IsOpen(); }
-    bool Failed() const { return m_bFailed; }
-    void ClearState() { m_bFailed = false; }
+    bool Failed() const { return m_failed; }
+    void ClearState() { m_failed = false; }
 
   private:
     void Flush();
-    void TellFailure() const;
+    void ReportFailure() const;
     WholeFile m_file;
-    std::string m_strPath;
+    std::string m_path;
     std::vector<char> m_buffer;
-    std::size_t m_nUsed = 0;
-    std::int64_t m_nPosition = 0;
-    bool m_bFailed = false;
+    std::size_t m_used = 0;
+    std::int64_t m_position = 0;
+    bool m_failed = false;
 };
 
 }  // namespace lumerin

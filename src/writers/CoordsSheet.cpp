@@ -16,7 +16,7 @@ namespace {
 constexpr std::string_view kHeadBeforeRows =
     "<Worksheet ss:Name=\"Coords\">\n"
     "<Table ss:ExpandedColumnCount=\"1\" ss:ExpandedRowCount=\"";
-constexpr std::string_view kHeadBehindRows =
+constexpr std::string_view kHeadAfterRows =
     "\" x:FullColumns=\"1\"\n"
     "x:FullRows=\"1\" DefaultColumnWidth=\"42\" ss:DefaultRowHeight=\"11.25\">\n"
     "<Column ss:AutoFitWidth=\"0\" ss:Width=\"113.25\"/>\n";
@@ -99,7 +99,7 @@ std::string CoordsSheet(const Report& report, TableId table) {
 
     std::string out(kHeadBeforeRows);
     AppendInt(out, static_cast<long long>(rows));
-    out += kHeadBehindRows;
+    out += kHeadAfterRows;
     std::string title;
     for (std::size_t p = 0; p < data.m_Piers.size(); ++p) {
         const std::vector<double>& points = PointsOf(report.results.piers[p], table);

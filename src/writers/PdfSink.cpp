@@ -48,14 +48,14 @@ void CPdfSink::Gap(int lines, GapStyle style) {
     m_nLines += lines;
 }
 
-void CPdfSink::ShowHead(int linesBehind) {
+void CPdfSink::ShowHead(int linesAfter) {
     for (const std::string& line : m_head.lines) Show(line);
-    for (int i = 0; i < linesBehind; ++i) Show("");
+    for (int i = 0; i < linesAfter; ++i) Show("");
 }
 
 void CPdfSink::Head(const ColumnHead& head) {
     m_head = head;
-    ShowHead(head.linesBehind + head.linesBehindFirst);
+    ShowHead(head.linesAfter + head.linesAfterFirst);
     m_nLines += head.counted;
 }
 
@@ -86,7 +86,7 @@ void CPdfSink::ContinueOnNextPage() {
     BreakPage();
     Show("cont...");
     Show("");
-    ShowHead(m_head.linesBehind);
+    ShowHead(m_head.linesAfter);
     m_nLines = kContinuedLines;
 }
 

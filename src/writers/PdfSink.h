@@ -29,7 +29,7 @@ class CPdfSink : public CLineSink {
   private:
     bool IsFull(int margin) const { return m_nLinesPerPage <= m_nLines + margin; }
     void Show(std::string_view text);
-    void ShowHead(int linesBehind);
+    void ShowHead(int linesAfter);
     void BreakPage();
     void ContinueOnNextPage();
 

@@ -41,7 +41,7 @@ constexpr std::string_view kEndBeforeFooter =
     "<Layout x:Orientation=\"Landscape\"/><Header x:Margin=\"0.3\"/>\n"
     "<Footer x:Margin=\"0.3\" x:Data=\"&amp;L";
 
-constexpr std::string_view kEndBehindFooter =
+constexpr std::string_view kEndAfterFooter =
     "&amp;RPage &amp;P of &amp;N\"/>\n"
     "<PageMargins x:Bottom=\"0.75\" x:Left=\"0.7\" x:Right=\"0.7\" x:Top=\"0.75\"/>\n"
     "</PageSetup>\n"
@@ -186,7 +186,7 @@ std::string WorkbookHead(bool gridStyles, const LocalTime& now) {
 
 std::string WorksheetEndWith(std::string_view footerText) {
     std::string out(kEndBeforeFooter);
-    return out.append(footerText).append(kEndBehindFooter);
+    return out.append(footerText).append(kEndAfterFooter);
 }
 
 std::string WorksheetEnd(const ReportOptions& options) {

@@ -70,7 +70,7 @@ TEST_F(ReportTest, EachFormatIsACallOfItsOwn) {
     EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitDone);
     const std::string stem = base + "_Max_Axial_Forces_Pile_Heads";
     EXPECT_EQ(out.str(), stem + ".txt\n" + stem + ".pdf\n" + stem + ".xml\n");
-    // The text format has not taken the footer of the PDF away.
+    // The text format leaves the footer of the PDF as it was.
     EXPECT_THAT(Content(stem + ".pdf"), HasSubstr("v5.2.1"));
 }
 
@@ -116,7 +116,7 @@ TEST_F(ReportTest, MessagesAreUtf8WhateverThePathIs) {
     fs::remove(base + ".PLF");
     EXPECT_EQ(Report({base + ".in"}, {"axial"}), kExitNotLoaded);
     EXPECT_EQ(err.str(), base + ".in: " + base + ".PLF: the file was not found\n");
-    // A name that is no UTF-8 is one of the code page.
+    // A name that is not UTF-8 is read in the code page.
     const std::string utf8 = base;
     sample.name =
         "Gr\xF6\xDF"
@@ -285,7 +285,7 @@ TEST_F(ReportTest, AForceFileThatChangesDuringTheRunEndsItWithThreeAndLeavesTheE
               base + ".in: " + base +
                   ".vmd: the file has changed since the project was opened. Open the project again.\n"
                   "2 projects: 1 done, 1 not loaded\n");
-    // The other projects are done all the same.
+    // The other projects are still done.
     EXPECT_THAT(buffer.str(), HasSubstr(other + "_Max_Axial_Forces_Pile_Heads.xml\n"));
 }
 

@@ -56,7 +56,7 @@ TEST_F(EmbedmentFilesTest, ALineOfMoreThan256CharactersEndsTheSearch) {
     EXPECT_TRUE(Requested(std::string(256, 'x') + "\n" + kProblem + "MPTE\nM= 1\n"));
     EXPECT_TRUE(Requested(std::string(256, 'x') + "\r\n" + kProblem + "MPTE\nM= 1\n"));
     EXPECT_FALSE(Requested(std::string(257, 'x') + "\n" + kProblem + "MPTE\nM= 1\n"));
-    // Its first part is used all the same.
+    // Its first part is still used.
     EXPECT_TRUE(Requested(kProblem + "MPTE\nM= 1" + std::string(300, ' ') + "\n"));
 }
 

@@ -148,11 +148,11 @@ TEST_F(EmbedmentResultsTest, LinesAfterTheEndMarkStillCount) {
 
 TEST_F(EmbedmentResultsTest, TheEndMarkMayFollowBlanksAndEndsTheLine) {
     Write("blanks", "  \tEOF\r\n");
-    Write("behind", "EOF \n");
+    Write("after", "EOF \n");
     Write("word", "EOFX\n");
     Write("lower", "eof\n");
     EXPECT_TRUE(CEmbedmentResults::IsTrialFileComplete((folder / "blanks").string()));
-    EXPECT_FALSE(CEmbedmentResults::IsTrialFileComplete((folder / "behind").string()));
+    EXPECT_FALSE(CEmbedmentResults::IsTrialFileComplete((folder / "after").string()));
     EXPECT_FALSE(CEmbedmentResults::IsTrialFileComplete((folder / "word").string()));
     EXPECT_FALSE(CEmbedmentResults::IsTrialFileComplete((folder / "lower").string()));
     EXPECT_FALSE(CEmbedmentResults::IsTrialFileComplete((folder / "missing").string()));

@@ -16,7 +16,7 @@ using testing::ElementsAre;
 
 namespace {
 
-// Writes down what is drawn; a character is half as wide as high.
+// Records what is drawn; a character is half as wide as high.
 class RecordingCanvas : public PlotCanvas {
   public:
     struct TextCall {
@@ -75,7 +75,7 @@ TEST(Plot, ReturnsTheValuesThatWereSet) {
     EXPECT_EQ(std::get<int>(plot.Get(kGraphElementCount)), 0);
     plot.Set(kGraphElementB, 5);
     EXPECT_EQ(std::get<int>(plot.Get(kGraphElementB)), 5);
-    plot.Call(999, {});  // an id that it does not know
+    plot.Call(999, {});  // an unknown id
 }
 
 TEST(Plot, LabelsBothAxesFromEndToEndInTheirFormats) {
@@ -204,7 +204,7 @@ TEST(Plot, JoinsThePointsByALine) {
 
 TEST(Plot, AGapIsNotJoined) {
     CPlot plot = MakePlot(10.0, 20.0, 0.0, 4.0);
-    plot.LeaveGap();  // before the first point there is nothing to part
+    plot.LeaveGap();  // before the first point there is no line to interrupt
     AddPoint(plot, 10.0, 0.0);
     AddPoint(plot, 12.0, 1.0);
     plot.LeaveGap();

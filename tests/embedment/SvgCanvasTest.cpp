@@ -36,7 +36,7 @@ TEST(SvgCanvas, WritesEachPartWithItsPlaceAndColour) {
         "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"30\" height=\"20.5\" viewBox=\"0 0 30 20.5\""
         " font-family=\"Segoe UI, Helvetica, Arial, sans-serif\">\n"
         "<rect x=\"1\" y=\"2\" width=\"3.25\" height=\"6\" fill=\"#00abcd\"/>\n"
-        // A rule of one pixel is on the middle of its pixels.
+        // A line one pixel wide runs through the centres of its pixels.
         "<path d=\"M1.5 2.5L1.5 9.5\" stroke=\"#123456\" stroke-width=\"1\" stroke-linecap=\"square\"/>\n"
         "<polyline points=\"0,1.5 0,2\" stroke=\"#fedcba\" stroke-width=\"1.3\" fill=\"none\""
         " stroke-linejoin=\"round\" stroke-linecap=\"round\"/>\n"

@@ -11,7 +11,7 @@ namespace lumerin {
 
 namespace {
 
-// A screen of one grey, each time a little lighter; 0: there is none.
+// A screen of one grey, a little lighter at each reading; 0: there is no screen.
 std::uint8_t screenGrey = 0;
 std::vector<std::array<int, 4>> screenReads;
 
@@ -35,7 +35,7 @@ std::uint32_t Number(const std::string& bytes, std::size_t at, std::size_t count
 
 }  // namespace
 
-// Takes the place of the platform's own.
+// Replaces the platform's own.
 bool graphplatform::ReadScreen(const ScreenRect& rect, std::vector<std::uint8_t>& data) {
     if (screenGrey == 0) return false;
     screenReads.push_back({rect.left, rect.top, rect.right, rect.bottom});

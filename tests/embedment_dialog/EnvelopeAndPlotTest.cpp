@@ -170,7 +170,7 @@ TEST_F(EmbedmentDialogTest, AStudyWithoutFilesStillOpens) {
         front.TypeText(IDC_STUDY_CASE, "5");
         EXPECT_THAT(Messages(), ElementsAre("Invalid load case."));
         sink.messages.clear();
-        front.Spin(IDC_STUDY_SPIN, true);  // no case is valid, the first one neither
+        front.Spin(IDC_STUDY_SPIN, true);  // no case is valid, not even the first
         EXPECT_THAT(Messages(), ElementsAre("Invalid load case."));
         EXPECT_EQ(front.Find(IDC_STUDY_CASE)->text, "1");
     });

@@ -6,8 +6,8 @@
 namespace lumerin {
 
 // The cap searches in their plainest form: one search over the load cases for each class, sense and side,
-// step by step, every value looked up anew. Slow and long on purpose; the searches of the product must agree
-// with it.
+// step by step; every value is looked up again. Slow and long on purpose: the searches of the product must
+// give the same results.
 class LiteralCap {
   public:
     // Works on the model's substructure and selection, and on tables of its own, which begin as the model's.

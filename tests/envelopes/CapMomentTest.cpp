@@ -142,7 +142,7 @@ TEST(CapMoment, WithoutCantileversTheLastCentrelineIsMissing) {
     SearchedCap model(TwoColumnsWithoutCantilevers());
     model.ComputeMoment();
     EXPECT_EQ(model.results.momentSupportX, (std::vector<double>{10, 12, 28, 30}));
-    // It looks at node 10, which no element has; the column's top is node 9.
+    // The search uses node 10, which no element has; the column's top is node 9.
     EXPECT_EQ(model.results.momentSupports.At(1, 0, kCentre, kMax).record,
               Record(-1, 0, -1, 0, 0, 0, -1, -1, 0, 1));
     // The first column's centreline has an element on its right only.
@@ -186,7 +186,7 @@ TEST(CapMomentBearings, MaskedSideGivesWayAndTwoOfThemAreMissing) {
     EXPECT_EQ(model.results.momentBearings.At(0, 0, 0, kMax).record.m_nElementNumber, 22);
     model.Mask(1);
     model.ComputeMoment();
-    // Load case and place go; PROP, ELEM, end and NODE of the search before stay.
+    // Load case and place are cleared; PROP, ELEM, end and NODE of the earlier search stay.
     EXPECT_EQ(model.results.momentBearings.At(0, 0, 0, kMax).record,
               Record(-1, 2, -1, 22, kEndJ, 5, -1, -1, 0, 1));
 }

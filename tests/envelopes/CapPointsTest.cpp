@@ -78,7 +78,7 @@ TEST(CapPoints, CantileverShorterThanTheFaceLeavesTrailingZeros) {
     EXPECT_THAT(model.results.momentSupportX, ElementsAre(10, 21, 19, 30, 0, 0));
     EXPECT_EQ(model.results.momentSupportList[5].m_nSupport, 0);
     EXPECT_EQ(model.results.momentSupportList[5].m_nKind, 0);
-    // The unused entries at 0 come last in the walk, since supports are taken in list order.
+    // The unused entries at 0 come last in the walk, because supports are taken in list order.
     EXPECT_THAT(model.results.momentPointX, ElementsAre(10, 21, 19, 30, 0, 0));
 }
 

@@ -17,7 +17,7 @@ int Pick(Random& random, int low, int high) {
     return std::uniform_int_distribution<int>(low, high)(random);
 }
 
-// Few distinct values, so that ties are the rule.
+// Few distinct values, so that most searches meet ties.
 float RandomForce(Random& random) {
     const int pick = Pick(random, 0, 19);
     if (pick == 19) return kNaN;

@@ -146,7 +146,8 @@ TEST(CapShear, BothSidesMaskedIsMissingAndKeepsTheOtherWords) {
     model.Mask(1);
     model.ComputeShear();
     const CCapEntry& entry = model.results.shearSupports.At(0, 0, kLeftFace, kMax);
-    // Words for load case, place and member are lost; PROP, ELEM, end and NODE of the search before stay.
+    // The words for load case, place and member are cleared; PROP, ELEM, end and NODE of the earlier search
+    // stay.
     EXPECT_EQ(entry.record, Record(-1, 1, -1, 21, kEndJ, 7, -1, -1, 0, 1));
     EXPECT_DOUBLE_EQ(entry.values[kF22], 10);
 }
@@ -215,7 +216,7 @@ TEST(CapShear, WithoutCantileversTheSecondCentrelineLooksAtTheNextNode) {
     EXPECT_EQ(left.record, Record(0, 3, 0, 23, kEndJ, 10, kCapSpan, 1));
     EXPECT_DOUBLE_EQ(left.values[kF22], 3);
     EXPECT_DOUBLE_EQ(model.results.shearSupports.At(1, 0, kRightCentre, kMax).values[kF22], 4);
-    // After the last column there is no further node: 5 9 13 are the tops, node 14 is none.
+    // After the last column there is no further node: 5 9 13 are the tops, and there is no node 14.
     EXPECT_EQ(model.results.shearSupports.At(2, 0, kLeftCentre, kMax).record.m_nMissing, 1);
 }
 

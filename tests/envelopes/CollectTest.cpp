@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The searches of whole tables: over all substructures, then the check that may make a table invalid.
+// The searches of whole tables over all substructures, then the check that may make a table invalid.
 #include "envelopes/Collect.h"
 
 #include <gtest/gtest.h>
@@ -115,7 +115,7 @@ TEST_F(Collect, ABadNumberInAnyPierMakesTheFamilysTablesInvalid) {
     forces.Of(data.m_Piers[1]).finite.piles = false;
     CollectMembers();
     EXPECT_EQ(results.valid, AllValidBut({1, 5}));
-    EXPECT_EQ(results.piers[2].pileDc.At(0, 0), RecordAt(0, 0, 0, 0, kEndI));  // searched all the same
+    EXPECT_EQ(results.piers[2].pileDc.At(0, 0), RecordAt(0, 0, 0, 0, kEndI));  // still searched
     forces.Of(data.m_Piers[1]).finite.pileHeads = false;
     forces.Of(data.m_Piers[2]).finite.columns = false;
     forces.Of(data.m_Piers[2]).finite.extraMembers = false;

@@ -167,7 +167,8 @@ class RandomModel {
   private:
     int Pick(int low, int high) { return std::uniform_int_distribution<int>(low, high)(m_random); }
 
-    // Few values, so that ties are many. Some models have no not-a-number, so that a seed does not end all.
+    // Few values, so that there are many ties. Some models have no not-a-number, which as a seed would end
+    // every search.
     float Value(bool withNaN) {
         constexpr float values[] = {0.0F,  -0.0F, 1.0F,   -1.0F, 2.5F, -2.5F, -0.05F, -0.1F,
                                     1e30F, -3.0F, 1e-40F, 3.0F,  0.5F, kNaN,  kNaN};

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A separate process for steps that reduce the rights or the memory of a test, or end it.
+// A separate process for steps that reduce the rights or the memory of the process, or end it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -35,7 +35,7 @@ inline void InChild(const std::function<void()>& steps) {
     EXPECT_EQ(WEXITSTATUS(status), 0);
 }
 
-// No file of this process grows beyond so many bytes; the attempt is an error.
+// Limits the files of this process to that many bytes; a longer write is an error.
 inline void LimitFileSize(rlim_t bytes) {
     std::signal(SIGXFSZ, SIG_IGN);
     rlimit limit{};
@@ -44,7 +44,7 @@ inline void LimitFileSize(rlim_t bytes) {
     setrlimit(RLIMIT_FSIZE, &limit);
 }
 
-// Root writes everywhere; without its rights this process obeys those of files and folders.
+// Root may write everywhere; without root's rights this process is subject to those of files and folders.
 inline bool GiveUpRoot() {
     __user_cap_header_struct who{_LINUX_CAPABILITY_VERSION_3, 0};
     __user_cap_data_struct none[2]{};

@@ -72,7 +72,7 @@ TEST(Clock, IsTheMachinesWithoutASetting) {
     char text[80] = "";
     std::snprintf(text, sizeof text, "%04d-%02d-%02dT%02d:%02d:%02d %d", now.year, now.month, now.day,
                   now.hour, now.minute, now.second, now.weekday);
-    // In order of time but for the weekday, which is the same but over midnight.
+    // The texts sort by time; the weekday at their end differs only over midnight.
     EXPECT_GE(std::string(text), before);
     EXPECT_LE(std::string(text), after);
 }

@@ -88,7 +88,7 @@ TEST_F(FileTest, AMissingFileIsNamedWithItsFault) {
     EXPECT_EQ(std::string(failure.what()), Path("none.PLF") + ": the file was not found");
     EXPECT_FALSE(file.Open(Path("none.PLF")));
     EXPECT_THROW(CFile{Path("none.PLF")}, CFileException);
-    // Whoever did not look at the open hears of it at the first read.
+    // A caller that ignored the failed open gets the fault from the first read.
     char c = 0;
     try {
         file.ReadBytes(&c, 1);

@@ -12,7 +12,7 @@
 
 namespace lumerin {
 
-// A dialog with one control of each kind; it writes down the notices that reach it.
+// A dialog with one control of each kind; it records the notices that reach it.
 
 inline constexpr ControlSpec kTestControls[] = {
 #include "framework/ControlTable.h"

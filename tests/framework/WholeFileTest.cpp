@@ -104,7 +104,7 @@ TEST_F(WholeFileTest, AWriteThatFailsLeavesTheEarlierFileAndNothingElse) {
         ASSERT_TRUE(file.Open(Path()));
         EXPECT_TRUE(WriteText(file, "0123456"));
         EXPECT_FALSE(WriteText(file, "789abc"));
-        // What comes after a gap makes no document of it.
+        // Bytes after a gap do not complete the document.
         LimitFileSize(RLIM_INFINITY);
         EXPECT_FALSE(WriteText(file, "rest"));
         EXPECT_FALSE(file.Commit());
@@ -120,7 +120,7 @@ TEST_F(WholeFileTest, ALinkIsReplacedAndWhatItLeadsToStays) {
     EXPECT_FALSE(fs::is_symlink(Path()));
     EXPECT_EQ(Read(), "new");
     EXPECT_EQ(Read("other"), "outside");
-    // One that leads nowhere, too.
+    // The same for a link that leads nowhere.
     fs::create_symlink("nowhere", Path("second.txt"));
     EXPECT_TRUE(WriteDocument("new", "second.txt"));
     EXPECT_FALSE(fs::exists(Path("nowhere")));
@@ -163,7 +163,7 @@ TEST_F(WholeFileTest, AFileProtectedAgainstWritingIsRefused) {
     EXPECT_THAT(Names(), ElementsAre("table.txt"));
 }
 
-// Its folder takes no new file, so there is nothing to replace it with.
+// Its folder accepts no new file, so nothing can replace it.
 TEST_F(WholeFileTest, AFileOfAProtectedFolderIsWrittenInPlaceWhenAllBytesAreThere) {
     Put("earlier and longer");
     fs::create_hard_link(Path(), Path("same"));
@@ -194,7 +194,7 @@ TEST_F(WholeFileTest, RightsAreThoseOfTheFileBefore) {
         EXPECT_TRUE(WriteDocument("new"));
         EXPECT_EQ(RightsOf(Path()), rights);
     }
-    // Those of a link have no meaning.
+    // The rights of a link have no meaning.
     fs::remove(Path());
     fs::create_symlink("nowhere", Path());
     EXPECT_TRUE(WriteDocument("new"));
@@ -249,7 +249,7 @@ TEST_F(WholeFileTest, ClearingLeavesWhatAnotherProcessIsWritingAndWhatIsNotOurs)
     EXPECT_EQ(Read(), "live");
 }
 
-// Names that are taken, by a file or by a link to somewhere else, are passed over.
+// Names that a file or a link to another place has are skipped.
 TEST_F(WholeFileTest, ATemporaryFileIsNewAndFollowsNoLink) {
     bool taken = false;
     Put("kept", "file");

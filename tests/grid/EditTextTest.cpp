@@ -56,7 +56,7 @@ TEST(NumberFilter, NothingComesInFrontOfASign) {
     EXPECT_EQ(Typed(kReal, "-5", 0, 0, "-"), "5");
     EXPECT_EQ(Typed(kReal, "-5", 1, 1, "1"), "-15");
     EXPECT_EQ(Typed(kReal, "5", 0, 0, "1"), "15");
-    // A selection from the start on is typed over, sign and all.
+    // A selection from the start is replaced, including the sign.
     EXPECT_EQ(Typed(kReal, "-5", 0, 2, "1"), "1");
     EXPECT_EQ(Typed(kZeroOrOne, "-5", 0, 0, "1"), "-5");
 }

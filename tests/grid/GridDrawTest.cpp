@@ -11,7 +11,7 @@ namespace {
 
 using testing::ElementsAre;
 
-// Writes down each call with its place, left, top, right, bottom, and its colour.
+// Records each call with its place, left, top, right, bottom, and its colour.
 class PlaceDC : public CDC {
   public:
     explicit PlaceDC(std::vector<std::string>& log) : m_log(log) {}
@@ -167,8 +167,8 @@ TEST_F(GridDraw, ACellHasAPlaceAsLongAsItIsNotScrolledOut) {
 class CountingGrid : public HeadlessGrid {
   public:
     CountingGrid(CGridCtrl& grid, GridSize size) : HeadlessGrid(grid, size) {}
-    void InvalidateAll() override { ++m_nWhole; }
-    int m_nWhole = 0;
+    void InvalidateAll() override { ++whole; }
+    int whole = 0;
 };
 
 // The scroll bars are set before each paint: a picture that fits them must not be asked for again.
@@ -185,16 +185,16 @@ TEST(GridBars, OnlyAPictureThatIsScrolledTooFarIsDrawnAnewWithTheBars) {
     // Both bars leave 233 by 183: nine rows and four columns.
     for (const CCellID end : {CCellID{0, 0}, CCellID{49, 0}, CCellID{0, 19}, CCellID{49, 19}}) {
         grid.ScrollCellIntoView(end.row, end.column);
-        window.m_nWhole = 0;
+        window.whole = 0;
         grid.UpdateScrollBars();
-        EXPECT_EQ(window.m_nWhole, 0) << end.row << ' ' << end.column;
+        EXPECT_EQ(window.whole, 0) << end.row << ' ' << end.column;
     }
     EXPECT_EQ(grid.FirstVisibleCell(), (CCellID{41, 16}));
     grid.SetColumnCount(19);
-    window.m_nWhole = 0;
+    window.whole = 0;
     grid.UpdateScrollBars();
     EXPECT_EQ(grid.FirstVisibleCell(), (CCellID{41, 15}));
-    EXPECT_EQ(window.m_nWhole, 1);
+    EXPECT_EQ(window.whole, 1);
 }
 
 }  // namespace

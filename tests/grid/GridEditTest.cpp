@@ -271,13 +271,13 @@ TEST_F(GridEdit, LossOfFocusEndsTheEditOnce) {
 class CountingGrid : public CGridCtrl {
   public:
     void FinishCellEdit(int row, int column, const std::string& text) override {
-        ++m_nFinished;
+        ++finished;
         CGridCtrl::FinishCellEdit(row, column, text);
     }
     bool AcceptEdit(int row, int column, const std::string& text) const override {
         return text != "refused" && CGridCtrl::AcceptEdit(row, column, text);
     }
-    int m_nFinished = 0;
+    int finished = 0;
 };
 
 // A window that takes the focus away from the editor while it closes, as a real one does.
@@ -299,7 +299,7 @@ TEST(GridEditEnd, AnEditThatEndsByAKeyEndsOnceThoughItLosesTheFocusToo) {
     grid.SetColumnCount(1);
     grid.SetEditable(true);
     host.TypeCell(0, 0, "x");
-    EXPECT_EQ(grid.m_nFinished, 1);
+    EXPECT_EQ(grid.finished, 1);
     EXPECT_EQ(grid.GetCellText(0, 0), "x");
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 class GridView : public GridFixture {};
 
-// A surface that writes down what is drawn on it.
+// A surface that records what is drawn on it.
 class RecordingDC : public CDC {
   public:
     explicit RecordingDC(std::vector<std::string>& log, std::string name = "target")
@@ -23,11 +23,11 @@ class RecordingDC : public CDC {
     void DrawText(std::string_view text, const GridRect& rect, unsigned, const FontRecord& font,
                   Colour) override {
         m_log.push_back(m_name + " text " + std::string(text));
-        m_rects.push_back(rect);
-        m_fonts.push_back(font);
+        rects.push_back(rect);
+        fonts.push_back(font);
     }
     GridSize TextSize(std::string_view text, const FontRecord&) override {
-        m_sMeasured = text;
+        measured = text;
         return {static_cast<int>(text.size()) * 5, 10};
     }
     std::unique_ptr<CDC> MakeCompatible(const GridRect&) override {
@@ -35,9 +35,9 @@ class RecordingDC : public CDC {
     }
     void CopyFrom(CDC&, const GridRect&) override { m_log.push_back(m_name + " copy"); }
 
-    std::string m_sMeasured;
-    std::vector<GridRect> m_rects;
-    std::vector<FontRecord> m_fonts;
+    std::string measured;
+    std::vector<GridRect> rects;
+    std::vector<FontRecord> fonts;
 
   private:
     std::vector<std::string>& m_log;
@@ -147,7 +147,7 @@ TEST_F(GridView, PrintingMeasures52LettersOfItsAlphabet) {
     std::vector<std::string> log;
     RecordingDC dc(log);
     m_grid.PrintBegin(dc, {600, 200});
-    EXPECT_EQ(dc.m_sMeasured, "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSATUVWXY");
+    EXPECT_EQ(dc.measured, "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSATUVWXY");
     EXPECT_EQ(m_grid.PrintCharacterWidth(), 5);
     EXPECT_EQ(m_grid.PrintFont().face, "Arial");
     EXPECT_EQ(m_grid.PrintFont().height, -10);

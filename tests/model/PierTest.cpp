@@ -150,7 +150,7 @@ TEST(Sections, DataAndMaskBelongToTheFramesElements) {
     EXPECT_FALSE(pier.IsMasked(23));
     pier.SetMasked(10, false);
     EXPECT_FALSE(pier.IsMasked(10));
-    // The frame's first and last element, and their neighbours that are none of the frame's.
+    // The frame's first and last element, and their neighbours outside the frame.
     pier.SetMasked(6, true);
     pier.SetMasked(22, true);
     EXPECT_TRUE(pier.IsMasked(6));

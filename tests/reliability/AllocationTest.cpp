@@ -46,7 +46,7 @@ class Presses {
   public:
     explicit Presses(const std::string& base) : m_project(base + ".in") {}
 
-    // Whether the run came to that allocation.
+    // Whether the run reached that allocation.
     bool RunWithFailure(long number) {
         headless::ResetState();
         headless::State().clock = LocalTime{2026, 11, 14, 6, 8, 30, 0};
@@ -87,7 +87,7 @@ TEST(Allocation, NoFailureEndsTheProcessOrCutsADocumentAndTheNextRunIsWhole) {
     const std::string whole = ReadBytesOf(report);
     Presses presses(project.Base());
     long number = 0, runs = 0;
-    // The first hundreds one by one; further on a step that grows, for a run makes some ten thousands.
+    // The first few hundred one by one, then in growing steps: a run makes tens of thousands.
     while (presses.RunWithFailure(number)) {
         ++runs;
         ASSERT_EQ(CutDocument(project.Folder()), "") << "allocation " << number;

@@ -74,7 +74,7 @@ TEST(OutputFault, AFullDiskIsNamedForEveryTableInEveryFormatAndTheEarlierFileSta
     for (const int format : {kFormatText, kFormatPdf, kFormatSpreadsheet}) {
         for (const std::string& table : kAllTables) {
             const Answer whole = Report(project.Base(), {table}, {format});
-            if (whole.status != kExitDone) continue;  // there is no such form of the table
+            if (whole.status != kExitDone) continue;  // the table has no such form
             const std::string path = whole.out.substr(0, whole.out.find('\n'));
             ASSERT_TRUE(fs::exists(path)) << path;
             WriteBytesOf(path, "earlier");
@@ -102,7 +102,7 @@ TEST(OutputFault, ADiskThatFillsAtAnyPlaceIsNamed) {
                 LimitFileSize(room);
                 const Answer answer = Report(project.Base(), {"full"}, {format});
                 if (answer.status == kExitDone) {
-                    // Nothing went wrong: all the files are there in full. Only the status shows it.
+                    // Nothing failed, so all files are complete. Only the status shows it.
                     LimitFileSize(RLIM_INFINITY);
                     WriteBytesOf(project.Base() + ".clean", "");
                     return;
@@ -268,7 +268,7 @@ TEST(OutputFault, TheStudysWorkbookAndPictureAreNamedAndTheEarlierFilesStay) {
         }
     });
     for (const std::string& path : written) EXPECT_EQ(ReadBytesOf(path), "earlier");
-    // A link in the place of either is replaced.
+    // A link in place of either file is replaced.
     for (const std::string& path : written) {
         fs::remove(path);
         fs::create_symlink("outside", path);

@@ -62,7 +62,7 @@ TEST(Soak, MemoryAndOpenFilesDoNotGrow) {
     options.project = WriteSmall(folder, "pier");
     WriteSmall(folder, "bridge");
     options.common.version = "5.2.1";
-    // What the first rounds take once stays: buffers of streams, the session's texts.
+    // The first rounds take memory that is kept: buffers of streams, the session's texts.
     constexpr int kWarm = 5;
     std::size_t memory = 0, files = 0;
     for (int round = 0; round < rounds; ++round) {
@@ -83,7 +83,7 @@ TEST(Soak, MemoryAndOpenFilesDoNotGrow) {
         }
     }
     EXPECT_EQ(OpenFiles(), files);
-    // Under the sanitizers their own leak check judges; elsewhere 64 KB in all are allowed for caches.
+    // Under the sanitizers their own leak check decides; elsewhere 64 KB in all are allowed for caches.
     if (!kSanitized) {
         EXPECT_LT(MemoryInUse(), memory + (std::size_t{64} << 10));
     }

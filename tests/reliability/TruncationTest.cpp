@@ -58,7 +58,7 @@ bool IsStudyFile(const std::string& name) {
 }
 
 // Opens the study, and turns its table and its plot; any answer will do that is not a failed check.
-testing::AssertionResult IsStudyReadOrTold(const std::string& base) {
+testing::AssertionResult IsStudyReadOrReported(const std::string& base) {
     EmbedmentOptions options;
     options.project = base + ".in";
     options.envelope = 0;
@@ -71,7 +71,7 @@ testing::AssertionResult IsStudyReadOrTold(const std::string& base) {
 }
 
 testing::AssertionResult Survives(const BrokenProject& project, const ProjectBytes& file) {
-    if (IsStudyFile(file.name)) return IsStudyReadOrTold(project.Base());
+    if (IsStudyFile(file.name)) return IsStudyReadOrReported(project.Base());
     return IsLoadedOrOneClearMessage(Report(project.Base()), project.Base());
 }
 
@@ -116,7 +116,7 @@ TEST_P(Truncation, ACountOfAnySizeLoadsOrIsNamed) {
         std::size_t turn = 0;
         for (const ProjectBytes& file : project.Files()) {
             if (!IsSequential(file.name)) continue;
-            // Every aligned number of every framed record, the reals' halves among them.
+            // Every aligned number of every framed record, including the halves of the reals.
             for (std::size_t frame = 1; frame + 1 < file.bytes.size();) {
                 const std::size_t length =
                     std::min<std::size_t>(static_cast<unsigned char>(file.bytes[frame]), 128);

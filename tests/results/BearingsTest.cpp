@@ -59,8 +59,8 @@ TEST(Bearings, EntriesOfARowMayShareARecord) {
     ResultProject project;
     project.substructures[0] = MakePier();
     project.Write();
-    // Six entries are 144 bytes, a block of 128 and one of 16, so that the sixth is split between both. It
-    // alone brings the rows together.
+    // Six entries are 144 bytes, a block of 128 and one of 16, so that the sixth is split between both. Only
+    // this entry makes the two rows one.
     std::vector<int> counts(12, 0);
     counts[0] = counts[1] = 6;
     std::vector<double> left(18, 0.0), right(18, 0.0);

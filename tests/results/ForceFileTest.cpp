@@ -55,8 +55,8 @@ class PlannedFile : public testing::Test {
         });
         return cases;
     }
-    // What one buffer of a record gives that is filled again in the order of the plan wherever the file has
-    // the record.
+    // The forces as one buffer of a record gives them. It is filled again for each record, in the order of
+    // the plan, wherever the file has the record.
     std::vector<std::vector<float>> ByOneBuffer(const std::vector<Record>& records) const {
         std::vector<std::vector<float>> cases;
         std::vector<float> forces(static_cast<std::size_t>(pier.ElementCount()) * kForcesPerElement, 0.0F);
@@ -192,7 +192,7 @@ TEST_F(PlannedFile, ARecordBeforeTheFirstEndsTheLoad) {
     EXPECT_THROW(Open(), CFileException);
 }
 
-TEST_F(PlannedFile, LengthTimeAndIdentityTellAChangedFile) {
+TEST_F(PlannedFile, LengthTimeAndIdentityShowAChangedFile) {
     SetSize(1, 1, 2);
     Write(std::vector<Record>(2));
     reads = {{1, 0, ForceKind::pile}};

@@ -59,7 +59,7 @@ class WordMaker {
             0x00800000U, 0x7F7FFFFFU, 0xFF7FFFFFU,  // the smallest and the largest
             0x7F800000U, 0xFF800000U,               // infinities
             0x7FC00000U, 0xFFC00000U,               // not a number
-            0x7F800001U, 0xFFBFFFFFU, 0x7FFFFFFFU,  // the same, signalling and with a load
+            0x7F800001U, 0xFFBFFFFFU, 0x7FFFFFFFU,  // the same, signalling and with a payload
         };
         return std::bit_cast<float>(kSpecial.at(Below(kSpecial.size())));
     }
@@ -91,7 +91,7 @@ TEST(ForceRecord, BothWaysGiveTheSameBitsForAnyBytes) {
         stops += single.ends.size();
         ++runs;
     }
-    // Both kinds of end were met: after a record that is not finite, and after the last one.
+    // Both kinds of end occurred: after a record that is not finite, and after the last one.
     EXPECT_GT(stops, 2 * runs);
 }
 

@@ -144,7 +144,7 @@ TEST(LoadProject, ATextFileThatCannotBeReadIsAsOneThatIsMissing) {
         std::filesystem::create_directory(project.Path(suffix));
         EXPECT_EQ(loaded(), missing) << "a folder " << suffix;
         project.Remove(suffix);
-        // The memory of a process opens as a file whose first bytes cannot be read.
+        // /proc/self/mem opens as a file whose first bytes cannot be read.
         std::filesystem::create_symlink("/proc/self/mem", project.Path(suffix));
         EXPECT_EQ(loaded(), missing) << "a read error in " << suffix;
     }

@@ -199,7 +199,7 @@ TEST(PierHeader, WhereAFrameIsReadItsWordsAreJudged) {
         project.WriteFile(".PLF", WithHeaderWord(project.substructures[0], lie.word, lie.value));
         EXPECT_THROW(project.Load(), CFileException) << lie.word << " of " << lie.value;
     }
-    // A group after a pier, too: what is read goes by the first substructure.
+    // The same for a group after a pier: the first substructure decides what is read.
     project.substructures = {MakePier(), ResultSubstructure{}};
     project.substructures[1].columns = -1;
     project.Write();
@@ -216,7 +216,7 @@ TEST(PierHeader, MinusOneNodesAreNoElements) {
     project.Write();
     ASSERT_TRUE(project.Load());
     const CPier& pier = project.Pier();
-    EXPECT_EQ(pier.m_nPierNodes, 1);    // one a column, less one for a span of -1
+    EXPECT_EQ(pier.m_nPierNodes, 1);    // one for each column, less one for a span of -1
     EXPECT_EQ(pier.ElementCount(), 4);  // those of the piles
     EXPECT_EQ(pier.m_Frame.m_Columns.size(), 2U);
     EXPECT_EQ(pier.m_Frame.m_Beam.m_nElements, 0);
@@ -226,9 +226,9 @@ TEST(PierHeader, MinusOneNodesAreNoElements) {
 TEST(PierHeader, ColumnsOfMinusOneNodesTakeNoRowOfTheElementTable) {
     ResultProject project;
     ResultSubstructure& sub = project.substructures[0] = MakePier();
-    // Two columns that are one node each, cantilevers and span as they were: six cap elements.
+    // Two columns of one node each; cantilevers and span as before: six cap elements.
     sub.columnNodes = -1;
-    sub.nodes.resize(9);  // two of the foundation, one a column, two a cantilever, one of the span
+    sub.nodes.resize(9);  // foundation 2, each column 1, each cantilever 2, span 1
     sub.rows.resize(8);
     for (int i = 0; i < 6; ++i) sub.rows.push_back({9 + i, 0, 0, 11 + i});
     project.Write();
@@ -251,7 +251,7 @@ TEST(PierHeader, ColumnsOfMinusOneNodesTakeNoRowOfTheElementTable) {
     EXPECT_EQ(right.m_nSection, 15);
     EXPECT_EQ(right.m_nNodeI, 7);
     EXPECT_EQ(right.m_nNodeJ, 8);
-    // Forces go by the element number: record 4 + 9 of each case, piles first.
+    // Forces are found by the element number: record 4 + 9 of each case, piles first.
     EXPECT_EQ(project.Forces(0, frame.m_Cantilevers[0].m_nFirstElement)[kAxial], 1313.0F);
 }
 
@@ -306,13 +306,13 @@ TEST(PierHeader, WhatNothingUsesAtTheEndOfAFileMayBeAbsent) {
         EXPECT_EQ(project.Data().m_nPlfExtraCount, 0);
     }
     project.Write();
-    // So are the flags of two piles in the pile model file.
+    // The flags of two piles in the pile model file likewise.
     const std::string modelFile = ResultProject::PileModel(project.substructures[0]);
     for (const std::size_t cut : {1U, 2U, 10U, 11U}) {
         project.WriteFile(".PIL", modelFile.substr(0, modelFile.size() - cut));
         EXPECT_TRUE(project.Load()) << cut;
     }
-    // What is used before them may not.
+    // What is used before them must be there.
     project.WriteFile(".PIL", modelFile.substr(0, modelFile.size() - 13));
     EXPECT_THROW(project.Load(), CFileException);
 }

@@ -134,7 +134,7 @@ TEST(PierSections, SquaredWidthsBecomeTheirRootsOnALineWithAZ) {
     EXPECT_EQ(Width(project, pier.ColumnElement(0, 0)), 36.0);
     EXPECT_EQ(pier.SectionData(pier.ColumnElement(0, 0)).m_dZ, 4.0);
     EXPECT_EQ(pier.SectionData(pier.ColumnElement(0, 0)).m_dG, 4.0);  // as it is in the file
-    // What is copied from it is rooted too.
+    // What is copied from it is a square root too.
     EXPECT_EQ(Width(project, pier.ColumnElement(1, 0)), 36.0);
     EXPECT_EQ(Width(project, Frame(project).m_Beam.m_nFirstElement), 49.0);
 }

@@ -95,7 +95,7 @@ TEST(SeqFile, TheEndInsideARequestGivesNothingThoughPartWasStored) {
 
 TEST(SeqFile, HostileFrameLengthsEnd) {
     const ResultProject project;
-    // Empty blocks, then a block with a length of 144 bytes that is cut.
+    // Empty blocks, then a block whose length of 144 bytes is not complete in the file.
     project.WriteFile(".x", std::string("K\0\0\0\0\x90", 6) + "abc");
     CSeqFile file(project.Path(".x"));
     std::array<char, 200> buffer{};

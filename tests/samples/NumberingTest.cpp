@@ -22,20 +22,20 @@ void PrintTo(const Numbered& e, std::ostream* out) {
 }
 
 // The readers' walk: each column, the left cantilever after the first, a span after each but the last, the
-// right cantilever after the last. `e` and `n` are the next element and node number.
+// right cantilever after the last.
 class Walk {
   public:
-    explicit Walk(const reader::Model& model) : m(model) {
-        const bool pier = m.type == 0;
+    explicit Walk(const reader::Model& model) : m_model(model) {
+        const bool pier = m_model.type == 0;
         if (pier) {
-            m_ownNodes =
-                (m.columns - 1) * m.spanNodes + (m.columnNodes + 2) * m.columns + 2 * (m.cantileverNodes + 1);
+            m_ownNodes = (m_model.columns - 1) * m_model.spanNodes +
+                         (m_model.columnNodes + 2) * m_model.columns + 2 * (m_model.cantileverNodes + 1);
         }
-        if (m.type == 4) m_ownNodes = (m.columnNodes + 2) * m.columns;
-        foundation = pier || m.type == 4 ? m.nodeCount - m_ownNodes : 0;
-        if ((pier && foundation > 1) || m.type == 4) e = 4 * m.columns + 1;
-        n = pier || m.type == 4 ? foundation + 1 : m.nodeCount + 1;
-        for (int c = 0; c < m.columns; ++c) Support(c);
+        if (m_model.type == 4) m_ownNodes = (m_model.columnNodes + 2) * m_model.columns;
+        foundation = pier || m_model.type == 4 ? m_model.nodeCount - m_ownNodes : 0;
+        if ((pier && foundation > 1) || m_model.type == 4) m_element = 4 * m_model.columns + 1;
+        m_node = pier || m_model.type == 4 ? foundation + 1 : m_model.nodeCount + 1;
+        for (int c = 0; c < m_model.columns; ++c) Support(c);
         for (std::size_t s = 0; s < m_spanEnds.size(); ++s) elements[m_spanEnds[s]].nodeJ = m_tops[s + 1];
     }
 
@@ -43,54 +43,54 @@ class Walk {
     int foundation = 0;
 
   private:
-    bool IsBent() const { return m.type == 7; }
-    bool HasCap() const { return m.type == 0 || IsBent(); }
-    void Add(int nodeI, int nodeJ) { elements.push_back({e++, nodeI, nodeJ}); }
+    bool IsBent() const { return m_model.type == 7; }
+    bool HasCap() const { return m_model.type == 0 || IsBent(); }
+    void Add(int nodeI, int nodeJ) { elements.push_back({m_element++, nodeI, nodeJ}); }
 
     void Support(int c) {
-        for (int i = 0; !IsBent() && i <= m.columnNodes; ++i, ++n) Add(n, n + 1);
-        m_tops.push_back(IsBent() ? c + 1 : n);
+        for (int i = 0; !IsBent() && i <= m_model.columnNodes; ++i, ++m_node) Add(m_node, m_node + 1);
+        m_tops.push_back(IsBent() ? c + 1 : m_node);
         if (c == 0) LeftCantilever();
         if (!HasCap()) return;
-        if (c + 1 == m.columns) {
+        if (c + 1 == m_model.columns) {
             RightCantilever(c);
         } else {
             Span(c);
         }
     }
 
-    int CantileverElements() const { return m.cantilevers > 0 ? m.cantileverNodes + 1 : 0; }
+    int CantileverElements() const { return m_model.cantilevers > 0 ? m_model.cantileverNodes + 1 : 0; }
 
     void LeftCantilever() {
-        if (IsBent()) n = m.piles;
-        ++n;
-        for (int i = 0; i < CantileverElements(); ++i, ++n) {
-            Add(n, i + 1 == CantileverElements() ? m_tops[0] : n + 1);
+        if (IsBent()) m_node = m_model.piles;
+        ++m_node;
+        for (int i = 0; i < CantileverElements(); ++i, ++m_node) {
+            Add(m_node, i + 1 == CantileverElements() ? m_tops[0] : m_node + 1);
         }
     }
 
     void Span(int c) {
-        if (m.type == 0 && c > 0) ++n;
-        Add(m_tops.back(), n);
-        for (int i = 0; i < m.spanNodes; ++i, ++n) Add(n, n + 1);
+        if (m_model.type == 0 && c > 0) ++m_node;
+        Add(m_tops.back(), m_node);
+        for (int i = 0; i < m_model.spanNodes; ++i, ++m_node) Add(m_node, m_node + 1);
         m_spanEnds.push_back(elements.size() - 1);
     }
 
     void RightCantilever(int c) {
-        if (m.type == 0 && c > 0) ++n;
+        if (m_model.type == 0 && c > 0) ++m_node;
         for (int i = 0; i < CantileverElements(); ++i) {
             if (i == 0) {
-                Add(m_tops.back(), n);
+                Add(m_tops.back(), m_node);
             } else {
-                Add(n, n + 1);
-                ++n;
+                Add(m_node, m_node + 1);
+                ++m_node;
             }
         }
     }
 
-    const reader::Model& m;
-    int e = 1;
-    int n = 0;
+    const reader::Model& m_model;
+    int m_element = 1;  // the number of the next element
+    int m_node = 0;     // of the next node
     int m_ownNodes = 0;
     std::vector<int> m_tops;
     std::vector<std::size_t> m_spanEnds;
@@ -218,7 +218,7 @@ TEST(BridgeNumbers, JointTakesItsNumberWithIt) {
 }
 
 // Readers distinguish columns from the cap by the section: up to the column sections + 1, counted from 2.
-TEST(Sections, TellConnectorsColumnsAndCapApart) {
+TEST(Sections, DistinguishConnectorsColumnsAndCap) {
     const SampleFolder folder;
     const auto model = reader::ReadModel(folder.Write("bridge"), 0);
     ASSERT_EQ(model.columnSections, 2);

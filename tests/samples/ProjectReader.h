@@ -53,7 +53,7 @@ inline std::vector<std::string> Records(const std::string& bytes) {
         records.push_back(record);
         record.clear();
     }
-    if (at != bytes.size() || !record.empty()) throw std::runtime_error("bytes behind the end mark");
+    if (at != bytes.size() || !record.empty()) throw std::runtime_error("bytes after the end mark");
     return records;
 }
 
@@ -144,7 +144,7 @@ inline void ReadPileFile(const std::filesystem::path& path, Model& model) {
         model.rows.push_back({Int(row, 0), Int(row, 2), Int(row, 3), Int(row, 5)});
     }
     if (model.type != 7) file.Take(8);
-    if (!file.AtEnd()) throw std::runtime_error("records behind the pile file's last");
+    if (!file.AtEnd()) throw std::runtime_error("records after the pile file's last");
 }
 
 inline void ReadPileModel(const std::filesystem::path& path, Model& model) {
@@ -162,7 +162,7 @@ inline void ReadPileModel(const std::filesystem::path& path, Model& model) {
     const auto elements = static_cast<std::size_t>(model.pileNodes - 1);
     for (int p = 0; p < model.piles; ++p) model.pileSections.push_back(file.Take(4 * elements));
     file.Take(4 * static_cast<std::size_t>(model.piles));
-    if (!file.AtEnd()) throw std::runtime_error("records behind the pile model's last");
+    if (!file.AtEnd()) throw std::runtime_error("records after the pile model's last");
 }
 
 inline std::string Suffix(const std::string& suffix, int substructure) {
@@ -200,7 +200,7 @@ inline std::vector<std::vector<int>> ReadBearings(const std::string& base, int s
             if (i < points[r] / 2) row.push_back(node);
         }
     }
-    if (!file.AtEnd()) throw std::runtime_error("records behind the bearing file's last");
+    if (!file.AtEnd()) throw std::runtime_error("records after the bearing file's last");
     if (oneRow) rows.pop_back();
     return rows;
 }

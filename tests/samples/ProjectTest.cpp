@@ -54,7 +54,8 @@ TEST(EmbedmentStudy, HasEightTrialsOneWithoutFolderAndOneUnfinished) {
                 EXPECT_GE(numbers[pile], 1.0);
                 EXPECT_LE(numbers[pile], 8.0);
             }
-            EXPECT_GE(numbers[1], std::max(numbers[3], numbers[5]) - 1e-6);  // any way is at least each way
+            // The greatest of all directions is at least that of each direction.
+            EXPECT_GE(numbers[1], std::max(numbers[3], numbers[5]) - 1e-6);
             EXPECT_GT(numbers[7], numbers[9]);
         }
     }
@@ -106,7 +107,7 @@ TEST(WholeProject, AHoleInTheForcesReadsAsZerosBetweenFilledCases) {
     EXPECT_EQ(hole.substr(0, 2 * caseBytes), all.substr(0, 2 * caseBytes));
     EXPECT_EQ(hole.substr(2 * caseBytes, 5 * caseBytes), std::string(5 * caseBytes, '\0'));
     EXPECT_EQ(hole.substr(7 * caseBytes), all.substr(7 * caseBytes));
-    // No hole where the two ends meet.
+    // The two ends meet without a gap.
     options.filled = 5;
     samples::WriteProject(folder.Path() / "none", samples::MakeProject(options));
     EXPECT_EQ(folder.Read("none/group.vmd"), all);

@@ -146,7 +146,7 @@ TEST(Script, EachControlHasItsKeys) {
 }
 
 TEST(Script, PassesOverCommentsEmptyLinesAndCarriageReturns) {
-    const auto actions = ParseScript("# a comment\n\n  \t\nclick 1 # and one behind\r\n  dump\r\n#\ntext 5");
+    const auto actions = ParseScript("# a comment\n\n  \t\nclick 1 # and one after\r\n  dump\r\n#\ntext 5");
     ASSERT_EQ(actions.size(), 3U);
     EXPECT_EQ(actions[0].line, 4);
     EXPECT_EQ(actions[1].line, 5);

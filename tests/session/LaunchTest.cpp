@@ -71,7 +71,7 @@ TEST_F(LaunchTest, StoresItsArguments) {
     EXPECT_EQ(g_ProjectFileName, "p.in");
     EXPECT_EQ(g_VersionText, "5.2.1");
     EXPECT_EQ(g_VersionLabel, "v5.2.1");
-    // The quotes are after blanks, so they are not at the ends when quotes are stripped.
+    // Blanks surround the quotes, so they are not at the ends when quotes are stripped.
     EXPECT_EQ(g_HostTextA, "\"a b\"");
     EXPECT_EQ(g_HostTextB, "c");
     EXPECT_EQ(g_EnvelopePlotArgument, "\"plot\"");
@@ -165,7 +165,7 @@ TEST_F(LaunchTest, ASecondCallReadsItsOwnProject) {
     Launch(bent + ".in", 2, [](HeadlessDialog& dialog) {
         EXPECT_EQ(Text(dialog, IDC_CAP_ENVELOPES), "Bent Cap Envelopes");
         EXPECT_EQ(g_DataSet.m_nStructureType, kTypePileBent);
-        // The choice of the call before is forgotten.
+        // The choice of the earlier call is not kept.
         EXPECT_TRUE(g_AllLoadCases);
         EXPECT_FALSE(Enabled(dialog, IDC_CHOOSE_CASES));
     });

@@ -275,7 +275,7 @@ TEST_F(OutputFiles, AViewerValueIsDecimalText) {
     headless::State().userNumbers[kTextViewerKey] = {{"iPointSize", 100}};
     EXPECT_EQ(ReadViewerValue("iPointSize"), "100");
     headless::State().userNumbers[kTextViewerKey]["iPointSize"] = -3;
-    EXPECT_EQ(ReadViewerValue("iPointSize"), "-3");  // read afresh
+    EXPECT_EQ(ReadViewerValue("iPointSize"), "-3");  // read again
     headless::State().userNumbers[kTextViewerKey].clear();
     EXPECT_EQ(ReadViewerValue("iPointSize"), "");
 }

@@ -143,7 +143,7 @@ TEST_F(ReportDialogTest, AMastAloneOffersNoTableThoughItsFlagsWouldAllowSome) {
                 EXPECT_FALSE(Enabled(dialog, id)) << type << ' ' << id;
             for (const int id : {IDC_FORMAT_PDF, IDC_FORMAT_EXCEL, IDC_ALL_CASES, IDC_CUSTOM_CASES})
                 EXPECT_TRUE(Enabled(dialog, id)) << type << ' ' << id;
-            // A disabled button counts before the flag.
+            // A disabled button takes precedence over the flag.
             EXPECT_EQ(model.enabled[kTableCapShear], type == kTypeMast);
         });
     }
@@ -255,7 +255,7 @@ TEST_F(ReportDialogTest, AForceFileThatWasReplacedStopsThePressAndChangesNothing
         EXPECT_EQ(std::filesystem::file_size(document), 7U);
         EXPECT_EQ(g_DataSet.m_nPiers, 1);
         EXPECT_EQ(Report(dialog).State().results.valid, valid);
-        // With the file that was loaded back in its place the press works.
+        // With the loaded file back in its place the press works.
         std::filesystem::resize_file(forces, size);
         std::filesystem::last_write_time(forces, time);
         sink.messages.clear();

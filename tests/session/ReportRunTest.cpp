@@ -41,7 +41,7 @@ TEST_F(ReportRunTest, ATablePressWritesItsFileAndStartsTheViewerOnIt) {
         EXPECT_EQ(sink.starts[0].verb, "");
         EXPECT_EQ(sink.starts[0].file, "\"" + path + "\"");
         EXPECT_EQ(sink.starts[0].parameters, "");
-        // This table alone sets the printer, in its text form alone.
+        // Only this table sets the printer, and only in its text form.
         EXPECT_THAT(sink.orientations, ElementsAre(true));
         dialog.Click(IDC_PILE_DC);
         dialog.Click(IDC_FORMAT_PDF);
@@ -85,7 +85,7 @@ TEST_F(ReportRunTest, TheOptionsReachTheSessionBeforeTheTable) {
     Launch(base + ".in", 1, [&](HeadlessDialog& dialog) {
         dialog.Click(IDC_FOOTER_TIME);
         dialog.Click(IDC_FOOTER_FILE_NAME);
-        EXPECT_EQ(g_FooterOn, 0);  // a press copies them, nothing else
+        EXPECT_EQ(g_FooterOn, 0);  // only a press copies them
         dialog.Click(IDC_PILE_DC);
         EXPECT_EQ(g_FooterOn, 1);
         EXPECT_EQ(g_FooterDate, 1);

@@ -48,7 +48,7 @@ class ReportTest : public testing::Test {
                          .cases = cases});
         selection = CaseSelection(data);
     }
-    // Combinations of a family; just these classes have a case.
+    // Combinations of a family; only these classes have a case.
     void MakeCombinations(CPier& pier, CodeFamily family, const std::vector<int>& classes) {
         pier.m_bCombinations = true;
         pier.m_nCodeFamily = family;
@@ -65,7 +65,7 @@ class ReportTest : public testing::Test {
         for (CPier& pier : data.m_Piers) pier.BuildCapGeometry();
         results.piers = ResultTables(data).piers;
     }
-    // Just these limit classes have a case.
+    // Only these limit classes have a case.
     void PresentClasses(const std::vector<int>& classes) {
         selection = SelectionWithClasses(classes, selection.CaseCount());
     }
@@ -80,16 +80,16 @@ class ReportTest : public testing::Test {
         }
         return ReplaceAll(bytes, "\r\n", "\n");
     }
-    // The table as text; its line count goes to m_nLines.
+    // The table as text; its line count goes to m_lines.
     std::string Text(TableId table) {
         StoredStream out(Path());
-        m_nLines = WriteTableText(MakeReport(), table, out);
+        m_lines = WriteTableText(MakeReport(), table, out);
         out.Close();
         EXPECT_FALSE(out.Failed());
         return StoredText();
     }
 
-    // What the writers take, with the forces as they are now.
+    // The input of the writers, with the current forces.
     Report MakeReport() {
         rowReader = std::make_unique<RowReader>(forces.Sources());
         return {data, selection, results, enabled, options, *rowReader};
@@ -104,7 +104,7 @@ class ReportTest : public testing::Test {
     ReportOptions options;
     ModelForces forces{data};
     std::unique_ptr<RowReader> rowReader;  // of the last report
-    int m_nLines = -1;
+    int m_lines = -1;
 };
 
 }  // namespace lumerin

@@ -130,7 +130,7 @@ class ResultProject {
     ForceRow Forces(int loadCase, int element, std::size_t pier = 0) const {
         return Loaded().forces[pier]->OpenRows()->At(loadCase, element);
     }
-    // What a pass over all cases finds to be finite.
+    // Which families of members a pass over all cases finds to be finite.
     FiniteForces Finite(std::size_t pier = 0) const {
         return Loaded().forces[pier]->ReadCases([](int, CaseForces) {});
     }

@@ -35,12 +35,12 @@ class ScratchFolder {
     const std::filesystem::path& Path() const { return m_path; }
     std::string PathOf(const std::string& file) const { return (m_path / file).string(); }
     bool Has(const std::string& file) const { return std::filesystem::exists(m_path / file); }
-    // The stored bytes; none of a file that is not there.
+    // The stored bytes; empty for a file that does not exist.
     std::string Read(const std::string& file) const {
         std::ifstream in(m_path / file, std::ios::binary);
         return {std::istreambuf_iterator<char>(in), {}};
     }
-    // Makes the folders on the way.
+    // Creates the folders of the path.
     void Write(const std::string& file, const std::string& bytes) const {
         std::filesystem::create_directories((m_path / file).parent_path());
         std::ofstream(m_path / file, std::ios::binary) << bytes;

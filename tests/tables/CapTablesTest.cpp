@@ -27,7 +27,7 @@ const std::string kColumnWord = "    Col = Column                               
 
 class CapTables : public ReportTest {
   protected:
-    // All of these add to the first substructure.
+    // Each of these adds to the first substructure.
     void AddShearSection(double x, int support, int kind) {
         Results().shearSupportX.push_back(x);
         Results().shearSupportList.push_back({support, kind});
@@ -70,7 +70,7 @@ class CapTables : public ReportTest {
     }
     static void SetMissing(CCapEntry& entry) { entry.record.m_nMissing = 1; }
     // The lines of the block that begins with `heading`, up to the next empty line.
-    static std::string RowsBehind(const std::string& text, const std::string& heading) {
+    static std::string RowsAfter(const std::string& text, const std::string& heading) {
         const std::size_t at = text.find(heading);
         if (at == std::string::npos) return "no such heading";
         const std::size_t first = at + heading.size();
@@ -112,7 +112,7 @@ TEST_F(CapTables, ShearOfAPierInFull) {
             "and"
             " Centerline of Supports\n\n\n" +
             kShearHead +
-            // The filler has the limit state gap in a table without that column.
+            // The filler has the limit state's width even in a table without that column.
             "    Col 1 LF     7     2         11  none            ***  ***         ***         ***         "
             "***"
             "         ***         ***         ***      ***\n"
@@ -122,7 +122,7 @@ TEST_F(CapTables, ShearOfAPierInFull) {
             "         ***         ***      ***\n"
             "\n\n \"Location & Side\" Key:\n\n" +
             kColumnWord + kShearKeyTail);
-    EXPECT_EQ(m_nLines, 3 + (4 + 3 + 4) + 3 + (4 + 3 + 4) + 4 + 5);
+    EXPECT_EQ(m_lines, 3 + (4 + 3 + 4) + 3 + (4 + 3 + 4) + 4 + 5);
 }
 
 TEST_F(CapTables, MomentOfAPierInFull) {
@@ -130,7 +130,7 @@ TEST_F(CapTables, MomentOfAPierInFull) {
     Fill(Pier(), 0, 1, 0, 1);
     AllocateCap(1);
     AddMomentSection(2.0, 0, 1);
-    AddBearing(1.0, {0, 0, false, false});  // flags play no part in this table
+    AddBearing(1.0, {0, 0, false, false});  // this table does not use the flags
     AddBearing(3.0, {2, 1, false, false});
     for (int extreme = 0; extreme < 2; ++extreme) {
         Set(Results().momentSupports.At(0, 0, 1, extreme), 0, 7, 2, kEndI, 11);
@@ -159,7 +159,7 @@ TEST_F(CapTables, MomentOfAPierInFull) {
             "    LF  = Left Face of Column                  LR  = Bearing Is In The Left Row\n"
             "    RF  = Right Face of Column                 RR  = Bearing Is In The Right Row\n"
             "    CL  = Centerline of Column\n");
-    EXPECT_EQ(m_nLines, 3 + (5 + 3 + 3) + 3 + (4 + 3 + 3) + 4 + 4);
+    EXPECT_EQ(m_lines, 3 + (5 + 3 + 3) + 3 + (4 + 3 + 3) + 4 + 4);
 }
 
 TEST_F(CapTables, ABearingSideWithoutItsFlagNamesItsElementAndNothingElse) {
@@ -173,7 +173,7 @@ TEST_F(CapTables, ABearingSideWithoutItsFlagNamesItsElementAndNothingElse) {
         "         ***         ***         ***         ***         ***         ***      ***\n";
     const std::string values =
         "        1.00       -2.50        3.00        4.00    -1234.50        6.00     0.75\n";
-    EXPECT_EQ(RowsBehind(Text(kTableCapShear), kShearHead),
+    EXPECT_EQ(RowsAfter(Text(kTableCapShear), kShearHead),
               "  Brg 1 L LR     9     3         14   *** none" + fillers +  //
                   "  Brg 1 R LR     9     3         14     1    J" + values +
                   "  Brg 1 L RR     9     3         14     1    J" + values +
@@ -223,13 +223,13 @@ TEST_F(CapTables, FatigueAloneHasItsBlockInTheMomentTable) {
         "    Col 1 LF  miss   ***        ***   ***            ***  ***         ***         ***         ***"
         "      ***\n";
     EXPECT_EQ(text.find("STRENGTH"), std::string::npos);
-    // Slot 3 is the last one, so no empty lines part it from what follows.
+    // Slot 3 is the last one, so no empty lines separate it from what follows.
     EXPECT_NE(text.find(row + "\n\n\nPier Cap M33 Moment Design, Substructure  1:\nMinimum"),
               std::string::npos);
-    EXPECT_EQ(m_nLines, 3 + (5 + 2 + 3 + 1) + 3 + (4 + 2 + 3 + 1) + 4 + 4);
+    EXPECT_EQ(m_lines, 3 + (5 + 2 + 3 + 1) + 3 + (4 + 2 + 3 + 1) + 4 + 4);
     // The shear table has headings and no block at all.
     Text(kTableCapShear);
-    EXPECT_EQ(m_nLines, 3 + 4 + 3 + 4 + 4 + 5);
+    EXPECT_EQ(m_lines, 3 + 4 + 3 + 4 + 4 + 5);
 }
 
 TEST_F(CapTables, ASectionIsFollowedByItsGapThoughTheNextOneIsAbsent) {
@@ -295,7 +295,7 @@ TEST_F(CapTables, AnEmptyHeadLeavesTwoEmptyLinesAndCountsThree) {
     data.m_nAnalysisMode = 3;
     const std::string text = Text(kTableCapShear);
     EXPECT_NE(text.find("Supports\n\n\n\n\n    Col 1 LF  miss"), std::string::npos);
-    EXPECT_EQ(m_nLines, 3 + (4 + 3 + 1) + 3 + (4 + 3 + 1) + 4 + 5);
+    EXPECT_EQ(m_lines, 3 + (4 + 3 + 1) + 3 + (4 + 3 + 1) + 4 + 5);
 }
 
 }  // namespace lumerin

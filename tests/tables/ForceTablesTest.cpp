@@ -72,7 +72,7 @@ TEST_F(ForceTables, PileForcesPrintTwelveRowsAPropertyAndAnEmptyLineBetween) {
             "     -60.00      7.00\n"
             "\n" +
             MissingRows("    2 ", filler) + "\n\n");
-    EXPECT_EQ(m_nLines, 3 + 2 + 3 + 12 + 1 + 12 + 2);
+    EXPECT_EQ(m_lines, 3 + 2 + 3 + 12 + 1 + 12 + 2);
 }
 
 TEST_F(ForceTables, MissingRowsOfCombinationsHaveTheLimitStateGap) {
@@ -87,7 +87,7 @@ TEST_F(ForceTables, MissingRowsOfCombinationsHaveTheLimitStateGap) {
               std::string::npos);
     EXPECT_EQ(text.substr(0, text.find('\n')),
               Blanks(46) + "Maximum Forces for All Pile Properties (Cross Sections)");
-    EXPECT_EQ(m_nLines, 3 + 2 + 2 + 3 + 12 + 2);
+    EXPECT_EQ(m_lines, 3 + 2 + 2 + 3 + 12 + 2);
 }
 
 TEST_F(ForceTables, ColumnForcesHaveAWiderMemberColumn) {
@@ -133,7 +133,7 @@ TEST_F(ForceTables, SubstructuresWithoutExtraMembersAreNotNamed) {
             "   0.00"
             "       0.00      0.00\n" +
             last.substr(last.find('\n') + 1) + "\n\n");
-    EXPECT_EQ(m_nLines, 3 + 2 + 3 + 12 + 1 + 12 + 2);
+    EXPECT_EQ(m_lines, 3 + 2 + 3 + 12 + 1 + 12 + 2);
 }
 
 TEST_F(ForceTables, AnEmptyLineFollowsAPropertyThatIsNotTheLastOfTheRange) {
@@ -144,7 +144,7 @@ TEST_F(ForceTables, AnEmptyLineFollowsAPropertyThatIsNotTheLastOfTheRange) {
     Pier().Element(0).m_nSection = 2;
     Results().extraMemberForces = NotFound(2);
     Text(kTableExtraMembers);
-    EXPECT_EQ(m_nLines, 3 + 2 + 3 + 12 + 1 + 2);
+    EXPECT_EQ(m_lines, 3 + 2 + 3 + 12 + 1 + 2);
 }
 
 TEST_F(ForceTables, AnEmptyHeadCountsThreeLinesAndWritesNone) {
@@ -155,7 +155,7 @@ TEST_F(ForceTables, AnEmptyHeadCountsThreeLinesAndWritesNone) {
     Results().pileForces = NotFound(1);
     const std::string text = Text(kTablePileForces);
     EXPECT_NE(text.find("Pile Properties Data for Substructure 1\n\n    1   ***"), std::string::npos);
-    EXPECT_EQ(m_nLines, 3 + 2 + 3 + 12 + 2);
+    EXPECT_EQ(m_lines, 3 + 2 + 3 + 12 + 2);
 }
 
 TEST_F(ForceTables, ResultTablesThatAreTooSmallPrintNone) {
@@ -165,7 +165,7 @@ TEST_F(ForceTables, ResultTablesThatAreTooSmallPrintNone) {
     Pier().m_nPileSections = 2;
     Results().pileForces = NotFound(1, 1);
     Text(kTablePileForces);
-    EXPECT_EQ(m_nLines, 3 + 2 + 2 * (2 + 3 + 12 + 1 + 12 + 2));
+    EXPECT_EQ(m_lines, 3 + 2 + 2 * (2 + 3 + 12 + 1 + 12 + 2));
 }
 
 }  // namespace lumerin

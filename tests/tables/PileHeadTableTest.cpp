@@ -29,7 +29,7 @@ TEST_F(PileHeadTable, PlainCasesInUsUnits) {
               "              1      1     2        12.35     0.50   ***         none      ***\n"
               "              1      2   ***         none      ***     1     -1234.50     0.88\n"
               "\n\n");
-    EXPECT_EQ(m_nLines, 5 + 4 + 2 + 2);
+    EXPECT_EQ(m_lines, 5 + 4 + 2 + 2);
 }
 
 TEST_F(PileHeadTable, SectionsOfCombinationsAreParted) {
@@ -64,7 +64,7 @@ TEST_F(PileHeadTable, SectionsOfCombinationsAreParted) {
                            "              1      1     2     EXTREME-II         7.00     1.25"
                            "     ***            ***         none      ***\n"
                            "\n\n");  // after the substructure; fatigue has no section
-    EXPECT_EQ(m_nLines, 5 + (2 + 4 + 1 + 2) + (2 + 4 + 1) + 2);
+    EXPECT_EQ(m_lines, 5 + (2 + 4 + 1 + 2) + (2 + 4 + 1) + 2);
 }
 
 TEST_F(PileHeadTable, EverySubstructureEndsInTwoEmptyLines) {
@@ -81,7 +81,7 @@ TEST_F(PileHeadTable, EverySubstructureEndsInTwoEmptyLines) {
     EXPECT_NE(
         text.find("              2      1   ***         none      ***   ***         none      ***\n\n\n"),
         std::string::npos);
-    EXPECT_EQ(m_nLines, 5 + 2 * (4 + 1 + 2));
+    EXPECT_EQ(m_lines, 5 + 2 * (4 + 1 + 2));
 }
 
 TEST_F(PileHeadTable, ACaseThatDoesNotExistPrintsNone) {
@@ -94,11 +94,11 @@ TEST_F(PileHeadTable, ACaseThatDoesNotExistPrintsNone) {
 
 TEST_F(PileHeadTable, ADisabledTableAndAnEmptyProjectWriteNothing) {
     EXPECT_EQ(Write(), "");
-    EXPECT_EQ(m_nLines, 0);
+    EXPECT_EQ(m_lines, 0);
     AddPiers(1);
     enabled[kTableMaxAxial] = false;
     EXPECT_EQ(Write(), "");
-    EXPECT_EQ(m_nLines, 0);
+    EXPECT_EQ(m_lines, 0);
 }
 
 }  // namespace lumerin

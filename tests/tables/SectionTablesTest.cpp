@@ -54,7 +54,7 @@ TEST_F(SectionTables, PileRatiosOfPlainCases) {
             "    2          -1    -1      No valid load case\n"
             "\n\n"
             "\n\n");
-    EXPECT_EQ(m_nLines, 3 + 2 + 3 + 2 + 2 + 2);
+    EXPECT_EQ(m_lines, 3 + 2 + 3 + 2 + 2 + 2);
 }
 
 TEST_F(SectionTables, TheIEndAndTheLimitStateColumn) {
@@ -95,7 +95,7 @@ TEST_F(SectionTables, ColumnPropertiesCountFromTwo) {
                   "         0.00         0.00      0.25\n"
                   "    3            -1    -1 " +
                   kNoColumnRatio + "\n\n");
-    EXPECT_EQ(m_nLines, 3 + 2 + 3 + 2 + 2);
+    EXPECT_EQ(m_lines, 3 + 2 + 3 + 2 + 2);
 }
 
 TEST_F(SectionTables, AMissingColumnRatioOfCombinationsHasTheLimitStateGap) {
@@ -123,7 +123,7 @@ TEST_F(SectionTables, ABentBeforeAPierHasItsRemarkAndNoBlock) {
               "Column Properties Data for Substructure 1 (Not applicable for Pile Bent)\n\n"
               "Column Properties Data for Substructure 2\n\n" +
                   kColumnHead + "    2            -1    -1 " + kNoColumnRatio + "\n\n");
-    EXPECT_EQ(m_nLines, 3 + 2 + 2 + 3 + 1 + 2);
+    EXPECT_EQ(m_lines, 3 + 2 + 2 + 3 + 1 + 2);
 }
 
 TEST_F(SectionTables, ARecordWithoutItsMemberPrintsAsOneWithoutAResult) {
@@ -148,7 +148,7 @@ TEST_F(SectionTables, FatigueIsSkippedWithoutHeadingOrHead) {
     EXPECT_NE(text.find(" MAXIMUM SERVICE CASE DATA\n\n"), std::string::npos);
     EXPECT_EQ(text.find("FATIGUE"), std::string::npos);
     EXPECT_EQ(text.find(" PROP "), text.rfind(" PROP "));
-    EXPECT_EQ(m_nLines, 3 + 2 + (2 + 3 + 1 + 2) + 2);
+    EXPECT_EQ(m_lines, 3 + 2 + (2 + 3 + 1 + 2) + 2);
 }
 
 TEST_F(SectionTables, MembersInThePileArraysAreCalledColumns) {
@@ -164,13 +164,13 @@ TEST_F(SectionTables, MembersInThePileArraysAreCalledColumns) {
               std::string::npos);
     EXPECT_NE(piles.find("\nPile Properties Data for Substructure 2\n\n PROP COLMN  ELEM"),
               std::string::npos);
-    const int lines = m_nLines;
+    const int lines = m_lines;
     EXPECT_EQ(Text(kTableColumnDc), piles);
-    EXPECT_EQ(m_nLines, lines);
+    EXPECT_EQ(m_lines, lines);
     // The table that replaces it must be enabled itself.
     enabled[kTablePileDc] = false;
     EXPECT_EQ(Text(kTableColumnDc), "");
-    EXPECT_EQ(m_nLines, 0);
+    EXPECT_EQ(m_lines, 0);
     enabled[kTablePileDc] = true;
     enabled[kTableColumnDc] = false;
     EXPECT_EQ(Text(kTableColumnDc), "");

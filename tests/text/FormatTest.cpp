@@ -52,12 +52,12 @@ std::string JudgeGeneral(double value) {
     return text.data();
 }
 
-// Any bit pattern, every exponent alike.
+// Any bit pattern; every exponent is equally likely.
 double RandomBits(std::mt19937_64& random) {
     return std::bit_cast<double>(random());
 }
 
-// The sizes that forces have, many of them a few steps beside a tie of the last decimal.
+// The sizes that forces have, many of them a few steps from a tie of the last decimal.
 double RandomForce(std::mt19937_64& random) {
     const auto hundredths = static_cast<double>(static_cast<std::int64_t>(random() % 2'000'001) - 1'000'000);
     double value = hundredths / 200.0;
@@ -141,7 +141,7 @@ TEST(Integers, AreRightAligned) {
     EXPECT_EQ(FormatInt(std::numeric_limits<long long>::max(), 20), " 9223372036854775807");
 }
 
-// "%5.i": a precision of nothing prints no digit for zero.
+// "%5.i": an empty precision prints no digit for zero.
 TEST(Integers, ZeroPrintsAsBlanksWhereThePrecisionIsEmpty) {
     const auto format = [](long long value, int width) {
         std::string text;
@@ -212,7 +212,7 @@ TEST(Texts, EveryOccurrenceIsReplacedOnce) {
     EXPECT_EQ(ReplaceAll("", "x", "y"), "");
 }
 
-// What a number must look like for the spreadsheet program: "%.5f" holds no letter or symbol, "-" in first
+// The form of a number for the spreadsheet program: "%.5f" holds no letter or symbol, "-" in first
 // place only, at most one ".".
 bool IsPlainNumberText(const std::string& text) {
     constexpr const char* forbidden =

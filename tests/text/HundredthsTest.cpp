@@ -14,8 +14,8 @@
 
 namespace lumerin {
 
-// Two decimals take a short way where the rounding is certain; the C library, which rounds the exact binary
-// value, is the judge here.
+// Two decimals are made by a short method where the rounding is certain; the C library, which rounds the
+// exact binary value, is the reference.
 namespace {
 
 std::string Judge(double value, int width) {

@@ -113,7 +113,7 @@ TEST_F(KeyedFile, AFolderInItsPlaceIsAFailedStream) {
     EXPECT_EQ(line, "");
 }
 
-// The memory of a process opens as a file whose first bytes cannot be read.
+// /proc/self/mem opens as a file whose first bytes cannot be read.
 TEST_F(KeyedFile, AReadErrorIsABadStream) {
     std::filesystem::create_symlink("/proc/self/mem", m_scratch.Path() / "bridge.MIS");
     ifstreamex in(m_scratch.PathOf("bridge.MIS"));

@@ -63,7 +63,7 @@ TEST_F(StoredText, PositionsCountStoredBytes) {
     EXPECT_EQ(Stored(), std::string("obj\r\n\r\n\r\na\0b", 12));
 }
 
-// Line feeds in every place around the end of the buffer, where the two bytes must not be parted wrongly.
+// Line feeds in every place around the end of the buffer, where the two bytes must stay together.
 TEST_F(StoredText, LineFeedsSurviveTheEndOfTheBuffer) {
     constexpr std::size_t kBuffer = std::size_t{1} << 18;
     for (std::size_t before = kBuffer - 4; before <= kBuffer + 2; ++before) {
@@ -187,7 +187,7 @@ TEST_F(StoredText, AFullDiskFailsWhenTheBufferIsFullToo) {
     EXPECT_TRUE(std::filesystem::is_empty(m_scratch.Path()));
 }
 
-// Cleared or not, a document with a gap is none.
+// Cleared or not, a document with a gap is not complete.
 TEST_F(StoredText, AClearedStateHealsNoDocument) {
     InChild([&] {
         StoredStream out(Path());

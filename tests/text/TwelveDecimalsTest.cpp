@@ -14,8 +14,8 @@
 
 namespace lumerin {
 
-// Twelve decimals of numbers that floats hold exactly take a short way; the C library, which rounds the exact
-// binary value, is the judge here.
+// Twelve decimals of numbers that floats hold exactly are made by a short method; the C library, which rounds
+// the exact binary value, is the reference.
 namespace {
 
 std::string Judge(double value, int width) {

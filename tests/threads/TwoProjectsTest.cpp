@@ -22,7 +22,7 @@
 namespace lumerin {
 
 // Two projects in one process at the same time: each has its own model, selection, results and documents, and
-// what is wrong with one does not reach the other. The thread sanitizer watches this test.
+// a fault of one does not affect the other. The thread sanitizer watches this test.
 
 namespace {
 

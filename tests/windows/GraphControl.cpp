@@ -69,7 +69,7 @@ std::string TextOf(const VARIANT& value) {
     }
 }
 
-// One object with all its interfaces. The tests make one at a time; it exists as long as the module.
+// One object with all its interfaces. The tests create one at a time; it exists as long as the module.
 class GraphControl final : public IDispatch,
                            public IConnectionPointContainer,
                            public IConnectionPoint,
@@ -216,19 +216,19 @@ class Points final : public IEnumConnectionPoints {
     ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
     ULONG STDMETHODCALLTYPE Release() override { return 1; }
     HRESULT STDMETHODCALLTYPE Next(ULONG, LPCONNECTIONPOINT* point, ULONG*) override {
-        if (std::exchange(m_told, true)) return S_FALSE;
+        if (std::exchange(m_reported, true)) return S_FALSE;
         *point = &g_control;
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE Skip(ULONG) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE Reset() override {
-        m_told = false;
+        m_reported = false;
         return S_OK;
     }
     HRESULT STDMETHODCALLTYPE Clone(IEnumConnectionPoints**) override { return E_NOTIMPL; }
 
   private:
-    bool m_told = false;
+    bool m_reported = false;
 };
 
 Points g_points;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Faults that the compiler's checks must stop before they do harm.
+// Faults that the compiler's checks must stop before they have an effect.
 //   overrun guard      prints the number that guards the stack: another one in each process
 //   overrun stack N    writes N bytes to a buffer of 16
 //   overrun copy N     copies N bytes to a buffer of 16 by the library
-// "went on" says that nothing has stopped it.
+// "went on" reports that nothing has stopped it.
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A plot module that plots nothing: it writes down the eight arguments that it was called with.
+// A plot module that plots nothing: it records the eight arguments that it was called with.
 #include <cstdio>
 #include <cstdlib>
 #include <string>

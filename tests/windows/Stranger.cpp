@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-// stranger.exe [press]: another program on the machine that sends the module's windows what only their driver
-// may ask, without its token and with wrong ones, with pointers into the module's process and with wild ones.
+// stranger.exe [press]: another program on the machine that sends the module's windows the queries of their
+// driver, without its token and with wrong ones, with pointers into the module's process and with invalid
+// ones.
 // With "press" it opens and closes the dialogs itself, in a host that has no driver. Prints what was answered
 // or written; exit status 1 then, and when a window was not found or was destroyed by it.
 #include <array>
@@ -18,7 +19,7 @@ constexpr const char* kReportTitle = "Lumerin Generator";
 constexpr int kOk = 1, kCancel = 2;  // buttons of the dialogs
 constexpr const char* kGridClass = "MFCGridCtrl";
 constexpr const char* kGraphClass = "LumerinGraph";
-constexpr DWORD kPatience = 30000;  // milliseconds until a window must be there
+constexpr DWORD kPatience = 30000;  // milliseconds until a window must exist
 constexpr UINT kAnswerTime = 5000;  // milliseconds that a message may take
 constexpr UINT kMessages = 16;      // from the first one of each range
 constexpr std::size_t kBlockSize = 4096;

@@ -7,7 +7,7 @@
 
 namespace lumerin {
 
-// A stored PDF of ours taken apart, by its marks and not by its cross-reference table, which holds no
+// The parts of a stored PDF, found by its marks and not by its cross-reference table, which holds no
 // offsets. A \r\n of the writer is stored as \r\r\n.
 struct PdfPage {
     std::string content;             // the stored stream
@@ -41,7 +41,7 @@ class PdfFile {
         return object.substr(at + open.size(), object.find("endstream", at) - at - open.size());
     }
     // The number after a mark, -1 without it.
-    long NumberBehind(const std::string& mark) const {
+    long NumberAfter(const std::string& mark) const {
         const std::size_t at = m_bytes.find(mark);
         return at == std::string::npos ? -1 : std::strtol(m_bytes.c_str() + at + mark.size(), nullptr, 10);
     }

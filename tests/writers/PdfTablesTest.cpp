@@ -21,7 +21,7 @@ class PdfTables : public ReportTest {
         StoredStream out(Path());
         CPdfWriter pdf(landscape);
         pdf.WriteHeader(out);
-        m_nLines = WriteTablePdf(MakeReport(), table, out, pdf);
+        m_lines = WriteTablePdf(MakeReport(), table, out, pdf);
         pdf.Finish(out);
         out.Close();
         return PdfFile(StoredBytes());
@@ -136,7 +136,7 @@ TEST_F(PdfTables, GapsOfTheAxialTableHoldLineFeedsAndBlanks) {
     EXPECT_EQ(lines.at(21), " ");
     EXPECT_EQ(lines.at(22), " ");
     EXPECT_EQ(lines.size(), 23U);
-    EXPECT_EQ(m_nLines, 23);
+    EXPECT_EQ(m_lines, 23);
 }
 
 TEST_F(PdfTables, ATableOfOnePageHasNoContinuation) {
@@ -145,7 +145,7 @@ TEST_F(PdfTables, ATableOfOnePageHasNoContinuation) {
     const PdfFile file = Write(kTablePileDc);
     EXPECT_EQ(file.pages.size(), 1U);
     EXPECT_EQ(file.Bytes().find("cont..."), std::string::npos);
-    EXPECT_EQ(m_nLines, 51 + 2 + 2);
+    EXPECT_EQ(m_lines, 51 + 2 + 2);
 }
 
 TEST_F(PdfTables, ARowAtLine51IsOnTheNextPageAfterTheHead) {
@@ -165,8 +165,8 @@ TEST_F(PdfTables, ARowAtLine51IsOnTheNextPageAfterTheHead) {
     EXPECT_EQ(second[3].substr(0, 14), "  NO.   NO.   ");
     EXPECT_EQ(second[4], "");
     EXPECT_EQ(second[5], "   44          -1    -1      No valid load case");
-    // The count begins at 5 after the break.
-    EXPECT_EQ(m_nLines, 5 + 1 + 2 + 2);
+    // After the break the count begins at 5.
+    EXPECT_EQ(m_lines, 5 + 1 + 2 + 2);
 }
 
 TEST_F(PdfTables, FurtherPagesHoldFortySixRows) {
@@ -184,11 +184,11 @@ TEST_F(PdfTables, TheAxialTableContinuesFurtherLeftAndUpright) {
     ASSERT_EQ(file.pages.size(), 2U);
     EXPECT_EQ(file.pages[0].lines.size(), 71U);
     EXPECT_EQ(file.pages[0].lines.back(), Blanks(57 + 52) + "cont...");
-    // The head comes with its two lines alone, though five are counted.
+    // The head has its two lines alone, although five are counted.
     const std::vector<std::string>& second = file.pages[1].lines;
     EXPECT_EQ(second.at(2).substr(0, 15), "   SUBSTRUCTURE");
     EXPECT_EQ(second.at(4).substr(0, 22), "              1     61");
-    EXPECT_EQ(m_nLines, 5 + 1 + 2);
+    EXPECT_EQ(m_lines, 5 + 1 + 2);
 }
 
 TEST_F(PdfTables, CapHeadsAreContinuedWithOneEmptyLine) {
@@ -242,7 +242,7 @@ TEST_F(PdfTables, AHeadingNeedsFifteenLinesAndABlockSix) {
         out.Close();
         const PdfFile file(StoredBytes());
         ASSERT_EQ(file.pages.size(), c.pages) << c.lines;
-        // A break before a heading, a head or the key leaves no words of continuation.
+        // A break before a heading, a head or the key writes no words of continuation.
         EXPECT_EQ(file.Bytes().find("cont..."), std::string::npos);
         EXPECT_EQ(file.pages.back().lines.back(), "next");
     }
@@ -253,7 +253,7 @@ TEST_F(PdfTables, AnEmptyHeadShowsNothingOnEitherPage) {
     data.m_nAnalysisMode = 3;
     const PdfFile file = Write(kTablePileDc);
     ASSERT_EQ(file.pages.size(), 2U);
-    // Three lines are counted for it all the same, so the page has three lines fewer.
+    // Three lines are still counted for it, so the page has three lines fewer.
     EXPECT_EQ(file.pages[0].lines.size(), 50U);
     EXPECT_EQ(file.pages[0].lines.at(5).substr(0, 5), "    1");
     EXPECT_EQ(file.pages[1].lines.at(2).substr(0, 5), "   44");
@@ -281,11 +281,11 @@ TEST_F(PdfTables, FatigueAloneGivesOneMomentBlockAnExtreme) {
 
 TEST_F(PdfTables, TablesThatAreNotEnabledLeaveTheDocumentAlone) {
     EXPECT_TRUE(Write(kTableCapShear).pages.empty());
-    EXPECT_EQ(m_nLines, 0);
+    EXPECT_EQ(m_lines, 0);
     AddPiers(1);
     enabled = {};
     EXPECT_TRUE(Write(kTablePileForces).pages.empty());
-    EXPECT_EQ(m_nLines, 0);
+    EXPECT_EQ(m_lines, 0);
 }
 
 TEST_F(PdfTables, EachTableOfAReportHasItsOwnPages) {

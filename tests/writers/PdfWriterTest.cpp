@@ -60,13 +60,13 @@ TEST_F(PdfWriter, OnePageInFull) {
         "\r\n/MediaBox [ 0 0 792 612 ]\r\n>>\r\n endobj\r\n"
         "8 0 obj\r\n<</Type/Catalog/Pages 1 0 R>>\r\nendobj\r\n"
         "\nxref\n");
-    const std::string behind = Stored(
+    const std::string after = Stored(
         "0 1 \n0000000000 65535 f \n"
         "1 00000 n \r\n2 00000 n \r\n3 00000 n \r\n4 00000 n \r\n5 00000 n \r\n6 00000 n \r\n7 00000 n \r\n"
         "8 00000 n \r\n"
         "trailer\r\n<<\r\n/Size 9\r\n/Root 8 0 R\r\n>>startxref\r\n" +
         std::to_string(upToXref.size()) + "\r\n%%EOF\r\n");
-    EXPECT_EQ(file.Bytes(), upToXref + behind);
+    EXPECT_EQ(file.Bytes(), upToXref + after);
 }
 
 TEST_F(PdfWriter, LinesPerPageFollowThePaper) {
@@ -98,9 +98,9 @@ TEST_F(PdfWriter, EachPageHasItsFourObjectsAndEveryLengthIsTheStoredOne) {
     EXPECT_NE(file.Object(4 * kPages + 2).find("/BaseFont/Courier/"), std::string::npos);
     EXPECT_NE(file.Object(4 * kPages + 3).find("/BaseFont/Arial/"), std::string::npos);
     EXPECT_NE(file.Object(4 * kPages + 4).find("/Type/Catalog"), std::string::npos);
-    EXPECT_EQ(file.NumberBehind("/Size "), 4 * kPages + 5);
-    EXPECT_EQ(file.NumberBehind("/Root "), 4 * kPages + 4);
-    EXPECT_EQ(file.NumberBehind("/Count "), kPages);
+    EXPECT_EQ(file.NumberAfter("/Size "), 4 * kPages + 5);
+    EXPECT_EQ(file.NumberAfter("/Root "), 4 * kPages + 4);
+    EXPECT_EQ(file.NumberAfter("/Count "), kPages);
 }
 
 TEST_F(PdfWriter, PageNumbersMoveLeftAsTheirTextGrows) {
@@ -114,7 +114,7 @@ TEST_F(PdfWriter, PageNumbersMoveLeftAsTheirTextGrows) {
 
 TEST_F(PdfWriter, StartxrefPointsAfterTheKeyword) {
     const PdfFile file = Write(true, 3, "", "f");
-    const long position = file.NumberBehind("startxref\r\r\n");
+    const long position = file.NumberAfter("startxref\r\r\n");
     ASSERT_GT(position, 8);
     const auto at = static_cast<std::size_t>(position);
     EXPECT_EQ(file.Bytes().substr(at - 8, 8), "\r\nxref\r\n");
@@ -124,9 +124,9 @@ TEST_F(PdfWriter, StartxrefPointsAfterTheKeyword) {
 TEST_F(PdfWriter, ADocumentWithoutPagesIsStillClosed) {
     const PdfFile file = Write(true, 0, "", "");
     EXPECT_TRUE(file.pages.empty());
-    EXPECT_EQ(file.NumberBehind("/Count "), 0);
+    EXPECT_EQ(file.NumberAfter("/Count "), 0);
     EXPECT_NE(file.Bytes().find(Stored("/Kids[\r\n]\r\n/Resources")), std::string::npos);
-    EXPECT_EQ(file.NumberBehind("/Size "), 5);
+    EXPECT_EQ(file.NumberAfter("/Size "), 5);
 }
 
 TEST_F(PdfWriter, TextGoesOutUnescaped) {

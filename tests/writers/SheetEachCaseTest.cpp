@@ -110,8 +110,8 @@ long PeakKilobytes() {
     return 0;
 }
 
-// A hundred thousand rows, some 95 MB: memory must not follow them, and a loaded machine still writes a
-// million cells a second and more.
+// A hundred thousand rows, some 95 MB: memory must not grow with them, and a loaded machine still writes at
+// least a million cells a second.
 TEST_F(SheetEachCase, ManyRowsTakeNoMemory) {
     constexpr int kPiles = 100, kCases = 1000;
     MakePiers({{.piles = kPiles, .cases = kCases}});

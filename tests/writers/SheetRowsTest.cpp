@@ -112,7 +112,7 @@ TEST_F(SheetRowCounts, WrittenRowsStayWithinTheAnnouncedOnes) {
     }
 }
 
-// The two exceptions, as they are.
+// The two exceptions.
 TEST_F(SheetRowCounts, SubstructureWithoutColumnsOverrunsTheColumnForces) {
     MakePiers({{.type = kTypePier}});
     Pier().m_nColumnSections = 1;

@@ -133,7 +133,7 @@ TEST_F(SheetSections, RatioRowWithoutResult) {
     EXPECT_EQ(Rows(Written(kTablePileDc), "  </Row>\n<Row></Row>\n"), numbers + Missing(9) + "</Row>\n");
 }
 
-// Records of another project's shape must not be followed.
+// Records that fit another project must not be used as indices.
 TEST_F(SheetSections, RecordOfNoExistingMemberPrintsLikeNoResult) {
     Make();
     const std::string none = Written(kTablePileDc);

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-// What the workbooks are held to finds what a spreadsheet program would refuse.
+// The check of the workbooks finds what a spreadsheet program would refuse.
 
 namespace lumerin {
 

@@ -66,18 +66,18 @@ bool CaptureEx::Capture(double scale, const std::string& path, bool save, int le
 void CaptureEx::SetImage(int width, int height, std::vector<std::uint8_t> data) {
     const bool fits = width > 0 && height > 0 && width <= kLongestSide && height <= kLongestSide &&
                       data.size() == Index(width) * Index(height) * Index(kBytesPerPixel);
-    m_Data = fits ? std::move(data) : std::vector<std::uint8_t>();
-    m_nWidth = fits ? width : 0;
-    m_nHeight = fits ? height : 0;
+    m_data = fits ? std::move(data) : std::vector<std::uint8_t>();
+    m_width = fits ? width : 0;
+    m_height = fits ? height : 0;
 }
 
 bool CaptureEx::SaveBitmap(const std::string& path) const {
-    if (m_Data.empty()) return false;
+    if (m_data.empty()) return false;
     WholeFile file;
     if (!file.Open(path)) return false;
-    const HeaderBytes header = MakeHeader(m_nWidth, m_nHeight, m_Data.size());
+    const HeaderBytes header = MakeHeader(m_width, m_height, m_data.size());
     return file.Write(header.Bytes().data(), header.Bytes().size()) &&
-           file.Write(m_Data.data(), m_Data.size()) && file.Commit();
+           file.Write(m_data.data(), m_data.size()) && file.Commit();
 }
 
 }  // namespace lumerin

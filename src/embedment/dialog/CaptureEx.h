@@ -21,12 +21,12 @@ class CaptureEx {
 
     // Pixels from another source; `data` has height rows of 3 * width bytes.
     void SetImage(int width, int height, std::vector<std::uint8_t> data);
-    int Width() const { return m_nWidth; }
-    int Height() const { return m_nHeight; }
+    int Width() const { return m_width; }
+    int Height() const { return m_height; }
 
   private:
-    std::vector<std::uint8_t> m_Data;
-    int m_nWidth = 0, m_nHeight = 0;
+    std::vector<std::uint8_t> m_data;
+    int m_width = 0, m_height = 0;
 };
 
 namespace graphplatform {

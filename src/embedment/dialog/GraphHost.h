@@ -41,11 +41,11 @@ class PlotGraphHost : public GraphHost {
 
     void Set(int, const GraphValue&) override {}
     GraphValue Get(int dispatchId) const override {
-        return dispatchId == kGraphClickedX ? GraphValue(m_dClickedX) : m_plot.Get(dispatchId);
+        return dispatchId == kGraphClickedX ? GraphValue(m_clickedX) : m_plot.Get(dispatchId);
     }
     void Call(int, std::span<const GraphValue>) override {}
     void Click(double x) override {
-        m_dClickedX = x;
+        m_clickedX = x;
         if (m_clicked) m_clicked();
     }
 
@@ -54,7 +54,7 @@ class PlotGraphHost : public GraphHost {
 
   private:
     std::function<void()> m_clicked;
-    double m_dClickedX = 0.0;
+    double m_clickedX = 0.0;
 };
 
 namespace graphplatform {

@@ -13,7 +13,7 @@ EditBox BoxOf(NativeWindow& edit) {
     return {edit.text, edit.selectionStart, edit.selectionEnd, (edit.spec->flags & kNumbersOnly) != 0};
 }
 
-void TellChange(NativeWindow& edit, const std::string& before) {
+void NotifyChange(NativeWindow& edit, const std::string& before) {
     if (edit.text != before) edit.parent->dialog->OnCommand(edit.spec->id, Notice::textChanged);
 }
 
@@ -102,7 +102,7 @@ bool HeadlessDialog::PressKeyInEdit(NativeWindow& edit, unsigned key, KeyState k
         const std::string before = edit.text;
         PressEditKey(BoxOf(edit), key, keys);
         if (const unsigned character = CharacterOfKey(key, keys)) TypeEditCharacter(BoxOf(edit), character);
-        TellChange(edit, before);
+        NotifyChange(edit, before);
     });
     return true;
 }
@@ -130,7 +130,7 @@ bool HeadlessDialog::TypeChar(unsigned character) {
     Run([focus, character] {
         const std::string before = focus->text;
         TypeEditCharacter(BoxOf(*focus), character);
-        TellChange(*focus, before);
+        NotifyChange(*focus, before);
     });
     return true;
 }

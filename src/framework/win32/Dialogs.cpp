@@ -18,19 +18,19 @@ namespace {
 // no memory.
 class RunningDialog {
   public:
-    explicit RunningDialog(CDialog& dialog) : m_dialog(dialog), m_below(Front()) { Front() = this; }
+    explicit RunningDialog(CDialog& shown) : dialog(shown), below(Front()) { Front() = this; }
     RunningDialog(const RunningDialog&) = delete;
     RunningDialog& operator=(const RunningDialog&) = delete;
-    ~RunningDialog() { Front() = m_below; }
+    ~RunningDialog() { Front() = below; }
 
     static RunningDialog*& Front() {
         static RunningDialog* front = nullptr;
         return front;
     }
     // Null: its window is not made yet, or is destroyed.
-    HWND m_window = nullptr;
-    CDialog& m_dialog;
-    RunningDialog* const m_below;
+    HWND window = nullptr;
+    CDialog& dialog;
+    RunningDialog* const below;
 };
 
 // Runs one step of the dialog; an exception is reported.
@@ -82,10 +82,10 @@ bool OnCommandMessage(CDialog& dialog, WPARAM wParam) {
 // The module has no icon, so the window gets none; the window and its minimised form show the platform's.
 void OnInit(HWND window, LPARAM lParam) {
     auto& running = *reinterpret_cast<RunningDialog*>(lParam);
-    CDialog& dialog = running.m_dialog;
+    CDialog& dialog = running.dialog;
     SetWindowLongPtrA(window, DWLP_USER, reinterpret_cast<LONG_PTR>(&dialog));
     dialog.m_hWnd = FromHwnd(window);
-    running.m_window = window;
+    running.window = window;
     SetWindowTextA(window, dialog.Spec().title);
     RunHandler(dialog, [&dialog] { dialog.OnInitDialog(); });
 }
@@ -93,8 +93,8 @@ void OnInit(HWND window, LPARAM lParam) {
 void OnDestroy(HWND window, CDialog& dialog) {
     win32::UnbindControls(window);
     dialog.m_hWnd = nullptr;
-    for (RunningDialog* at = RunningDialog::Front(); at != nullptr; at = at->m_below) {
-        if (at->m_window == window) at->m_window = nullptr;
+    for (RunningDialog* at = RunningDialog::Front(); at != nullptr; at = at->below) {
+        if (at->window == window) at->window = nullptr;
     }
 }
 
@@ -168,8 +168,8 @@ HINSTANCE ModuleInstance() {
 
 HWND FrontDialog() {
     const RunningDialog* at = RunningDialog::Front();
-    while (at != nullptr && at->m_window == nullptr) at = at->m_below;
-    return at == nullptr ? nullptr : at->m_window;
+    while (at != nullptr && at->window == nullptr) at = at->below;
+    return at == nullptr ? nullptr : at->window;
 }
 
 HWND OwnerWindow() {

@@ -10,8 +10,8 @@ namespace {
 
 struct Report {
     std::exception_ptr kept;
-    bool waits = false;  // from the failure to the end of its box
-    bool told = false;   // since the last thing that the user did
+    bool waits = false;     // from the failure to the end of its box
+    bool reported = false;  // since the last thing that the user did
 };
 
 Report& Pending() {
@@ -44,14 +44,14 @@ bool IsUserAction(UINT message) {
 namespace win32 {
 
 void NoteMessage(UINT message) noexcept {
-    if (IsUserAction(message)) Pending().told = false;
+    if (IsUserAction(message)) Pending().reported = false;
 }
 
 void ReportLater() noexcept {
     Report& report = Pending();
-    if (report.waits || report.told) return;
+    if (report.waits || report.reported) return;
     report.kept = std::current_exception();
-    report.told = true;
+    report.reported = true;
     const HWND dialog = FrontDialog();
     report.waits = dialog != nullptr && PostMessageA(dialog, kReportFailure, 0, 0) != FALSE;
     if (!report.waits) report.kept = nullptr;

@@ -44,20 +44,19 @@ class FolderIdentity {
         const HANDLE handle = CreateFileA(folder.c_str(), FILE_READ_ATTRIBUTES, kAllShared, nullptr,
                                           OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
         if (handle == INVALID_HANDLE_VALUE) return;
-        m_bKnown = GetFileInformationByHandle(handle, &m_info) != FALSE;
+        m_known = GetFileInformationByHandle(handle, &m_info) != FALSE;
         CloseHandle(handle);
     }
-    bool IsKnown() const { return m_bKnown; }
+    bool IsKnown() const { return m_known; }
     bool IsSame(const FolderIdentity& other) const {
-        return m_bKnown && other.m_bKnown &&
-               m_info.dwVolumeSerialNumber == other.m_info.dwVolumeSerialNumber &&
+        return m_known && other.m_known && m_info.dwVolumeSerialNumber == other.m_info.dwVolumeSerialNumber &&
                m_info.nFileIndexHigh == other.m_info.nFileIndexHigh &&
                m_info.nFileIndexLow == other.m_info.nFileIndexLow;
     }
 
   private:
     BY_HANDLE_FILE_INFORMATION m_info{};
-    bool m_bKnown = false;
+    bool m_known = false;
 };
 
 std::string SystemFolder() {

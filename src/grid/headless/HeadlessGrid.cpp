@@ -75,13 +75,13 @@ EditText HeadlessEditor::Read() const {
 }
 
 void HeadlessEditor::PostChar(unsigned character) {
-    if (m_bClosed || m_editor.OnChar(character)) return;
+    if (m_closed || m_editor.OnChar(character)) return;
     headless::TypeEditCharacter({m_text.text, m_text.start, m_text.end}, character);
     m_editor.OnTyped();
 }
 
 void HeadlessEditor::KeyDown(unsigned key, KeyState keys) {
-    if (m_bClosed || m_editor.OnKeyDown(key, keys)) return;
+    if (m_closed || m_editor.OnKeyDown(key, keys)) return;
     headless::PressEditKey({m_text.text, m_text.start, m_text.end}, key, keys);
     m_editor.OnTyped();
     if (const unsigned character = headless::CharacterOfKey(key, keys)) PostChar(character);
@@ -89,17 +89,17 @@ void HeadlessEditor::KeyDown(unsigned key, KeyState keys) {
 
 GridSize HeadlessGrid::ClientSize() const {
     const auto isThere = [this](std::size_t bar) {
-        return m_bForced[bar] || m_Bars[bar].count > m_Bars[bar].page;
+        return m_forced[bar] || m_bars[bar].count > m_bars[bar].page;
     };
     return {m_size.width - (isThere(1) ? kBarWidth : 0), m_size.height - (isThere(0) ? kBarWidth : 0)};
 }
 
 void HeadlessGrid::SetScrollBar(bool vertical, const ScrollPlace& place) {
-    m_Bars[vertical ? 1 : 0] = place;
+    m_bars[vertical ? 1 : 0] = place;
 }
 
 void HeadlessGrid::ForceScrollBar(bool vertical, bool forced) {
-    m_bForced[vertical ? 1 : 0] = forced;
+    m_forced[vertical ? 1 : 0] = forced;
 }
 
 void HeadlessGrid::SetClipboard(const std::string& text) {
@@ -112,33 +112,33 @@ std::string HeadlessGrid::Clipboard() const {
 }
 
 bool HeadlessGrid::OpenEditor(std::unique_ptr<CInPlaceEdit> editor, const GridRect& rect) {
-    m_pEditor = std::move(editor);
-    m_pWindow = std::make_unique<HeadlessEditor>(*m_pEditor, rect);
-    m_pEditor->Start(*m_pWindow);
+    m_editor = std::move(editor);
+    m_window = std::make_unique<HeadlessEditor>(*m_editor, rect);
+    m_editor->Start(*m_window);
     return true;
 }
 
 void HeadlessGrid::LeaveByTab(bool backwards) {
-    ++(backwards ? m_nLeftBackwards : m_nLeftForwards);
+    ++(backwards ? m_leftBackwards : m_leftForwards);
     headless::MoveFocusByTab(m_grid.m_hWnd, backwards);
 }
 
 void HeadlessGrid::TakeFocus() {
     if (m_grid.m_hWnd != nullptr) {
         backend::SetFocus(m_grid.m_hWnd);
-    } else if (!m_bFocused) {
+    } else if (!m_focused) {
         GainFocus();
     }
 }
 
 void HeadlessGrid::ShowTip(const GridRect& rect, const std::string& text, const FontRecord&) {
-    m_sTip = text;
-    m_TipPlace = rect;
+    m_tip = text;
+    m_tipPlace = rect;
 }
 
 void HeadlessGrid::HideTip() {
-    m_sTip.clear();
-    m_TipPlace = {};
+    m_tip.clear();
+    m_tipPlace = {};
 }
 
 void HeadlessGrid::EndTip() {
@@ -146,7 +146,7 @@ void HeadlessGrid::EndTip() {
 }
 
 HeadlessEditor* HeadlessGrid::Editor() const {
-    return m_pWindow != nullptr && !m_pWindow->IsClosed() ? m_pWindow.get() : nullptr;
+    return m_window != nullptr && !m_window->IsClosed() ? m_window.get() : nullptr;
 }
 
 void HeadlessGrid::TypeChar(unsigned character, KeyState keys) {
@@ -184,12 +184,12 @@ bool HeadlessGrid::TypeCell(int row, int column, const std::string& text) {
 }
 
 void HeadlessGrid::GainFocus() {
-    m_bFocused = true;
+    m_focused = true;
     m_grid.OnGotFocus();
 }
 
 void HeadlessGrid::LoseFocus() {
-    m_bFocused = false;
+    m_focused = false;
     m_grid.EndOpenEdit();
     m_grid.HideTip();
 }

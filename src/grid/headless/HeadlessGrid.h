@@ -24,16 +24,16 @@ class HeadlessEditor : public EditorWindow {
     void TakeFocus() override {}
     void PostChar(unsigned character) override;
     void PostKey(unsigned key) override { KeyDown(key, {}); }
-    void Close() override { m_bClosed = true; }
+    void Close() override { m_closed = true; }
 
     void KeyDown(unsigned key, KeyState keys);
-    bool IsClosed() const { return m_bClosed; }
+    bool IsClosed() const { return m_closed; }
 
   private:
     CInPlaceEdit& m_editor;
     EditText m_text;  // the start is the end that stays, the end is the caret
     GridRect m_rect;
-    bool m_bClosed = false;
+    bool m_closed = false;
 };
 
 // A grid's window without a screen: a size, a clipboard, and keys that reach the editor while one is open.
@@ -49,7 +49,7 @@ class HeadlessGrid : public GridHost, public GridPeer {
     bool OpenEditor(std::unique_ptr<CInPlaceEdit> editor, const GridRect& rect) override;
     void TakeFocus() override;
     void LeaveByTab(bool backwards) override;
-    void CaptureMouse(bool captured) override { m_bCaptured = captured; }
+    void CaptureMouse(bool captured) override { m_captured = captured; }
     void ShowTip(const GridRect& rect, const std::string& text, const FontRecord& font) override;
     void HideTip() override;
 
@@ -66,27 +66,27 @@ class HeadlessGrid : public GridHost, public GridPeer {
     bool PressKey(unsigned key, KeyState keys = {}) override;
 
     HeadlessEditor* Editor() const;  // null: none is open
-    const std::string& Tip() const { return m_sTip; }
-    const GridRect& TipPlace() const { return m_TipPlace; }  // empty: there is no tip
-    bool IsCaptured() const { return m_bCaptured; }
-    const ScrollPlace& VerticalBar() const { return m_Bars[1]; }
+    const std::string& Tip() const { return m_tip; }
+    const GridRect& TipPlace() const { return m_tipPlace; }  // empty: there is no tip
+    bool IsCaptured() const { return m_captured; }
+    const ScrollPlace& VerticalBar() const { return m_bars[1]; }
     // How often Tab left the grid, forwards and backwards.
-    int LeftForwards() const { return m_nLeftForwards; }
-    int LeftBackwards() const { return m_nLeftBackwards; }
+    int LeftForwards() const { return m_leftForwards; }
+    int LeftBackwards() const { return m_leftBackwards; }
 
   private:
     CGridCtrl& m_grid;
     GridSize m_size;
-    ScrollPlace m_Bars[2];  // horizontal, vertical
-    bool m_bForced[2] = {false, false};
-    bool m_bFocused = false, m_bCaptured = false;
-    std::string m_sTip;
-    GridRect m_TipPlace;
+    ScrollPlace m_bars[2];  // horizontal, vertical
+    bool m_forced[2] = {false, false};
+    bool m_focused = false, m_captured = false;
+    std::string m_tip;
+    GridRect m_tipPlace;
     HeadlessMouse m_mouse;
-    int m_nLeftForwards = 0, m_nLeftBackwards = 0;
+    int m_leftForwards = 0, m_leftBackwards = 0;
     // The last editor stays until the next one opens: its own operation closes it.
-    std::unique_ptr<CInPlaceEdit> m_pEditor;
-    std::unique_ptr<HeadlessEditor> m_pWindow;
+    std::unique_ptr<CInPlaceEdit> m_editor;
+    std::unique_ptr<HeadlessEditor> m_window;
 };
 
 }  // namespace lumerin

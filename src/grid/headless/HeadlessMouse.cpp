@@ -83,7 +83,7 @@ void HeadlessMouse::MoveTo(GridPoint place) {
         return;
     }
     if (wasOnTip) m_grid.OnTipLeave();
-    if (target == Target::grid) m_grid.OnMouseMove(place, m_bDown);
+    if (target == Target::grid) m_grid.OnMouseMove(place, m_down);
     // A tip that opened under the mouse receives it from now on.
     if (TargetAt(place) == Target::tip) m_grid.OnTipMove(place);
 }
@@ -103,7 +103,7 @@ void HeadlessMouse::Press(KeyState keys, bool soon) {
     const Target target = TargetAt(m_place);
     const bool isDouble = soon && target == m_pressed;
     m_pressed = isDouble ? Target::none : target;
-    m_bDown = true;
+    m_down = true;
     if (target == Target::tip) {
         m_grid.OnTipLeftDown(m_place, keys, m_now);
         return;
@@ -118,8 +118,8 @@ void HeadlessMouse::Press(KeyState keys, bool soon) {
 }
 
 void HeadlessMouse::Release() {
-    if (!m_bDown) return;
-    m_bDown = false;
+    if (!m_down) return;
+    m_down = false;
     if (TargetAt(m_place) == Target::grid) m_grid.OnLeftUp(m_place);
 }
 

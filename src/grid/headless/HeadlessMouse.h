@@ -35,7 +35,7 @@ class HeadlessMouse {
     CGridCtrl& m_grid;
     HeadlessGrid& m_window;
     GridPoint m_place{-1000, -1000};  // in the grid's client area
-    bool m_bDown = false;
+    bool m_down = false;
     Target m_pressed = Target::none;  // of the last press, until a double click
     unsigned m_now = 0;               // milliseconds
 };

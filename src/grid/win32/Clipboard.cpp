@@ -71,7 +71,7 @@ class Counted : public Interface {
 // reference too many.
 class FormatList final : public Counted<IEnumFORMATETC, IID_IEnumFORMATETC> {
   public:
-    explicit FormatList(bool passed) : m_bPassed(passed) {}
+    explicit FormatList(bool passed) : m_passed(passed) {}
 
     static HRESULT Give(bool passed, IEnumFORMATETC** list) {
         if (list == nullptr) return E_POINTER;
@@ -81,25 +81,25 @@ class FormatList final : public Counted<IEnumFORMATETC, IID_IEnumFORMATETC> {
 
     HRESULT STDMETHODCALLTYPE Next(ULONG wanted, FORMATETC* formats, ULONG* given) override {
         if (formats == nullptr || (given == nullptr && wanted != 1)) return E_POINTER;
-        const ULONG count = m_bPassed || wanted == 0 ? 0 : 1;
+        const ULONG count = m_passed || wanted == 0 ? 0 : 1;
         if (count == 1) *formats = PlainText();
-        m_bPassed = m_bPassed || count == 1;
+        m_passed = m_passed || count == 1;
         if (given != nullptr) *given = count;
         return count == wanted ? S_OK : S_FALSE;
     }
     HRESULT STDMETHODCALLTYPE Skip(ULONG count) override {
-        const bool within = count == 0 || (count == 1 && !m_bPassed);
-        m_bPassed = m_bPassed || count > 0;
+        const bool within = count == 0 || (count == 1 && !m_passed);
+        m_passed = m_passed || count > 0;
         return within ? S_OK : S_FALSE;
     }
     HRESULT STDMETHODCALLTYPE Reset() override {
-        m_bPassed = false;
+        m_passed = false;
         return S_OK;
     }
-    HRESULT STDMETHODCALLTYPE Clone(IEnumFORMATETC** list) override { return Give(m_bPassed, list); }
+    HRESULT STDMETHODCALLTYPE Clone(IEnumFORMATETC** list) override { return Give(m_passed, list); }
 
   private:
-    bool m_bPassed;
+    bool m_passed;
 };
 
 class TextObject final : public Counted<IDataObject, IID_IDataObject> {

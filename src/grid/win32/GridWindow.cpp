@@ -123,7 +123,7 @@ void GridWindow::SetScrollBar(bool vertical, const ScrollPlace& place) {
     SCROLLINFO info{};
     info.cbSize = sizeof info;
     // A forced bar stays, greyed, when there is nothing to scroll.
-    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | (m_bForced[vertical ? 1 : 0] ? SIF_DISABLENOSCROLL : 0);
+    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS | (m_forced[vertical ? 1 : 0] ? SIF_DISABLENOSCROLL : 0);
     info.nMax = std::max(place.count - 1, 0);
     info.nPage = static_cast<UINT>(std::max(place.page, 1));
     info.nPos = place.position;
@@ -132,7 +132,7 @@ void GridWindow::SetScrollBar(bool vertical, const ScrollPlace& place) {
 
 void GridWindow::ForceScrollBar(bool vertical, bool forced) {
     if (m_window == nullptr) return;
-    m_bForced[vertical ? 1 : 0] = forced;
+    m_forced[vertical ? 1 : 0] = forced;
     ShowScrollBar(m_window, vertical ? SB_VERT : SB_HORZ, forced ? TRUE : FALSE);
 }
 

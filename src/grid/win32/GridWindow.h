@@ -61,7 +61,7 @@ class GridWindow : public GridHost, private win32::MessageTarget {
 
     CGridCtrl& m_grid;
     HWND m_window;
-    bool m_bForced[2] = {false, false};  // horizontal, vertical
+    bool m_forced[2] = {false, false};  // horizontal, vertical
     std::vector<std::unique_ptr<EditorWindow32>> m_editors;
     TipWindow m_tip;
 };

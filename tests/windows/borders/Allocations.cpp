@@ -31,7 +31,7 @@ enum StudyControl {
 };
 constexpr int kFullReport = IDC_FULL_REPORT, kOk = 1;
 
-// One by one at first, in growing steps further on: a report makes some ten thousands.
+// One by one at first, then in growing steps: a report makes tens of thousands.
 long Next(long number) {
     return number + 1 + number / 6;
 }
@@ -155,8 +155,8 @@ void WorkOnStudy(Trial& trial, HWND dialog) {
     trial.Each("export the study", true, [&] { Press(dialog, kStudy); });
 }
 
-// What memory is out for good for must not keep the user in boxes: painting is reported once, and Cancel
-// ends.
+// A lasting lack of memory must not keep the user in message boxes: painting is reported once, and Cancel
+// ends the dialog.
 void CheckWayOut(Visits& visits, HWND dialog) {
     const std::size_t before = visits.boxes.size();
     failing::Arm(0, true);
@@ -182,7 +182,8 @@ class Work {
             std::exchange(m_work, nullptr)(dialog);
             if (IsWindow(dialog)) Cancel(dialog);
         } else {
-            // It was opened short of memory and may lack anything: it must be drawn and must close.
+            // It was opened with too little memory and may be incomplete: it must still be drawn and must
+            // close.
             failing::Disarm();
             Paint(dialog);
             Cancel(dialog);
@@ -193,7 +194,7 @@ class Work {
   private:
     void VisitReport(HWND dialog) {
         Trial trial(visits);
-        // The dialogs first: their opening, then what is done in them.
+        // First the opening of the dialogs, then the work in them.
         trial.Each("open the load cases", false, [&] { Press(dialog, kCustom), Press(dialog, kChoose); });
         m_work = [&](HWND cases) { WorkOnCells(trial, cases); };
         Press(dialog, kChoose);

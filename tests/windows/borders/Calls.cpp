@@ -149,7 +149,7 @@ void TestOle(const Words& words) {
     Check(IsOleFree(), "OLE is not initialised after the last call");
 }
 
-// The study on the main thread and on two others, one after the other; a registered graph control writes down
+// The study on the main thread and on two others, one after the other; a registered graph control records
 // what it is asked.
 void TestThreads(const Words& words) {
     const Module module = LoadModule();

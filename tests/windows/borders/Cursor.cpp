@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The wait cursor: up while a handler works, also beside a box; what a handler leaves of it lasts until the
+// The wait cursor: shown while a handler works, also beside a box; one that a handler leaves lasts until the
 // mouse moves.
 #include "Stage.h"
 #include "session/ReportControls.h"

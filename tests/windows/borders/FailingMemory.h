@@ -5,7 +5,7 @@
 
 namespace lumerin {
 
-// Memory that the module does not get: its calls of the C library's allocation go through here.
+// Makes allocations of the module fail: its calls of the C library's allocation go through here.
 namespace failing {
 
 // Sends the module's calls through here from now on. False: it has no such calls.

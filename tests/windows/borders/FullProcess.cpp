@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// 32 MB of text on the clipboard, pasted where the process has hardly any addresses left.
+// 32 MB of text on the clipboard, pasted when the process has hardly any addresses left.
 #include <cstdio>
 #include <cstring>
 #include <vector>
@@ -27,7 +27,7 @@ void FillClipboard() {
     CloseClipboard();
 }
 
-// All addresses of the process but so many bytes in one piece.
+// Takes all addresses of the process except that many bytes in one piece.
 class Fill {
   public:
     explicit Fill(std::size_t left) {
@@ -69,7 +69,7 @@ void Paste(HWND dialog, Visits& visits) {
         refused += boxes;
     }
     Check(refused > 0, "at least one paste finds no memory and says so");
-    // The dialog is whole.
+    // The dialog is complete.
     Key(grid, VK_DELETE);
     SendMessageA(grid, WM_CHAR, '1', 1);
     Pump();

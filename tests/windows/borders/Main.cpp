@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// borders TEST WORD...: a host that treats the module as hosts do: it is short of memory, calls again, has
-// floating-point traps on, loads libraries of its own. Prints what does not hold; exit status 0 when all
-// does, 1 otherwise, and whatever the system makes of it when the process was ended.
+// borders TEST WORD...: a host that is difficult for the module: it is short of memory, calls again, has
+// floating-point traps on, loads libraries of its own. Prints each check that fails; exit status 0 when all
+// hold, 1 otherwise, and the system's own when the process was ended.
 #include <cstdio>
 #include <cstring>
 

@@ -25,7 +25,7 @@ struct Module {
 // The module beside this program. Ends the process when it is not there.
 Module LoadModule();
 
-// Notes a thing that must hold, and prints it when it does not.
+// Checks a condition, and prints the text when it does not hold.
 void Check(bool holds, const std::string& what);
 int FailedChecks();
 
@@ -42,7 +42,7 @@ class HostWindow {
     HWND m_window;
 };
 
-// Works off the messages that wait, and those that come within so many milliseconds.
+// Handles the messages that wait, and those that arrive within that many milliseconds.
 void Pump(DWORD milliseconds = 0);
 
 // While it exists, it answers the boxes that open on this thread and visits each dialog once, when its loop
@@ -67,7 +67,7 @@ class Visits {
     UINT_PTR m_timer = 0;
 };
 
-// Presses a button and comes back when its handler is done.
+// Presses a button and returns when its handler is done.
 void Press(HWND dialog, int button);
 // A key on a window, with the modifiers as the window's thread sees them.
 void Key(HWND window, WPARAM key, bool control = false, bool shift = false);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A host whose numbers trap: the module works with all floating-point faults masked and gives the host's
-// state back on every way out.
+// A host with floating-point traps: the module works with all floating-point faults masked and restores the
+// host's state on every way out.
 #include <xmmintrin.h>
 
 #include <cstdio>
