@@ -1,6 +1,6 @@
 #!/bin/bash
-# test.sh: sets up, builds, and runs every check of the repository. Each step is told with its time; the first
-# that fails ends the run.
+# test.sh: sets up, builds, and runs every check of the repository. Each step is reported with its time; the
+# first that fails ends the run.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -87,6 +87,7 @@ start_windows
 # Its short bursts of work come first; everything else fills the time in between.
 renice -n 10 $$ >/dev/null
 step "sanitizer build, tests and fuzz targets" build sanitize --target all fuzz
+step "functions that nobody calls" tools/check-dead-code
 step "tests under the sanitizers" run_tests sanitize
 # From a fixed seed, so that a run is like the one before it.
 LUMERIN_FUZZ_SEED=1 step "fuzz targets, a few seconds each" tools/fuzz.sh all 2

@@ -29,7 +29,7 @@ struct CapLoads {
     double weight = 0.0;         // per foot or metre
 };
 
-// What a support takes from the cap.
+// The reactions of a support.
 struct SupportForces {
     double down = 0.0;
     double along = 0.0;
@@ -48,7 +48,6 @@ class CapModel {
     const SectionForces& AtI(std::size_t element) const { return m_atI[element]; }
     const SectionForces& AtJ(std::size_t element) const { return m_atJ[element]; }
     const std::vector<SupportForces>& Supports() const { return m_supports; }
-    std::size_t PointCount() const { return m_x.size(); }
 
   private:
     // One plane of bending: shear and moment at the element ends.

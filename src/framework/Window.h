@@ -35,13 +35,9 @@ inline const CRuntimeClass CWnd::classCWnd{"CWnd", &CObject::classCObject};
 class CButton : public CWnd {
   public:
     bool GetCheck() const { return backend::IsChecked(m_hWnd); }
-    void SetCheck(bool checked) { backend::SetChecked(m_hWnd, checked); }
 };
 
-class CEdit : public CWnd {
-  public:
-    void SetSel(int start, int end) { backend::SelectEditText(m_hWnd, start, end); }
-};
+class CEdit : public CWnd {};
 
 class CStatic : public CWnd {};
 

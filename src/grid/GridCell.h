@@ -160,8 +160,6 @@ class CGridDefaultCell : public CGridCell {
 
     int Width() const { return m_nWidth; }
     int Height() const { return m_nHeight; }
-    void SetWidth(int width) { m_nWidth = width; }
-    void SetHeight(int height) { m_nHeight = height; }
 
   private:
     void Measure();

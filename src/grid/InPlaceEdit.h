@@ -59,8 +59,6 @@ class CInPlaceEdit : public CEdit {
     void OnTyped();
 
     const EditorWindow* Window() const { return m_pWindow; }  // null before the start
-    bool HasEnded() const { return m_bEnded; }
-    const std::string& InitialText() const { return m_sInitial; }
 
   protected:
     virtual FilterResult Filter(EditText&, unsigned) const { return FilterResult::passed; }
