@@ -18,8 +18,13 @@ if(LUMERIN_FUZZ)
     if(NOT CMAKE_CXX_COMPILER_ID MATCHES Clang OR NOT LUMERIN_SANITIZE)
         message(FATAL_ERROR "LUMERIN_FUZZ wants clang and LUMERIN_SANITIZE: use the preset sanitize")
     endif()
-    # The counters alone; the fuzzer itself, which has a main, is linked into the fuzz targets.
-    target_compile_options(lumerin-instruments INTERFACE -fsanitize=fuzzer-no-link)
+    # The counters alone; the fuzzer itself, which has a main, is linked into the fuzz targets. In the tests, which no
+    # fuzz target contains, counters would be a third of the code.
+    # tools/check-dead-code asks the linker which functions no program reaches: each has a section of its own, and none
+    # that is not written as inline becomes part of its callers.
+    set(options -fsanitize=fuzzer-no-link -ffunction-sections -finline-hint-functions)
+    target_compile_options(lumerin-instruments INTERFACE
+        "$<$<NOT:$<BOOL:$<TARGET_PROPERTY:LUMERIN_TEST>>>:${options}>")
 endif()
 if(LUMERIN_THREADS)
     set(LUMERIN_INSTRUMENTED ON)
