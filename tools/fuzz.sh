@@ -1,8 +1,7 @@
 #!/bin/bash
-# tools/fuzz.sh TARGET|all SECONDS: builds the fuzz targets and lets one of them (or each, as many at a time as
-# there are processors) look for inputs
-# that end the program. It starts from the sample maker's projects and from what earlier runs found. New inputs
-# stay in build/fuzz-corpus/TARGET; those that fail in build/fuzz-faults/TARGET.
+# tools/fuzz.sh TARGET|all SECONDS: builds the fuzz targets and runs one of them, or each (as many at a time as there
+# are processors), to find inputs that end the program. A run starts from the sample maker's projects and from the
+# inputs of earlier runs. New inputs are kept in build/fuzz-corpus/TARGET, those that fail in build/fuzz-faults/TARGET.
 #
 # tools/fuzz.sh keep: writes the inputs that matter into tests/fuzz-corpus, within its size.
 set -euo pipefail
@@ -74,7 +73,7 @@ if (( $# < 1 )); then
     exit 2
 fi
 if [[ $1 == __one ]]; then
-    # One of several at a time: what it says comes in one piece.
+    # One of several at a time: its output is printed in one piece.
     status=0
     said=$(run "$2" "$3" 2>&1) || status=1
     printf '%s\n' "$said"
