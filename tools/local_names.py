@@ -9,6 +9,7 @@ import sys
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 LOCAL_BLOCK = re.compile(r"^namespace \{$(.*?)^\}  // namespace$", re.M | re.S)
+CONSTANTS = re.compile(r"^(?:constexpr|const|constinit|static) .*$", re.M)  # more than one of them in a line, perhaps
 LOCAL_NAME = re.compile(r"^(?!template|extern|using |TEST|INSTANTIATE|MATCHER)[A-Za-z].*?(\w+)(?:\[.*?\])*(?: final)?(?: ?[=({;]| : |$)", re.M)
 
 
@@ -26,6 +27,7 @@ def local_names(path):
     found = set(re.findall(r"^static .*?(\w+)\s*[=({;\[]", text, re.M))
     for block in LOCAL_BLOCK.findall(text):
         found |= {match.group(1) for match in LOCAL_NAME.finditer(block)}
+        found |= {name for line in CONSTANTS.findall(block) for name in re.findall(r"(\w+) =", line)}
     return found
 
 
