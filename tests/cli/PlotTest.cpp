@@ -92,14 +92,15 @@ TEST(Plot, LimitAndCasesAreNamed) {
 
 TEST(Plot, DataAreTheRowsOfTheSubstructure) {
     const SampleFolder folder;
-    PlotRequest request = Of(folder.Write("bridge"), "cap-shear");
+    // All three substructures have piles.
+    PlotRequest request = Of(folder.Write("bridge"), "pile-heads");
     request.substructure = 2;
     request.data = true;
     const Outcome outcome = Plot(request);
     std::istringstream lines(outcome.out);
     std::string line;
     std::getline(lines, line);
-    EXPECT_THAT(line, StartsWith("project,substructure,record,element,end,"));
+    EXPECT_THAT(line, StartsWith("project,substructure,pile,element,case,"));
     int rows = 0;
     while (std::getline(lines, line)) {
         EXPECT_THAT(line, HasSubstr("bridge,2,"));

@@ -6,6 +6,8 @@
 #include <libxml/xpath.h>
 
 #include <cmath>
+#include <limits>
+#include <map>
 #include <memory>
 
 #include "figures/CapData.h"
@@ -155,6 +157,44 @@ TEST(Figures, TheBandHoldsEveryDesignPlace) {
         }
     }
     EXPECT_GT(marks, 200);
+}
+
+// The two rows of a place: its greatest and its least value, the greatest first.
+TEST(Figures, MarksOfAPlaceAreItsGreatestAndItsLeastValue) {
+    const SampleFolder folder;
+    const auto opened = LoadByName(ProjectName(folder.Write("pier")));
+    const Evaluation evaluation(*opened, {}, {}, FindFigure("cap-moment")->needs);
+    for (const CapPanel& panel : DescribeCap(evaluation, 0, CapForce::moment).panels) {
+        std::map<std::string, std::pair<double, double>> places;
+        for (const DesignMark& mark : panel.marks) {
+            (mark.maximum ? places[mark.place].first : places[mark.place].second) = mark.value;
+        }
+        EXPECT_GE(places.size(), 10U);
+        std::size_t apart = 0;
+        for (const auto& [place, values] : places) {
+            EXPECT_GE(values.first, values.second) << place;
+            if (values.first > values.second) ++apart;
+        }
+        EXPECT_GE(apart + 2, places.size());  // the bearings at both tips carry the same in all cases
+    }
+}
+
+// Pile 2 has its ratio 0.75 at its head in case 2, and 1.25 below it; the foundation's element 0.75 in
+// case 1.
+TEST(Figures, MembersAreListedWorstFirstAndHeadsByTheirOwnEnd) {
+    RecordsProject project;
+    project.Set(1, 3, kRatioJ, 0.75F);
+    project.Set(1, 3, kRatioI, 1.25F);
+    project.Set(0, 5, kRatioI, 0.75F);
+    project.Set(1, 5, kRatioJ, 0.75F);
+    project.WriteAll();
+    const Evaluation& evaluation = project.Evaluate(FindFigure("dc")->needs);
+    const std::string ratios = FindFigure("dc")->draw(evaluation, {});
+    EXPECT_THAT(ratios, HasSubstr("1.25 over the limit, pile 2 element 4 end I, case 2<"));
+    EXPECT_THAT(ratios, HasSubstr("0.75, element 1 end I, case 1<"));
+    EXPECT_LT(ratios.find(">pile 2<"), ratios.find(">element 1<"));
+    EXPECT_LT(ratios.find(">element 1<"), ratios.find(">pile 1<"));
+    EXPECT_THAT(FindFigure("pile-heads")->draw(evaluation, {}), HasSubstr("pile 2 head: D/C 0.75, case 2<"));
 }
 
 // The bridge's bent has two masked elements side by side: its band has a gap there.

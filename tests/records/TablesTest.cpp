@@ -143,6 +143,24 @@ TEST(Tables, TheStudyHasItsCasesAndEnvelopes) {
     EXPECT_EQ(RowsOf(project.Evaluate(TableNeeds{}, second), "embedment").size(), 5U * 3U);
 }
 
+TEST(Tables, ElementsHaveTheirMembersAndPlaces) {
+    RecordsProject project;
+    project.WriteAll();
+    const auto rows = RowsOf(project.Evaluate(TableNeeds{}), "elements");
+    ASSERT_EQ(rows.size(), 5U);
+    EXPECT_THAT(rows[1], ElementsAre("1", "2", "2", "3", "pile", "1", "2", "2", "1", "2", "", "", "no"));
+    EXPECT_THAT(rows[4], ElementsAre("1", "5", "5", "1", "other", "", "", "6", "7", "1", "", "", "no"));
+}
+
+TEST(Tables, NeedsOfSeveralTablesAreAddedUp) {
+    const TableNeeds needs = NeedsOf(std::vector{FindTable("pile_axial"), FindTable("cap_shear"),
+                                                 FindTable("findings"), FindTable("cases")});
+    EXPECT_EQ(needs.searches, 1U << kTableMaxAxial | 1U << kTableCapShear);
+    EXPECT_TRUE(needs.soundness);
+    EXPECT_FALSE(needs.elements);
+    EXPECT_TRUE(NeedsOf(std::vector{FindTable("cases"), FindTable("element_dc")}).elements);
+}
+
 TEST(Tables, ValuesAreConvertedByTheirQuantity) {
     RecordsProject project;
     project.Set(0, 1, kFaxWordJ, -100.0F);
