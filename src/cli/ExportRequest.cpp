@@ -12,6 +12,7 @@
 #include "export/SqliteWriter.h"
 #include "export/WorkbookWriter.h"
 #include "framework/Backend.h"
+#include "text/Clock.h"
 #include "text/Paths.h"
 
 namespace lumerin {
@@ -179,7 +180,7 @@ std::unique_ptr<TableWriter> MakeWriter(const ExportRequest& request, std::ostre
         case ExportForm::sqlite:
             return std::make_unique<SqliteWriter>(request.output, std::string(ProgramVersion()));
         case ExportForm::workbook:
-            return std::make_unique<WorkbookWriter>(request.output, services::Now(), request.limits.ratio);
+            return std::make_unique<WorkbookWriter>(request.output, DocumentTime(), request.limits.ratio);
         case ExportForm::csv:
         case ExportForm::jsonLines:
             break;

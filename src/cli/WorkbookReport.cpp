@@ -12,6 +12,7 @@
 #include "framework/Backend.h"
 #include "records/Verdict.h"
 #include "tables/Words.h"
+#include "text/Clock.h"
 #include "text/Utf8.h"
 
 namespace lumerin {
@@ -240,7 +241,7 @@ WorkbookReportResult WriteWorkbookReport(const WorkbookReportRequest& request) {
     const Evaluation evaluation(*opened, request.cases, request.limits, NeedsOf(TablesOfTheReport()));
     WorkbookReportResult result{opened->messages, evaluation.Findings(), false};
     if (request.strict && HasError(result.findings)) return result;
-    Workbook workbook(request.path, services::Now());
+    Workbook workbook(request.path, DocumentTime());
     workbook.SetTitle(ToUtf8(evaluation.Data().m_sProjectN));
     Cover(workbook, evaluation).Write();
     for (const ReportSheet& sheet : kSheets) SheetOfRows(workbook, evaluation, sheet).Write();
