@@ -8,10 +8,10 @@
 #include <stdexcept>
 
 #include "cli/CheckReport.h"
-#include "cli/Colour.h"
 #include "cli/EvaluationArguments.h"
 #include "cli/Options.h"
 #include "cli/ProjectArguments.h"
+#include "cli/Terminal.h"
 #include "export/CsvWriter.h"
 #include "script/Border.h"
 
@@ -175,7 +175,7 @@ ProgramCommand AddCheckCommand(CLI::App& program) {
                 request.cases = arguments->evaluation.cases;
                 request.limits = arguments->evaluation.limits;
                 request.units = arguments->evaluation.units;
-                request.colour = MayColour(out);
+                request.colour = UsesColour(out);
                 return RunCheck(request, out, err);
             }};
 }

@@ -76,10 +76,16 @@ void ReportDriver::Say(const std::string& text) {
 }
 
 void ReportDriver::Drive(headless::HeadlessDialog& dialog) {
-    if (dialog.ResourceId() == IDD_LOAD_CASES) {
-        DriveCases(dialog);
-    } else if (auto* report = dynamic_cast<CDesignerDlg*>(&dialog.Dialog())) {
-        DriveReport(dialog, *report);
+    // The call of the module lets no exception through, and what is not said here would be lost there.
+    try {
+        if (dialog.ResourceId() == IDD_LOAD_CASES) {
+            DriveCases(dialog);
+        } else if (auto* report = dynamic_cast<CDesignerDlg*>(&dialog.Dialog())) {
+            DriveReport(dialog, *report);
+        }
+    } catch (const std::exception& fault) {
+        Worsen(kExitIncomplete);
+        Say(fault.what());
     }
 }
 

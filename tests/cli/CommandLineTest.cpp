@@ -216,6 +216,19 @@ TEST_F(CommandLine, ProgressIsForTerminalsAlone) {
     EXPECT_THAT(outcome.err, EndsWith("2 projects: 2 done\n"));
 }
 
+// The program "script" gives it a terminal.
+TEST_F(CommandLine, ColoursAreForTerminalsThatDoNotForbidThem) {
+    if (RunShell("command -v script >/dev/null") != 0) GTEST_SKIP() << "there is no program script";
+    fs::resize_file(pier + ".vmd", fs::file_size(pier + ".vmd") - 3 * 68);
+    const auto shown = [this](const std::string& variable) {
+        RunShell("cd " + folder.Path().string() + " && " + variable + " script -qec '" + LUMERIN_BINARY_DIR +
+                 "/lumerin report pier --table axial' /dev/null >shown 2>&1 </dev/null");
+        return Content(folder.Base("shown"));
+    };
+    EXPECT_THAT(shown("NO_COLOR="), HasSubstr("pier.in: \033[31merror\033[0m: missing-records"));
+    EXPECT_THAT(shown("NO_COLOR=1"), HasSubstr("pier.in: error: missing-records"));
+}
+
 TEST_F(CommandLine, AnErrorInTheDataEndsWithFourAndAllFilesAreWritten) {
     fs::resize_file(pier + ".vmd", fs::file_size(pier + ".vmd") - 3 * 68);
     const Outcome outcome = Run("report pier bent --table axial --format text,excel");
