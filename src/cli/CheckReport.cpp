@@ -2,7 +2,6 @@
 #include "cli/CheckReport.h"
 
 #include <array>
-#include <cmath>
 #include <string_view>
 
 #include "cli/TextTable.h"
@@ -15,7 +14,6 @@ namespace {
 
 using Align = TextTable::Align;
 
-constexpr int kRatioDecimals = 3;
 constexpr int kForceDecimals = 2;
 constexpr std::string_view kIndent = "  ";
 constexpr std::array<std::string_view, 6> kForceNames{"FAX", "F22", "F33", "M22", "M33", "TORQUE"};
@@ -128,15 +126,6 @@ void ConvertForces(CheckResult& result, UnitSystem system) {
         head.capacity *= factor(Quantity::force);
     }
     result.units = system;
-}
-
-std::string RatioText(double ratio, double limit) {
-    std::string text = FormatFixed(ratio, kRatioDecimals);
-    const bool hidden = std::isfinite(ratio) && (ratio > limit) != (std::stod(text) > limit);
-    if (!hidden) return text;
-    text.clear();
-    AppendNumber(text, static_cast<float>(ratio));
-    return text;
 }
 
 void PrintCheck(const CheckResult& result, bool details, bool colour, std::ostream& out) {

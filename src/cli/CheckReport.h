@@ -29,10 +29,6 @@ struct CheckResult {
 // Turns the forces of a result to another unit system.
 void ConvertForces(CheckResult& result, UnitSystem system);
 
-// A ratio with three decimals; with all of its digits where the decimals would hide on which side of the
-// limit it is.
-std::string RatioText(double ratio, double limit);
-
 // "bridge.in  FAIL  D/C 1.027 at element 18 end I ...", and what it stands on.
 // `colour`: the verdict's word is coloured. `details`: families, pile heads, greatest ratios and findings
 // follow the line.

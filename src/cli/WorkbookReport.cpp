@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <memory>
 #include <optional>
 
@@ -40,7 +39,6 @@ constexpr std::array<ReportSheet, 8> kSheets{{
 }};
 
 constexpr std::uint8_t kLetter = 1, kA4 = 9;
-constexpr double kThousandths = 1000.0;
 
 NoteCell Text(std::string text, CellStyle style = CellStyle::text) {
     return {std::move(text), style};
@@ -54,14 +52,6 @@ NoteCell Whole(long long number) {
 std::string Spaced(std::string name) {
     std::replace(name.begin(), name.end(), '_', ' ');
     return name;
-}
-
-// A ratio and the limit as a person says them; rounded away from the limit, so that 1.0004 is not "1.000".
-std::string RatioText(double ratio, double limit) {
-    std::string text;
-    const double scaled = ratio * kThousandths;
-    AppendNumber(text, (ratio > limit ? std::ceil(scaled) : std::floor(scaled)) / kThousandths);
-    return text;
 }
 
 class Cover {

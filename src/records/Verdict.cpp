@@ -2,14 +2,18 @@
 #include "records/Verdict.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 #include "framework/Index.h"
 #include "records/TableRows.h"
+#include "text/Format.h"
 
 namespace lumerin {
 
 namespace {
+
+constexpr int kRatioDecimals = 3;
 
 // The families in the order of a verdict.
 constexpr std::array<MemberKind, 5> kFamilies{MemberKind::pile, MemberKind::column, MemberKind::span,
@@ -138,6 +142,15 @@ std::vector<EndRatio> GreatestRatios(const Evaluation& evaluation, std::size_t c
     std::ranges::transform(ends, std::back_inserter(ratios),
                            [&](const EndOfElement& end) { return Describe(evaluation, end); });
     return ratios;
+}
+
+std::string RatioText(double ratio, double limit) {
+    std::string text = FormatFixed(ratio, kRatioDecimals);
+    const bool hidden = std::isfinite(ratio) && (ratio > limit) != (std::stod(text) > limit);
+    if (!hidden) return text;
+    text.clear();
+    AppendNumber(text, static_cast<float>(ratio));
+    return text;
 }
 
 }  // namespace lumerin

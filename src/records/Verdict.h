@@ -54,6 +54,10 @@ struct Verdict {
     const FamilyVerdict* Worst() const;
 };
 
+// A ratio with three decimals; with all of its digits where the decimals would hide on which side of the
+// limit it is.
+std::string RatioText(double ratio, double limit);
+
 // The evaluation must have the needs of the table "verdict".
 Verdict Judge(const Evaluation& evaluation);
 // The `count` greatest ratios of element ends, the greatest first.
