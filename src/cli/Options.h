@@ -37,11 +37,11 @@ std::string LowerCase(std::string_view text);
 
 // A table of the report dialog by its short name.
 struct TableName {
-    const char* name;
-    int button;
-    TableId table;
-    int kind =
-        -1;  // of its file where every format makes the same one (ReportFormat); -1: that of the format
+    const char* name = "";
+    int button = 0;
+    TableId table = kTableMaxAxial;
+    // Of its file where every format makes the same one (ReportFormat); -1: that of the format.
+    int kind = -1;
 };
 // Null: there is no such table.
 const TableName* FindTableName(std::string_view name);

@@ -181,18 +181,18 @@ TEST(Combinations, TheLastOfTheRowsThatTakeACaseCounts) {
 
 TEST(Combinations, ManyRowsOverTheSameCasesTakeNoLongerThanTheRowsAndTheCases) {
     ResultProject project;
-    constexpr int kCases = 20000, kPairs = 20000;
+    constexpr int kManyCases = 20000, kManyPairs = 20000;
     project.substructures[0].piles = 0;
     project.substructures[0].pileSections.clear();
     std::string rows;
-    for (int i = 0; i < kPairs; ++i) rows += "101 1 20000\n101 1 -20000\n";
-    WithFamily(project, 0, kCases, rows + "112 5 20000\n");
+    for (int i = 0; i < kManyPairs; ++i) rows += "101 1 20000\n101 1 -20000\n";
+    WithFamily(project, 0, kManyCases, rows + "112 5 20000\n");
     const auto begin = std::chrono::steady_clock::now();
     ASSERT_TRUE(project.Load());
     // Row by row and case by case these are 400 million steps.
     EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(2));
     EXPECT_EQ(First(project).m_LoadCases[0].m_sLimitState, "FATIGUE-I");
-    EXPECT_EQ(First(project).m_LoadCases[kCases - 1].m_nNumber, kCases + 4);
+    EXPECT_EQ(First(project).m_LoadCases[kManyCases - 1].m_nNumber, kManyCases + 4);
 }
 
 TEST(Combinations, ATitleMayLookLikeAMark) {
