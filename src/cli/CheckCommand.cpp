@@ -11,6 +11,7 @@
 #include "cli/EvaluationArguments.h"
 #include "cli/Options.h"
 #include "cli/ProjectArguments.h"
+#include "cli/Suggest.h"
 #include "cli/Terminal.h"
 #include "export/CsvWriter.h"
 #include "script/Border.h"
@@ -126,7 +127,7 @@ CheckFormat ReadCheckFormat(const std::string& text) {
     if (format == "text") return CheckFormat::text;
     if (format == "json") return CheckFormat::json;
     if (format == "csv") return CheckFormat::csv;
-    throw std::invalid_argument("\"" + text + "\" is no format (text, json, csv)");
+    throw std::invalid_argument(UnknownWord(text, "format", {"text", "json", "csv"}));
 }
 
 constexpr const char* kCheckFooter =

@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "cli/Options.h"
+#include "cli/Suggest.h"
 #include "export/CsvWriter.h"
 #include "export/JsonLinesWriter.h"
 #include "export/SqliteWriter.h"
@@ -40,12 +41,9 @@ void AddTable(const Table& table, ExportRequest& request) {
     if (std::ranges::find(request.tables, &table) == request.tables.end()) request.tables.push_back(&table);
 }
 
-std::string AllTableNames() {
-    std::string names;
-    for (const Table& table : AllTables()) {
-        if (!names.empty()) names += ", ";
-        names += table.name;
-    }
+std::vector<std::string> AllTableNames() {
+    std::vector<std::string> names{"all"};
+    for (const Table& table : AllTables()) names.emplace_back(table.name);
     return names;
 }
 
@@ -137,7 +135,7 @@ ExportForm ReadForm(std::string_view name) {
     if (lower == "jsonl") return ExportForm::jsonLines;
     if (lower == "sqlite") return ExportForm::sqlite;
     if (lower == "xlsx") return ExportForm::workbook;
-    throw std::invalid_argument("\"" + std::string(name) + "\" is no format (csv, jsonl, sqlite, xlsx)");
+    throw std::invalid_argument(UnknownWord(name, "format", {"csv", "jsonl", "sqlite", "xlsx"}));
 }
 
 void ReadTables(std::string_view names, ExportRequest& request) {
@@ -150,7 +148,7 @@ void ReadTables(std::string_view names, ExportRequest& request) {
         } else if (const Table* table = FindTable(name)) {
             AddTable(*table, request);
         } else {
-            throw std::invalid_argument("\"" + name + "\" is no table (all, " + AllTableNames() + ")");
+            throw std::invalid_argument(UnknownWord(name, "table", AllTableNames()));
         }
         if (comma == std::string_view::npos) return;
         names.remove_prefix(comma + 1);

@@ -8,6 +8,7 @@
 #include "cli/InfoReport.h"
 #include "cli/Options.h"
 #include "cli/ProjectArguments.h"
+#include "cli/Suggest.h"
 #include "script/Border.h"
 
 namespace lumerin {
@@ -36,7 +37,7 @@ ProjectInfo Inspect(const InfoRequest& request, const ProjectName& project) {
 void ReadInfoFormat(const std::string& text, InfoRequest& request) {
     const std::string format = LowerCase(text);
     if (format != "text" && format != "json") {
-        throw std::invalid_argument("\"" + text + "\" is no format (text, json)");
+        throw std::invalid_argument(UnknownWord(text, "format", {"text", "json"}));
     }
     request.json = format == "json";
 }

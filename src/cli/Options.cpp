@@ -90,8 +90,7 @@ int ReadFormat(std::string_view text) {
     if (word == "text") return kFormatText;
     if (word == "pdf") return kFormatPdf;
     if (word == "excel") return kFormatSpreadsheet;
-    throw std::invalid_argument("\"" + std::string(text) + "\" is no format" +
-                                Suggestion(text, {"text", "pdf", "excel"}) + " (text, pdf, excel)");
+    throw std::invalid_argument(UnknownWord(text, "format", {"text", "pdf", "excel"}));
 }
 
 int ReadStartFormat(std::string_view text) {

@@ -6,6 +6,7 @@
 #include <stdexcept>
 
 #include "cli/EvaluationArguments.h"
+#include "cli/Suggest.h"
 #include "export/CsvWriter.h"
 #include "script/Border.h"
 
@@ -23,7 +24,9 @@ std::string FigureNames() {
 const FigureKind& RequireFigure(const std::string& name) {
     const FigureKind* figure = FindFigure(name);
     if (figure == nullptr) {
-        throw std::invalid_argument("\"" + name + "\" is no figure (" + FigureNames() + ")");
+        std::vector<std::string> names;
+        for (const FigureKind& known : AllFigures()) names.emplace_back(known.name);
+        throw std::invalid_argument(UnknownWord(name, "figure", names));
     }
     return *figure;
 }

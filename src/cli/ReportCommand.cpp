@@ -10,6 +10,7 @@
 #include "cli/EvaluationArguments.h"
 #include "cli/ProjectArguments.h"
 #include "cli/ReportDriver.h"
+#include "cli/Suggest.h"
 
 namespace lumerin {
 
@@ -71,12 +72,19 @@ void AddOnce(std::vector<Value>& values, Value value) {
     if (std::find(values.begin(), values.end(), value) == values.end()) values.push_back(std::move(value));
 }
 
+void RequireFormat(const std::string& word) {
+    const std::vector<std::string> formats{"text", "pdf", "excel", "xlsx"};
+    if (std::find(formats.begin(), formats.end(), LowerCase(word)) != formats.end()) return;
+    throw std::invalid_argument(UnknownWord(word, "format", formats));
+}
+
 ExitStatus RunReport(ReportArguments& arguments, std::ostream& out, std::ostream& err) {
     ReportRequest& request = arguments.request;
     for (const std::string& word : PartsOf(arguments.formats)) {
         if (LowerCase(word) == "xlsx") {
             request.workbook = true;
         } else {
+            RequireFormat(word);
             AddOnce(request.formats, ReadFormat(word));
         }
     }

@@ -53,4 +53,12 @@ std::string Suggestion(std::string_view given, const std::vector<std::string>& w
     return std::string("; do you mean ").append(before).append(nearest).append(after).append("?");
 }
 
+std::string UnknownWord(std::string_view given, std::string_view kind,
+                        const std::vector<std::string>& words) {
+    std::string all;
+    for (const std::string& word : words) all += (all.empty() ? "" : ", ") + word;
+    return "\"" + std::string(given) + "\" is no " + std::string(kind) + Suggestion(given, words) + " (" +
+           all + ")";
+}
+
 }  // namespace lumerin

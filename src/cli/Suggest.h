@@ -17,4 +17,7 @@ std::string NearestWord(std::string_view given, std::span<const std::string> wor
 std::string Suggestion(std::string_view given, const std::vector<std::string>& words,
                        std::string_view before = "", std::string_view after = "");
 
+// The text for the user: "xslx" is no format; do you mean xlsx? (text, pdf, excel, xlsx)
+std::string UnknownWord(std::string_view given, std::string_view kind, const std::vector<std::string>& words);
+
 }  // namespace lumerin

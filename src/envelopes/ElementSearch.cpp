@@ -56,7 +56,8 @@ void ElementSearch::Take(int loadCase, CaseForces forces) {
     const int slot = m_input.pier.SlotOf(loadCase);
     if (slot < 0 || slot >= m_results.classes) return;
     TakeHeads(loadCase, forces);
-    TakeRatios(loadCase, forces, &m_results.ratios[Index(slot) * Index(m_results.elements) * 2]);
+    // A substructure without elements has none.
+    TakeRatios(loadCase, forces, m_results.ratios.data() + Index(slot) * Index(m_results.elements) * 2);
     for (int e = 0; e < m_results.capElements; ++e) {
         const ElementForces element = ForcesOf(forces, m_results.firstCapElement + e);
         CapEnvelopeEnd* ends = &m_results.cap[(Index(slot) * Index(m_results.capElements) + Index(e)) * 2];

@@ -292,7 +292,13 @@ TEST_F(CommandLine, AWrongWordGetsTheNearestOne) {
         {"report --tabel axial", "do you mean --table?"},
         {"report pier --table axail", "do you mean axial?"},
         {"report pier --format exel", "do you mean excel?"},
+        {"report pier --format xslx", "do you mean xlsx? (text, pdf, excel, xlsx)"},
         {"report pier --footer tme", "do you mean time?"},
+        {"check pier --format jsn", "do you mean json?"},
+        {"info pier --format txt", "do you mean text?"},
+        {"export pier --table elements --format sqlit", "do you mean sqlite?"},
+        {"export pier --table element_cd", "do you mean element_dc?"},
+        {"plot pier cap-momment", "do you mean cap-moment?"},
         {"embedment pier --quantity latrl", "do you mean lateral?"}};
     for (const auto& [arguments, suggestion] : words) {
         const Outcome outcome = Run(arguments);
@@ -304,7 +310,7 @@ TEST_F(CommandLine, AWrongWordGetsTheNearestOne) {
 
 TEST_F(CommandLine, ManualPagesAreMadeOfEveryCommand) {
     for (const char* name : {"lumerin", "lumerin-report", "lumerin-check", "lumerin-info", "lumerin-export",
-                             "lumerin-embedment", "lumerin-drive"}) {
+                             "lumerin-plot", "lumerin-embedment", "lumerin-drive"}) {
         const fs::path page = fs::path(LUMERIN_BINARY_DIR) / "man" / (std::string(name) + ".1");
         const std::string text = Content(page);
         EXPECT_THAT(text, StartsWith(".TH ")) << name;
