@@ -52,12 +52,11 @@ ElementSearch::ElementSearch(const PierInput& input, int others) : m_input(input
 }
 
 void ElementSearch::Take(int loadCase, CaseForces forces) {
-    if (!m_input.selection.IsCaseSelected(loadCase)) return;
+    if (m_results.elements == 0 || !m_input.selection.IsCaseSelected(loadCase)) return;
     const int slot = m_input.pier.SlotOf(loadCase);
     if (slot < 0 || slot >= m_results.classes) return;
     TakeHeads(loadCase, forces);
-    // A substructure without elements has none.
-    TakeRatios(loadCase, forces, m_results.ratios.data() + Index(slot) * Index(m_results.elements) * 2);
+    TakeRatios(loadCase, forces, &m_results.ratios[Index(slot) * Index(m_results.elements) * 2]);
     for (int e = 0; e < m_results.capElements; ++e) {
         const ElementForces element = ForcesOf(forces, m_results.firstCapElement + e);
         CapEnvelopeEnd* ends = &m_results.cap[(Index(slot) * Index(m_results.capElements) + Index(e)) * 2];
