@@ -116,7 +116,8 @@ std::string ValueBranches(const CommandText& command) {
             answer = "compopt -o filenames; COMPREPLY=($(compgen -f -- \"$cur\"))";
         }
         for (const std::string& name : option.names) {
-            text += "        " + command.name + ':' + name + ") " + answer + "; return ;;\n";
+            text.append("        ").append(command.name).append(":").append(name).append(") ");
+            text.append(answer).append("; return ;;\n");
         }
     }
     return text;

@@ -24,7 +24,7 @@ constexpr int kFormatButtons[] = {IDC_FORMAT_EXCEL, IDC_FORMAT_PDF, IDC_FORMAT_T
 
 // The line with its severity in a colour.
 std::string PaintedLine(const Finding& finding, const std::ostream& err) {
-    const std::string line = LineOf(finding);
+    std::string line = LineOf(finding);
     const std::string word(SeverityName(finding.severity));
     if (!line.starts_with(word)) return line;
     return Painted(word, finding.severity == Severity::error ? Paint::red : Paint::yellow, err) +

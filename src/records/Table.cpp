@@ -21,7 +21,7 @@ void AppendShortest(std::string& out, Real value) {
         out += "nan";
         return;
     }
-    std::array<char, kLongestNumber> text;
+    std::array<char, kLongestNumber> text{};
     const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
     out.append(text.data(), end);
 }
@@ -86,7 +86,7 @@ void AppendNumber(std::string& out, double value) {
 
 double AsDouble(float value) {
     if (!std::isfinite(value)) return value;
-    std::array<char, kLongestNumber> text;
+    std::array<char, kLongestNumber> text{};
     const auto end = std::to_chars(text.data(), text.data() + text.size(), value).ptr;
     double real = 0.0;
     std::from_chars(text.data(), end, real);
