@@ -35,7 +35,10 @@ class ScriptDriver : public headless::Sink, public PlotModuleSink {
 
     void OnDialogOpened(headless::HeadlessDialog& dialog) override;
     MessageAnswer OnMessage(const headless::Message& message) override;
-    void OnOutputFailed(const std::string& path) override { m_failedOutputs.push_back(path); }
+    // A format that was refused leaves no path; the message about it was shown.
+    void OnOutputFailed(const std::string& path) override {
+        if (!path.empty()) m_failedOutputs.push_back(path);
+    }
     int OnShellOpen(const std::string& verb, const std::string& file, const std::string& parameters) override;
     PlotModuleResult OnPlotModule(const PlotModuleCall& call, std::string& systemText) override;
 
