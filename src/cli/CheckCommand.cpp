@@ -9,12 +9,12 @@
 
 #include "cli/CheckReport.h"
 #include "cli/EvaluationArguments.h"
-#include "cli/Options.h"
 #include "cli/ProjectArguments.h"
 #include "cli/Suggest.h"
 #include "cli/Terminal.h"
 #include "export/CsvWriter.h"
 #include "script/Border.h"
+#include "text/Lists.h"
 
 namespace lumerin {
 
@@ -87,9 +87,7 @@ class Checker {
         result.top = GreatestRatios(evaluation, m_request.top);
         result.findings = evaluation.Findings();
         result.cases = opened.project.data.FirstPier().m_nLoadCases;
-        for (int c = 0; c < result.cases; ++c) {
-            if (evaluation.Selection().IsCaseSelected(c)) ++result.chosen;
-        }
+        result.chosen = evaluation.Selection().SelectedCount(result.cases);
         if (m_csv) m_csv->Add(evaluation, m_request.units.value_or(result.units));
         if (m_request.units) ConvertForces(result, *m_request.units);
         const bool judged = !result.verdict.families.empty();

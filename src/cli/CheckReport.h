@@ -29,9 +29,8 @@ struct CheckResult {
 // Turns the forces of a result to another unit system.
 void ConvertForces(CheckResult& result, UnitSystem system);
 
-// "bridge.in  FAIL  D/C 1.027 at element 18 end I ...", and what it stands on.
-// `colour`: the verdict's word is coloured. `details`: families, pile heads, greatest ratios and findings
-// follow the line.
+// One line, "bridge.in  FAIL  D/C 1.027 at element 18 end I ..."; with `details`, families, pile heads,
+// greatest ratios and findings follow. `colour`: the verdict's word is coloured.
 void PrintCheck(const CheckResult& result, bool details, bool colour, std::ostream& out);
 // One JSON object on one line.
 void PrintCheckJson(const CheckResult& result, std::ostream& out);

@@ -24,6 +24,7 @@
 #include "session/Launch.h"
 #include "session/ReportControls.h"
 #include "text/Format.h"
+#include "text/Lists.h"
 
 namespace lumerin {
 

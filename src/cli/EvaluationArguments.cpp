@@ -6,8 +6,8 @@
 #include <stdexcept>
 #include <string>
 
-#include "cli/Options.h"
 #include "cli/Suggest.h"
+#include "text/Lists.h"
 
 namespace lumerin {
 
@@ -35,7 +35,7 @@ void AddCapacity(CLI::App& command, const std::string& option, std::optional<dou
 void ReadKnownClasses(const std::string& text, CaseChoice& cases) {
     const std::vector<std::string> names = {
         "strength", "service", "extreme", "fatigue", "load factor design", "service load design"};
-    for (const std::string& part : SplitList(text)) {
+    for (const std::string_view part : SplitList(text)) {
         try {
             ReadClasses(part, cases);
         } catch (const std::invalid_argument& fault) {

@@ -6,7 +6,6 @@
 #include <set>
 #include <stdexcept>
 
-#include "cli/Options.h"
 #include "cli/Suggest.h"
 #include "export/CsvWriter.h"
 #include "export/JsonLinesWriter.h"
@@ -14,6 +13,7 @@
 #include "export/WorkbookWriter.h"
 #include "framework/Backend.h"
 #include "text/Clock.h"
+#include "text/Lists.h"
 #include "text/Paths.h"
 
 namespace lumerin {

@@ -6,10 +6,10 @@
 #include <stdexcept>
 
 #include "cli/InfoReport.h"
-#include "cli/Options.h"
 #include "cli/ProjectArguments.h"
 #include "cli/Suggest.h"
 #include "script/Border.h"
+#include "text/Lists.h"
 
 namespace lumerin {
 

@@ -7,6 +7,7 @@
 #include "cli/Options.h"
 #include "cli/Terminal.h"
 #include "records/Table.h"
+#include "text/Lists.h"
 
 namespace lumerin {
 
@@ -101,8 +102,11 @@ std::vector<std::string> WordsOf(std::string_view command, std::string_view opti
         return names;
     }
     if (option == "--table") {
-        std::vector<std::string> names = SplitList(TableNames());
-        for (std::string& name : names) name.erase(0, name.find_first_not_of(' '));
+        const std::string list = TableNames();
+        std::vector<std::string> names;
+        for (const std::string_view name : SplitList(list)) {
+            names.emplace_back(name.substr(std::min(name.find_first_not_of(' '), name.size())));
+        }
         return names;
     }
     if (option == "--class") return {"strength", "service", "extreme", "fatigue"};

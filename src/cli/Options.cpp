@@ -11,6 +11,7 @@
 #include "session/Constants.h"
 #include "session/OutputFiles.h"
 #include "session/ReportControls.h"
+#include "text/Lists.h"
 
 namespace lumerin {
 
@@ -53,20 +54,10 @@ void ApplyOptions(const CommonOptions& options) {
     state.clock = time;
 }
 
-std::vector<std::string> SplitList(std::string_view text) {
-    std::vector<std::string> parts;
-    for (std::size_t from = 0; from <= text.size();) {
-        const std::size_t comma = std::min(text.find(',', from), text.size());
-        parts.emplace_back(text.substr(from, comma - from));
-        from = comma + 1;
-    }
-    return parts;
-}
-
 FooterChoice ReadFooter(std::string_view text) {
     FooterChoice parts{false, false, false, false};
     if (LowerCase(text) == "none") return parts;
-    for (const std::string& given : SplitList(text)) {
+    for (const std::string_view given : SplitList(text)) {
         const std::string part = LowerCase(given);
         if (part == "date") {
             parts.date = true;
@@ -77,7 +68,7 @@ FooterChoice ReadFooter(std::string_view text) {
         } else if (part == "filename") {
             parts.fileName = true;
         } else {
-            throw std::invalid_argument("\"" + given + "\" is no part of a footer" +
+            throw std::invalid_argument("\"" + std::string(given) + "\" is no part of a footer" +
                                         Suggestion(given, {"date", "time", "version", "filename"}) +
                                         " (date, time, version, filename, or none)");
         }
@@ -98,14 +89,6 @@ int ReadStartFormat(std::string_view text) {
     const char* end = text.data() + text.size();
     const auto [at, fault] = std::from_chars(text.data(), end, number);
     return fault == std::errc() && at == end ? number : ReadFormat(text);
-}
-
-std::string LowerCase(std::string_view text) {
-    std::string lower(text);
-    for (char& c : lower) {
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    }
-    return lower;
 }
 
 const TableName* FindTableName(std::string_view name) {

@@ -30,11 +30,6 @@ int ReadFormat(std::string_view text);
 // The same, or any number, as a host might pass it.
 int ReadStartFormat(std::string_view text);
 
-// The parts of a list between commas.
-std::vector<std::string> SplitList(std::string_view text);
-// With lower case letters in place of A to Z.
-std::string LowerCase(std::string_view text);
-
 // A table of the report dialog by its short name.
 struct TableName {
     const char* name = "";

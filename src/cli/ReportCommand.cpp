@@ -11,6 +11,7 @@
 #include "cli/ProjectArguments.h"
 #include "cli/ReportDriver.h"
 #include "cli/Suggest.h"
+#include "text/Lists.h"
 
 namespace lumerin {
 
@@ -62,7 +63,7 @@ void AddOutputOptions(CLI::App& command, ReportRequest& request) {
 std::vector<std::string> PartsOf(const std::vector<std::string>& lists) {
     std::vector<std::string> parts;
     for (const std::string& list : lists) {
-        for (std::string& part : SplitList(list)) parts.push_back(std::move(part));
+        for (const std::string_view part : SplitList(list)) parts.emplace_back(part);
     }
     return parts;
 }

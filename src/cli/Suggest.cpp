@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "cli/Options.h"
+#include "text/Lists.h"
 
 namespace lumerin {
 

@@ -92,8 +92,7 @@ void Cover::WriteProject() {
     line("Project", m_evaluation.Opened().name.name);
     line("Code", data.HasCombinations() ? std::string(FamilyName(first.m_nCodeFamily)) : std::string());
     line("Units", m_evaluation.Units() == UnitSystem::us ? "kips, feet, inches" : "kilonewtons, metres");
-    int chosen = 0;
-    for (int c = 0; c < first.m_nLoadCases; ++c) chosen += m_evaluation.Selection().IsCaseSelected(c) ? 1 : 0;
+    const int chosen = m_evaluation.Selection().SelectedCount(first.m_nLoadCases);
     line("Cases", std::to_string(chosen) + " of " + std::to_string(first.m_nLoadCases) + " converged ones");
     line("Made by", "lumerin " + std::string(ProgramVersion()));
     m_sheet.Gap();

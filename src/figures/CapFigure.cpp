@@ -8,7 +8,6 @@
 #include "figures/Frame.h"
 #include "figures/RatioColour.h"
 #include "framework/Index.h"
-#include "records/TableRows.h"
 
 namespace lumerin {
 
@@ -108,11 +107,6 @@ class CapFigure {
         m_greatest = std::max(m_greatest, static_cast<double>(extreme.value));
     }
 
-    std::string CaseText(int loadCase) const {
-        const std::string_view state = LimitStateIn(m_evaluation.Data(), loadCase);
-        return "case " + std::to_string(loadCase + 1) + (state.empty() ? "" : " " + std::string(state));
-    }
-
     void DrawPanel(const CapPanel& panel, double top) {
         const Scale y(m_least, m_greatest, top + kPanelHeight, top, 6, true);
         DrawYAxis(m_svg, y, kLeft, kWidth - kRight, {});
@@ -147,7 +141,7 @@ class CapFigure {
         if (!std::isfinite(mark.value)) return;
         const double x = m_x.At(mark.x), at = y.At(mark.value), up = mark.maximum ? -1.0 : 1.0;
         m_svg.BeginGroup(mark.place + (mark.maximum ? " max " : " min ") + NumberText(mark.value) + ", " +
-                         CaseText(mark.loadCase));
+                         CaseText(m_evaluation, mark.loadCase));
         const std::array<Point, 3> triangle{{{x, at}, {x - 4.0, at - up * 7.0}, {x + 4.0, at - up * 7.0}}};
         m_svg.Polygon(triangle, {"#ffffff", kMark, 1.0, {}});
         m_svg.EndGroup();
@@ -169,7 +163,7 @@ class CapFigure {
         DrawPeak(least->x, least->least, y, 17.0);
     }
     void DrawPeak(double x, const EndExtreme& extreme, const Scale& y, double shift) {
-        const std::string text = RoundedText(extreme.value) + ", " + CaseText(extreme.loadCase);
+        const std::string text = RoundedText(extreme.value) + ", " + CaseText(m_evaluation, extreme.loadCase);
         const double half = TextWidth(text, kSmall, true) / 2.0;
         const double at = y.At(extreme.value);
         const double centre = std::clamp(m_x.At(x), kLeft + half, kWidth - kRight - half);

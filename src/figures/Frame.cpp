@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "framework/Index.h"
+#include "records/TableRows.h"
 #include "tables/Words.h"
 #include "text/Format.h"
 
@@ -26,12 +27,14 @@ std::string SubstructureText(const Evaluation& evaluation, int substructure) {
 
 std::string CasesText(const Evaluation& evaluation) {
     const int cases = evaluation.Data().FirstPier().m_nLoadCases;
-    int chosen = 0;
-    for (int c = 0; c < cases; ++c) {
-        if (evaluation.Selection().IsCaseSelected(c)) ++chosen;
-    }
+    const int chosen = evaluation.Selection().SelectedCount(cases);
     if (chosen < cases) return std::to_string(chosen) + " of " + std::to_string(cases) + " cases";
     return cases == 1 ? "1 case" : "all " + std::to_string(cases) + " cases";
+}
+
+std::string CaseText(const Evaluation& evaluation, int loadCase) {
+    const std::string_view state = LimitStateIn(evaluation.Data(), loadCase);
+    return "case " + std::to_string(loadCase + 1) + (state.empty() ? "" : " " + std::string(state));
 }
 
 std::string NumberText(double value) {

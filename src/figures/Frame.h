@@ -30,6 +30,8 @@ std::string ShortName(const Evaluation& evaluation);
 std::string SubstructureText(const Evaluation& evaluation, int substructure);
 // "cases 1-26", "14 of 26 cases"
 std::string CasesText(const Evaluation& evaluation);
+// "case 16 GROUP-VII"; `loadCase` from 0.
+std::string CaseText(const Evaluation& evaluation, int loadCase);
 std::string NumberText(double value);   // the shortest text
 std::string RoundedText(double value);  // a force: no decimals from 100 on, else one or two
 

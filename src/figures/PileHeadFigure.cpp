@@ -6,7 +6,6 @@
 #include "figures/Frame.h"
 #include "figures/RatioColour.h"
 #include "framework/Index.h"
-#include "records/TableRows.h"
 
 namespace lumerin {
 
@@ -94,26 +93,22 @@ class PileHeadFigure {
     double Step() const { return (kWidth - kRight - kLeft) / static_cast<double>(m_heads.size()); }
     double Middle(std::size_t i) const { return kLeft + (static_cast<double>(i) + 0.5) * Step(); }
 
-    std::string CaseText(const EndExtreme& extreme) const {
-        const std::string_view state = LimitStateIn(m_evaluation.Data(), extreme.loadCase);
-        return "case " + std::to_string(extreme.loadCase + 1) +
-               (state.empty() ? "" : " " + std::string(state));
-    }
-
     void DrawPile(std::size_t i) {
         const Head& head = m_heads[i];
         const double width = std::clamp(Step() * 0.5, 1.0, 26.0), left = Middle(i) - width / 2.0;
         const double top = m_y.At(Finite(head.greatest)), bottom = m_y.At(Finite(head.least));
         const std::string number = std::to_string(head.pile);
         m_svg.BeginGroup("pile " + number + ": " + NumberText(Finite(head.least)) + " (" +
-                         CaseText(head.least) + ") to " + NumberText(Finite(head.greatest)) + " (" +
-                         CaseText(head.greatest) + ")");
+                         CaseText(m_evaluation, head.least.loadCase) + ") to " +
+                         NumberText(Finite(head.greatest)) + " (" +
+                         CaseText(m_evaluation, head.greatest.loadCase) + ")");
         m_svg.Rect(left, top, width, std::max(bottom - top, 1.0), {kBand, kLine, 1.0, {}});
         m_svg.EndGroup();
         const double base = kTop + kPlotHeight;
         if (head.ratio.loadCase >= 0) {
             m_svg.BeginGroup("pile " + number + " head: D/C " +
-                             NumberText(static_cast<double>(head.ratio.value)) + ", " + CaseText(head.ratio));
+                             NumberText(static_cast<double>(head.ratio.value)) + ", " +
+                             CaseText(m_evaluation, head.ratio.loadCase));
             DrawRatio(m_svg, head.ratio.value, m_evaluation.Bounds().ratio,
                       {left, base + 27.0, width, kStripHeight});
             m_svg.EndGroup();
@@ -144,7 +139,8 @@ class PileHeadFigure {
         DrawPeak(static_cast<std::size_t>(least - m_heads.begin()), least->least, 15.0);
     }
     void DrawPeak(std::size_t i, const EndExtreme& extreme, double shift) {
-        const std::string text = RoundedText(Finite(extreme)) + ", " + CaseText(extreme);
+        const std::string text =
+            RoundedText(Finite(extreme)) + ", " + CaseText(m_evaluation, extreme.loadCase);
         const double half = TextWidth(text, kSmall, true) / 2.0;
         m_svg.Text(
             text,

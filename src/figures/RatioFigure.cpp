@@ -6,7 +6,6 @@
 #include "figures/Frame.h"
 #include "figures/RatioColour.h"
 #include "framework/Index.h"
-#include "records/TableRows.h"
 #include "tables/Words.h"
 
 namespace lumerin {
@@ -66,9 +65,8 @@ std::vector<MemberRatio> MembersOf(const Evaluation& evaluation, std::size_t p) 
 
 // "1.05 over the limit, Col 1 CL, case 16 GROUP-VII"
 std::string LabelOf(const Evaluation& evaluation, const MemberRatio& member) {
-    const std::string_view state = LimitStateIn(evaluation.Data(), member.loadCase);
-    return RatioLabel(member.ratio, evaluation.Bounds().ratio) + ", " + member.place + ", case " +
-           std::to_string(member.loadCase + 1) + (state.empty() ? "" : " " + std::string(state));
+    return RatioLabel(member.ratio, evaluation.Bounds().ratio) + ", " + member.place + ", " +
+           CaseText(evaluation, member.loadCase);
 }
 
 // The widest label; bars leave that much room on the right.

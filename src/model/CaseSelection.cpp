@@ -20,6 +20,11 @@ bool CaseSelection::IsFirstPierCaseSelected(const CDataSet& data, int index) con
            IsCaseSelected(index);
 }
 
+int CaseSelection::SelectedCount(int cases) const {
+    const auto first = m_selected.begin();
+    return static_cast<int>(std::count(first, first + std::clamp(cases, 0, CaseCount()), 1));
+}
+
 void CaseSelection::SetCaseSelected(int index, bool selected) {
     if (index >= 0 && index < CaseCount()) m_selected[Index(index)] = selected ? 1 : 0;
 }

@@ -28,6 +28,8 @@ class CaseSelection {
     // The same for the cases of the first substructure, which the dialogs list; others can have more of them.
     bool IsFirstPierCaseSelected(const CDataSet& data, int index) const;
     void SetCaseSelected(int index, bool selected);
+    // How many of the first `cases` cases are selected.
+    int SelectedCount(int cases) const;
     int CaseCount() const { return static_cast<int>(m_selected.size()); }
 
     // Finds the first selected case of each limit class again, by the cases of the first substructure. To be

@@ -3,11 +3,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <charconv>
 #include <stdexcept>
 
 #include "framework/Index.h"
+#include "text/Lists.h"
 #include "text/Utf8.h"
 
 namespace lumerin {
@@ -17,26 +17,6 @@ namespace {
 constexpr std::array<std::string_view, kLimitClasses> kLrfdClasses{"strength", "service", "extreme",
                                                                    "fatigue"};
 constexpr std::array<std::string_view, 2> kAremaClasses{"load factor design", "service load design"};
-
-char Lower(char letter) {
-    return static_cast<char>(std::tolower(static_cast<unsigned char>(letter)));
-}
-
-std::string Lower(std::string_view text) {
-    std::string lower(text);
-    std::ranges::transform(lower, lower.begin(), [](char letter) { return Lower(letter); });
-    return lower;
-}
-
-std::vector<std::string_view> SplitList(std::string_view text) {
-    std::vector<std::string_view> parts;
-    for (std::size_t from = 0; from <= text.size();) {
-        const std::size_t comma = std::min(text.find(',', from), text.size());
-        parts.push_back(text.substr(from, comma - from));
-        from = comma + 1;
-    }
-    return parts;
-}
 
 // A number of digits alone.
 bool ReadNumber(std::string_view text, int& number) {
@@ -87,9 +67,10 @@ bool Fits(std::string_view text, std::string_view pattern) {
 }
 
 bool FitsAny(const CLoadCase& loadCase, const std::vector<std::string>& patterns) {
-    const std::string state = Lower(ToUtf8(loadCase.m_sLimitState)), title = Lower(ToUtf8(loadCase.m_sName));
+    const std::string state = LowerCase(ToUtf8(loadCase.m_sLimitState)),
+                      title = LowerCase(ToUtf8(loadCase.m_sName));
     return std::ranges::any_of(patterns, [&](const std::string& pattern) {
-        return Fits(state, Lower(pattern)) || Fits(title, Lower(pattern));
+        return Fits(state, LowerCase(pattern)) || Fits(title, LowerCase(pattern));
     });
 }
 
@@ -131,7 +112,7 @@ void ReadCases(std::string_view text, CaseChoice& choice) {
 
 void ReadClasses(std::string_view text, CaseChoice& choice) {
     for (const std::string_view part : SplitList(text)) {
-        const std::string name = Lower(part);
+        const std::string name = LowerCase(part);
         const bool known = std::ranges::find(kLrfdClasses, name) != kLrfdClasses.end() ||
                            std::ranges::find(kAremaClasses, name) != kAremaClasses.end();
         if (!known) {

@@ -151,14 +151,6 @@ std::string TimeOf(const std::string& path) {
     return {text.data(), Index(length)};
 }
 
-long long CountChosen(const Evaluation& evaluation) {
-    long long chosen = 0;
-    for (int c = 0; c < evaluation.Data().FirstPier().m_nLoadCases; ++c) {
-        if (evaluation.Selection().IsCaseSelected(c)) ++chosen;
-    }
-    return chosen;
-}
-
 void ProjectRows(const Evaluation& evaluation, const RowTaker& take) {
     const CDataSet& data = evaluation.Data();
     if (data.IsPierless()) return;
@@ -168,7 +160,9 @@ void ProjectRows(const Evaluation& evaluation, const RowTaker& take) {
     row.OwnText(TypesOf(data));
     row.Text(data.HasCombinations() ? FamilyName(first.m_nCodeFamily) : std::string_view{});
     row.Text(UnitSystemName(evaluation.Units())).Integer(first.m_nAnalysedCases);
-    row.Integer(first.m_nLoadCases).Integer(CountChosen(evaluation)).Number(evaluation.Bounds().ratio);
+    row.Integer(first.m_nLoadCases)
+        .Integer(evaluation.Selection().SelectedCount(first.m_nLoadCases))
+        .Number(evaluation.Bounds().ratio);
     const Verdict verdict = Judge(evaluation);
     if (const FamilyVerdict* worst = verdict.Worst()) {
         row.Number(worst->worst.ratio);

@@ -75,9 +75,7 @@ long long PierRows(TableId table, const CPier& pier, Terms t) {
 }
 
 long long EachCaseRows(const CPier& pier, const CaseSelection& selection) {
-    long long selected = 0;
-    for (int c = 0; c < static_cast<int>(pier.m_LoadCases.size()); ++c)
-        selected += selection.IsCaseSelected(c) ? 1 : 0;
+    const long long selected = selection.SelectedCount(static_cast<int>(pier.m_LoadCases.size()));
     return static_cast<long long>(pier.m_Piles.size()) * selected + 5;
 }
 

@@ -91,6 +91,18 @@ TEST(LimitClasses, ArePresentWithAFirstCase) {
     EXPECT_FALSE(selection.IsClassPresent(LimitClass{4}));
 }
 
+TEST(CaseSelection, CountsTheSelectedCasesAmongTheFirst) {
+    OnePier project({.cases = 4});
+    CaseSelection selection(project.data);
+    EXPECT_EQ(selection.SelectedCount(4), 4);
+    selection.SetCaseSelected(1, false);
+    EXPECT_EQ(selection.SelectedCount(1), 1);
+    EXPECT_EQ(selection.SelectedCount(2), 1);
+    // More than there are, and none.
+    EXPECT_EQ(selection.SelectedCount(9), 3);
+    EXPECT_EQ(selection.SelectedCount(-1), 0);
+}
+
 TEST(LimitClasses, ACaseIsSearchedInItsClassOrWithoutCombinationsInTheFirstSlot) {
     OnePier project({.cases = 2});
     SetClass(project.pier, 0, kExtreme);
