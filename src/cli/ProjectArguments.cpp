@@ -2,13 +2,20 @@
 #include "cli/ProjectArguments.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
+#include <system_error>
+
+#include "framework/File.h"
 
 namespace lumerin {
 
 namespace {
+
+namespace fs = std::filesystem;
 
 // Empty lines are passed over; a list that was written on Windows ends its lines with two characters.
 void ReadLines(std::istream& list, std::vector<std::string>& names) {
@@ -18,14 +25,55 @@ void ReadLines(std::istream& list, std::vector<std::string>& names) {
     }
 }
 
+// The projects in the folder and the folders in it, sorted. A folder that cannot be listed stays in the list
+// under its own name: it is reported as a project that was not loaded, and the others are done. Links to
+// folders are not followed, so that a search always ends.
+void AddProjectsBelow(const fs::path& folder, std::vector<std::string>& names) {
+    std::vector<fs::path> entries;
+    std::error_code fault;
+    for (fs::directory_iterator entry(folder, fault), end; !fault && entry != end; entry.increment(fault)) {
+        entries.push_back(entry->path());
+    }
+    if (fault) {
+        names.push_back(folder.string());
+        return;
+    }
+    std::sort(entries.begin(), entries.end());
+    for (const fs::path& entry : entries) {
+        const std::string path = entry.string();
+        std::error_code ignored;
+        const bool isFolder = fs::is_directory(fs::symlink_status(entry, ignored));
+        const bool isInputFile = IsInputFile(path);
+        if (isInputFile && (!isFolder || ProjectExists(ProjectName(path)))) {
+            names.push_back(path);
+        } else if (isFolder) {
+            AddProjectsBelow(entry, names);
+        }
+    }
+}
+
+// A name of the user as projects: itself, or those of a folder where it is no project.
+void AddName(const std::string& name, std::vector<std::string>& names) {
+    if (!IsFolder(name) || ProjectExists(ProjectName(name))) {
+        names.push_back(name);
+        return;
+    }
+    const std::size_t before = names.size();
+    AddProjectsBelow(name, names);
+    if (names.size() == before) names.push_back(name);
+}
+
 }  // namespace
 
 void AddProjectArguments(CLI::App& command, ProjectArguments& arguments) {
-    command.add_option("PROJECT", arguments.given, "A project: its input file, with or without .in")
+    command
+        .add_option("PROJECT", arguments.given,
+                    "A project: its input file, with or without .in; or a folder, for all projects in it and "
+                    "in the folders below (*.in)")
         ->type_name("");
     command
         .add_option("--files-from", arguments.listFile,
-                    "Read more projects from a file, one a line; - for standard input")
+                    "Read more projects and folders from a file, one a line; - for standard input")
         ->type_name("FILE");
 }
 
@@ -40,12 +88,12 @@ std::vector<ProjectName> ReadProjects(const ProjectArguments& arguments) {
         if (list.bad()) throw std::invalid_argument("the list " + arguments.listFile + " could not be read");
     }
     if (names.empty()) throw std::invalid_argument("no project is given");
-    std::vector<ProjectName> projects;
+    std::vector<std::string> found;
     for (const std::string& name : names) {
         if (name.empty()) throw std::invalid_argument("the name of a project is empty");
-        projects.emplace_back(name);
+        AddName(name, found);
     }
-    return projects;
+    return {found.begin(), found.end()};
 }
 
 }  // namespace lumerin

@@ -21,9 +21,10 @@ struct ProjectArguments {
 // The variables must live as long as the parser.
 void AddProjectArguments(CLI::App& command, ProjectArguments& arguments);
 
-// The projects in order, first those of the command line. Throws std::invalid_argument with a text for the
-// user when there is none, a name is empty, or the list cannot be read. Whether a project exists is not
-// looked at.
+// The projects in order, first those of the command line; those of a folder are sorted by their paths. Throws
+// std::invalid_argument with a text for the user when there is none, a name is empty, or the list cannot be
+// read. Whether a project exists is not looked at; a folder without projects stays in the list, so that it is
+// reported in its place.
 std::vector<ProjectName> ReadProjects(const ProjectArguments& arguments);
 
 }  // namespace lumerin

@@ -101,7 +101,7 @@ void AddWorkbook(const ReportRequest& options, const ProjectName& project, Proje
 ProjectReport ReportProject(const ReportRequest& options, const ProjectName& project,
                             const std::string& place, std::ostream& out, std::ostream& err) {
     if (!ProjectExists(project)) {
-        const std::string text = "no project " + project.inputFile;
+        const std::string text = MissingText(project);
         PrintLine(err, "lumerin: " + text);
         return {kExitNotLoaded, {}, {ForUser(text)}, {}};
     }

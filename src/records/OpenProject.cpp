@@ -16,12 +16,6 @@ namespace {
 constexpr std::string_view kInputExtension = ".in";
 constexpr const char* kSubstructuresSuffix = ".TWR";
 
-bool EndsWithInputExtension(std::string_view given) {
-    if (given.size() <= kInputExtension.size()) return false;
-    const std::string_view end = given.substr(given.size() - kInputExtension.size());
-    return end[0] == '.' && (end[1] == 'i' || end[1] == 'I') && (end[2] == 'n' || end[2] == 'N');
-}
-
 class MessageList : public Messages {
   public:
     explicit MessageList(std::vector<std::string>& texts) : m_texts(texts) {}
@@ -33,8 +27,14 @@ class MessageList : public Messages {
 
 }  // namespace
 
+bool IsInputFile(std::string_view name) {
+    if (name.size() <= kInputExtension.size()) return false;
+    const std::string_view end = name.substr(name.size() - kInputExtension.size());
+    return end[0] == '.' && (end[1] == 'i' || end[1] == 'I') && (end[2] == 'n' || end[2] == 'N');
+}
+
 ProjectName::ProjectName(std::string_view given) {
-    const bool hasExtension = EndsWithInputExtension(given);
+    const bool hasExtension = IsInputFile(given);
     basePath = given.substr(0, given.size() - (hasExtension ? kInputExtension.size() : 0));
     inputFile = hasExtension ? std::string(given) : basePath + std::string(kInputExtension);
     name = ToUtf8(basePath);
@@ -44,8 +44,13 @@ bool ProjectExists(const ProjectName& name) {
     return !FindFileAnyCase(ProjectFile(name.basePath, kSubstructuresSuffix)).empty();
 }
 
+std::string MissingText(const ProjectName& name) {
+    if (!IsFolder(name.basePath)) return "no project " + name.inputFile;
+    return "the folder " + name.basePath + " has no project (*.in) that can be read";
+}
+
 std::unique_ptr<OpenProject> LoadByName(const ProjectName& name) {
-    if (!ProjectExists(name)) throw std::runtime_error("no project " + ToUtf8(name.inputFile));
+    if (!ProjectExists(name)) throw std::runtime_error(ToUtf8(MissingText(name)));
     auto opened = std::make_unique<OpenProject>(OpenProject{name, {}, {}});
     MessageList messages(opened->messages);
     try {

@@ -10,6 +10,9 @@
 
 namespace lumerin {
 
+// Whether the name ends with .in, in letters of either case.
+bool IsInputFile(std::string_view name);
+
 // How a user names a project: by its input file ("pier.in") or without the extension ("pier"). Any other
 // name keeps all its letters, so that "pierXYZ" is never the project "pier".
 struct ProjectName {
@@ -23,6 +26,8 @@ struct ProjectName {
 // A project exists when it has the file that counts its substructures, whether or not its input file is still
 // there.
 bool ProjectExists(const ProjectName& name);
+// What a user reads about a project that does not exist; in the bytes of the name.
+std::string MissingText(const ProjectName& name);
 
 // A project that was loaded, with what was reported meanwhile.
 struct OpenProject {

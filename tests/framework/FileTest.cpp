@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <array>
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 
@@ -56,6 +57,30 @@ TEST_F(FileTest, AnExactNameGoesBeforeOthersAndByteOrderDecidesAmongThem) {
     EXPECT_EQ(FindFileAnyCase(lower), lower);
     EXPECT_EQ(FindFileAnyCase(upper), upper);
     EXPECT_EQ(FindFileAnyCase(Path("a.Plf")), upper);
+}
+
+// The names of a large folder that has not changed for a while are kept.
+TEST_F(FileTest, ALargeFolderHasTheNamesOfTheMoment) {
+    for (int i = 0; i < 400; ++i) Write("Sub/p" + std::to_string(i) + ".PLF", "x");
+    const auto settle = [this] {
+        fs::last_write_time(Path("Sub"), fs::file_time_type::clock::now() - std::chrono::hours(1));
+    };
+    settle();
+    for (int again = 0; again < 2; ++again) {
+        EXPECT_EQ(FindFileAnyCase(Path("Sub/P17.plf")), Path("Sub/p17.PLF"));
+        EXPECT_EQ(FindFileAnyCase(Path("Sub/P17.pl")), "");
+        EXPECT_EQ(FindFileAnyCase(Path("Sub/P400.plf")), "");
+    }
+    const std::string late = Write("Sub/p400.PLF", "x");
+    Write("Sub/P17.PLF", "x");
+    EXPECT_EQ(FindFileAnyCase(Path("Sub/P400.plf")), late);
+    fs::last_write_time(Path("Sub"), fs::file_time_type::clock::now() - std::chrono::minutes(1));
+    for (int again = 0; again < 2; ++again) {
+        EXPECT_EQ(FindFileAnyCase(Path("Sub/P400.plf")), late);
+        EXPECT_EQ(FindFileAnyCase(Path("Sub/P17.plf")), Path("Sub/P17.PLF"));  // the first in byte order
+    }
+    fs::remove(late);
+    EXPECT_EQ(FindFileAnyCase(Path("Sub/P400.plf")), "");
 }
 
 TEST_F(FileTest, ReadsSeeksAndReturnsItsLength) {
