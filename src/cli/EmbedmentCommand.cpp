@@ -13,7 +13,7 @@
 #include "cli/OutputPlan.h"
 #include "cli/Progress.h"
 #include "cli/ScriptDriver.h"
-#include "cli/Suggest.h"
+#include "cli/StudyArguments.h"
 #include "embedment/dialog/MPTEDlg.h"
 #include "framework/Index.h"
 #include "framework/WholeFile.h"
@@ -24,7 +24,6 @@
 #include "session/Launch.h"
 #include "session/ReportControls.h"
 #include "text/Format.h"
-#include "text/Lists.h"
 
 namespace lumerin {
 
@@ -59,14 +58,6 @@ bool WritePictureFile(const std::string& path, const std::string& picture) {
 }
 
 }  // namespace
-
-int ReadEnvelope(std::string_view text) {
-    const std::string word = LowerCase(text);
-    if (word == "max") return 0;
-    if (word == "min") return 1;
-    throw std::invalid_argument("\"" + std::string(text) + "\" is no envelope" +
-                                Suggestion(text, {"max", "min"}) + " (max, min)");
-}
 
 EmbedmentDriver::EmbedmentDriver(const EmbedmentOptions& options, std::ostream& out, std::ostream& err)
     : m_options(options), m_out(out), m_err(err) {}
@@ -110,7 +101,7 @@ void EmbedmentDriver::DriveStudy(headless::HeadlessDialog& dialog, const CMPTEDl
     // A message while the dialog opens means that the study is incomplete.
     if (m_messages > 0) m_status = Worse(m_status, kExitIncomplete);
     bool isFirst = true;
-    for (const bool envelope : Views()) {
+    for (const bool envelope : m_options.view.Curves()) {
         if (!ChooseView(dialog, envelope)) return;
         if (!isFirst) m_out << '\n';
         PrintTable(dialog, study, envelope);
@@ -124,22 +115,16 @@ void EmbedmentDriver::DriveStudy(headless::HeadlessDialog& dialog, const CMPTEDl
     m_out.flush();
 }
 
-std::vector<bool> EmbedmentDriver::Views() const {
-    if (m_options.envelope < 0) return {false};
-    if (m_options.hasCase) return {true, false};
-    return {true};
-}
-
 bool EmbedmentDriver::ChooseView(headless::HeadlessDialog& dialog, bool envelope) {
     const int before = m_messages;
     if (envelope) {
         dialog.Click(IDC_STUDY_ENVELOPE);
-        dialog.SelectEntry(IDC_STUDY_ENVELOPE_MODE, m_options.envelope);
+        dialog.SelectEntry(IDC_STUDY_ENVELOPE_MODE, m_options.view.envelope);
     } else {
         dialog.Click(IDC_STUDY_INDIVIDUAL);
-        dialog.TypeText(IDC_STUDY_CASE, std::to_string(m_options.loadCase));
+        dialog.TypeText(IDC_STUDY_CASE, std::to_string(m_options.view.loadCase));
     }
-    dialog.SelectEntry(IDC_STUDY_QUANTITY, m_options.quantity);
+    dialog.SelectEntry(IDC_STUDY_QUANTITY, m_options.view.quantity);
     if (m_messages == before) return true;
     m_status = Worse(m_status, kExitUsage);
     return false;
@@ -147,17 +132,7 @@ bool EmbedmentDriver::ChooseView(headless::HeadlessDialog& dialog, bool envelope
 
 // The dialog's own title names the single case, also for an envelope.
 std::string EmbedmentDriver::NameOf(const CMPTEDlg& study, bool envelope) const {
-    if (envelope) return m_options.envelope == 0 ? "Max Envelope" : "Min Envelope";
-    const std::string title = study.BuildPlotTitle(m_options.loadCase, m_options.quantity);
-    return title.substr(0, title.find(" - "));
-}
-
-std::string EmbedmentDriver::TitleOf(const CMPTEDlg& study) const {
-    std::string title;
-    for (const bool envelope : Views()) {
-        title += (title.empty() ? "" : ", ") + NameOf(study, envelope);
-    }
-    return title + " - Embedment vs " + kQuantityNames.at(Index(m_options.quantity));
+    return StudyCurveName(m_options.view, envelope, study.HasCombinations());
 }
 
 void EmbedmentDriver::PrintTable(headless::HeadlessDialog& dialog, const CMPTEDlg& study, bool envelope) {
@@ -166,8 +141,8 @@ void EmbedmentDriver::PrintTable(headless::HeadlessDialog& dialog, const CMPTEDl
     Rows rows;
     for (int row = 0; row < grid->grid->RowCount(); ++row) rows.push_back(grid->grid->RowTexts(row));
     const std::vector<std::size_t> widths = ColumnWidths(rows);
-    m_out << NameOf(study, envelope) << " - Embedment vs " << kQuantityNames.at(Index(m_options.quantity))
-          << '\n';
+    m_out << NameOf(study, envelope) << " - Embedment vs "
+          << kQuantityNames.at(Index(m_options.view.quantity)) << '\n';
     for (const auto& row : rows) {
         std::string line;
         for (std::size_t i = 0; i < row.size(); ++i) {
@@ -178,33 +153,20 @@ void EmbedmentDriver::PrintTable(headless::HeadlessDialog& dialog, const CMPTEDl
     }
 }
 
-StudyCurve EmbedmentDriver::CurveOf(const CMPTEDlg& study, bool envelope) const {
-    StudyCurve curve{NameOf(study, envelope), {}};
-    const CEmbedmentResults& results = study.m_pResults;
-    for (int trial = 0; trial < results.GetTrialCount(); ++trial) {
-        StudyPoint point{trial + 1, !results.IsTrialIncomplete(trial), results.GetEmbedment(trial)};
-        int loadCase = m_options.loadCase - 1;
-        if (envelope) loadCase = study.GetEnvelopePoint(trial, m_options.quantity, m_options.envelope).nCase;
-        point.value = results.GetValue(trial, loadCase, m_options.quantity);
-        point.pile = results.GetLocation(trial, loadCase, m_options.quantity);
-        point.loadCase = loadCase + 1;
-        curve.points.push_back(point);
-    }
-    return curve;
-}
-
 StudyCurve EmbedmentDriver::HeldCurve(const CMPTEDlg& study) const {
-    if (m_options.envelope < 0) return CurveOf(study, false);
-    StudyCurve curve = CurveOf(study, true);
     const CEmbedmentResults& results = study.m_pResults;
+    const bool isEnvelope = m_options.view.envelope >= 0;
+    StudyCurve curve =
+        StudyCurveOf(results, study.Cases(), m_options.view, isEnvelope, study.HasCombinations());
+    if (!isEnvelope) return curve;
     for (StudyPoint& point : curve.points) {
         // A component of the displacement can be greatest in either direction.
         for (const int mode : {0, 1}) {
-            const CEnvelopePoint end = study.GetEnvelopePoint(point.trial - 1, m_options.quantity, mode);
+            const CEnvelopePoint end = study.GetEnvelopePoint(point.trial - 1, m_options.view.quantity, mode);
             if (std::fabs(end.dValue) <= std::fabs(point.value)) continue;
             point.value = end.dValue;
             point.loadCase = end.nCase + 1;
-            point.pile = results.GetLocation(point.trial - 1, end.nCase, m_options.quantity);
+            point.pile = results.GetLocation(point.trial - 1, end.nCase, m_options.view.quantity);
         }
     }
     return curve;
@@ -220,9 +182,9 @@ void EmbedmentDriver::PrintAnswer(const CMPTEDlg& study) {
                ", case " + std::to_string(point.loadCase) + ", pile " + std::to_string(point.pile);
     };
     m_out << '\n'
-          << kQuantityNames.at(Index(m_options.quantity)) << " of at most "
+          << kQuantityNames.at(Index(m_options.view.quantity)) << " of at most "
           << FormatGeneral(*m_options.maxDisplacement) << displacement << ", "
-          << (m_options.envelope < 0 ? NameOf(study, false) : "all cases") << '\n';
+          << (m_options.view.envelope < 0 ? NameOf(study, false) : "all cases") << '\n';
     if (answer.shortest) {
         m_out << "  Shortest tried embedment that holds: " << number(answer.shortest->embedment, 2) << length
               << " (" << trial(*answer.shortest) << ")\n";
@@ -247,18 +209,13 @@ void EmbedmentDriver::PrintAnswer(const CMPTEDlg& study) {
 }
 
 void EmbedmentDriver::WritePicture(const CMPTEDlg& study) {
-    std::vector<StudyCurve> curves;
-    for (const bool envelope : Views()) curves.push_back(CurveOf(study, envelope));
-    std::string missing;
-    for (const StudyPoint& point : curves.front().points) {
-        if (point.isComplete && std::isfinite(point.value)) continue;
-        missing += (missing.empty() ? "" : ", ") + std::to_string(point.trial);
-    }
+    const StudyView& view = m_options.view;
+    const std::vector<StudyCurve> curves =
+        StudyCurvesOf(study.m_pResults, study.Cases(), view, study.HasCombinations());
     // No change of the status: the table says so too.
+    const std::string missing = TrialsWithoutValue(curves.front());
     if (!missing.empty()) Fail(kExitDone, "the picture has a gap for the incomplete trials " + missing);
-    const char* const unit = study.m_nUnits == 0 ? "(ft)" : "(m)";
-    const StudyLabels labels{TitleOf(study), std::string("Embedment Length ") + unit,
-                             study.BuildYLabel(m_options.quantity)};
+    const StudyLabels labels = StudyLabelsOf(view, study.HasCombinations(), study.m_nUnits);
     if (WritePictureFile(m_options.picture, StudyPicture(labels, curves))) {
         m_written.insert(m_written.begin(), m_options.picture);
     } else {
@@ -319,21 +276,19 @@ constexpr const char* kEmbedmentFooter =
 
 struct EmbedmentArguments {
     EmbedmentOptions options;
-    std::string project, envelope, quantity;
+    std::string project;
 };
 
 ExitStatus RunEmbedmentCommand(EmbedmentArguments& arguments, std::ostream& out, std::ostream& err) {
     EmbedmentOptions& options = arguments.options;
-    if (!arguments.envelope.empty()) options.envelope = ReadEnvelope(arguments.envelope);
-    if (!arguments.quantity.empty()) options.quantity = ReadQuantity(arguments.quantity);
     if (options.maxDisplacement) {
-        if (options.quantity > kLateralY) {
+        if (options.view.quantity > kLateralY) {
             throw std::invalid_argument("--max-displacement holds displacements, not axial forces");
         }
         if (!(*options.maxDisplacement > 0.0)) {
             throw std::invalid_argument("--max-displacement takes a number that is greater than 0");
         }
-        if (!options.hasCase && options.envelope < 0) options.envelope = 0;
+        if (!options.view.hasCase && options.view.envelope < 0) options.view.envelope = 0;
     }
     const ProjectName project(arguments.project);
     options.project = project.inputFile;
@@ -351,23 +306,7 @@ ProgramCommand AddEmbedmentCommand(CLI::App& program) {
     CLI::App& command = *program.add_subcommand("embedment", "Show the embedment study of a project");
     command.add_option("PROJECT", arguments->project, "A project: its input file, with or without .in")
         ->required();
-    command
-        .add_option_function<int>(
-            "--case",
-            [arguments](int loadCase) {
-                arguments->options.loadCase = loadCase;
-                arguments->options.hasCase = true;
-            },
-            "Number of the load case (default 1)")
-        ->type_name("N");
-    command
-        .add_option("--envelope", arguments->envelope,
-                    "max or min over all cases; with --case beside that case")
-        ->type_name("WORD");
-    command
-        .add_option("--quantity", arguments->quantity,
-                    "lateral displacement (default), lateral-x, lateral-y, max-axial or min-axial force")
-        ->type_name("WORD");
+    AddStudyOptions(command, options.view);
     command
         .add_option_function<double>(
             "--max-displacement", [arguments](double limit) { arguments->options.maxDisplacement = limit; },

@@ -8,7 +8,7 @@
 
 #include "cli/Command.h"
 #include "cli/Options.h"
-#include "cli/StudyCurves.h"
+#include "embedment/StudyCurves.h"
 #include "framework/headless/Headless.h"
 
 namespace lumerin {
@@ -17,10 +17,7 @@ class CMPTEDlg;
 
 struct EmbedmentOptions {
     std::string project;
-    int loadCase = 1;
-    bool hasCase = false;                   // the case is shown beside the envelope
-    int quantity = 0;                       // as in the dialog's list
-    int envelope = -1;                      // 0 greatest, 1 least; -1: the single case
+    StudyView view;
     std::optional<double> maxDisplacement;  // answers which embedment holds it
     std::string picture;                    // the SVG file; empty: none
     bool workbook = false;                  // press the dialog's "Excel"
@@ -43,13 +40,9 @@ class EmbedmentDriver : public headless::Sink {
     void Drive(headless::HeadlessDialog& dialog);
     void DriveReport(headless::HeadlessDialog& dialog);
     void DriveStudy(headless::HeadlessDialog& dialog, const CMPTEDlg& study);
-    // A table and a curve: the envelope, or the single case.
-    std::vector<bool> Views() const;
     bool ChooseView(headless::HeadlessDialog& dialog, bool envelope);
     std::string NameOf(const CMPTEDlg& study, bool envelope) const;
-    std::string TitleOf(const CMPTEDlg& study) const;
     void PrintTable(headless::HeadlessDialog& dialog, const CMPTEDlg& study, bool envelope);
-    StudyCurve CurveOf(const CMPTEDlg& study, bool envelope) const;
     // The size of the displacement that is held against the limit.
     StudyCurve HeldCurve(const CMPTEDlg& study) const;
     void WritePicture(const CMPTEDlg& study);
@@ -65,7 +58,6 @@ class EmbedmentDriver : public headless::Sink {
     ExitStatus m_status = kExitDone;
 };
 
-int ReadEnvelope(std::string_view text);  // max or min, in letters of either case: the entry of the list
 ExitStatus RunEmbedment(const EmbedmentOptions& options, std::ostream& out, std::ostream& err);
 
 // "embedment": the study of a project, its curve and its workbook.

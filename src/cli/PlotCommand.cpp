@@ -2,13 +2,18 @@
 #include "cli/PlotCommand.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 
 #include "cli/EvaluationArguments.h"
+#include "cli/StudyArguments.h"
 #include "cli/Suggest.h"
 #include "export/CsvWriter.h"
+#include "figures/CaseScan.h"
+#include "records/TableRows.h"
 #include "script/Border.h"
+#include "text/Lists.h"
 
 namespace lumerin {
 
@@ -50,16 +55,38 @@ std::unique_ptr<ByteSink> OpenOutput(const PlotRequest& request, std::ostream& o
     return std::make_unique<FileSink>(request.output);
 }
 
-// The rows of the figure's substructure.
-void WriteData(const FigureKind& figure, const Evaluation& evaluation, int substructure,
+// The columns that tell which rows of a table are in a figure, with the values that they have there.
+struct RowFilter {
+    std::size_t column;
+    Value value;
+};
+
+std::vector<RowFilter> FilterOf(const FigureKind& figure, const Table& table, const Evaluation& evaluation,
+                                const FigureRequest& drawing) {
+    const auto column = [&table](std::string_view name) {
+        return static_cast<std::size_t>(std::ranges::find(table.columns, name, &Column::name) -
+                                        table.columns.begin());
+    };
+    std::vector<RowFilter> filter;
+    if (figure.scope == FigureScope::project) return filter;
+    filter.push_back({column("substructure"), std::int64_t{drawing.substructure}});
+    if (figure.scope != FigureScope::element) return filter;
+    const ScannedEnd end = EndOf(evaluation, drawing);
+    filter.push_back({column("record"), std::int64_t{end.identity == nullptr ? 0 : end.identity->record}});
+    filter.push_back({column("end"), EndName(end.end)});
+    return filter;
+}
+
+void WriteData(const FigureKind& figure, const Evaluation& evaluation, const FigureRequest& drawing,
                std::unique_ptr<ByteSink> sink) {
     const Table& table = *FindTable(figure.dataTable);
+    const std::vector<RowFilter> filter = FilterOf(figure, table, evaluation, drawing);
     CsvWriter writer(std::move(sink), ',');
     writer.BeginProject(evaluation.Opened().name.name);
     writer.BeginTable(table, evaluation.Units());
     table.rows(evaluation, [&](std::span<const Value> row) {
-        const auto* number = std::get_if<std::int64_t>(&row[1]);
-        if (number != nullptr && *number == substructure) writer.Row(row);
+        const auto fits = [&row](const RowFilter& part) { return row[part.column] == part.value; };
+        if (std::ranges::all_of(filter, fits)) writer.Row(row);
     });
     writer.EndTable();
     writer.EndProject();
@@ -68,20 +95,22 @@ void WriteData(const FigureKind& figure, const Evaluation& evaluation, int subst
 
 ExitStatus Draw(const PlotRequest& request, const OpenProject& opened, std::ostream& out, std::ostream& err) {
     const FigureKind& figure = RequireFigure(request.figure);
-    const int substructure = RequireSubstructure(opened.project.data, request.substructure);
+    FigureRequest drawing = request.drawing;
+    drawing.substructure = figure.scope == FigureScope::project
+                               ? 1
+                               : RequireSubstructure(opened.project.data, drawing.substructure);
     const Evaluation evaluation(opened, request.cases, request.limits, figure.needs);
     for (const Finding& finding : evaluation.Findings()) {
         if (finding.severity != Severity::note) {
             PrintLine(err, opened.name.inputFile + ": " + LineOf(finding));
         }
     }
-    std::unique_ptr<ByteSink> sink = OpenOutput(request, out);
     if (request.data) {
-        WriteData(figure, evaluation, substructure, std::move(sink));
+        WriteData(figure, evaluation, drawing, OpenOutput(request, out));
     } else {
-        FigureRequest drawing;
-        drawing.substructure = substructure;
-        sink->Write(figure.draw(evaluation, drawing));
+        const std::string picture = figure.draw(evaluation, drawing);
+        const std::unique_ptr<ByteSink> sink = OpenOutput(request, out);
+        sink->Write(picture);
         sink->Commit();
     }
     if (request.output != "-") out << request.output << std::endl;
@@ -99,6 +128,7 @@ std::string PlotFooter() {
            "  lumerin plot pier.in cap-moment -o moment.svg\n"
            "  lumerin plot bridge.in dc --substructure 2 > ratios.svg\n"
            "  lumerin plot pier.in pile-heads --pile-compression 600 -o heads.svg\n"
+           "  lumerin plot pier.in case-scan --element 18 --end J -o scan.svg\n"
            "  lumerin plot pier.in cap-shear --data > envelope.csv\n\n"
            "Exit status:\n"
            "  0  done\n"
@@ -128,6 +158,30 @@ ExitStatus RunPlot(const PlotRequest& request, std::ostream& out, std::ostream& 
     }
 }
 
+namespace {
+
+int ReadEnd(const std::string& word) {
+    const std::string lower = LowerCase(word);
+    if (lower == "i") return kEndI;
+    if (lower == "j") return kEndJ;
+    throw std::invalid_argument("\"" + word + "\" is no end of an element (I, J)");
+}
+
+void AddElementOptions(CLI::App& command, FigureRequest& drawing) {
+    command
+        .add_option("--element", drawing.element,
+                    "The element of case-scan by its number; default: that with the greatest D/C")
+        ->type_name("N")
+        ->check(CLI::PositiveNumber);
+    command
+        .add_option_function<std::string>(
+            "--end", [&drawing](const std::string& word) { drawing.end = ReadEnd(word); },
+            "Its end, I or J; default: that with the greater D/C")
+        ->type_name("END");
+}
+
+}  // namespace
+
 ProgramCommand AddPlotCommand(CLI::App& program) {
     const auto request = std::make_shared<PlotRequest>();
     CLI::App& command = *program.add_subcommand("plot", "Draw a figure of a substructure");
@@ -136,9 +190,11 @@ ProgramCommand AddPlotCommand(CLI::App& program) {
         ->type_name("");
     command.add_option("FIGURE", request->figure, FigureNames())->required()->type_name("");
     command
-        .add_option("--substructure", request->substructure,
+        .add_option("--substructure", request->drawing.substructure,
                     "The substructure, from 1; needed where the project has several")
         ->type_name("N");
+    AddElementOptions(command, request->drawing);
+    AddStudyOptions(command, request->drawing.study);
     AddCaseOptions(command, request->cases);
     AddLimitOptions(command, request->limits);
     command.add_option("-o,--output", request->output, "The file to write; - for standard output (default)")

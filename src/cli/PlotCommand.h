@@ -12,7 +12,7 @@ namespace lumerin {
 struct PlotRequest {
     std::string project;
     std::string figure;
-    int substructure = 0;  // from 1; 0: the only one
+    FigureRequest drawing{0, 0, -1, {}};  // substructure 0: the only one
     CaseChoice cases;
     Limits limits;
     std::string output = "-";  // a file, or "-" for standard output

@@ -36,6 +36,18 @@ void TakeCapEnd(int loadCase, float shear, float moment, CapEnvelopeEnd& end) {
 
 }  // namespace
 
+EndExtreme ElementResults::GreatestRatio(int element, int end) const {
+    EndExtreme best;
+    for (int slot = 0; slot < classes; ++slot) {
+        const EndExtreme& here = Ratio(slot, element, end);
+        if (here.loadCase < 0) continue;
+        const bool isBetter = best.loadCase < 0 || here.value > best.value ||
+                              (here.value == best.value && here.loadCase < best.loadCase);
+        if (isBetter) best = here;
+    }
+    return best;
+}
+
 ElementSearch::ElementSearch(const PierInput& input, int others) : m_input(input) {
     const CPier& pier = input.pier;
     const CFrame& frame = pier.m_Frame;

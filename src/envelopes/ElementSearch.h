@@ -36,6 +36,8 @@ struct ElementResults {
     const EndExtreme& Ratio(int limitClass, int element, int end) const {
         return ratios[(Index(limitClass) * Index(elements) + Index(element)) * 2 + Index(end)];
     }
+    // Over all classes; of equal values the earliest case.
+    EndExtreme GreatestRatio(int element, int end) const;
     const CapEnvelopeEnd& Cap(int limitClass, int capElement, int end) const {
         return cap[(Index(limitClass) * Index(capElements) + Index(capElement)) * 2 + Index(end)];
     }

@@ -112,14 +112,10 @@ class PanelBuilder {
     bool m_open = false;  // the last element continues
 };
 
-constexpr double kInchesOfAFoot = 12.0;
-
 void DescribeSupports(const CPier& pier, CapPicture& picture) {
     for (int support = 0; support < CapSupportCount(pier); ++support) {
-        const double width = pier.GetSupportWidth(support);
         picture.supports.push_back(
-            {CapLocation(pier, pier.GetSupportX(support)),
-             pier.m_nUnits == 0 ? width / kInchesOfAFoot : width,
+            {CapLocation(pier, pier.GetSupportX(support)), PrintedLength(pier, pier.GetSupportWidth(support)),
              std::string(MemberShortName(pier.m_nStructureType)) + " " + std::to_string(support + 1)});
     }
     for (std::size_t i = 0; i < pier.m_BearingList.size(); ++i) {

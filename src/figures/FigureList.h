@@ -12,5 +12,8 @@ std::string DrawCapShear(const Evaluation& evaluation, const FigureRequest& requ
 std::string DrawCapMoment(const Evaluation& evaluation, const FigureRequest& request);
 std::string DrawPileHeads(const Evaluation& evaluation, const FigureRequest& request);
 std::string DrawRatios(const Evaluation& evaluation, const FigureRequest& request);
+std::string DrawElevation(const Evaluation& evaluation, const FigureRequest& request);
+std::string DrawCaseScan(const Evaluation& evaluation, const FigureRequest& request);
+std::string DrawEmbedment(const Evaluation& evaluation, const FigureRequest& request);
 
 }  // namespace lumerin

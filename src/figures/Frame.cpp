@@ -48,6 +48,23 @@ std::string RoundedText(double value) {
     return FormatFixed(value, size >= 100.0 ? 0 : size >= 10.0 ? 1 : 2);
 }
 
+bool LabelPlaces::Place(Svg& svg, std::string_view text, Point at, const TextStyle& style) {
+    constexpr double kGap = 2.0;
+    const double width = TextWidth(text, style.size, style.bold);
+    const double left = style.anchor == Anchor::start    ? at.x
+                        : style.anchor == Anchor::middle ? at.x - width / 2.0
+                                                         : at.x - width;
+    const Taken here{left, left + width, at.y, style.size};
+    if (here.left < 0.0 || here.right > svg.Width()) return false;
+    for (const Taken& other : m_taken) {
+        const bool isBeside = here.right + kGap <= other.left || other.right + kGap <= here.left;
+        if (!isBeside && std::abs(here.base - other.base) < std::max(here.size, other.size)) return false;
+    }
+    m_taken.push_back(here);
+    svg.Text(text, at, style);
+    return true;
+}
+
 void DrawHead(Svg& svg, const Evaluation& evaluation, std::string_view title, int substructure,
               std::string_view more) {
     TextStyle style;

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "figures/Scale.h"
 #include "figures/Svg.h"
@@ -34,6 +35,19 @@ std::string CasesText(const Evaluation& evaluation);
 std::string CaseText(const Evaluation& evaluation, int loadCase);
 std::string NumberText(double value);   // the shortest text
 std::string RoundedText(double value);  // a force: no decimals from 100 on, else one or two
+
+// Places texts where no earlier one is.
+class LabelPlaces {
+  public:
+    // False: there is no room, nothing was written. Upright texts alone.
+    bool Place(Svg& svg, std::string_view text, Point at, const TextStyle& style);
+
+  private:
+    struct Taken {
+        double left, right, base, size;
+    };
+    std::vector<Taken> m_taken;
+};
 
 // Writes title and the two lines below it.
 void DrawHead(Svg& svg, const Evaluation& evaluation, std::string_view title, int substructure,

@@ -28,13 +28,8 @@ std::vector<Head> HeadsOf(const Evaluation& evaluation, std::size_t p) {
     std::vector<Head> heads;
     for (std::size_t pile = 0; pile < pier.m_Piles.size(); ++pile) {
         if (results.greatestAxial[pile].loadCase < 0) continue;
-        Head head{static_cast<int>(pile) + 1, results.greatestAxial[pile], results.leastAxial[pile], {}};
-        for (int slot = 0; slot < results.classes; ++slot) {
-            const EndExtreme& here = results.Ratio(slot, pier.m_Piles[pile].m_nFirstElement, kEndJ);
-            if (here.loadCase < 0) continue;
-            if (head.ratio.loadCase < 0 || here.value > head.ratio.value) head.ratio = here;
-        }
-        heads.push_back(head);
+        heads.push_back({static_cast<int>(pile) + 1, results.greatestAxial[pile], results.leastAxial[pile],
+                         results.GreatestRatio(pier.m_Piles[pile].m_nFirstElement, kEndJ)});
     }
     return heads;
 }

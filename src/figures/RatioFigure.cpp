@@ -49,13 +49,11 @@ std::vector<MemberRatio> MembersOf(const Evaluation& evaluation, std::size_t p) 
         if (isNew) members.push_back({name, {}, 0.0F, -1});
         MemberRatio& member = members[at->second];
         for (const int end : {kEndI, kEndJ}) {
-            for (int slot = 0; slot < results.classes; ++slot) {
-                const EndExtreme& here = results.Ratio(slot, identity.element, end);
-                if (here.loadCase < 0 || (member.loadCase >= 0 && here.value <= member.ratio)) continue;
-                member.ratio = here.value;
-                member.loadCase = here.loadCase;
-                member.place = PlaceOf(pier, identity, end);
-            }
+            const EndExtreme here = results.GreatestRatio(identity.element, end);
+            if (here.loadCase < 0 || (member.loadCase >= 0 && here.value <= member.ratio)) continue;
+            member.ratio = here.value;
+            member.loadCase = here.loadCase;
+            member.place = PlaceOf(pier, identity, end);
         }
     }
     std::erase_if(members, [](const MemberRatio& member) { return member.loadCase < 0; });

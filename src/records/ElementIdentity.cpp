@@ -189,8 +189,12 @@ std::string PlaceOf(const CPier& pier, const ElementIdentity& identity, int end)
     return label.empty() ? EndText(identity, end) : label;
 }
 
+double PrintedLength(const CPier& pier, double length) {
+    return pier.m_nUnits == 0 ? length / kInchesOfAFoot : length;
+}
+
 double CapLocation(const CPier& pier, double x) {
-    return pier.m_nUnits == 0 ? (x - pier.m_dLocationX) / kInchesOfAFoot : x;
+    return PrintedLength(pier, pier.m_nUnits == 0 ? x - pier.m_dLocationX : x);
 }
 
 }  // namespace lumerin

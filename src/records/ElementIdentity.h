@@ -41,6 +41,8 @@ std::vector<ElementIdentity> IdentifyElements(const CPier& pier, const ForceLayo
 // I".
 std::string PlaceOf(const CPier& pier, const ElementIdentity& identity, int end);
 
+// A length of the model in ft or m.
+double PrintedLength(const CPier& pier, double length);
 // The location of a node along the cap in ft or m, as the printed cap tables count it from the
 // substructure's own position.
 double CapLocation(const CPier& pier, double x);

@@ -27,24 +27,12 @@ struct EndOfElement {
     EndExtreme best;
 };
 
-EndExtreme BestOfClasses(const ElementResults& results, int element, int end) {
-    EndExtreme best;
-    for (int slot = 0; slot < results.classes; ++slot) {
-        const EndExtreme& here = results.Ratio(slot, element, end);
-        if (here.loadCase < 0) continue;
-        const bool better = best.loadCase < 0 || here.value > best.value ||
-                            (here.value == best.value && here.loadCase < best.loadCase);
-        if (better) best = here;
-    }
-    return best;
-}
-
 template <class Take>
 void EachEnd(const Evaluation& evaluation, std::size_t p, Take take) {
     for (const ElementIdentity& identity : evaluation.Identities(p)) {
         if (identity.masked) continue;
         for (const int end : {kEndI, kEndJ}) {
-            const EndExtreme best = BestOfClasses(evaluation.Elements()[p], identity.element, end);
+            const EndExtreme best = evaluation.Elements()[p].GreatestRatio(identity.element, end);
             if (best.loadCase >= 0) take(EndOfElement{p, &identity, end, best});
         }
     }

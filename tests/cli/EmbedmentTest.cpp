@@ -7,6 +7,7 @@
 #include <sstream>
 
 #include "cli/EmbedmentCommand.h"
+#include "cli/StudyArguments.h"
 #include "support/SampleFolder.h"
 
 namespace lumerin {
@@ -67,8 +68,8 @@ TEST_F(EmbedmentCommandTest, PrintsTheTableOfTheFirstCase) {
 }
 
 TEST_F(EmbedmentCommandTest, AnEnvelopeIsNamedForWhatItIs) {
-    options.envelope = ReadEnvelope("min");
-    options.quantity = 4;
+    options.view.envelope = ReadEnvelope("min");
+    options.view.quantity = 4;
     ASSERT_EQ(Run(), kExitDone) << err.str();
     EXPECT_THAT(out.str(), testing::StartsWith("Min Envelope - Embedment vs Min Axial Force\n"));
     EXPECT_THAT(Words(2), ElementsAre("(ft)", "(kips)"));
@@ -78,7 +79,7 @@ TEST_F(EmbedmentCommandTest, AnEnvelopeIsNamedForWhatItIs) {
 TEST_F(EmbedmentCommandTest, WritesPictureAndWorkbookAndPrintsTheirPaths) {
     options.picture = folder.Base("curve.svg");
     options.workbook = true;
-    options.loadCase = 2;
+    options.view.loadCase = 2;
     ASSERT_EQ(Run(), kExitDone) << err.str();
     const std::string workbook = base + "_LoadComb2-EmbedmentvsLateralDisplacement.xml";
     EXPECT_THAT(out.str(), testing::EndsWith("\n\n" + options.picture + "\n" + workbook + "\n"));
@@ -125,7 +126,7 @@ TEST_F(EmbedmentCommandTest, NamesInUtf8StayThoseOfTheFiles) {
 }
 
 TEST_F(EmbedmentCommandTest, ACaseThatTheStudyDoesNotHaveIsWrongUse) {
-    options.loadCase = 9999;
+    options.view.loadCase = 9999;
     EXPECT_EQ(Run(), kExitUsage);
     EXPECT_THAT(err.str(), HasSubstr("Invalid load case."));
     EXPECT_TRUE(out.str().empty());
@@ -148,9 +149,9 @@ TEST_F(EmbedmentCommandTest, AProjectWithoutAStudyIsReported) {
 
 // Trials of 60, 56, 52 and 48 ft, one that is missing, 40 ft, one that is unfinished, 32 ft.
 TEST_F(EmbedmentCommandTest, AnEnvelopeAndACaseAreTwoTablesAndTwoCurves) {
-    options.envelope = 0;
-    options.loadCase = 3;
-    options.hasCase = true;
+    options.view.envelope = 0;
+    options.view.loadCase = 3;
+    options.view.hasCase = true;
     options.picture = folder.Base("curve.svg");
     ASSERT_EQ(Run(), kExitDone) << err.str();
     EXPECT_THAT(out.str(), testing::StartsWith("Max Envelope - Embedment vs Lateral Displacement\n"));
@@ -165,7 +166,7 @@ TEST_F(EmbedmentCommandTest, AnEnvelopeAndACaseAreTwoTablesAndTwoCurves) {
 }
 
 TEST_F(EmbedmentCommandTest, ADisplacementIsHeldByTheShortestTrialThatIsStillLongEnough) {
-    options.envelope = 0;
+    options.view.envelope = 0;
     ASSERT_EQ(Run(), kExitDone) << err.str();
     const double held = std::stod(Words(6)[4]), exceeded = std::stod(Words(8)[4]);  // 48 ft and 40 ft
     ASSERT_LT(held, exceeded);

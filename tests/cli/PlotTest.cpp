@@ -4,9 +4,12 @@
 #include <gmock/gmock.h>
 
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <sstream>
 #include <stdexcept>
 
+#include "cli/EmbedmentCommand.h"
 #include "support/RecordsProject.h"
 #include "support/SampleFolder.h"
 
@@ -65,9 +68,9 @@ TEST(Plot, OfSeveralSubstructuresOneMustBeNamed) {
     const SampleFolder folder;
     PlotRequest request = Of(folder.Write("bridge"), "pile-heads");
     EXPECT_THROW(Plot(request), std::invalid_argument);
-    request.substructure = 4;
+    request.drawing.substructure = 4;
     EXPECT_THROW(Plot(request), std::invalid_argument);
-    request.substructure = 3;
+    request.drawing.substructure = 3;
     EXPECT_THAT(Plot(request).out, HasSubstr("substructure 3 of 3 (pile group)"));
 }
 
@@ -94,7 +97,7 @@ TEST(Plot, DataAreTheRowsOfTheSubstructure) {
     const SampleFolder folder;
     // All three substructures have piles.
     PlotRequest request = Of(folder.Write("bridge"), "pile-heads");
-    request.substructure = 2;
+    request.drawing.substructure = 2;
     request.data = true;
     const Outcome outcome = Plot(request);
     std::istringstream lines(outcome.out);
@@ -107,6 +110,60 @@ TEST(Plot, DataAreTheRowsOfTheSubstructure) {
         ++rows;
     }
     EXPECT_GT(rows, 20);
+}
+
+// The rows of the element's end alone, a row a case.
+TEST(Plot, DataOfACaseScanAreTheRowsOfOneEnd) {
+    const SampleFolder folder;
+    PlotRequest request = Of(folder.Write("bent"), "case-scan");
+    request.data = true;
+    request.drawing.element = 4;
+    request.drawing.end = kEndJ;
+    const Outcome outcome = Plot(request);
+    std::istringstream lines(outcome.out);
+    std::string line;
+    std::getline(lines, line);
+    int rows = 0;
+    while (std::getline(lines, line)) {
+        EXPECT_THAT(line, testing::ContainsRegex("bent,1,[0-9]+,4,[a-z_]+,[0-9]+,J,"));
+        ++rows;
+    }
+    EXPECT_EQ(rows, 18);
+}
+
+TEST(Plot, TheCurveOfTheStudyIsThatOfTheEmbedmentCommand) {
+    const SampleFolder folder;
+    const std::string base = folder.Write("pier");
+    PlotRequest request = Of(base, "embedment");
+    request.drawing.study = {.quantity = kMaxAxial, .loadCase = 3, .envelope = 1, .hasCase = true};
+    EmbedmentOptions options;
+    options.project = base + ".in";
+    options.view = request.drawing.study;
+    options.picture = (folder.Path() / "curve.svg").string();
+    std::ostringstream out, err;
+    EXPECT_EQ(RunEmbedment(options, out, err), kExitDone);
+    std::ifstream file(options.picture);
+    const std::string expected{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_THAT(expected, HasSubstr("Min Envelope, Load Comb 3 - Embedment vs Max Axial Force"));
+    EXPECT_EQ(Plot(request).out, expected);
+    request.drawing.study.loadCase = 27;
+    EXPECT_THROW(Plot(request), std::invalid_argument);
+    EXPECT_THAT(Plot(Of(folder.Write("bent"), "embedment")).out,
+                HasSubstr("The project has no embedment study."));
+}
+
+// The envelope over the chosen cases alone.
+TEST(Plot, TheCurveOfTheStudyFollowsTheChosenCases) {
+    const SampleFolder folder;
+    PlotRequest request = Of(folder.Write("pier"), "embedment");
+    request.drawing.study.envelope = 0;
+    const std::string all = Plot(request).out;
+    ReadCases("1", request.cases);
+    const std::string first = Plot(request).out;
+    EXPECT_NE(first, all);
+    request.drawing.study = {.loadCase = 1};
+    const auto curve = [](const std::string& svg) { return svg.substr(svg.find("<polyline")); };
+    EXPECT_EQ(curve(first), curve(Plot(request).out));
 }
 
 TEST(Plot, UnsoundDataAreStatusFourAndTheFigureIsThere) {

@@ -246,7 +246,7 @@ TEST(OutputFault, TheStudysWorkbookAndPictureAreNamedAndTheEarlierFilesStay) {
     const BrokenProject project("pier");
     EmbedmentOptions options;
     options.project = project.Base() + ".in";
-    options.loadCase = 1;
+    options.view.loadCase = 1;
     options.workbook = true;
     options.picture = project.Base() + ".svg";
     std::ostringstream out, err;

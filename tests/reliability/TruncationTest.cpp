@@ -61,7 +61,7 @@ bool IsStudyFile(const std::string& name) {
 testing::AssertionResult IsStudyReadOrReported(const std::string& base) {
     EmbedmentOptions options;
     options.project = base + ".in";
-    options.envelope = 0;
+    options.view.envelope = 0;
     std::ostringstream out, err;
     RunEmbedment(options, out, err);
     for (const char* fault : {"operation failed", "enough memory"}) {

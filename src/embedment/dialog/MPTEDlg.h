@@ -5,6 +5,7 @@
 #include <string>
 
 #include "embedment/EmbedmentResults.h"
+#include "embedment/StudyCurves.h"
 #include "embedment/dialog/CaptureEx.h"
 #include "embedment/dialog/EmbedmentDialog.h"
 #include "embedment/dialog/NTGraphTarnsway.h"
@@ -15,13 +16,6 @@
 namespace lumerin {
 
 extern const DialogTemplate g_EmbedmentDialogTemplate;  // IDD_EMBEDMENT
-
-// The result of an envelope search at one trial.
-struct CEnvelopePoint {
-    int nQuantity = 0, nTrial = 0;
-    int nCase = -1;  // from 0; -1: no case is selected
-    double dPile = 0.0, dEmbedment = 0.0, dValue = 0.0;
-};
 
 // The results of the embedment study: one quantity against the embedment length as a curve, and the same
 // points as a table, for one load case or as an envelope over the cases.
@@ -37,8 +31,10 @@ class CMPTEDlg : public CDialog {
     bool OnCommand(int id, Notice notice) override;
     void DoDataExchange(CDataExchange& exchange) override;
 
-    // The case with the greatest (mode 0) or least (mode 1) value; of equal values the earlier case. Quantity
-    // and mode of -1 are those of the combo boxes.
+    bool HasCombinations() const { return m_input.data.HasCombinations(); }
+    // The cases of the envelopes.
+    StudyCases Cases() const;
+    // FindEnvelopePoint; quantity and mode of -1 are those of the combo boxes.
     CEnvelopePoint GetEnvelopePoint(int trial, int quantity, int mode) const;
 
     // ---- table and plot (MPTEPlot.cpp)

@@ -15,26 +15,6 @@ constexpr int kHeadingRows = 2;
 constexpr int kFewestDecimals = 4, kMostDecimals = 6;
 constexpr int kPlotColour = 0xdcdcdc;
 
-struct QuantityWords {
-    const char* heading;
-    const char* unitUs;
-    const char* unitSi;
-};
-
-constexpr QuantityWords kWords[kQuantityCount] = {
-    {"Displacement", "(in)", "(m)"}, {"Displacement", "(in)", "(m)"}, {"Displacement", "(in)", "(m)"},
-    {"Force", "(kips)", "(kN)"},     {"Force", "(kips)", "(kN)"},
-};
-
-// A number outside the list counts as its nearer end.
-std::size_t Place(int quantity) {
-    return Index(std::clamp(quantity, 0, kQuantityCount - 1));
-}
-
-const QuantityWords& WordsOf(int quantity) {
-    return kWords[Place(quantity)];
-}
-
 // The number that the table shows, so that a click on a point meets its row.
 double AsShown(double value) {
     return ReadCellDouble(FormatFixed(value, 2));
@@ -59,28 +39,18 @@ const char* CMPTEDlg::LengthUnit() const {
 }
 
 const char* CMPTEDlg::QuantityUnit(int quantity) const {
-    return m_nUnits == 0 ? WordsOf(quantity).unitUs : WordsOf(quantity).unitSi;
+    const StudyWords& words = StudyWordsOf(quantity);
+    return m_nUnits == 0 ? words.unitUs : words.unitSi;
+}
+
+StudyCases CMPTEDlg::Cases() const {
+    return {FirstCase(), [this](int loadCase) { return TakesPart(loadCase); }};
 }
 
 CEnvelopePoint CMPTEDlg::GetEnvelopePoint(int trial, int quantity, int mode) const {
     if (quantity == -1) quantity = m_cmbQuantity.GetCurSel();
     if (mode == -1) mode = m_cmbEnvelope.GetCurSel();
-    CEnvelopePoint point;
-    point.nQuantity = quantity;
-    point.nTrial = trial;
-    point.nCase = FirstCase();
-    point.dEmbedment = m_pResults.GetEmbedment(trial);
-    point.dValue = m_pResults.GetValue(trial, point.nCase, quantity);
-    for (int i = 0; i < m_pResults.GetCaseCount(); ++i) {
-        if (!TakesPart(i)) continue;
-        const double value = m_pResults.GetValue(trial, i, quantity);
-        const bool beyond = mode == 0 ? value > point.dValue : value < point.dValue;
-        if (!beyond) continue;
-        point.nCase = i;
-        point.dValue = value;
-    }
-    point.dPile = m_pResults.GetLocation(trial, point.nCase, quantity);
-    return point;
+    return FindEnvelopePoint(m_pResults, Cases(), trial, quantity, mode);
 }
 
 CEnvelopePoint CMPTEDlg::PointOf(int trial) const {
@@ -100,7 +70,7 @@ CEnvelopePoint CMPTEDlg::PointOf(int trial) const {
 void CMPTEDlg::SetGridHeadings() {
     const int quantity = m_cmbQuantity.GetCurSel();
     const char* const first[] = {"Trial", m_input.data.HasCombinations() ? "Load Comb" : "Load Case", "Pile",
-                                 "Embedment", WordsOf(quantity).heading};
+                                 "Embedment", StudyWordsOf(quantity).heading};
     const char* const second[] = {"", "", "", LengthUnit(), QuantityUnit(quantity)};
     for (int column = 0; column < static_cast<int>(std::size(first)); ++column) {
         m_Grid.SetCellText(0, column, first[column]);
@@ -131,12 +101,11 @@ void CMPTEDlg::FillTrialRow(int trial) {
 // ---- plot
 
 std::string CMPTEDlg::BuildPlotTitle(int number, int quantity) const {
-    const char* const format = m_input.data.HasCombinations() ? "Load Comb %d" : "Load Case %d";
-    return FormatNumbered(format, number) + " - Embedment vs " + kQuantityNames[Place(quantity)];
+    return StudyTitle(m_input.data.HasCombinations(), number, quantity);
 }
 
 std::string CMPTEDlg::BuildYLabel(int quantity) const {
-    return std::string(kQuantityNames[Place(quantity)]) + " " + QuantityUnit(quantity);
+    return StudyAxisLabel(quantity, m_nUnits);
 }
 
 std::string CMPTEDlg::BuildFormat(int decimals) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "cli/StudyCurves.h"
+#include "embedment/StudyCurves.h"
 
 #include <algorithm>
 #include <array>
@@ -9,6 +9,8 @@
 
 #include "embedment/Plot.h"
 #include "embedment/SvgCanvas.h"
+#include "framework/Index.h"
+#include "text/Format.h"
 
 namespace lumerin {
 
@@ -17,6 +19,15 @@ namespace {
 constexpr double kPictureWidth = 900.0, kPictureHeight = 540.0;
 constexpr std::uint32_t kColours[] = {0x1f4e79, 0xb45309};
 constexpr int kMostDecimals = 9;
+
+constexpr StudyWords kWords[kQuantityCount] = {
+    {"Displacement", "(in)", "(m)"}, {"Displacement", "(in)", "(m)"}, {"Displacement", "(in)", "(m)"},
+    {"Force", "(kips)", "(kN)"},     {"Force", "(kips)", "(kN)"},
+};
+
+std::size_t PlaceOf(int quantity) {
+    return Index(std::clamp(quantity, 0, kQuantityCount - 1));
+}
 
 bool HasValue(const StudyPoint& point) {
     return point.isComplete && std::isfinite(point.embedment) && std::isfinite(point.value);
@@ -40,6 +51,105 @@ void AddCurve(CPlot& plot, int element, const StudyCurve& curve, bool named) {
 }
 
 }  // namespace
+
+CEnvelopePoint FindEnvelopePoint(const CEmbedmentResults& results, const StudyCases& cases, int trial,
+                                 int quantity, int mode) {
+    CEnvelopePoint point;
+    point.nQuantity = quantity;
+    point.nTrial = trial;
+    point.nCase = cases.first;
+    point.dEmbedment = results.GetEmbedment(trial);
+    point.dValue = results.GetValue(trial, point.nCase, quantity);
+    for (int i = 0; i < results.GetCaseCount(); ++i) {
+        if (!cases.takesPart(i)) continue;
+        const double value = results.GetValue(trial, i, quantity);
+        const bool beyond = mode == 0 ? value > point.dValue : value < point.dValue;
+        if (!beyond) continue;
+        point.nCase = i;
+        point.dValue = value;
+    }
+    point.dPile = results.GetLocation(trial, point.nCase, quantity);
+    return point;
+}
+
+const StudyWords& StudyWordsOf(int quantity) {
+    return kWords[PlaceOf(quantity)];
+}
+
+namespace {
+
+std::string NameOfCase(bool combinations, int number) {
+    return FormatNumbered(combinations ? "Load Comb %d" : "Load Case %d", number);
+}
+std::string TitleOf(const std::string& curves, int quantity) {
+    return curves + " - Embedment vs " + kQuantityNames[PlaceOf(quantity)];
+}
+
+}  // namespace
+
+std::string StudyTitle(bool combinations, int number, int quantity) {
+    return TitleOf(NameOfCase(combinations, number), quantity);
+}
+
+std::string StudyAxisLabel(int quantity, int units) {
+    const StudyWords& words = StudyWordsOf(quantity);
+    return std::string(kQuantityNames[PlaceOf(quantity)]) + " " + (units == 0 ? words.unitUs : words.unitSi);
+}
+
+std::vector<bool> StudyView::Curves() const {
+    if (envelope < 0) return {false};
+    if (hasCase) return {true, false};
+    return {true};
+}
+
+std::string StudyCurveName(const StudyView& view, bool isEnvelope, bool combinations) {
+    if (!isEnvelope) return NameOfCase(combinations, view.loadCase);
+    return view.envelope == 0 ? "Max Envelope" : "Min Envelope";
+}
+
+StudyCurve StudyCurveOf(const CEmbedmentResults& results, const StudyCases& cases, const StudyView& view,
+                        bool isEnvelope, bool combinations) {
+    StudyCurve curve{StudyCurveName(view, isEnvelope, combinations), {}};
+    for (int trial = 0; trial < results.GetTrialCount(); ++trial) {
+        StudyPoint point{trial + 1, !results.IsTrialIncomplete(trial), results.GetEmbedment(trial)};
+        int loadCase = view.loadCase - 1;
+        if (isEnvelope) {
+            loadCase = FindEnvelopePoint(results, cases, trial, view.quantity, view.envelope).nCase;
+        }
+        point.value = results.GetValue(trial, loadCase, view.quantity);
+        point.pile = results.GetLocation(trial, loadCase, view.quantity);
+        point.loadCase = loadCase + 1;
+        curve.points.push_back(point);
+    }
+    return curve;
+}
+
+std::vector<StudyCurve> StudyCurvesOf(const CEmbedmentResults& results, const StudyCases& cases,
+                                      const StudyView& view, bool combinations) {
+    std::vector<StudyCurve> curves;
+    for (const bool isEnvelope : view.Curves()) {
+        curves.push_back(StudyCurveOf(results, cases, view, isEnvelope, combinations));
+    }
+    return curves;
+}
+
+std::string TrialsWithoutValue(const StudyCurve& curve) {
+    std::string missing;
+    for (const StudyPoint& point : curve.points) {
+        if (point.isComplete && std::isfinite(point.value)) continue;
+        missing += (missing.empty() ? "" : ", ") + std::to_string(point.trial);
+    }
+    return missing;
+}
+
+StudyLabels StudyLabelsOf(const StudyView& view, bool combinations, int units) {
+    std::string names;
+    for (const bool isEnvelope : view.Curves()) {
+        names += (names.empty() ? "" : ", ") + StudyCurveName(view, isEnvelope, combinations);
+    }
+    return {TitleOf(names, view.quantity), std::string("Embedment Length ") + (units == 0 ? "(ft)" : "(m)"),
+            StudyAxisLabel(view.quantity, units)};
+}
 
 RoundAxis RoundAxisFor(double least, double greatest) {
     constexpr double kSteps[] = {1.0, 2.0, 5.0, 10.0};
