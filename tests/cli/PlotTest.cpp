@@ -152,18 +152,23 @@ TEST(Plot, TheCurveOfTheStudyIsThatOfTheEmbedmentCommand) {
                 HasSubstr("The project has no embedment study."));
 }
 
-// The envelope over the chosen cases alone.
+// Both envelopes of one chosen case are the curve of that case; case 1 is greater or less than it.
 TEST(Plot, TheCurveOfTheStudyFollowsTheChosenCases) {
     const SampleFolder folder;
     PlotRequest request = Of(folder.Write("pier"), "embedment");
-    request.drawing.study.envelope = 0;
-    const std::string all = Plot(request).out;
-    ReadCases("1", request.cases);
-    const std::string first = Plot(request).out;
-    EXPECT_NE(first, all);
-    request.drawing.study = {.loadCase = 1};
-    const auto curve = [](const std::string& svg) { return svg.substr(svg.find("<polyline")); };
-    EXPECT_EQ(curve(first), curve(Plot(request).out));
+    const auto curve = [&request] {
+        const std::string svg = Plot(request).out;
+        return svg.substr(svg.find("<polyline"));
+    };
+    request.drawing.study = {.loadCase = 2};
+    const std::string single = curve();
+    for (const int envelope : {0, 1}) {
+        request.drawing.study = {.envelope = envelope};
+        request.cases = {};
+        EXPECT_NE(curve(), single);
+        ReadCases("2", request.cases);
+        EXPECT_EQ(curve(), single);
+    }
 }
 
 TEST(Plot, UnsoundDataAreStatusFourAndTheFigureIsThere) {
