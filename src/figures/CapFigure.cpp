@@ -86,9 +86,19 @@ class CapFigure {
         return "The envelope of " + std::string(m_form.word) +
                " along the cap, a panel for each limit class.";
     }
-    // Half a support's width beyond the cap is still inside the picture.
-    double Low() const { return m_picture.from - Margin(); }
-    double High() const { return m_picture.to + Margin(); }
+    // A column at the end of the cap has half of its width beyond it.
+    double Low() const {
+        double low = m_picture.from;
+        for (const CapSupport& support : m_picture.supports)
+            low = std::min(low, support.x - support.width / 2.0);
+        return low - Margin();
+    }
+    double High() const {
+        double high = m_picture.to;
+        for (const CapSupport& support : m_picture.supports)
+            high = std::max(high, support.x + support.width / 2.0);
+        return high + Margin();
+    }
     double Margin() const { return (m_picture.to - m_picture.from) * 0.02; }
 
     void FindRange() {

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "figures/Frame.h"
-#include "text/Format.h"
+#include "records/Verdict.h"
 
 namespace lumerin {
 
@@ -46,7 +46,7 @@ void DrawRatio(Svg& svg, double ratio, double limit, const Box& box) {
 }
 
 std::string RatioLabel(double ratio, double limit) {
-    return FormatFixed(ratio, 2) + (ratio > limit ? " over the limit" : "");
+    return RatioText(ratio, limit) + (ratio > limit ? " over the limit" : "");
 }
 
 void DrawRatioLegend(Svg& svg, Point at, double limit) {

@@ -16,7 +16,7 @@ struct Box {
 
 std::string_view RatioColour(double ratio, double limit);
 void DrawRatio(Svg& svg, double ratio, double limit, const Box& box);
-// Two decimals, with "over the limit" after it where it is.
+// RatioText, with "over the limit" after it where it is.
 std::string RatioLabel(double ratio, double limit);
 // The colours with their bounds, on a base line.
 void DrawRatioLegend(Svg& svg, Point at, double limit);

@@ -90,7 +90,7 @@ TEST(Plot, LimitAndCasesAreNamed) {
     const Outcome outcome = Plot(request);
     EXPECT_THAT(outcome.out, HasSubstr("limit 0.9"));
     EXPECT_THAT(outcome.out, HasSubstr("6 of 18 cases"));
-    EXPECT_THAT(outcome.out, HasSubstr("1.02 over the limit, pile 2 head, case 6 LFD-GROUP-V"));
+    EXPECT_THAT(outcome.out, HasSubstr("1.022 over the limit, pile 2 head, case 6 LFD-GROUP-V"));
 }
 
 TEST(Plot, DataAreTheRowsOfTheSubstructure) {

@@ -53,7 +53,7 @@ TEST(CaseScan, TheWorstElementAndItsWorseEndAreTheDefault) {
     EXPECT_EQ(scan.classes[0].cases[0].values[kDemandCapacity], 0.0F);
     EXPECT_EQ(scan.classes[0].cases[1].values[kDemandCapacity], 1.25F);
     EXPECT_THAT(Kind().draw(evaluation, {}), HasSubstr("Element 4 end I (pile 2 element 4 end I)"));
-    EXPECT_THAT(Kind().draw(evaluation, {}), HasSubstr("1.25 over the limit, case 2<"));
+    EXPECT_THAT(Kind().draw(evaluation, {}), HasSubstr("1.250 over the limit, case 2<"));
 }
 
 TEST(CaseScan, AnElementThatIsNotThereIsWrongUsage) {
@@ -111,7 +111,7 @@ TEST(CaseScan, ManyCasesAreDrawnAsLeastAndGreatestAPixel) {
     project.WriteAll();
     const Evaluation& evaluation = project.Evaluate(Kind().needs);
     const std::string svg = Kind().draw(evaluation, {});
-    EXPECT_THAT(svg, HasSubstr(">0.90, case 1235<"));
+    EXPECT_THAT(svg, HasSubstr(">0.900, case 1235<"));
     EXPECT_EQ(CountOf(svg, "width=\"1\" height="), 7U * 852U);
     EXPECT_EQ(CountOf(svg, "<polyline"), 0U);
 }

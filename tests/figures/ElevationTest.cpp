@@ -66,7 +66,7 @@ TEST(Elevation, BarsAndPilesHaveTheirPlaceAndTheirGreatestRatio) {
     EXPECT_EQ(picture.Worst(), &picture.piles[1]);
     EXPECT_EQ(picture.nodes.size(), 7U);
     EXPECT_THAT(Kind().draw(evaluation, {}),
-                HasSubstr("Greatest D/C 1.25 over the limit, pile 2 element 4 end I, case 1<"));
+                HasSubstr("Greatest D/C 1.250 over the limit, pile 2 element 4 end I, case 1<"));
 }
 
 // The pier of the samples, and the same pier in a model whose z points down: the same picture.

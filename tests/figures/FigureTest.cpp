@@ -69,10 +69,17 @@ void Collect(xmlNode* node, std::vector<TextBox>& boxes) {
     }
 }
 
-struct Drawn {
-    std::string svg;
-    double limit;
-};
+// Every box of the picture is inside it.
+void ExpectInside(xmlNode* node, double width, double height, const std::string& where) {
+    for (; node != nullptr; node = node->next) {
+        if (node->name != nullptr && std::string(reinterpret_cast<const char*>(node->name)) == "rect") {
+            EXPECT_GE(NumberOf(node, "x"), 0.0) << where;
+            EXPECT_LE(NumberOf(node, "x") + NumberOf(node, "width"), width) << where;
+            EXPECT_LE(NumberOf(node, "y") + NumberOf(node, "height"), height) << where;
+        }
+        ExpectInside(node->children, width, height, where);
+    }
+}
 
 }  // namespace
 
@@ -104,6 +111,7 @@ TEST(Figures, AreWellFormedAndTheirTextsNeverOverlap) {
                 xmlNode* root = xmlDocGetRootElement(document.get());
                 Collect(root, boxes);
                 const double width = NumberOf(root, "width"), height = NumberOf(root, "height");
+                ExpectInside(root, width, height, where);
                 for (std::size_t i = 0; i < boxes.size(); ++i) {
                     const TextBox& a = boxes[i];
                     EXPECT_GE(a.left, 0.0) << where << ": " << a.text;
@@ -192,8 +200,8 @@ TEST(Figures, MembersAreListedWorstFirstAndHeadsByTheirOwnEnd) {
     project.WriteAll();
     const Evaluation& evaluation = project.Evaluate(FindFigure("dc")->needs);
     const std::string ratios = FindFigure("dc")->draw(evaluation, {});
-    EXPECT_THAT(ratios, HasSubstr("1.25 over the limit, pile 2 element 4 end I, case 2<"));
-    EXPECT_THAT(ratios, HasSubstr("0.75, element 1 end I, case 1<"));
+    EXPECT_THAT(ratios, HasSubstr("1.250 over the limit, pile 2 element 4 end I, case 2<"));
+    EXPECT_THAT(ratios, HasSubstr("0.750, element 1 end I, case 1<"));
     EXPECT_LT(ratios.find(">pile 2<"), ratios.find(">element 1<"));
     EXPECT_LT(ratios.find(">element 1<"), ratios.find(">pile 1<"));
     EXPECT_THAT(FindFigure("pile-heads")->draw(evaluation, {}), HasSubstr("pile 2 head: D/C 0.75, case 2<"));
@@ -229,6 +237,15 @@ TEST(Figures, ForcesThatAreNoNumbersLeaveAPicture) {
     const std::string svg = FindFigure("pile-heads")->draw(evaluation, {});
     EXPECT_NE(Parse(svg), nullptr);
     EXPECT_EQ(svg.find("nan"), std::string::npos);
+}
+
+// Two decimals would say 1.00, which is no more than the limit.
+TEST(Figures, ARatioJustOverTheLimitShowsIt) {
+    RecordsProject project;
+    project.Set(0, 3, kRatioJ, 1.0001F);
+    project.WriteAll();
+    const std::string svg = FindFigure("dc")->draw(project.Evaluate(FindFigure("dc")->needs), {});
+    EXPECT_THAT(svg, testing::ContainsRegex(">1\\.0001[0-9]* over the limit, pile 2 head, case 1<"));
 }
 
 // By hand from the face's table: A 667, v 500, the full stop 278, all in thousandths.
