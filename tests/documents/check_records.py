@@ -5,6 +5,7 @@ usage: check_records.py LUMERIN MAKE_SAMPLE
 
 - Each number of section_dc, section_forces, pile_axial, cap_shear and cap_moment of the six sample projects is,
   rounded, the number at the same place of the text form; those of pile_heads are the numbers of the worksheet.
+- cap_envelope has the values of cap_shear and cap_moment at their design places that are ends of elements.
 - element_dc is worked out anew by NumPy from the bytes of the force files.
 """
 import collections
@@ -148,6 +149,23 @@ def check_pile_heads(samples, counts):
         counts["pile_heads"] += len(rows)
 
 
+def check_envelope_values(samples, counts):
+    """A design place at the end of an element has the value of the cap's envelope there; of equal values the tables may
+    name another case."""
+    for project in exported.PRESETS:
+        ends = {tuple(row[name] for name in ("substructure", "class", "element", "end")): row
+                for row in samples.every_row(project, "cap_envelope")}
+        for table, force, quantity in (("cap_shear", "f22", "shear"), ("cap_moment", "m33", "moment")):
+            for row in samples.every_row(project, table):
+                if row["status"] != "ok" or row["end"] not in ("I", "J"):
+                    continue
+                there = ends[tuple(row[name] for name in ("substructure", "class", "element", "end"))]
+                name = f"{row['extreme']}_{quantity}"
+                assert there[name] == row[force], (project, table, row, there)
+                assert there[name + "_case"] == row["case"] or float(row[force]) == 0.0, (project, table, row, there)
+                counts["envelope_" + quantity] += 1
+
+
 # ---- element_dc from the bytes
 
 def class_of(limit_state):
@@ -196,9 +214,11 @@ def main():
         counts = collections.Counter()
         check_printed(samples, counts)
         check_pile_heads(samples, counts)
+        check_envelope_values(samples, counts)
         check_element_dc(samples, counts)
     assert all(counts[table] > 20 for table in ("section_dc", "section_forces", "pile_axial", "cap_shear",
-                                                "cap_moment", "pile_heads", "element_dc")), counts
+                                                "cap_moment", "pile_heads", "envelope_shear", "envelope_moment",
+                                                "element_dc")), counts
     print(", ".join(f"{table}: {count} rows" for table, count in counts.items()))
 
 
