@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "cli/CheckCommand.h"
+#include "cli/Commit.h"
 #include "cli/DriveCommand.h"
 #include "cli/EmbedmentCommand.h"
 #include "cli/ExportCommand.h"
@@ -16,6 +17,7 @@
 #include "cli/ReportCommand.h"
 #include "cli/Suggest.h"
 #include "cli/Terminal.h"
+#include "records/Table.h"
 #include "script/Border.h"
 
 namespace lumerin {
@@ -47,6 +49,17 @@ constexpr const char* kProgramFooter =
 
 }  // namespace
 
+namespace {
+
+// "lumerin 1.0.0 (commit 0123456789ab)"
+std::string VersionText() {
+    std::string text = "lumerin " + std::string(ProgramVersion());
+    if (!Commit().empty()) text += " (commit " + std::string(Commit()) + ")";
+    return text;
+}
+
+}  // namespace
+
 Program::Program() : m_parser(std::make_unique<CLI::App>("Report tables of bridge substructure results")) {
     m_parser->name("lumerin");
     // The parsers of the commands take it over.
@@ -55,7 +68,7 @@ Program::Program() : m_parser(std::make_unique<CLI::App>("Report tables of bridg
         return HelpOf(*parser, isProgram ? "lumerin" : "lumerin " + parser->get_name(), TerminalWidth());
     });
     m_parser->footer(kProgramFooter);
-    m_parser->set_version_flag("--version", "lumerin " LUMERIN_VERSION);
+    m_parser->set_version_flag("--version", VersionText());
     m_parser->require_subcommand(1);
     for (const AddCommand add : kCommands) m_commands.push_back(add(*m_parser));
     m_help = m_parser->add_subcommand("help", "Print the help of the program or of a command");

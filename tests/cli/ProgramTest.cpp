@@ -62,7 +62,8 @@ TEST(Program, HelpAndVersionAreNoFailure) {
     EXPECT_THAT(RunProgram("drive --help").output, HasSubstr("SCRIPT"));
     const Outcome version = RunProgram("--version");
     EXPECT_EQ(version.status, 0);
-    EXPECT_THAT(version.output, testing::StartsWith("lumerin "));
+    EXPECT_THAT(version.output,
+                testing::ContainsRegex("^lumerin [0-9]+\\.[0-9]+\\.[0-9]+( \\(commit [0-9a-f]{12}\\))?\n$"));
 }
 
 TEST(Program, HelpListsEveryAction) {

@@ -1,0 +1,42 @@
+# What is installed, and the packages of it. `cpack -G DEB` and `cpack -G TGZ` in the build folder make them; tools/release
+# makes and checks all of a release.
+include(GNUInstallDirs)
+set(documents ${CMAKE_INSTALL_DATADIR}/doc/lumerin)
+
+# The projects that the guide's examples use.
+set(samples ${CMAKE_BINARY_DIR}/sample-projects)
+set(presets pier bent group walls bridge history)
+set(make_samples "")
+foreach(preset ${presets})
+    list(APPEND make_samples COMMAND make-sample ${samples} --preset ${preset} --name ${preset})
+endforeach()
+add_custom_command(OUTPUT ${samples}/made ${make_samples} COMMAND ${CMAKE_COMMAND} -E touch ${samples}/made
+    DEPENDS make-sample COMMENT "" VERBATIM)
+add_custom_target(sample-projects ALL DEPENDS ${samples}/made)
+
+install(TARGETS lumerin RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(DIRECTORY ${CMAKE_BINARY_DIR}/man/ DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 FILES_MATCHING PATTERN "*.1")
+install(FILES ${CMAKE_BINARY_DIR}/completion/lumerin DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+install(FILES CHANGELOG.md THIRD-PARTY-NOTICES.txt
+    docs/user-guide.md docs/data.md docs/formats.md docs/quirks.md DESTINATION ${documents})
+install(FILES LICENSE DESTINATION ${documents} RENAME copyright)
+install(DIRECTORY docs/pictures DESTINATION ${documents})
+install(DIRECTORY ${samples}/ DESTINATION ${CMAKE_INSTALL_DATADIR}/lumerin/samples PATTERN made EXCLUDE)
+
+set(CPACK_PACKAGE_NAME lumerin)
+set(CPACK_PACKAGE_VENDOR "The Lumerin developers")
+set(CPACK_PACKAGE_CONTACT ${CPACK_PACKAGE_VENDOR})
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Report tables for bridge substructures")
+set(CPACK_PACKAGE_DESCRIPTION "Reads the result files of a substructure analysis: piers, pile bents, pile groups and walls.
+It finds maxima and design envelopes for each limit class, checks demand/capacity ratios, and writes tables as text,
+PDF, spreadsheet, web page and data.")
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_RESOURCE_FILE_LICENSE ${CMAKE_SOURCE_DIR}/LICENSE)
+set(CPACK_STRIP_FILES ON)
+# All times are that of SOURCE_DATE_EPOCH where it is set, so that the same sources make the same package.
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_SOURCE_DIR}/cmake/ClampTimes.cmake)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION science)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_PACKAGE_FILE_NAME lumerin-${PROJECT_VERSION}-linux-${CMAKE_SYSTEM_PROCESSOR})
+include(CPack)
