@@ -8,8 +8,8 @@
 #include "embedment/EmbedmentResults.h"
 #include "framework/File.h"
 #include "framework/Index.h"
-#include "model/Applicability.h"
 #include "model/CapChain.h"
+#include "records/TableReason.h"
 #include "tables/Words.h"
 #include "text/Paths.h"
 #include "text/Utf8.h"
@@ -21,34 +21,18 @@ namespace {
 struct NamedTable {
     TableId table;
     const char* name;
-    const char* missing;  // what a project lacks that has no such table
 };
 constexpr NamedTable kTables[] = {
-    {kTableMaxAxial, "axial", "no piles"},
-    {kTablePileDc, "pile-dc", "no piles"},
-    {kTableColumnDc, "column-dc", "no columns"},
-    {kTableCapShear, "cap-shear", "no cap"},
-    {kTableCapMoment, "cap-moment", "no cap"},
-    {kTablePileForces, "pile-forces", "no piles"},
-    {kTableColumnForces, "column-forces", "no columns"},
-    {kTableExtraMembers, "extra-members", "no extra members"},
-    {kTablePileHeads, "pile-heads", "no piles"},
+    {kTableMaxAxial, "axial"},
+    {kTablePileDc, "pile-dc"},
+    {kTableColumnDc, "column-dc"},
+    {kTableCapShear, "cap-shear"},
+    {kTableCapMoment, "cap-moment"},
+    {kTablePileForces, "pile-forces"},
+    {kTableColumnForces, "column-forces"},
+    {kTableExtraMembers, "extra-members"},
+    {kTablePileHeads, "pile-heads"},
 };
-
-// The report dialog offers no table at all for one mast, wall or single pile (CDesignerDlg::RefreshOnePier).
-bool IsWithoutTables(const CDataSet& data) {
-    const StructureType type = data.m_nStructureType;
-    return data.m_nPiers < 2 && type != kTypePier && type != kTypePileGroup && type != kTypePileBent;
-}
-
-std::string ReasonOf(const CDataSet& data, const TableFlags& enabled, bool onlyFatigue,
-                     const NamedTable& named) {
-    if (IsWithoutTables(data)) {
-        return "a " + std::string(StructureTypeName(data.m_nStructureType)) + " alone has no tables";
-    }
-    if (enabled[named.table]) return {};
-    return onlyFatigue && named.table != kTableCapMoment ? "only fatigue cases are chosen" : named.missing;
-}
 
 std::string_view KindOfCases(const CDataSet& data) {
     if (data.m_nAnalysisMode == kModeTimeSteps) return "time steps";
@@ -122,10 +106,8 @@ void Describe(const Evaluation& evaluation, bool withCases, ProjectInfo& info) {
     for (std::size_t p = 0; p < data.m_Piers.size(); ++p) {
         info.substructures.push_back(DescribeSubstructure(evaluation, p));
     }
-    const TableFlags enabled = ApplicableTables(data, evaluation.Selection());
-    const bool onlyFatigue = data.HasOnlyFatigue(evaluation.Selection());
     for (const NamedTable& named : kTables) {
-        info.tables.push_back({named.name, ReasonOf(data, enabled, onlyFatigue, named)});
+        info.tables.push_back({named.name, WhyTableDoesNotApply(data, evaluation.Selection(), named.table)});
     }
     DescribeStudy(evaluation.Opened().name.inputFile, info);
     info.hasReadForces = evaluation.HasReadForces();

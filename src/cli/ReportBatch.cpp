@@ -3,11 +3,11 @@
 #include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <nlohmann/json.hpp>
 
 #include "cli/FindingJson.h"
 #include "cli/ReportDriver.h"
-#include "cli/WorkbookReport.h"
 #include "export/TableWriter.h"
 #include "script/Border.h"
 #include "session/OutputFiles.h"
@@ -20,9 +20,9 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-// The workbook of a project; it has no table's name.
-PlannedDocument WorkbookOf(const ProjectName& project) {
-    return {project.basePath, "report", WorkbookReportPath(project)};
+// A document with all tables has no table's name.
+PlannedDocument PlanOf(const OwnDocument& document, const ProjectName& project) {
+    return {project.basePath, "report", project.basePath + std::string(document.ending)};
 }
 
 // Each document that the request asks for, once.
@@ -31,7 +31,7 @@ std::vector<PlannedDocument> DocumentsOf(const ReportRequest& options,
     std::vector<PlannedDocument> documents;
     for (const ProjectName& project : projects) {
         const std::size_t first = documents.size();
-        if (options.workbook) documents.push_back(WorkbookOf(project));
+        for (const OwnDocument* document : options.documents) documents.push_back(PlanOf(*document, project));
         for (const std::string& table : options.tables) {
             for (const int format : options.formats) {
                 const TableName& known = ReadTable(table);
@@ -61,41 +61,68 @@ std::string RecordOf(const ProjectName& project, const ProjectReport& report, lo
     return record.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-// Writes the workbook of a project and adds what came of it.
-void AddWorkbook(const ReportRequest& options, const ProjectName& project, ProjectReport& report,
-                 std::ostream& out, std::ostream& err) {
-    const auto say = [&](const std::string& text) {
-        PrintLine(err, project.inputFile + ": " + text);
-        report.messages.push_back(ForUser(text));
-    };
-    try {
-        const std::string path = PathOf(options.output, WorkbookOf(project));
-        const WorkbookReportResult result =
-            WriteWorkbookReport({project, options.cases, {}, options.strict, path});
-        if (HasError(result.findings)) report.status = Worse(report.status, kExitUnsound);
-        // The other formats have reported the load and the data.
-        if (options.formats.empty()) {
-            report.findings = result.findings;
-            for (const std::string& message : result.messages) say(message);
-            for (const Finding& finding : result.findings) {
-                if (finding.severity == Severity::note) continue;
-                PrintLine(err, project.inputFile + ": " + LineOf(finding));
-            }
+// Writes the documents that the dialogs do not have, from one pass over the forces.
+class OwnDocumentWriter {
+  public:
+    OwnDocumentWriter(const ReportRequest& options, const ProjectName& project, ProjectReport& report,
+                      std::ostream& out, std::ostream& err)
+        : m_options(options), m_project(project), m_report(report), m_out(out), m_err(err) {}
+
+    void Write() {
+        try {
+            const std::unique_ptr<OpenProject> opened = LoadByName(m_project);
+            const Evaluation evaluation(*opened, m_options.cases, m_options.limits,
+                                        NeedsOf(m_options.documents));
+            AddFindings(*opened, evaluation.Findings());
+            if (m_options.strict && HasError(evaluation.Findings())) return;
+            for (const OwnDocument* document : m_options.documents) WriteDocument(*document, evaluation);
+        } catch (const std::invalid_argument& fault) {
+            Fail(kExitUsage, fault);
+        } catch (const std::exception& fault) {
+            Fail(kExitNotLoaded, fault);
         }
-        if (!result.isWritten) return;
-        report.files.push_back(path);
-        if (!options.json) out << ForUser(path) << std::endl;
-    } catch (const ExportError& fault) {
-        say(fault.what());
-        report.status = Worse(report.status, kExitIncomplete);
-    } catch (const std::invalid_argument& fault) {
-        say(fault.what());
-        report.status = Worse(report.status, kExitUsage);
-    } catch (const std::exception& fault) {
-        say(fault.what());
-        report.status = Worse(report.status, kExitNotLoaded);
     }
-}
+
+  private:
+    void WriteDocument(const OwnDocument& document, const Evaluation& evaluation) {
+        try {
+            const std::string path = PathOf(m_options.output, PlanOf(document, m_project));
+            document.write(evaluation, m_options.common, path);
+            m_report.files.push_back(path);
+            if (!m_options.json) m_out << ForUser(path) << std::endl;
+        } catch (const ExportError& fault) {
+            Fail(kExitIncomplete, fault);
+        }
+    }
+
+    void AddFindings(const OpenProject& opened, const std::vector<Finding>& findings) {
+        if (HasError(findings)) m_report.status = Worse(m_report.status, kExitUnsound);
+        // The other formats have reported the load and the data.
+        if (!m_options.formats.empty()) return;
+        m_report.findings = findings;
+        for (const std::string& message : opened.messages) Say(message);
+        for (const Finding& finding : findings) {
+            if (finding.severity == Severity::note) continue;
+            PrintLine(m_err, m_project.inputFile + ": " + LineOf(finding));
+        }
+    }
+
+    void Fail(ExitStatus status, const std::exception& fault) {
+        Say(fault.what());
+        m_report.status = Worse(m_report.status, status);
+    }
+
+    void Say(const std::string& text) {
+        PrintLine(m_err, m_project.inputFile + ": " + text);
+        m_report.messages.push_back(ForUser(text));
+    }
+
+    const ReportRequest& m_options;
+    const ProjectName& m_project;
+    ProjectReport& m_report;
+    std::ostream& m_out;
+    std::ostream& m_err;
+};
 
 // One project in all formats.
 ProjectReport ReportProject(const ReportRequest& options, const ProjectName& project,
@@ -114,8 +141,8 @@ ProjectReport ReportProject(const ReportRequest& options, const ProjectName& pro
         if (options.strict && HasError(driver.Report().findings)) break;
     }
     ProjectReport report = driver.Report();
-    if (options.workbook && Worse(report.status, kExitNotLoaded) != report.status) {
-        AddWorkbook(options, project, report, out, err);
+    if (!options.documents.empty() && Worse(report.status, kExitNotLoaded) != report.status) {
+        OwnDocumentWriter(options, project, report, out, err).Write();
     }
     return report;
 }

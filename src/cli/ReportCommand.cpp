@@ -29,6 +29,7 @@ constexpr const char* kReportFooter =
     "  lumerin report bridge.in\n"
     "  lumerin report bridge --table axial,pile-dc --format pdf -o reports\n"
     "  lumerin report bridge --table cap-moment --class strength -o - | less\n"
+    "  lumerin report bridge --format html --limit 0.95\n"
     "  lumerin report --files-from projects.txt --name '{project}-{table}' --json\n"
     "\n"
     "Prints the path of each file that was written; messages and findings go to standard error. No status "
@@ -74,7 +75,8 @@ void AddOnce(std::vector<Value>& values, Value value) {
 }
 
 void RequireFormat(const std::string& word) {
-    const std::vector<std::string> formats{"text", "pdf", "excel", "xlsx"};
+    std::vector<std::string> formats{"text", "pdf", "excel"};
+    for (const OwnDocument& document : OwnDocuments()) formats.emplace_back(document.format);
     if (std::find(formats.begin(), formats.end(), LowerCase(word)) != formats.end()) return;
     throw std::invalid_argument(UnknownWord(word, "format", formats));
 }
@@ -82,22 +84,23 @@ void RequireFormat(const std::string& word) {
 ExitStatus RunReport(ReportArguments& arguments, std::ostream& out, std::ostream& err) {
     ReportRequest& request = arguments.request;
     for (const std::string& word : PartsOf(arguments.formats)) {
-        if (LowerCase(word) == "xlsx") {
-            request.workbook = true;
+        if (const OwnDocument* document = FindOwnDocument(LowerCase(word))) {
+            AddOnce(request.documents, document);
         } else {
             RequireFormat(word);
             AddOnce(request.formats, ReadFormat(word));
         }
     }
-    if (request.workbook && request.formats.empty() && !arguments.tables.empty()) {
-        throw std::invalid_argument(
-            "the workbook of --format xlsx has all tables; for some of them use: lumerin export --format "
-            "xlsx");
+    const bool ownAlone = !request.documents.empty() && request.formats.empty();
+    if (ownAlone && !arguments.tables.empty()) {
+        throw std::invalid_argument("the document of --format " +
+                                    std::string(request.documents.front()->format) +
+                                    " has all tables; for some of them use: lumerin export --table");
     }
     for (const std::string& word : PartsOf(arguments.tables)) {
         AddOnce(request.tables, std::string(ReadTable(word).name));
     }
-    if (request.formats.empty() && !request.workbook) request.formats.push_back(ReadFormat("text"));
+    if (request.formats.empty() && !ownAlone) request.formats.push_back(ReadFormat("text"));
     if (request.tables.empty()) request.tables.emplace_back("full");
     if (!arguments.footer.empty()) request.footer = ReadFooter(arguments.footer);
     if (request.json && request.output.ToStandardOutput()) {
@@ -124,11 +127,13 @@ ProgramCommand AddReportCommand(CLI::App& program) {
         ->allow_extra_args(false)
         ->type_name("LIST");
     command
-        .add_option("--format", arguments->formats,
-                    "Formats, likewise: text, pdf, excel, xlsx (default text)")
+        .add_option(
+            "--format", arguments->formats,
+            "Formats, likewise: text, pdf, excel, and with all tables in one file xlsx, html (default text)")
         ->allow_extra_args(false)
         ->type_name("LIST");
     AddCaseOptions(command, request.cases);
+    AddLimitOptions(command, request.limits);
     command
         .add_option("--footer", arguments->footer,
                     "none, or a list of date,time,version,filename (default all)")

@@ -10,6 +10,7 @@
 #include "cli/ExitStatus.h"
 #include "cli/Options.h"
 #include "cli/OutputPlan.h"
+#include "cli/OwnDocuments.h"
 #include "cli/Progress.h"
 #include "framework/headless/Headless.h"
 #include "records/CaseChoice.h"
@@ -26,8 +27,9 @@ struct ReportRequest {
     std::vector<std::string> projects;
     std::vector<std::string> tables;  // short names
     std::vector<int> formats;
-    bool workbook = false;  // one of all tables, besides the formats
+    std::vector<const OwnDocument*> documents;  // with all tables each, besides the formats
     CaseChoice cases;
+    Limits limits;  // of the verdict in those documents
     FooterChoice footer;
     OutputOptions output;
     bool open = false;      // start the viewers

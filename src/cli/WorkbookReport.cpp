@@ -214,30 +214,20 @@ class SheetOfRows {
     std::optional<TableSheet> m_rows;
 };
 
-std::vector<const Table*> TablesOfTheReport() {
-    std::vector<const Table*> tables{FindTable("verdict")};
-    for (const ReportSheet& sheet : kSheets) tables.push_back(FindTable(sheet.table));
-    return tables;
-}
-
 }  // namespace
 
-std::string WorkbookReportPath(const ProjectName& project) {
-    return project.basePath + "_Report.xlsx";
+TableNeeds WorkbookReportNeeds() {
+    std::vector<const Table*> tables{FindTable("verdict")};
+    for (const ReportSheet& sheet : kSheets) tables.push_back(FindTable(sheet.table));
+    return NeedsOf(tables);
 }
 
-WorkbookReportResult WriteWorkbookReport(const WorkbookReportRequest& request) {
-    const std::unique_ptr<OpenProject> opened = LoadByName(request.project);
-    const Evaluation evaluation(*opened, request.cases, request.limits, NeedsOf(TablesOfTheReport()));
-    WorkbookReportResult result{opened->messages, evaluation.Findings(), false};
-    if (request.strict && HasError(result.findings)) return result;
-    Workbook workbook(request.path, DocumentTime());
+void WriteWorkbookReport(const Evaluation& evaluation, const std::string& path) {
+    Workbook workbook(path, DocumentTime());
     workbook.SetTitle(ToUtf8(evaluation.Data().m_sProjectN));
     Cover(workbook, evaluation).Write();
     for (const ReportSheet& sheet : kSheets) SheetOfRows(workbook, evaluation, sheet).Write();
     workbook.Close();
-    result.isWritten = true;
-    return result;
 }
 
 }  // namespace lumerin

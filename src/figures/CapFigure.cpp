@@ -6,6 +6,7 @@
 #include "figures/CapData.h"
 #include "figures/FigureList.h"
 #include "figures/Frame.h"
+#include "figures/Marks.h"
 #include "figures/RatioColour.h"
 #include "framework/Index.h"
 
@@ -126,7 +127,7 @@ class CapFigure {
             m_svg.Text(panel.className, {kLeft, top - 7.0}, {kNormal, true, Anchor::start, kMark, false});
         }
         for (const BandRun& run : panel.runs) DrawRun(run, y);
-        for (const DesignMark& mark : panel.marks) DrawMark(mark, y);
+        for (const DesignMark& mark : panel.marks) DrawMark(panel, mark, y);
         DrawPeaks(panel, y);
         DrawStrip(panel, top + kPanelHeight + 22.0);
     }
@@ -147,11 +148,12 @@ class CapFigure {
     }
 
     // A triangle that points up for a maximum, down for a minimum.
-    void DrawMark(const DesignMark& mark, const Scale& y) {
+    void DrawMark(const CapPanel& panel, const DesignMark& mark, const Scale& y) {
         if (!std::isfinite(mark.value)) return;
         const double x = m_x.At(mark.x), at = y.At(mark.value), up = mark.maximum ? -1.0 : 1.0;
         m_svg.BeginGroup(mark.place + (mark.maximum ? " max " : " min ") + NumberText(mark.value) + ", " +
-                         CaseText(m_evaluation, mark.loadCase));
+                             CaseText(m_evaluation, mark.loadCase),
+                         CapMarkName(panel.className, mark.maximum, mark.place));
         const std::array<Point, 3> triangle{{{x, at}, {x - 4.0, at - up * 7.0}, {x + 4.0, at - up * 7.0}}};
         m_svg.Polygon(triangle, {"#ffffff", kMark, 1.0, {}});
         m_svg.EndGroup();

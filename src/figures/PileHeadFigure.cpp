@@ -4,6 +4,7 @@
 
 #include "figures/FigureList.h"
 #include "figures/Frame.h"
+#include "figures/Marks.h"
 #include "figures/RatioColour.h"
 #include "framework/Index.h"
 
@@ -94,9 +95,10 @@ class PileHeadFigure {
         const double top = m_y.At(Finite(head.greatest)), bottom = m_y.At(Finite(head.least));
         const std::string number = std::to_string(head.pile);
         m_svg.BeginGroup("pile " + number + ": " + NumberText(Finite(head.least)) + " (" +
-                         CaseText(m_evaluation, head.least.loadCase) + ") to " +
-                         NumberText(Finite(head.greatest)) + " (" +
-                         CaseText(m_evaluation, head.greatest.loadCase) + ")");
+                             CaseText(m_evaluation, head.least.loadCase) + ") to " +
+                             NumberText(Finite(head.greatest)) + " (" +
+                             CaseText(m_evaluation, head.greatest.loadCase) + ")",
+                         MemberMarkName("pile " + number));
         m_svg.Rect(left, top, width, std::max(bottom - top, 1.0), {kBand, kLine, 1.0, {}});
         m_svg.EndGroup();
         const double base = kTop + kPlotHeight;

@@ -4,6 +4,7 @@
 
 #include "figures/FigureList.h"
 #include "figures/Frame.h"
+#include "figures/Marks.h"
 #include "figures/RatioColour.h"
 #include "framework/Index.h"
 #include "tables/Words.h"
@@ -106,7 +107,9 @@ std::string DrawRatios(const Evaluation& evaluation, const FigureRequest& reques
         const double y = top + static_cast<double>(i) * kRowHeight;
         svg.Text(member.name, {kLabelWidth - 8.0, y + 14.0}, {kNormal, false, Anchor::end, kMark, false});
         const double ratio = std::max(static_cast<double>(member.ratio), 0.0);
+        svg.BeginGroup(member.name + ": " + LabelOf(evaluation, member), MemberMarkName(member.name));
         DrawRatio(svg, ratio, limit, {x.At(0.0), y + 3.0, x.At(ratio) - x.At(0.0), kRowHeight - 6.0});
+        svg.EndGroup();
         svg.Text(LabelOf(evaluation, member), {std::max(x.At(ratio), x.At(limit)) + 6.0, y + 14.0},
                  {kSmall, member.ratio > limit, Anchor::start, member.ratio > limit ? kOver : kAxis, false});
     }

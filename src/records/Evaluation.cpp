@@ -86,11 +86,7 @@ Evaluation::Evaluation(const OpenProject& project, const CaseChoice& cases, cons
 
 TableNeeds NeedsOf(std::span<const Table* const> tables) {
     TableNeeds needs;
-    for (const Table* table : tables) {
-        needs.searches |= table->needs.searches;
-        needs.elements = needs.elements || table->needs.elements;
-        needs.soundness = needs.soundness || table->needs.soundness;
-    }
+    for (const Table* table : tables) needs.Add(table->needs);
     return needs;
 }
 

@@ -40,6 +40,12 @@ struct TableNeeds {
     unsigned searches = 0;   // bits 1 << TableId: the searches of the printed tables
     bool elements = false;   // the search over all element ends
     bool soundness = false;  // every force is looked at, which any pass does
+
+    void Add(const TableNeeds& others) {
+        searches |= others.searches;
+        elements = elements || others.elements;
+        soundness = soundness || others.soundness;
+    }
 };
 
 struct Table {

@@ -63,6 +63,7 @@ class CCapWalk {
             if (!WriteSectionHeading(m_report, m_layout, slot, m_sink)) continue;
             m_sink.MayBreak(BreakPoint::columnHead);
             m_sink.Head(m_head);
+            m_sink.Block({p, slot, extreme});
             WriteRows({m_layout.table, pier, m_report.results.piers[p], slot, extreme});
             if (slot != slots.back()) m_sink.Gap(2);
         }
@@ -80,9 +81,10 @@ class CCapWalk {
 
     void WriteRows(const CapBlock& block) {
         WalkCap(block, [this](const CCapRow& row) {
-            m_row.clear();
-            AppendLeftPadded(m_row, row.sLabel, 12);
-            m_row += ' ';
+            m_row.Clear();
+            AppendLeftPadded(m_line, row.sLabel, 12);
+            m_row.EndCell();
+            m_line += ' ';
             AppendRow(row);
             m_sink.Row(m_row);
         });
@@ -92,19 +94,21 @@ class CCapWalk {
         const CCapRecord& record = row.pEntry->record;
         const std::size_t form = m_bLimitStates ? 1 : 0;
         if (record.m_nMissing == 1) {
-            m_row += m_cap.missing[form];
+            m_row.AppendWords(m_cap.missing[form]);
             return;
         }
-        AppendInt(m_row, record.m_nElementNumber, 5);
-        m_row += ' ';
-        AppendInt(m_row, record.m_nSection, 5);
-        m_row += ' ';
+        AppendInt(m_line, record.m_nElementNumber, 5);
+        m_row.EndCell();
+        m_line += ' ';
+        AppendInt(m_line, record.m_nSection, 5);
+        m_row.EndCell();
+        m_line += ' ';
         AppendNode(record, row.bBearing);
         if (!row.bSideHasResult) {
-            m_row += m_cap.sideMissing[form];
+            m_row.AppendWords(m_cap.sideMissing[form]);
         } else if (record.m_nLoadCase < 0) {
             // This filler has the limit state column in either form; without one the row runs past the head.
-            m_row += m_cap.noLoadCase;
+            m_row.AppendWords(m_cap.noLoadCase);
         } else {
             AppendResult(record, row.pEntry->values);
         }
@@ -112,33 +116,45 @@ class CCapWalk {
 
     void AppendNode(const CCapRecord& record, bool bearing) {
         if (bearing || record.m_nEnd == kEndI || record.m_nEnd == kEndJ) {
-            AppendInt(m_row, record.m_nNode, 10);
+            AppendInt(m_line, record.m_nNode, 10);
         } else if (record.m_nEnd == kInsideElement) {
             m_nodes.clear();
             AppendInt(m_nodes, record.m_nNode);
             m_nodes += ',';
             AppendInt(m_nodes, record.m_nSecondNode);
-            m_row += ' ';
-            AppendLeftPadded(m_row, m_nodes, 9);
+            m_line += ' ';
+            AppendLeftPadded(m_line, m_nodes, 9);
         } else {
-            m_row += "       ***";
+            m_line += "       ***";
         }
-        m_row += ' ';
+        m_row.EndCell();
+        m_line += ' ';
     }
 
     void AppendResult(const CCapRecord& record, const CapValues& values) {
-        AppendInt(m_row, record.m_nLoadCase + 1LL, 5);
-        if (m_bLimitStates) AppendLeftPadded(m_row, LimitStateOf(m_report.data, record.m_nLoadCase), 15);
+        AppendInt(m_line, record.m_nLoadCase + 1LL, 5);
+        m_row.EndCell();
+        if (m_bLimitStates) {
+            AppendLeftPadded(m_line, LimitStateOf(m_report.data, record.m_nLoadCase), 15);
+            m_row.EndCell();
+        }
         AppendEnd(record.m_nEnd);
         for (std::size_t i = 0; i < m_cap.values; ++i) {
-            if (i + 1 < m_cap.values) m_row += "   ";
-            AppendFixed(m_row, values[Index(m_cap.valueOrder[i])], 2, 9);
+            const int component = m_cap.valueOrder[i];
+            const double value = values[Index(component)];
+            if (i + 1 < m_cap.values) m_line += "   ";
+            AppendFixed(m_line, value, 2, 9);
+            if (component == kDemandCapacity) {
+                m_row.EndRatio(value);
+            } else {
+                m_row.EndCell();
+            }
         }
     }
 
     void AppendEnd(int end) {
         static constexpr const char* kEnds[] = {"    I", "    J", "  I,J"};
-        m_row += end >= kEndI && end <= kInsideElement ? kEnds[end] : "  ***";
+        m_row.AppendWords(end >= kEndI && end <= kInsideElement ? kEnds[end] : "  ***");
     }
 
     const Report& m_report;
@@ -147,7 +163,8 @@ class CCapWalk {
     CLineSink& m_sink;
     bool m_bLimitStates;
     ColumnHead m_head;
-    std::string m_row;  // both are reused, so that a row allocates no memory
+    RowText m_row;  // both are reused, so that a row allocates no memory
+    std::string& m_line = m_row.line;
     std::string m_nodes;
 };
 

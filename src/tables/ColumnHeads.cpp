@@ -14,18 +14,6 @@ namespace {
 
 constexpr std::size_t kLimitStateWidth = 15;
 
-struct StepWords {
-    const char* upper = nullptr;  // null: no head at all
-    const char* lower = nullptr;
-};
-
-StepWords StepWordsOf(const HeadTexts& head, bool combinations, int mode) {
-    if (combinations) return {"LOAD", "COMB"};
-    if (mode == 1 || (mode == 2 && head.mode2IsTimeStep)) return {"TIME", "STEP"};
-    if (mode <= 0 || mode == 2) return {"LOAD", "CASE"};
-    return {};
-}
-
 // The head of table 0 names the step and the limit state twice, and AREMA's second word is a blank narrower.
 struct PileHeadLines {
     const char* upper;
@@ -67,7 +55,7 @@ void AddPileHeadLines(ColumnHead& head, const CPier& first, int mode, bool us) {
         head.lines.emplace_back(us ? kCombLowerUs : kCombLowerSi);
         return;
     }
-    const StepWords words = StepWordsOf({}, false, mode);
+    const StepLines words = StepLinesOf({}, false, mode);
     if (words.upper == nullptr) return;
     const PileHeadLines& lines = mode == 1 ? kTimeStepHead : kLoadCaseHead;
     head.lines.emplace_back(lines.upper);
@@ -81,7 +69,7 @@ std::string LimitStateHeading(const HeadTexts& texts, CodeFamily family) {
 void AddSteppedLines(ColumnHead& head, const HeadTexts& texts, const CPier& first, int mode, bool us,
                      bool cap) {
     const bool combinations = first.m_bCombinations;
-    const StepWords words = StepWordsOf(texts, combinations, mode);
+    const StepLines words = StepLinesOf(texts, combinations, mode);
     if (words.upper == nullptr) {
         // The cap tables end their head with the line feed of the block, also when the head is empty.
         if (cap) head.lines.emplace_back();
@@ -103,6 +91,13 @@ void AddSteppedLines(ColumnHead& head, const HeadTexts& texts, const CPier& firs
 }
 
 }  // namespace
+
+StepLines StepLinesOf(const HeadTexts& head, bool combinations, int mode) {
+    if (combinations) return {"LOAD", "COMB"};
+    if (mode == 1 || (mode == 2 && head.mode2IsTimeStep)) return {"TIME", "STEP"};
+    if (mode <= 0 || mode == 2) return {"LOAD", "CASE"};
+    return {};
+}
 
 ColumnHead BuildColumnHead(const CDataSet& data, const TableLayout& layout) {
     ColumnHead head;

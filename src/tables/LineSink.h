@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "tables/Report.h"
+#include "tables/RowText.h"
 #include "tables/TableLayout.h"
 
 namespace lumerin {
@@ -15,6 +16,13 @@ enum class GapStyle { empty, lineFeed, blank };
 
 // Places before which a page may end.
 enum class BreakPoint { pierHeading, columnHead, key };
+
+// What the rows between two heads have in common.
+struct TableBlock {
+    std::size_t pier = 0;  // the substructure, from 0
+    LimitClass slot = kStrength;
+    int extreme = 0;  // of the cap tables: 0 maximum, 1 minimum
+};
 
 // The output of a walk over a table. The walk passes lines, heads and gaps once; a sink for text writes them
 // in order, a sink for PDF places them on pages. Both keep the running count of lines.
@@ -31,7 +39,9 @@ class CLineSink {
     virtual void Gap(int lines, GapStyle style = GapStyle::empty) = 0;
     // The column head of the block that begins, which a page break among its rows repeats.
     virtual void Head(const ColumnHead& head) = 0;
-    virtual void Row(std::string_view text) = 0;
+    // Before the rows of a block. Lines have all of it in their headings.
+    virtual void Block(const TableBlock&) {}
+    virtual void Row(const RowText& row) = 0;
     // The last text of a table: several lines, each with its line feed.
     virtual void Key(std::string_view text) = 0;
     virtual void MayBreak(BreakPoint) {}

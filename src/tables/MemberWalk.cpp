@@ -59,6 +59,7 @@ class CMemberWalk {
         if (!WriteSectionHeading(m_report, m_layout, slot, m_sink)) return;
         m_sink.MayBreak(BreakPoint::columnHead);
         m_sink.Head(m_head);
+        m_sink.Block({p, slot, 0});
         const CRecordTable& records = RecordsOf(m_report.results.piers[p]);
         const int properties = PropertiesOf(pier);
         for (int property = 0; property < properties; ++property) {
@@ -94,10 +95,11 @@ class CMemberWalk {
                        LimitClass slot) {
         const int rows = m_member.forces ? kPrintedExtremes : 1;
         for (int extreme = 0; extreme < rows; ++extreme) {
-            m_row.clear();
-            m_row += ' ';
-            AppendIntBlankZero(m_row, number, 4);
-            m_row += ' ';
+            m_row.Clear();
+            m_line += ' ';
+            AppendIntBlankZero(m_line, number, 4);
+            m_row.EndCell();
+            m_line += ' ';
             int element = -1;
             const CMaxRecord& record = Find(pier, records, property, slot, extreme, element);
             if (m_member.forces && element < 0) {
@@ -125,39 +127,64 @@ class CMemberWalk {
     }
 
     void AppendPlace(const CMaxRecord& record) {
-        if (m_member.blankBeforeMember) m_row += ' ';
-        AppendIntBlankZero(m_row, record.m_nMember + 1, m_member.memberWidth);
-        m_row += ' ';
-        AppendIntBlankZero(m_row, record.m_nElementNumber, 5);
-        m_row += ' ';
-        AppendIntBlankZero(m_row, record.m_nNode, 5);
-        m_row += ' ';
+        if (m_member.blankBeforeMember) m_line += ' ';
+        AppendIntBlankZero(m_line, record.m_nMember + 1, m_member.memberWidth);
+        m_row.EndCell();
+        m_line += ' ';
+        AppendIntBlankZero(m_line, record.m_nElementNumber, 5);
+        m_row.EndCell();
+        m_line += ' ';
+        AppendIntBlankZero(m_line, record.m_nNode, 5);
+        m_row.EndCell();
+        m_line += ' ';
     }
 
     void AppendResult(const CPier& pier, const CMaxRecord& record, int element, int extreme) {
         if (element < 0) {
-            m_row += m_member.missingRatio[m_bLimitStates ? 1 : 0];
+            AppendMissingRatio();
             return;
         }
-        AppendIntBlankZero(m_row, record.m_nLoadCase + 1, 5);
-        if (m_bLimitStates) AppendLeftPadded(m_row, LimitStateOf(m_report.data, record.m_nLoadCase), 15);
+        AppendIntBlankZero(m_line, record.m_nLoadCase + 1, 5);
+        m_row.EndCell();
+        if (m_bLimitStates) {
+            AppendLeftPadded(m_line, LimitStateOf(m_report.data, record.m_nLoadCase), 15);
+            m_row.EndCell();
+        }
         const int end = record.m_nEnd == kEndI ? kEndI : kEndJ;
-        m_row += end == kEndI ? "    I" : "    J";
-        if (m_member.forces) m_row += m_extremeNames[Index(extreme)];
+        m_row.AppendWords(end == kEndI ? "    I" : "    J");
+        if (m_member.forces) AppendExtremeName(extreme);
         const ForceRow forces = m_report.Forces(pier, record.m_nLoadCase, element);
         for (int component = kAxial; component < kDemandCapacity; ++component) {
-            m_row += m_member.valueGap;
-            AppendFixed(m_row, GetForce(forces, end, component), 2, 10);
+            m_line += m_member.valueGap;
+            AppendFixed(m_line, GetForce(forces, end, component), 2, 10);
+            m_row.EndCell();
         }
-        AppendFixed(m_row, GetForce(forces, end, kDemandCapacity), 2, 10);
+        AppendFixed(m_line, GetForce(forces, end, kDemandCapacity), 2, 10);
+        m_row.EndRatio(GetForce(forces, end, kDemandCapacity));
+    }
+
+    void AppendExtremeName(int extreme) {
+        m_line += m_extremeNames[Index(extreme)];
+        m_row.EndCell();
+    }
+
+    // A sentence is one cell, however many words it has.
+    void AppendMissingRatio() {
+        const char* words = m_member.missingRatio[m_bLimitStates ? 1 : 0];
+        if (m_member.missingIsSentence) {
+            m_line += words;
+            m_row.EndCell();
+        } else {
+            m_row.AppendWords(words);
+        }
     }
 
     void AppendMissingForce(int extreme) {
-        m_row += m_member.missing;
-        if (m_bLimitStates) m_row += "            ***";
-        m_row += "  ***";
-        m_row += m_extremeNames[Index(extreme)];
-        m_row += m_missingValues[Index(extreme)];
+        m_row.AppendWords(m_member.missing);
+        if (m_bLimitStates) m_row.AppendWords("            ***");
+        m_row.AppendWords("  ***");
+        AppendExtremeName(extreme);
+        m_row.AppendWords(m_missingValues[Index(extreme)]);
     }
 
     const Report& m_report;
@@ -168,7 +195,8 @@ class CMemberWalk {
     ColumnHead m_head;
     std::array<std::string, kPrintedExtremes> m_extremeNames;
     std::array<std::string, kPrintedExtremes> m_missingValues;
-    std::string m_row;  // reused, so that a row allocates no memory
+    RowText m_row;  // reused, so that a row allocates no memory
+    std::string& m_line = m_row.line;
 };
 
 }  // namespace

@@ -39,16 +39,19 @@ class CPileHeadWalk {
         if (!WriteSectionHeading(m_report, m_layout, slot, m_sink)) return;
         m_sink.MayBreak(BreakPoint::columnHead);
         m_sink.Head(m_head);
+        m_sink.Block({p, slot, 0});
         const int piles = static_cast<int>(pier.m_Piles.size());
         for (int pile = 0; pile < piles; ++pile) {
-            m_row.clear();
-            m_row += ' ';
-            AppendInt(m_row, static_cast<long long>(p) + 1, 14);
-            m_row += ' ';
-            AppendInt(m_row, pile + 1, 6);
-            m_row += ' ';
+            m_row.Clear();
+            m_line += ' ';
+            AppendInt(m_line, static_cast<long long>(p) + 1, 14);
+            m_row.EndCell();
+            m_line += ' ';
+            AppendInt(m_line, pile + 1, 6);
+            m_row.EndCell();
+            m_line += ' ';
             AppendTension(pier, CaseOf(pier, results.maxTension, slot, pile), pile);
-            m_row += ' ';
+            m_line += ' ';
             AppendCompression(pier, CaseOf(pier, results.maxCompression, slot, pile), pile);
             m_sink.Row(m_row);
         }
@@ -69,41 +72,46 @@ class CPileHeadWalk {
 
     void AppendTension(const CPier& pier, int loadCase, int pile) {
         if (loadCase < 0) {
-            m_row += "  ***";
+            m_row.AppendWords("  ***");
             AppendNone();
             return;
         }
-        AppendInt(m_row, loadCase + 1, 5);
+        AppendInt(m_line, loadCase + 1, 5);
+        m_row.EndCell();
         if (m_bLimitStates) AppendLimitState(loadCase);
-        m_row += ' ';
+        m_line += ' ';
         AppendHead(pier, loadCase, pile);
     }
 
     void AppendCompression(const CPier& pier, int loadCase, int pile) {
         if (loadCase < 0) {
-            m_row += m_bLimitStates ? "    ***" : "  ***";
+            m_row.AppendWords(m_bLimitStates ? "    ***" : "  ***");
             AppendNone();
             return;
         }
-        AppendInt(m_row, loadCase + 1, m_bLimitStates ? 7 : 5);
+        AppendInt(m_line, loadCase + 1, m_bLimitStates ? 7 : 5);
+        m_row.EndCell();
         if (m_bLimitStates) AppendLimitState(loadCase);
-        m_row += ' ';
+        m_line += ' ';
         AppendHead(pier, loadCase, pile);
     }
 
     void AppendNone() {
-        if (m_bLimitStates) m_row += "            ***";
-        m_row += "         none      ***";
+        if (m_bLimitStates) m_row.AppendWords("            ***");
+        m_row.AppendWords("         none      ***");
     }
 
     void AppendLimitState(int loadCase) {
-        AppendLeftPadded(m_row, LimitStateOf(m_report.data, loadCase), 15);
+        AppendLeftPadded(m_line, LimitStateOf(m_report.data, loadCase), 15);
+        m_row.EndCell();
     }
 
     void AppendHead(const CPier& pier, int loadCase, int pile) {
         const ForceRow forces = m_report.Forces(pier, loadCase, pier.PileElement(pile, 0));
-        AppendFixed(m_row, GetForce(forces, kEndJ, kAxial), 2, 12);
-        AppendFixed(m_row, GetForce(forces, kEndJ, kDemandCapacity), 2, 9);
+        AppendFixed(m_line, GetForce(forces, kEndJ, kAxial), 2, 12);
+        m_row.EndCell();
+        AppendFixed(m_line, GetForce(forces, kEndJ, kDemandCapacity), 2, 9);
+        m_row.EndRatio(GetForce(forces, kEndJ, kDemandCapacity));
     }
 
     const Report& m_report;
@@ -111,7 +119,8 @@ class CPileHeadWalk {
     CLineSink& m_sink;
     bool m_bLimitStates;
     ColumnHead m_head;
-    std::string m_row;  // reused, so that a row allocates no memory
+    RowText m_row;  // reused, so that a row allocates no memory
+    std::string& m_line = m_row.line;
 };
 
 }  // namespace

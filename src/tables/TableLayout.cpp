@@ -57,6 +57,7 @@ constexpr TableLayout kPileDc{
     .member = {.family = kPileFamily,
                .valueGap = "   ",
                .missingRatio = {"     No valid load case", "     No valid load case"},
+               .missingIsSentence = true,
                .pierHeading = kPileHeading,
                .pierHeadingType8 = kColumnHeading,
                .gapAfterPier = true},

@@ -58,6 +58,7 @@ struct MemberRowTexts {
     const char* missing = "";    // after the property, where a force has no result
     // After property, member, element and node of a ratio without result, plain and with limit states.
     std::array<const char*, 2> missingRatio = {"", ""};
+    bool missingIsSentence = false;  // in place of all further cells
     const char* pierHeading = "";
     const char* pierHeadingType8 = "";
     const char* pierHeadingBent = "";  // for a pile bent, which then has no blocks; empty: no such rule
@@ -98,6 +99,13 @@ struct ColumnHead {
     int counted = 0;          // lines that the page arithmetic counts for it at a block's start
 };
 ColumnHead BuildColumnHead(const CDataSet& data, const TableLayout& layout);
+
+// The two lines above the column of cases.
+struct StepLines {
+    const char* upper = nullptr;  // null: no head at all
+    const char* lower = nullptr;
+};
+StepLines StepLinesOf(const HeadTexts& head, bool combinations, int mode);
 
 // The limit state name of a case, as the first substructure has it.
 const std::string& LimitStateOf(const CDataSet& data, int loadCase);

@@ -21,9 +21,9 @@ class CTextSink : public CLineSink {
 
     const TitleMargins& MarginsOf(const TableLayout& layout) const override { return layout.text; }
 
-    void Line(std::string_view text) override { Row(text); }
+    void Row(const RowText& row) override { Line(row.line); }
 
-    void Row(std::string_view text) override {
+    void Line(std::string_view text) override {
         m_line.assign(text);
         m_line += '\n';
         m_out.Write(m_line);

@@ -59,9 +59,9 @@ void CPdfSink::Head(const ColumnHead& head) {
     m_nLines += head.counted;
 }
 
-void CPdfSink::Row(std::string_view text) {
+void CPdfSink::Row(const RowText& row) {
     if (IsFull(kRowMargin)) ContinueOnNextPage();
-    Show(text);
+    Show(row.line);
     ++m_nLines;
 }
 

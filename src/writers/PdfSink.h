@@ -21,7 +21,7 @@ class CPdfSink : public CLineSink {
     void Line(std::string_view text) override;
     void Gap(int lines, GapStyle style) override;
     void Head(const ColumnHead& head) override;
-    void Row(std::string_view text) override;
+    void Row(const RowText& row) override;
     void Key(std::string_view text) override;
     void MayBreak(BreakPoint point) override;
     void EndTable() override;

@@ -292,7 +292,7 @@ TEST_F(CommandLine, AWrongWordGetsTheNearestOne) {
         {"report --tabel axial", "do you mean --table?"},
         {"report pier --table axail", "do you mean axial?"},
         {"report pier --format exel", "do you mean excel?"},
-        {"report pier --format xslx", "do you mean xlsx? (text, pdf, excel, xlsx)"},
+        {"report pier --format xslx", "do you mean xlsx? (text, pdf, excel, xlsx, html)"},
         {"report pier --footer tme", "do you mean time?"},
         {"check pier --format jsn", "do you mean json?"},
         {"info pier --format txt", "do you mean text?"},

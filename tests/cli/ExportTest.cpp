@@ -5,7 +5,6 @@
 #include <sstream>
 
 #include "cli/ExportCommand.h"
-#include "cli/WorkbookReport.h"
 #include "support/SampleFolder.h"
 
 namespace lumerin {
@@ -134,23 +133,6 @@ TEST_F(Export, ADatabaseKeepsItsUnitSystem) {
     EXPECT_THROW(Run(request), std::invalid_argument);
     request.units = UnitSystem::si;
     EXPECT_EQ(Run(request), kExitDone);
-}
-
-TEST_F(Export, TheWorkbookOfAReportIsBesideTheProject) {
-    const ProjectName project(m_folder.Write("bent"));
-    EXPECT_EQ(WorkbookReportPath(project), PathOf("bent_Report.xlsx"));
-    const WorkbookReportResult result = WriteWorkbookReport({project, {}, {}, false, PathOf("bent.xlsx")});
-    EXPECT_TRUE(result.isWritten);
-    EXPECT_THAT(Read(PathOf("bent.xlsx")), StartsWith("PK"));
-}
-
-TEST_F(Export, AStrictWorkbookIsNotWrittenFromUnsoundData) {
-    const ProjectName project(m_folder.Write("pier"));
-    CutInHalf(project.basePath + ".vmd");
-    const WorkbookReportResult result = WriteWorkbookReport({project, {}, {}, true, PathOf("pier.xlsx")});
-    EXPECT_FALSE(result.isWritten);
-    EXPECT_TRUE(HasError(result.findings));
-    EXPECT_FALSE(std::filesystem::exists(PathOf("pier.xlsx")));
 }
 
 }  // namespace lumerin

@@ -316,6 +316,28 @@ TEST_F(ReportTest, AFileThatCannotBeWrittenIsNotReportedAsWritten) {
     EXPECT_THAT(err.str(), HasSubstr("the table axial could not be written whole"));
 }
 
+TEST_F(ReportTest, DocumentsOfAllTablesAreBesideTheProject) {
+    const std::string base = folder.Write("bent");
+    options.formats = {};
+    options.documents = {FindOwnDocument("xlsx"), FindOwnDocument("html")};
+    EXPECT_EQ(Report({base + ".in"}, {"full"}), kExitDone);
+    EXPECT_EQ(out.str(), base + "_Report.xlsx\n" + base + "_Report.html\n");
+    EXPECT_EQ(Content(base + "_Report.xlsx").substr(0, 2), "PK");
+    EXPECT_EQ(Content(base + "_Report.html").substr(0, 15), "<!DOCTYPE html>");
+}
+
+TEST_F(ReportTest, AStrictReportWritesNoDocumentOfUnsoundData) {
+    const std::string base = folder.Write("pier");
+    fs::resize_file(base + ".vmd", fs::file_size(base + ".vmd") / 2);
+    options.formats = {};
+    options.documents = {FindOwnDocument("xlsx"), FindOwnDocument("html")};
+    options.strict = true;
+    EXPECT_EQ(Report({base + ".in"}, {"full"}), kExitUnsound);
+    EXPECT_FALSE(fs::exists(base + "_Report.xlsx"));
+    EXPECT_FALSE(fs::exists(base + "_Report.html"));
+    EXPECT_THAT(err.str(), HasSubstr(": error: missing-records: "));
+}
+
 }  // namespace
 
 }  // namespace lumerin
