@@ -51,10 +51,12 @@ std::vector<PageFigure> DrawFigures(const Evaluation& evaluation, Links& links) 
     const int substructures = static_cast<int>(evaluation.Data().m_Piers.size());
     for (int substructure = 1; substructure <= substructures; ++substructure) {
         for (const FigureKind& kind : AllFigures()) {
+            const bool ofProject = kind.scope == FigureScope::project;
+            if (ofProject && substructure > 1) continue;
             PageFigure figure;
             figure.id = "figure-" + std::string(kind.name) + "-" + std::to_string(substructure);
             figure.prefix = Links::MarkId(kind.name, static_cast<std::size_t>(substructure), "");
-            figure.substructure = substructure;
+            figure.substructure = ofProject ? 0 : substructure;
             FigureRequest request;
             request.substructure = substructure;
             const std::string svg = kind.draw(evaluation, request);
@@ -68,7 +70,7 @@ std::vector<PageFigure> DrawFigures(const Evaluation& evaluation, Links& links) 
 }
 
 std::string FigureHeading(const Evaluation& evaluation, const PageFigure& figure) {
-    if (evaluation.Data().m_Piers.size() == 1) return figure.title;
+    if (evaluation.Data().m_Piers.size() == 1 || figure.substructure == 0) return figure.title;
     return figure.title + ", substructure " + std::to_string(figure.substructure);
 }
 
