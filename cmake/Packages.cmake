@@ -1,6 +1,8 @@
-# What is installed, and the packages of it. `cpack -G DEB` and `cpack -G TGZ` in the build folder make them; tools/release
-# makes and checks all of a release.
+# What is installed, and the packages of it. `cpack -G DEB` and `cpack -G TGZ` in the build folder make them;
+# tools/release makes and checks all of a release.
 include(GNUInstallDirs)
+# What is built is named: the tests and benchmarks are no part of a package.
+set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON)
 set(documents ${CMAKE_INSTALL_DATADIR}/doc/lumerin)
 
 # The projects that the guide's examples use.
