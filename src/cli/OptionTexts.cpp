@@ -6,6 +6,7 @@
 
 #include "cli/Options.h"
 #include "cli/Terminal.h"
+#include "compare/ResultColumns.h"
 #include "records/Table.h"
 #include "text/Lists.h"
 
@@ -91,6 +92,7 @@ std::string UsageOf(const CLI::App& parser) {
 std::vector<std::string> WordsOf(std::string_view command, std::string_view option) {
     if (option == "--format") {
         if (command == "check") return {"text", "json", "csv"};
+        if (command == "compare") return {"text", "json", "csv"};
         if (command == "info") return {"text", "json"};
         if (command == "export") return {"csv", "jsonl", "sqlite", "xlsx"};
         if (command == "report") return {"text", "pdf", "excel", "xlsx"};
@@ -99,6 +101,11 @@ std::vector<std::string> WordsOf(std::string_view command, std::string_view opti
     if (option == "--table" && command == "export") {
         std::vector<std::string> names;
         for (const Table& table : AllTables()) names.emplace_back(table.name);
+        return names;
+    }
+    if (option == "--table" && command == "compare") {
+        std::vector<std::string> names;
+        for (const Table* table : ComparableTables()) names.emplace_back(table->name);
         return names;
     }
     if (option == "--table") {

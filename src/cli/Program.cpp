@@ -8,6 +8,7 @@
 
 #include "cli/CheckCommand.h"
 #include "cli/Commit.h"
+#include "cli/CompareCommand.h"
 #include "cli/DriveCommand.h"
 #include "cli/EmbedmentCommand.h"
 #include "cli/ExportCommand.h"
@@ -28,8 +29,8 @@ using AddCommand = ProgramCommand (*)(CLI::App&);
 
 // In the order of the help.
 constexpr AddCommand kCommands[] = {
-    AddReportCommand, AddCheckCommand,     AddInfoCommand,  AddExportCommand,
-    AddPlotCommand,   AddEmbedmentCommand, AddDriveCommand,
+    AddReportCommand, AddCheckCommand,   AddInfoCommand,      AddExportCommand,
+    AddPlotCommand,   AddCompareCommand, AddEmbedmentCommand, AddDriveCommand,
 };
 
 constexpr const char* kProgramFooter =
@@ -39,8 +40,8 @@ constexpr const char* kProgramFooter =
     "  lumerin help report\n"
     "\n"
     "Exit status:\n"
-    "  0  done; of check: passes\n"
-    "  1  something is missing in the output; of check: over the limit\n"
+    "  0  done; of check: passes; of compare: nothing differs\n"
+    "  1  something is missing in the output; of check: over the limit; of compare: something differs\n"
     "  2  wrong usage\n"
     "  3  a project could not be loaded\n"
     "  4  the data of a project have errors\n"
