@@ -5,13 +5,16 @@
 #include <algorithm>
 #include <chrono>
 #include <memory>
+#include <sstream>
 #include <stdexcept>
 
 #include "cli/CheckReport.h"
 #include "cli/EvaluationArguments.h"
 #include "cli/ProjectArguments.h"
+#include "cli/RunStamps.h"
 #include "cli/Suggest.h"
 #include "cli/Terminal.h"
+#include "export/ByteSink.h"
 #include "export/CsvWriter.h"
 #include "script/Border.h"
 #include "text/Lists.h"
@@ -20,104 +23,157 @@ namespace lumerin {
 
 namespace {
 
-// One line of the table `verdict` for each family of members; the head line comes with the first project.
-class VerdictCsv {
-  public:
-    explicit VerdictCsv(std::ostream& out) : m_writer(std::make_unique<StreamSink>(out), ',') {}
+constexpr std::string_view kStandardOutput = "-";
 
-    void Add(const Evaluation& evaluation, UnitSystem system) {
-        m_writer.BeginProject(evaluation.Opened().name.name);
-        m_writer.BeginTable(m_table, system);
-        EachRow(m_table, evaluation, system, [this](std::span<const Value> row) { m_writer.Row(row); });
-        m_writer.EndTable();
-        m_writer.EndProject();
+// The table `verdict` of one project, with its head line.
+std::string VerdictCsv(const Evaluation& evaluation, UnitSystem system) {
+    const Table& table = *FindTable("verdict");
+    std::ostringstream text;
+    CsvWriter writer(std::make_unique<StreamSink>(text), ',');
+    writer.BeginProject(evaluation.Opened().name.name);
+    writer.BeginTable(table, system);
+    EachRow(table, evaluation, system, [&writer](std::span<const Value> row) { writer.Row(row); });
+    writer.EndTable();
+    writer.EndProject();
+    writer.Close();
+    return text.str();
+}
+
+// What the check of a project prints.
+struct CheckText {
+    ExitStatus status = kExitDone;
+    std::string out, err;
+};
+
+// The check of one project. Nothing is shared between two checks.
+class ProjectCheck {
+  public:
+    ProjectCheck(const CheckRequest& request, const ProjectName& project)
+        : m_request(request),
+          m_result{project, kExitDone, {}, UnitSystem::us, m_request.limits.ratio, 0, 0, {}, {}, {}, 0} {}
+
+    CheckText Run() {
+        const auto started = std::chrono::steady_clock::now();
+        try {
+            const std::unique_ptr<OpenProject> opened = LoadByName(m_result.name);
+            Judge(*opened);
+        } catch (const std::invalid_argument& fault) {
+            m_result.fault = fault.what();
+            m_result.status = kExitUsage;
+        } catch (const std::exception& fault) {
+            m_result.fault = ForUser(fault.what());
+            m_result.status = kExitNotLoaded;
+        }
+        const auto took = std::chrono::steady_clock::now() - started;
+        m_result.milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(took).count();
+        return Text();
     }
-    void Close() { m_writer.Close(); }
 
   private:
-    const Table& m_table = *FindTable("verdict");
-    CsvWriter m_writer;
+    void Judge(const OpenProject& opened) {
+        const Evaluation evaluation(opened, m_request.cases, m_request.limits, FindTable("verdict")->needs);
+        m_result.units = evaluation.Units();
+        m_result.verdict = lumerin::Judge(evaluation);
+        m_result.top = GreatestRatios(evaluation, m_request.top);
+        m_result.findings = evaluation.Findings();
+        m_result.cases = opened.project.data.FirstPier().m_nLoadCases;
+        m_result.chosen = evaluation.Selection().SelectedCount(m_result.cases);
+        const UnitSystem system = m_request.units.value_or(m_result.units);
+        if (m_request.format == CheckFormat::csv) m_csv = VerdictCsv(evaluation, system);
+        if (m_request.units) ConvertForces(m_result, *m_request.units);
+        const bool judged = !m_result.verdict.families.empty();
+        if (HasError(m_result.findings) || !judged) {
+            m_result.status = kExitUnsound;
+        } else if (!m_result.verdict.passes) {
+            m_result.status = kExitIncomplete;
+        }
+    }
+
+    CheckText Text() const {
+        std::ostringstream out, err;
+        if (m_request.format == CheckFormat::json) {
+            PrintCheckJson(m_result, out);
+            return {m_result.status, out.str(), {}};
+        }
+        const std::string head = m_result.name.name + ".in: ";
+        if (m_request.format == CheckFormat::text) {
+            PrintCheck(m_result, !m_request.brief, m_request.colour, out);
+        } else if (!m_result.fault.empty()) {
+            err << head << m_result.fault << '\n';
+        }
+        for (const Finding& finding : m_result.findings) {
+            if (finding.severity == Severity::note && m_request.brief) continue;
+            err << head << LineOf(finding) << '\n';
+        }
+        return {m_result.status, out.str() + m_csv, err.str()};
+    }
+
+    const CheckRequest& m_request;
+    CheckResult m_result;
+    std::string m_csv;
 };
 
 class Checker {
   public:
     Checker(const CheckRequest& request, std::ostream& out, std::ostream& err)
         : m_request(request), m_out(out), m_err(err) {
-        if (request.format == CheckFormat::csv) m_csv.emplace(out);
+        if (!request.stamps.empty()) m_stamps.emplace(request.stamps, request.options);
     }
 
     ExitStatus Run() {
-        BatchSummary summary("pass", "fail");
-        for (const ProjectName& project : m_request.projects) {
-            const CheckResult result = Check(project);
-            summary.Add(result.status);
-            Print(result);
+        const bool toFile = m_request.output != kStandardOutput;
+        try {
+            if (toFile) {
+                m_sink = std::make_unique<FileSink>(m_request.output);
+            } else {
+                m_sink = std::make_unique<StreamSink>(m_out);
+            }
+            for (const ProjectName& project : m_request.projects) Check(project);
+            m_sink->Commit();
+        } catch (const ExportError& fault) {
+            PrintLine(m_err, std::string("lumerin: ") + fault.what());
+            return kExitIncomplete;
         }
-        if (m_csv) m_csv->Close();
-        m_out.flush();
-        summary.Print(m_err);
-        return summary.Worst();
+        if (toFile) m_out << m_request.output << std::endl;
+        const std::string fault = m_stamps ? m_stamps->Close() : std::string();
+        if (!fault.empty()) PrintLine(m_err, "lumerin: " + fault);
+        m_summary.Print(m_err);
+        return m_summary.Worst();
     }
 
   private:
-    CheckResult Check(const ProjectName& project) {
-        const auto started = std::chrono::steady_clock::now();
-        CheckResult result{project, kExitDone, {}, UnitSystem::us, m_request.limits.ratio, 0, 0, {},
-                           {},      {},        0};
-        try {
-            const std::unique_ptr<OpenProject> opened = LoadByName(project);
-            Judge(*opened, result);
-        } catch (const std::invalid_argument& fault) {
-            result.fault = fault.what();
-            result.status = kExitUsage;
-        } catch (const std::exception& fault) {
-            result.fault = ForUser(fault.what());
-            result.status = kExitNotLoaded;
+    void Check(const ProjectName& project) {
+        const std::string inputs = m_stamps ? InputStamp(project) : std::string();
+        if (m_stamps) {
+            if (const std::optional<ProjectOutcome> earlier = m_stamps->Earlier(project, inputs)) {
+                m_summary.AddUnchanged(earlier->status);
+                Store(earlier->output);
+                return;
+            }
         }
-        result.milliseconds =
-            std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - started)
-                .count();
-        return result;
+        const CheckText text = ProjectCheck(m_request, project).Run();
+        m_summary.Add(text.status);
+        m_err << text.err;
+        Store(text.out);
+        if (m_stamps) m_stamps->Add(project, inputs, {text.status, text.out, {}});
     }
 
-    void Judge(const OpenProject& opened, CheckResult& result) {
-        const Evaluation evaluation(opened, m_request.cases, m_request.limits, FindTable("verdict")->needs);
-        result.units = evaluation.Units();
-        result.verdict = lumerin::Judge(evaluation);
-        result.top = GreatestRatios(evaluation, m_request.top);
-        result.findings = evaluation.Findings();
-        result.cases = opened.project.data.FirstPier().m_nLoadCases;
-        result.chosen = evaluation.Selection().SelectedCount(result.cases);
-        if (m_csv) m_csv->Add(evaluation, m_request.units.value_or(result.units));
-        if (m_request.units) ConvertForces(result, *m_request.units);
-        const bool judged = !result.verdict.families.empty();
-        if (HasError(result.findings) || !judged) {
-            result.status = kExitUnsound;
-        } else if (!result.verdict.passes) {
-            result.status = kExitIncomplete;
+    // Of several projects with a head line each, the first alone is stored.
+    void Store(std::string_view text) {
+        if (m_request.format == CheckFormat::csv && !text.empty()) {
+            if (m_hasHead) text.remove_prefix(text.find('\n') + 1);
+            m_hasHead = true;
         }
-    }
-
-    void Print(const CheckResult& result) {
-        if (m_request.format == CheckFormat::json) {
-            PrintCheckJson(result, m_out);
-            return;
-        }
-        if (m_request.format == CheckFormat::text) {
-            PrintCheck(result, !m_request.brief, m_request.colour, m_out);
-        } else if (!result.fault.empty()) {
-            m_err << result.name.name << ".in: " << result.fault << '\n';
-        }
-        for (const Finding& finding : result.findings) {
-            if (finding.severity == Severity::note && m_request.brief) continue;
-            m_err << result.name.name << ".in: " << LineOf(finding) << '\n';
-        }
+        m_sink->Write(text);
     }
 
     const CheckRequest& m_request;
     std::ostream& m_out;
     std::ostream& m_err;
-    std::optional<VerdictCsv> m_csv;
+    BatchSummary m_summary{"pass", "fail"};
+    std::unique_ptr<ByteSink> m_sink;
+    std::optional<RunStamps> m_stamps;
+    bool m_hasHead = false;
 };
 
 CheckFormat ReadCheckFormat(const std::string& text) {
@@ -144,6 +200,7 @@ struct CheckArguments {
     ProjectArguments projects;
     EvaluationArguments evaluation;
     CheckRequest request;
+    bool resume = false;
 };
 
 }  // namespace
@@ -167,14 +224,26 @@ ProgramCommand AddCheckCommand(CLI::App& program) {
             "text, json or csv (default text)")
         ->type_name("FORMAT");
     command.add_flag("--brief", arguments->request.brief, "Print one line for each project");
+    command
+        .add_option(
+            "-o,--output", arguments->request.output,
+            "A file, which is replaced when all projects are done, or - for standard output (default)")
+        ->type_name("FILE|-");
+    AddResumeOption(command, arguments->resume, "-o FILE");
     command.footer(kCheckFooter);
-    return {&command, [arguments](std::ostream& out, std::ostream& err) {
+    return {&command, [arguments, &command](std::ostream& out, std::ostream& err) {
                 CheckRequest& request = arguments->request;
                 request.projects = ReadProjects(arguments->projects);
                 request.cases = arguments->evaluation.cases;
                 request.limits = arguments->evaluation.limits;
                 request.units = arguments->evaluation.units;
-                request.colour = UsesColour(out);
+                const bool toFile = request.output != kStandardOutput;
+                request.colour = !toFile && UsesColour(out);
+                if (arguments->resume) {
+                    if (!toFile) throw std::invalid_argument("--resume needs -o FILE");
+                    request.stamps = request.output + ".stamps";
+                    request.options = GivenOptions(command);
+                }
                 return RunCheck(request, out, err);
             }};
 }

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 #include <ostream>
+#include <string>
 #include <vector>
 
 #include "cli/Command.h"
@@ -24,9 +25,13 @@ struct CheckRequest {
     std::size_t top = 0;  // how many of the greatest ratios are listed
     bool brief = false;   // one line a project
     bool colour = false;
+    std::string output = "-";  // a file, which is replaced when all projects are done, or standard output
+    // Where the stamps of --resume are and what they hold for; empty: each project is done.
+    std::string stamps, options;
 };
 
-// The verdict of each project. A project that fails in any way does not stop the others.
+// The verdict of each project. A project that fails in any way does not stop the others. Throws
+// std::invalid_argument when no stamps can be kept.
 ExitStatus RunCheck(const CheckRequest& request, std::ostream& out, std::ostream& err);
 
 ProgramCommand AddCheckCommand(CLI::App& program);

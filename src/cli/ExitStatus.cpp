@@ -33,6 +33,7 @@ std::string BatchSummary::Line() const {
         first = false;
         line += std::to_string(m_counts.at(status)) + ' ' + words.at(status);
     }
+    if (m_unchanged > 0) line += "; " + std::to_string(m_unchanged) + " unchanged";
     return line;
 }
 

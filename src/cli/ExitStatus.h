@@ -30,8 +30,13 @@ class BatchSummary {
         : m_done(std::move(done)), m_incomplete(std::move(incomplete)) {}
 
     void Add(ExitStatus status) { ++m_counts.at(status); }
+    // A project that was passed over, with its status of an earlier run.
+    void AddUnchanged(ExitStatus status) {
+        Add(status);
+        ++m_unchanged;
+    }
     ExitStatus Worst() const;
-    // "5 projects: 3 done, 1 not loaded, 1 not sound".
+    // "5 projects: 3 done, 1 not loaded, 1 not sound; 2 unchanged".
     std::string Line() const;
     // Prints the line when there were several projects.
     void Print(std::ostream& err) const;
@@ -40,6 +45,7 @@ class BatchSummary {
     int Total() const;
     std::string m_done, m_incomplete;
     std::array<int, 5> m_counts{};
+    int m_unchanged = 0;
 };
 
 }  // namespace lumerin

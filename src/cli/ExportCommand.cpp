@@ -11,6 +11,7 @@
 #include "cli/Options.h"
 #include "cli/Progress.h"
 #include "cli/ProjectArguments.h"
+#include "cli/RunStamps.h"
 #include "export/ByteSink.h"
 #include "export/CsvWriter.h"
 #include "export/Description.h"
@@ -33,6 +34,8 @@ class ExportRun {
 
   private:
     void OpenWriter();
+    // Passes over a project that an earlier run has done.
+    void ProjectOnce(const ProjectName& name);
     ExitStatus Project(const ProjectName& name);
     ExitStatus Tables(const OpenProject& opened);
     // False: it has no rows.
@@ -48,8 +51,10 @@ class ExportRun {
     BatchSummary m_summary;
     std::unique_ptr<TableWriter> m_writer;
     std::optional<Progress> m_progress;
+    std::optional<RunStamps> m_stamps;
     const ProjectName* m_project = nullptr;
     std::vector<std::string> m_files;  // of the project, in a folder
+    bool m_isWritten = false;          // all files of the project
     bool m_isLost = false;             // the one output has a part of a failed project
     bool m_hasProject = false;         // the one output has a project
 };
@@ -85,16 +90,39 @@ ExitStatus ExportRun::Run() {
         Say(std::string("lumerin: ") + fault.what());
         return kExitIncomplete;
     }
+    if (m_request.resume) m_stamps.emplace(StampsOf(m_request), m_request.options);
     for (const ProjectName& project : m_request.projects) {
         m_project = &project;
         m_files.clear();
-        m_summary.Add(Project(project));
+        m_isWritten = false;
+        ProjectOnce(project);
         if (m_isLost) break;
     }
     const ExitStatus status = Worse(m_summary.Worst(), Finish());
     m_progress.reset();
+    const std::string fault = m_stamps ? m_stamps->Close() : std::string();
+    if (!fault.empty()) Say("lumerin: " + fault);
     m_summary.Print(m_err);
     return status;
+}
+
+void ExportRun::ProjectOnce(const ProjectName& name) {
+    if (!m_stamps) {
+        m_summary.Add(Project(name));
+        return;
+    }
+    const std::string inputs = InputStamp(name);
+    if (const std::optional<ProjectOutcome> earlier = m_stamps->Earlier(name, inputs)) {
+        m_summary.AddUnchanged(earlier->status);
+        m_out << earlier->output;
+        return;
+    }
+    const ExitStatus status = Project(name);
+    m_summary.Add(status);
+    if (!m_isWritten) return;
+    ProjectOutcome outcome{status, {}, m_files};
+    for (const std::string& file : m_files) outcome.output += file + '\n';
+    m_stamps->Add(name, inputs, outcome);
 }
 
 ExitStatus ExportRun::Project(const ProjectName& name) {
@@ -138,6 +166,7 @@ ExitStatus ExportRun::Tables(const OpenProject& opened) {
         status = kExitIncomplete;
     }
     m_writer->EndProject();
+    m_isWritten = true;
     m_progress.reset();
     for (const std::string& file : m_files) m_out << file << '\n';
     for (const Finding& finding : evaluation->Findings()) {
@@ -196,7 +225,8 @@ constexpr const char* kExportFooter =
     "  lumerin export pier.in --table section_dc,section_forces -o results/\n"
     "  lumerin export */pier.in --table verdict --units us -o verdict.csv\n"
     "  lumerin export pier.in --table all --format sqlite -o results.sqlite\n"
-    "  lumerin export pier.in --table pile_axial,cap_moment --format xlsx -o pier.xlsx\n\n"
+    "  lumerin export pier.in --table pile_axial,cap_moment --format xlsx -o pier.xlsx\n"
+    "  lumerin export bridges/ --table all --units us -o data/ --resume\n\n"
     "Exit status: 0 done, 1 a table has no rows or an output was not written, 2 wrong usage, 3 a project\n"
     "could not be loaded (the others are exported all the same), 4 the data of a project have errors (they\n"
     "are exported all the same). Of several the first of 2, 3, 4, 1, 0.";
@@ -237,16 +267,19 @@ void AddExportOptions(CLI::App& command, ExportArguments& arguments) {
     AddEvaluationArguments(command, arguments.evaluation);
     command.add_option("--clock", arguments.common.clock, "Date and time of a workbook, YYYY-MM-DDTHH:MM:SS")
         ->type_name("TIME");
+    AddResumeOption(command, request.resume, "-o DIR");
     command.add_flag("--describe", arguments.describe, "Print the description of all tables (Markdown)");
 }
 
-ExitStatus RunArguments(ExportArguments& arguments, std::ostream& out, std::ostream& err) {
+ExitStatus RunArguments(const CLI::App& command, ExportArguments& arguments, std::ostream& out,
+                        std::ostream& err) {
     if (arguments.describe) {
         out << DescribeTables(AllTables()) << std::flush;
         return kExitDone;
     }
     ExportRequest request = arguments.request;
     request.projects = ReadProjects(arguments.projects);
+    request.options = GivenOptions(command);
     request.cases = arguments.evaluation.cases;
     request.limits = arguments.evaluation.limits;
     request.units = arguments.evaluation.units;
@@ -265,8 +298,9 @@ ProgramCommand AddExportCommand(CLI::App& program) {
     CLI::App& command = *program.add_subcommand("export", "Write results as tables of data");
     AddExportOptions(command, *arguments);
     command.footer(kExportFooter);
-    return {&command,
-            [arguments](std::ostream& out, std::ostream& err) { return RunArguments(*arguments, out, err); }};
+    return {&command, [arguments, &command](std::ostream& out, std::ostream& err) {
+                return RunArguments(command, *arguments, out, err);
+            }};
 }
 
 }  // namespace lumerin

@@ -165,10 +165,19 @@ std::string FileOf(const ExportRequest& request, const ProjectName& project, con
     return FolderPath(request.output) + name + '-' + std::string(table.name) + ending;
 }
 
+std::string StampsOf(const ExportRequest& request) {
+    return FolderPath(request.output) + "lumerin-export.stamps";
+}
+
 void CheckExport(const ExportRequest& request) {
     if (request.tables.empty()) throw std::invalid_argument("no table is given: --table NAME");
     if (request.output.empty()) throw std::invalid_argument("the name of the output is empty");
     CheckOutput(request);
+    // In one output of all projects nobody could say whose rows are those of an earlier run.
+    if (request.resume && HasOneOutput(request)) {
+        throw std::invalid_argument(
+            "--resume needs a folder, for a file for each project and table: -o DIR/");
+    }
     CheckNames(request);
     CheckUnits(request);
 }

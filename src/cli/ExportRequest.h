@@ -29,6 +29,9 @@ struct ExportRequest {
     CaseChoice cases;
     Limits limits;
     char separator = ',';
+    // Whether projects are passed over that an earlier run has done, and the options that this holds for.
+    bool resume = false;
+    std::string options;
 };
 
 // Each reader throws std::invalid_argument with a text for the user.
@@ -42,6 +45,9 @@ void ReadTables(std::string_view names, ExportRequest& request);
 bool HasOneOutput(const ExportRequest& request);
 // The file of a project and table in a folder: PROJECT-TABLE.csv.
 std::string FileOf(const ExportRequest& request, const ProjectName& project, const Table& table);
+
+// Where the stamps of --resume are kept.
+std::string StampsOf(const ExportRequest& request);
 
 // Throws std::invalid_argument for what cannot be written as it is asked for. Nothing is written before.
 // Loads the projects where their units must be known: one output has one unit system, or a reader would

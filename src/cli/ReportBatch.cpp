@@ -5,9 +5,12 @@
 #include <fstream>
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <optional>
+#include <sstream>
 
 #include "cli/FindingJson.h"
 #include "cli/ReportDriver.h"
+#include "cli/RunStamps.h"
 #include "export/TableWriter.h"
 #include "script/Border.h"
 #include "session/OutputFiles.h"
@@ -162,10 +165,41 @@ ExitStatus ReportToStandardOutput(ReportRequest options, const ProjectName& proj
     return report.status;
 }
 
+// A project with its paths or its record on `out`.
+ProjectReport ReportAndPrint(const ReportRequest& options, const ProjectName& project,
+                             const std::string& place, std::ostream& out, std::ostream& err) {
+    using Clock = std::chrono::steady_clock;
+    const Clock::time_point start = Clock::now();
+    ProjectReport report = ReportProject(options, project, place, out, err);
+    if (options.json) {
+        const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
+        out << RecordOf(project, report, took.count()) << std::endl;
+    }
+    return report;
+}
+
+// Passes over a project that an earlier run has done.
+void ReportOnce(const ReportRequest& options, const ProjectName& project, const std::string& place,
+                RunStamps& stamps, BatchSummary& summary, std::ostream& out, std::ostream& err) {
+    const std::string inputs = InputStamp(project);
+    if (const std::optional<ProjectOutcome> earlier = stamps.Earlier(project, inputs)) {
+        summary.AddUnchanged(earlier->status);
+        out << earlier->output << std::flush;
+        return;
+    }
+    std::ostringstream text;
+    const ProjectReport report = ReportAndPrint(options, project, place, text, err);
+    out << text.str() << std::flush;
+    summary.Add(report.status);
+    // A message can be about a document that was not written; such a project is done again.
+    if (report.messages.empty() && report.status != kExitIncomplete) {
+        stamps.Add(project, inputs, {report.status, text.str(), report.files});
+    }
+}
+
 }  // namespace
 
 ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostream& err) {
-    using Clock = std::chrono::steady_clock;
     std::vector<ProjectName> projects;
     for (const std::string& name : options.projects) projects.emplace_back(name);
     RequireOwnPaths(options.output, DocumentsOf(options, projects));
@@ -177,18 +211,21 @@ ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostr
         std::error_code ignored;
         std::filesystem::create_directories(options.output.folder, ignored);
     }
+    std::optional<RunStamps> stamps;
+    if (!options.stamps.empty()) stamps.emplace(options.stamps, options.resumeOptions);
     BatchSummary summary("done", "incomplete");
     for (std::size_t i = 0; i < projects.size(); ++i) {
         const std::string place =
             projects.size() > 1 ? std::to_string(i + 1) + " of " + std::to_string(projects.size()) + ": "
                                 : "";
-        const Clock::time_point start = Clock::now();
-        const ProjectReport report = ReportProject(options, projects[i], place, out, err);
-        summary.Add(report.status);
-        if (!options.json) continue;
-        const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
-        out << RecordOf(projects[i], report, took.count()) << std::endl;
+        if (stamps) {
+            ReportOnce(options, projects[i], place, *stamps, summary, out, err);
+        } else {
+            summary.Add(ReportAndPrint(options, projects[i], place, out, err).status);
+        }
     }
+    const std::string fault = stamps ? stamps->Close() : std::string();
+    if (!fault.empty()) PrintLine(err, "lumerin: " + fault);
     summary.Print(err);
     return summary.Worst();
 }

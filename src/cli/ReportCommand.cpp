@@ -10,6 +10,7 @@
 #include "cli/EvaluationArguments.h"
 #include "cli/ProjectArguments.h"
 #include "cli/ReportDriver.h"
+#include "cli/RunStamps.h"
 #include "cli/Suggest.h"
 #include "text/Lists.h"
 
@@ -22,6 +23,7 @@ struct ReportArguments {
     ProjectArguments projects;
     std::vector<std::string> tables, formats;
     std::string footer;
+    bool resume = false;
 };
 
 constexpr const char* kReportFooter =
@@ -81,7 +83,17 @@ void RequireFormat(const std::string& word) {
     throw std::invalid_argument(UnknownWord(word, "format", formats));
 }
 
-ExitStatus RunReport(ReportArguments& arguments, std::ostream& out, std::ostream& err) {
+// Documents beside their projects would be in as many folders, so the stamps have theirs in that of -o.
+void Resume(const CLI::App& command, ReportRequest& request) {
+    if (request.output.folder.empty() || request.output.ToStandardOutput()) {
+        throw std::invalid_argument("--resume needs -o DIR");
+    }
+    request.stamps = request.output.folder + "/lumerin-report.stamps";
+    request.resumeOptions = GivenOptions(command);
+}
+
+ExitStatus RunReport(const CLI::App& command, ReportArguments& arguments, std::ostream& out,
+                     std::ostream& err) {
     ReportRequest& request = arguments.request;
     for (const std::string& word : PartsOf(arguments.formats)) {
         if (const OwnDocument* document = FindOwnDocument(LowerCase(word))) {
@@ -106,6 +118,7 @@ ExitStatus RunReport(ReportArguments& arguments, std::ostream& out, std::ostream
     if (request.json && request.output.ToStandardOutput()) {
         throw std::invalid_argument("--json and -o - both write to standard output");
     }
+    if (arguments.resume) Resume(command, request);
     for (const ProjectName& project : ReadProjects(arguments.projects)) {
         request.projects.push_back(project.inputFile);
     }
@@ -139,13 +152,15 @@ ProgramCommand AddReportCommand(CLI::App& program) {
                     "none, or a list of date,time,version,filename (default all)")
         ->type_name("LIST");
     AddOutputOptions(command, request);
+    AddResumeOption(command, arguments->resume, "-o DIR");
     command.add_flag("--findings", request.findings,
                      "Look for faults in the forces, although no table needs them");
     command.add_flag("--strict", request.strict, "Write nothing for a project whose data have errors");
     AddCommonOptions(command, request.common);
     command.footer(kReportFooter);
-    return {&command,
-            [arguments](std::ostream& out, std::ostream& err) { return RunReport(*arguments, out, err); }};
+    return {&command, [arguments, &command](std::ostream& out, std::ostream& err) {
+                return RunReport(command, *arguments, out, err);
+            }};
 }
 
 }  // namespace lumerin

@@ -36,6 +36,8 @@ struct ReportRequest {
     bool findings = false;  // read the forces for their findings although no table needs them
     bool strict = false;    // write nothing for a project with an error
     bool json = false;      // a record a project in place of the paths
+    // Where the stamps of --resume are and what they hold for; empty: each project is done.
+    std::string stamps, resumeOptions;
     CommonOptions common;
 };
 

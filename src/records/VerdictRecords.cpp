@@ -114,7 +114,7 @@ constexpr auto kProjectColumns = JoinColumns(
     Column{"chosen", "cases that take part in this run", ColumnType::integer},
     Column{"limit", "greatest ratio that passes", ColumnType::real, Quantity::ratio},
     Column{"dc", "greatest ratio of all element ends", ColumnType::real, Quantity::ratio},
-    Column{"passes", "the verdict", ColumnType::flag},
+    Column{"passes", "the verdict; empty: no element has a ratio", ColumnType::flag},
     Column{"errors", "findings that are errors", ColumnType::integer},
     Column{"warnings", "findings that are warnings", ColumnType::integer},
     Column{"results_time", "time of the first force file, UTC", ColumnType::text},
@@ -165,11 +165,10 @@ void ProjectRows(const Evaluation& evaluation, const RowTaker& take) {
         .Number(evaluation.Bounds().ratio);
     const Verdict verdict = Judge(evaluation);
     if (const FamilyVerdict* worst = verdict.Worst()) {
-        row.Number(worst->worst.ratio);
+        row.Number(worst->worst.ratio).Flag(verdict.passes);
     } else {
-        row.Absent();
+        row.Absent(2);  // what nobody could judge does not pass
     }
-    row.Flag(verdict.passes);
     for (const Severity severity : {Severity::error, Severity::warning}) {
         row.Integer(std::ranges::count(evaluation.Findings(), severity, &Finding::severity));
     }

@@ -78,7 +78,7 @@ TEST(Tables, AnElementsForcesAreThoseOfItsRecordAndMissingOnesAreAbsent) {
     project.Set(1, 1, kF22WordI, 2.0F);
     project.WriteAll();
     // The record 5 of case 2 is missing.
-    std::filesystem::resize_file(project.Path(".vmd"), 9 * 68);
+    std::filesystem::resize_file(project.Path(".vmd"), 9UL * 68);
     const auto rows = RowsOf(project.Evaluate(), "element_forces");
     ASSERT_EQ(rows.size(), 20U);  // five records, two ends, two cases
     EXPECT_THAT(rows[9], ElementsAre("1", "5", "1", "other", "", "J", "7", "1", "7.5", "0", "0", "-0", "-0",
@@ -185,6 +185,18 @@ TEST(Tables, TheProjectsRowHasItsCountsAndVerdict) {
     EXPECT_THAT(std::vector<std::string>(row.begin() + 1, row.begin() + 14),
                 ElementsAre("", "1", "pile group", "", "us", "3", "2", "2", "1", "1.5", "no", "0", "1"));
     EXPECT_EQ(row.back(), std::to_string(kTablesVersion));
+}
+
+// A count of passing bridges must not have those that nobody could judge.
+TEST(Tables, AProjectWithoutAnyElementHasNoVerdict) {
+    RecordsProject project;
+    project.substructures[0].piles = 0;
+    project.substructures[0].pileSections.clear();
+    project.substructures[0].rows.clear();
+    project.WriteAll();
+    const std::vector<std::string> row = RowsOf(project.Evaluate(), "projects").at(0);
+    EXPECT_EQ(row[10], "");  // dc
+    EXPECT_EQ(row[11], "");  // passes
 }
 
 }  // namespace lumerin
