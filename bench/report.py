@@ -5,13 +5,16 @@ BUILD has the programs, PROJECTS the sample projects; bench/run.sh makes both. T
 """
 import os
 import pathlib
+import shutil
 import subprocess
 import sys
 
+import many
 import measure
 
 ROUNDS = 5
 EXPORT_ROUNDS = 3
+MANY_ROUNDS = 3
 SHEET_ROWS_OF_THE_PEER = 200_000
 PDF_LINES = 500_000
 PROJECTS = ("cases-8", "cases-80", "cases-800", "piles-800")
@@ -128,6 +131,39 @@ def measure_exports(table, build, folder):
         os.remove(file)
 
 
+def measure_many(table, build, folder):
+    """Projects a second on one core, and that memory and time do not grow with their number."""
+    lists, flat = many.make(build, folder)
+    most = many.COUNTS[-1]
+    output = folder / "many.out"
+    check = lambda path: ["sh", "-c", 'exec "$@" >/dev/null', "check", build / "lumerin", "check", "--limit", "100",
+                          "--format", "json", "--files-from", path]
+    forms = {"export": ["export", "--units", "us", "--table", "verdict,projects,findings", "--format", "jsonl",
+                        "-o", output],
+             "report": ["report", "--json", "--table", "axial", "-o", folder / "many-documents", "--name", "{project}"]}
+    commands = [check(lists[count]) for count in many.COUNTS] + [check(flat)]
+    commands += [["sh", "-c", 'exec "$@" >/dev/null', name, build / "lumerin", *words, "--files-from", lists[count]]
+                 for name, words in forms.items() for count in (many.COUNTS[0], most)]
+    # The yardstick: every file of the projects is opened and read, and nothing else.
+    commands.append(["sh", "-c", 'xargs -0 cat <"$0" >/dev/null', many.file_list(lists[most])])
+    runs = measure.rounds(commands, MANY_ROUNDS)
+    wall = [measure.median(held, lambda run: run.wall) for held in runs]
+    peak = [max(run.peak for run in held) for held in runs]
+    for count, time, bytes_ in zip(many.COUNTS, wall, peak):
+        table.line(f"check of {count} projects, a second", f"{count / time:.0f}")
+        table.line(f"check of {count} projects, peak memory", f"{bytes_ / 1e6:.2f} MB")
+    table.at_most("check, peak memory, 10000 : 100 projects", peak[2] / peak[0], 1.5)
+    table.at_most("check, time of a project, 10000 : 1000", wall[2] / wall[1] / 10, 1.5)
+    table.at_most("check, 10000 in one folder : in their own", wall[3] / wall[2], 2)
+    for index, name in enumerate(forms):
+        few, all_ = 4 + 2 * index, 5 + 2 * index
+        table.line(f"{name} of {most} projects, a second", f"{most / wall[all_]:.0f}")
+        table.at_most(f"{name}, peak memory, 10000 : 100 projects", peak[all_] / peak[few], 2)
+    table.at_most("check of 10000 projects : cat of their files", wall[2] / wall[-1], 4)
+    output.unlink()
+    shutil.rmtree(folder / "many-documents")
+
+
 def measure_numbers(table, build):
     runs, = measure.rounds([[build / "bench-stages", "format"]], ROUNDS)
     for decimals in (2, 12):
@@ -144,6 +180,7 @@ def main():
     table.at_most(f"full report, {BIG} : cases-80", report, 11)
     measure_writers(table, build, folder)
     measure_exports(table, build, folder)
+    measure_many(table, build, folder)
     measure_numbers(table, build)
     print("All targets are reached." if not table.missed else f"Missed: {'; '.join(table.missed)}")
 
