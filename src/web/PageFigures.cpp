@@ -4,6 +4,8 @@
 #include <utility>
 
 #include "figures/Figure.h"
+#include "framework/File.h"
+#include "text/Format.h"
 
 namespace lumerin {
 
@@ -38,10 +40,39 @@ std::string WithPageIds(const std::string& svg, const std::string& prefix, Links
     return result.append(svg, done);
 }
 
+std::string Capitalised(std::string_view name) {
+    std::string words = ReplaceAll(name, "-", " ");
+    if (!words.empty() && words.front() >= 'a' && words.front() <= 'z') {
+        words.front() = static_cast<char>(words.front() - 'a' + 'A');
+    }
+    return words;
+}
+
 // A figure that has nothing to draw says so: its description is its one text.
 std::string SentenceOf(const std::string& svg) {
     const std::string words(Between(svg, "<desc>", "</desc>"));
     return svg.find(">" + words + "</text>") == std::string::npos ? std::string() : words;
+}
+
+void Draw(const Evaluation& evaluation, const FigureKind& kind, int substructure, PageFigure& figure) {
+    FigureRequest request;
+    request.substructure = substructure;
+    // Of a study the greatest value of all cases is what counts.
+    request.study.envelope = 0;
+    std::string svg;
+    try {
+        svg = kind.draw(evaluation, request);
+    } catch (const CFileException&) {
+        // The findings name the file; the rest of the report is as good without this figure.
+        figure.title = Capitalised(kind.name);
+        figure.sentence = "The files of this figure cannot be read.";
+        return;
+    }
+    const std::string_view title = Between(svg, "<title>", "</title>");
+    figure.title = title.empty() ? Capitalised(kind.name) : std::string(title);
+    figure.sentence = SentenceOf(svg);
+    // Inside a page a drawing has no declaration of its own.
+    if (figure.sentence.empty()) figure.svg = svg.substr(svg.find("<svg"));
 }
 
 }  // namespace
@@ -57,12 +88,8 @@ std::vector<PageFigure> DrawFigures(const Evaluation& evaluation, Links& links) 
             figure.id = "figure-" + std::string(kind.name) + "-" + std::to_string(substructure);
             figure.prefix = Links::MarkId(kind.name, static_cast<std::size_t>(substructure), "");
             figure.substructure = ofProject ? 0 : substructure;
-            FigureRequest request;
-            request.substructure = substructure;
-            const std::string svg = kind.draw(evaluation, request);
-            figure.title = Between(svg, "<title>", "</title>");
-            figure.sentence = SentenceOf(svg);
-            if (figure.sentence.empty()) figure.svg = WithPageIds(svg, figure.prefix, links);
+            Draw(evaluation, kind, substructure, figure);
+            if (!figure.svg.empty()) figure.svg = WithPageIds(figure.svg, figure.prefix, links);
             figures.push_back(std::move(figure));
         }
     }
@@ -77,10 +104,14 @@ std::string FigureHeading(const Evaluation& evaluation, const PageFigure& figure
 void AppendDrawing(const PageFigure& figure, const Links& links, Html& html) {
     std::string_view rest = figure.svg;
     // A picture with links in it is a group of things for a reader who hears the page.
-    constexpr std::string_view kPicture = "role=\"img\"";
-    const std::size_t role = rest.find(kPicture);
-    html.Raw(rest.substr(0, role)).Raw("role=\"group\" aria-label=\"").Raw(figure.title).Raw("\"");
-    rest.remove_prefix(role + kPicture.size());
+    constexpr std::string_view kRoot = "<svg", kPicture = " role=\"img\"";
+    html.Raw(kRoot).Raw(" role=\"group\" aria-label=\"").Raw(figure.title).Raw("\"");
+    rest.remove_prefix(kRoot.size());
+    const std::size_t role = rest.substr(0, rest.find('>')).find(kPicture);
+    if (role != std::string_view::npos) {
+        html.Raw(rest.substr(0, role));
+        rest.remove_prefix(role + kPicture.size());
+    }
     for (std::size_t at = rest.find(kGroup); at != std::string_view::npos; at = rest.find(kGroup)) {
         const std::string_view group = rest.substr(at);
         const std::string_view row = links.RowOf(std::string(Between(group, kGroup, "\"")));

@@ -14,7 +14,7 @@ namespace lumerin {
 
 struct PageFigure {
     std::string id;        // in the page
-    std::string title;     // "Cap moment M33"
+    std::string title;     // markup: "Cap moment M33"
     int substructure = 0;  // from 1; 0: of the project
     std::string prefix;    // of the ids of its marks
     std::string svg;       // empty: there is nothing to draw

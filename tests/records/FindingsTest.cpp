@@ -5,9 +5,12 @@
 
 #include <chrono>
 #include <filesystem>
+#include <fstream>
 #include <limits>
 
+#include "records/FindingAdvice.h"
 #include "support/RecordsProject.h"
+#include "text/Format.h"
 
 namespace lumerin {
 
@@ -155,6 +158,24 @@ TEST_F(FindingsTest, IncompleteTrialsOfTheStudyAreCounted) {
     EXPECT_THAT(Codes(project.Evaluate()), ElementsAre("incomplete-trials"));
     EXPECT_EQ(project.Evaluate().Findings()[0].text, "2 of 3 trials of the embedment study are incomplete");
     EXPECT_EQ(project.Evaluate().Findings()[0].firstPlace, "trial 2");
+}
+
+// Rows "| `code` | severity | words |" of the user guide.
+TEST(FindingAdvice, HasTheWordsOfTheUserGuide) {
+    std::ifstream guide(LUMERIN_SOURCE_DIR "/docs/user-guide.md");
+    int rows = 0;
+    for (std::string line; std::getline(guide, line);) {
+        if (!line.starts_with("| `") || line.find("` | ") == std::string::npos) continue;
+        const std::string code = line.substr(3, line.find("` | ") - 3);
+        const std::string rest = line.substr(line.find("` | ") + 4);
+        const std::string severity = rest.substr(0, rest.find(' '));
+        if (severity != "error" && severity != "warning" && severity != "note") continue;
+        const std::string words = rest.substr(severity.size() + 3, rest.size() - severity.size() - 5);
+        EXPECT_EQ(AdviceOn(code), ReplaceAll(words, "`", "")) << code;
+        ++rows;
+    }
+    EXPECT_EQ(rows, 13);
+    EXPECT_EQ(AdviceOn("no-such-code"), "");
 }
 
 }  // namespace lumerin
