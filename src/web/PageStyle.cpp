@@ -48,7 +48,7 @@ nav .group { flex-basis: 100%; }
 .pass { border-color: var(--good); } .pass strong { color: var(--good); }
 .fail { border-color: var(--bad); } .fail strong { color: var(--bad); }
 .findings { padding: 0; list-style: none; }
-.findings li { margin: 0.75rem 0; padding-left: 1rem; border-left: 4px solid var(--rule); max-width: 52rem; }
+.findings li { break-inside: avoid; margin: 0.75rem 0; padding-left: 1rem; border-left: 4px solid var(--rule); max-width: 52rem; }
 .findings .error { border-color: var(--bad); }
 .findings b { margin-right: 0.5rem; }
 figure { margin: 1rem 0 2rem; }
@@ -101,13 +101,20 @@ footer { margin-top: 3rem; padding-top: 0.75rem; border-top: 1px solid var(--rul
   h2, h3, caption { break-after: avoid; }
   h2 { margin-top: 0; border: 0; }
   .sheet { break-before: page; }
+  #figures > h2, #figures > p { break-after: avoid; }
+  #tables > h2 { position: absolute; left: -100rem; }
+  .words { display: block; columns: 3; }
+  .words dt { float: left; clear: left; width: 6rem; }
+  .words dd { break-inside: avoid; }
   .scroll { overflow: visible; }
   figure { break-inside: avoid; margin: 0; }
   figure .scroll { border: 0; }
-  figure svg { min-width: 0; max-width: 100%; max-height: 165mm; }
+  figure svg { min-width: 0; max-width: 100%; max-height: 158mm; }
   table { font-size: 7.5pt; }
   th, td { padding: 0.1rem 0.35rem; }
-  thead { display: table-header-group; }
+  thead { display: table-header-group; break-inside: avoid; }
+  /* Chromium repeats no head with a box of its own in it. */
+  thead button { display: contents; }
   tr { break-inside: avoid; }
   tbody tr:target { outline: 0; }
 }
