@@ -75,6 +75,18 @@ finish_windows() {
     return "$status"
 }
 
+# The pages of the sample projects in real browsers.
+web_report() {
+    local status=0
+    tools/install web || echo "the browsers could not be installed"
+    TMPDIR=$scratch tools/test-web || status=$?
+    if (( status == 77 )) && [[ -z ${CI:-} ]]; then
+        skipped+=("the web report in browsers: they are not on this machine")
+        return 0
+    fi
+    return "$status"
+}
+
 step "install what the tests need" install
 step "layers of the sources" tools/check-layers
 step "names" tools/check-names
@@ -86,6 +98,7 @@ step "speed ratios" bench/check-ratios
 start_windows
 # Its short bursts of work come first; everything else fills the time in between.
 renice -n 10 $$ >/dev/null
+step "web report" web_report
 step "sanitizer build, tests and fuzz targets" build sanitize --target all fuzz
 step "functions that nobody calls" tools/check-dead-code
 step "tests under the sanitizers" run_tests sanitize
