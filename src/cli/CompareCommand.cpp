@@ -22,6 +22,7 @@ namespace lumerin {
 namespace {
 
 constexpr std::size_t kUsualRows = 20;  // of a list of the text, so that it is a page
+constexpr std::size_t kUsualRowsOfHtml = 200;
 
 // The capacities of a run in its own units.
 Limits LimitsIn(const Limits& given, UnitSystem from, UnitSystem to) {
@@ -65,13 +66,16 @@ void CompareRuns(const CompareRequest& request, PairResult& result) {
     const UnitSystem unitsAfter = UnitSystemOf(after->project.data.m_nUnits);
     const CompareChoice choice{request.tables.empty() ? UsualTables() : request.tables, request.tolerances,
                                request.units.value_or(unitsAfter)};
-    const TableNeeds needs = NeedsOfComparison(choice);
+    TableNeeds needs = NeedsOfComparison(choice);
+    const bool draws = request.format == CompareFormat::html;
+    if (draws) needs.Add(OverlayNeeds());
     const std::unique_ptr<Evaluation> old =
         Evaluate(*before, request, LimitsIn(request.limits, unitsAfter, unitsBefore), needs);
     const std::unique_ptr<Evaluation> now = Evaluate(*after, request, request.limits, needs);
     result.findingsBefore = old->Findings();
     result.findingsAfter = now->Findings();
     result.comparison = Compare(*old, *now, choice);
+    if (draws) result.figures = DrawOverlays(*old, *now, choice.units);
     if (HasError(result.findingsBefore) || HasError(result.findingsAfter)) {
         result.status = kExitUnsound;
     } else if (result.comparison->Differs()) {
@@ -109,6 +113,10 @@ std::unique_ptr<ComparePrinter> MakePrinter(const CompareRequest& request, std::
     const std::size_t top = request.top.value_or(0);
     if (request.format == CompareFormat::json) return MakeJsonPrinter(std::move(sink), top);
     if (request.format == CompareFormat::csv) return MakeCsvPrinter(std::move(sink), top);
+    if (request.format == CompareFormat::html) {
+        return MakeHtmlPrinter(std::move(sink), ForUser(request.before) + " and " + ForUser(request.after),
+                               request.top.value_or(kUsualRowsOfHtml));
+    }
     return MakeTextPrinter(std::move(sink), request.top.value_or(kUsualRows), request.colour);
 }
 
@@ -143,7 +151,8 @@ CompareFormat ReadCompareFormat(const std::string& text) {
     if (format == "text") return CompareFormat::text;
     if (format == "json") return CompareFormat::json;
     if (format == "csv") return CompareFormat::csv;
-    throw std::invalid_argument(UnknownWord(text, "format", {"text", "json", "csv"}));
+    if (format == "html") return CompareFormat::html;
+    throw std::invalid_argument(UnknownWord(text, "format", {"text", "json", "csv", "html"}));
 }
 
 std::vector<std::string> NamesOfTables() {
@@ -195,7 +204,8 @@ constexpr const char* kCompareFooter =
     "  lumerin compare before/bridge.in after/bridge.in\n"
     "  lumerin compare --rel 0.05 --class strength --top 10 before/bridge after/bridge\n"
     "  lumerin compare --table element_dc,pile_heads before/bridge after/bridge\n"
-    "  lumerin compare --format csv -o changes.csv before after\n\n"
+    "  lumerin compare --format csv -o changes.csv before after\n"
+    "  lumerin compare --format html -o changes.html before after\n\n"
     "Exit status: 0 nothing differs but governing cases, 1 a verdict, a value, a row, a case, a project or "
     "the\n"
     "geometry differs, 2 wrong usage, 3 not loaded, 4 the data are not sound (the comparison is printed all "
@@ -237,12 +247,13 @@ void AddCompareOptions(CLI::App& command, CompareArguments& arguments) {
     AddEvaluationArguments(command, arguments.evaluation);
     command
         .add_option("--top", request.top,
-                    "List this many rows at most, the worst ones; 0 for all (default: 20 in text, else all)")
+                    "List this many rows at most, the worst ones; 0 for all (default: 20 in text, 200 in "
+                    "html, else all)")
         ->type_name("N");
     command
         .add_option_function<std::string>(
             "--format", [&request](const std::string& text) { request.format = ReadCompareFormat(text); },
-            "text (default), json or csv")
+            "text (default), json, csv or html")
         ->type_name("FORMAT");
     command.add_option("-o,--output", request.output, "The file to write; - for standard output (default)")
         ->type_name("FILE");

@@ -14,7 +14,7 @@
 
 namespace lumerin {
 
-enum class CompareFormat { text, json, csv };
+enum class CompareFormat { text, json, csv, html };
 
 struct CompareRequest {
     std::string before, after;         // two projects or two folders

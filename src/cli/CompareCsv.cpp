@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/CompareReport.h"
+#include "compare/ComparisonText.h"
 #include "export/CsvWriter.h"
 
 namespace lumerin {
@@ -117,7 +118,7 @@ class CsvPrinter : public ComparePrinter {
                     AnswerWord(comparison.after.answer));
         }
         for (const Flip& flip : comparison.flips) {
-            const auto word = [](bool passes) { return passes ? "pass" : "fail"; };
+            const auto word = [](bool passes) { return passes ? "PASS" : "FAIL"; };
             Verdict(project, flip.substructure, flip.label, word(flip.before), word(flip.after));
         }
         for (std::size_t i = 0; i < comparison.structure.size() && !IsBeyond(i); ++i) {
@@ -141,11 +142,6 @@ class CsvPrinter : public ComparePrinter {
             line.Case(row.presence == Presence::added ? "new" : "old", row.loadCase);
             m_writer.Row(line.Row());
         }
-    }
-
-    static std::string_view AnswerWord(RunVerdict::Answer answer) {
-        if (answer == RunVerdict::Answer::none) return "none";
-        return answer == RunVerdict::Answer::passes ? "pass" : "fail";
     }
 
     void PrintResults(const std::string& project, const Comparison& comparison) {

@@ -12,6 +12,7 @@
 #include "compare/Comparison.h"
 #include "export/ByteSink.h"
 #include "records/Findings.h"
+#include "web/ComparePage.h"
 
 namespace lumerin {
 
@@ -24,6 +25,7 @@ struct PairResult {
     std::optional<Comparison> comparison;  // none: a fault, or one project alone
     double limit = 1.0;
     std::vector<Finding> findingsBefore, findingsAfter;
+    std::vector<OverlayFigure> figures;  // of the web page alone
 };
 
 // One form of the output. Pair by pair, then Close. Throws ExportError.
@@ -45,5 +47,8 @@ std::unique_ptr<ComparePrinter> MakeTextPrinter(std::unique_ptr<ByteSink> sink, 
 std::unique_ptr<ComparePrinter> MakeJsonPrinter(std::unique_ptr<ByteSink> sink, std::size_t top);
 // A line for each value that differs and for everything else that does.
 std::unique_ptr<ComparePrinter> MakeCsvPrinter(std::unique_ptr<ByteSink> sink, std::size_t top);
+// One web page of all pairs, with the envelopes of both runs.
+std::unique_ptr<ComparePrinter> MakeHtmlPrinter(std::unique_ptr<ByteSink> sink, const std::string& title,
+                                                std::size_t top);
 
 }  // namespace lumerin

@@ -92,7 +92,7 @@ std::string UsageOf(const CLI::App& parser) {
 std::vector<std::string> WordsOf(std::string_view command, std::string_view option) {
     if (option == "--format") {
         if (command == "check") return {"text", "json", "csv"};
-        if (command == "compare") return {"text", "json", "csv"};
+        if (command == "compare") return {"text", "json", "csv", "html"};
         if (command == "info") return {"text", "json"};
         if (command == "export") return {"csv", "jsonl", "sqlite", "xlsx"};
         if (command == "report") return {"text", "pdf", "excel", "xlsx"};

@@ -91,14 +91,15 @@ TableColumns::TableColumns(const Table& from) : table(&from) {
     for (std::size_t i = 1; i < columns.size(); ++i) {
         const Column& column = columns[i];
         const bool isLabel = position != nullptr && Has(position->labels, column.name);
-        if (position != nullptr && column.key && column.name == position->key) {
+        const bool isPosition = position != nullptr && column.key && column.name == position->key;
+        if (IsCase(column) || isLabel || isPosition) continue;
+        if (column.key) {
+            identity.push_back(i);
+            // What is there comes first, after the substructure.
+            if (i > 1 || position == nullptr) continue;
             for (const std::string_view label : position->labels) {
                 if (const std::size_t at = Find(columns, label); at > 0) identity.push_back(at);
             }
-        } else if (IsCase(column) || isLabel) {
-            continue;
-        } else if (column.key) {
-            identity.push_back(i);
         } else if (column.type == ColumnType::flag) {
             verdicts.push_back(i);
         } else if (IsValue(column)) {

@@ -163,6 +163,27 @@ TEST_F(CompareTest, CsvHasALineForEachValue) {
     EXPECT_EQ(lines[2][9], "0");
 }
 
+TEST(ComparePage, HasTheDifferencesAndTheEnvelopesOfBothRuns) {
+    const SampleFolder before, after;
+    before.Write("pier");
+    samples::SampleOptions options;
+    options.preset = "pier";
+    options.seed = 2;
+    after.Write(options);
+    before.Write("group");
+    const Outcome outcome =
+        Compare({"--format", "html", "--top", "3", before.Path().string(), after.Path().string()});
+    EXPECT_EQ(outcome.status, kExitIncomplete);
+    EXPECT_THAT(outcome.out, StartsWith("<!DOCTYPE html>"));
+    EXPECT_THAT(outcome.out, HasSubstr("<h2>pier.in</h2>"));
+    EXPECT_THAT(outcome.out, HasSubstr("<li>verdict: PASS before, FAIL now</li>"));
+    EXPECT_THAT(outcome.out,
+                HasSubstr("<td>pile 3, extreme</td><td>tension kips</td><td>52.33</td><td>none</td>"));
+    EXPECT_THAT(outcome.out, HasSubstr("Cap moment M33 of both runs"));
+    EXPECT_THAT(outcome.out, HasSubstr("is in the old folder alone"));
+    EXPECT_THAT(outcome.out, testing::EndsWith("</html>\n"));
+}
+
 TEST_F(CompareTest, TopShortensEveryList) {
     for (int r = 1; r <= 4; ++r) after.Set(1, r, kFaxWordJ, -300.0F);
     after.WriteAll();
