@@ -10,6 +10,7 @@
 
 #include "cli/CheckReport.h"
 #include "cli/EvaluationArguments.h"
+#include "cli/InOrder.h"
 #include "cli/ProjectArguments.h"
 #include "cli/RunStamps.h"
 #include "cli/Suggest.h"
@@ -128,7 +129,9 @@ class Checker {
             } else {
                 m_sink = std::make_unique<StreamSink>(m_out);
             }
-            for (const ProjectName& project : m_request.projects) Check(project);
+            const std::vector<ProjectName>& projects = m_request.projects;
+            InOrder<Answer> checks(projects.size(), [&](std::size_t i) { return Check(projects[i]); });
+            checks.Run(m_request.jobs, [&](std::size_t i, Answer&& answer) { Take(projects[i], answer); });
             m_sink->Commit();
         } catch (const ExportError& fault) {
             PrintLine(m_err, std::string("lumerin: ") + fault.what());
@@ -142,20 +145,34 @@ class Checker {
     }
 
   private:
-    void Check(const ProjectName& project) {
-        const std::string inputs = m_stamps ? InputStamp(project) : std::string();
+    // What came of a project, now or in an earlier run.
+    struct Answer {
+        std::string inputs;
+        std::optional<ProjectOutcome> earlier;
+        CheckText text;
+    };
+
+    Answer Check(const ProjectName& project) {
+        Answer answer;
         if (m_stamps) {
-            if (const std::optional<ProjectOutcome> earlier = m_stamps->Earlier(project, inputs)) {
-                m_summary.AddUnchanged(earlier->status);
-                Store(earlier->output);
-                return;
-            }
+            answer.inputs = InputStamp(project);
+            answer.earlier = m_stamps->Earlier(project, answer.inputs);
         }
-        const CheckText text = ProjectCheck(m_request, project).Run();
+        if (!answer.earlier) answer.text = ProjectCheck(m_request, project).Run();
+        return answer;
+    }
+
+    void Take(const ProjectName& project, const Answer& answer) {
+        if (answer.earlier) {
+            m_summary.AddUnchanged(answer.earlier->status);
+            Store(answer.earlier->output);
+            return;
+        }
+        const CheckText& text = answer.text;
         m_summary.Add(text.status);
         m_err << text.err;
         Store(text.out);
-        if (m_stamps) m_stamps->Add(project, inputs, {text.status, text.out, {}});
+        if (m_stamps) m_stamps->Add(project, answer.inputs, {text.status, text.out, {}});
     }
 
     // Of several projects with a head line each, the first alone is stored.
@@ -230,6 +247,11 @@ ProgramCommand AddCheckCommand(CLI::App& program) {
             "A file, which is replaced when all projects are done, or - for standard output (default)")
         ->type_name("FILE|-");
     AddResumeOption(command, arguments->resume, "-o FILE");
+    command
+        .add_option("--jobs", arguments->request.jobs,
+                    "Check this many projects at once (default 1); the output is the same")
+        ->check(CLI::Range(1, 256))
+        ->type_name("N");
     command.footer(kCheckFooter);
     return {&command, [arguments, &command](std::ostream& out, std::ostream& err) {
                 CheckRequest& request = arguments->request;

@@ -25,6 +25,7 @@ struct CheckRequest {
     std::size_t top = 0;  // how many of the greatest ratios are listed
     bool brief = false;   // one line a project
     bool colour = false;
+    std::size_t jobs = 1;      // projects at once
     std::string output = "-";  // a file, which is replaced when all projects are done, or standard output
     // Where the stamps of --resume are and what they hold for; empty: each project is done.
     std::string stamps, options;

@@ -70,6 +70,10 @@ std::string PathOf(const OutputOptions& options, const PlannedDocument& document
     return path.string();
 }
 
+std::string NormalPath(const std::string& path) {
+    return fs::absolute(path).lexically_normal().string();
+}
+
 void RequireOwnPaths(const OutputOptions& options, const std::vector<PlannedDocument>& documents) {
     if (options.ToStandardOutput() && documents.size() > 1) {
         throw std::invalid_argument("standard output takes one document, not " +
@@ -78,8 +82,7 @@ void RequireOwnPaths(const OutputOptions& options, const std::vector<PlannedDocu
     std::map<std::string, PlannedDocument> taken;
     for (const PlannedDocument& document : documents) {
         const std::string path = PathOf(options, document);
-        const std::string key = fs::absolute(path).lexically_normal().string();
-        const auto [other, isNew] = taken.emplace(key, document);
+        const auto [other, isNew] = taken.emplace(NormalPath(path), document);
         if (isNew) continue;
         throw std::invalid_argument("two documents have the name " + path + ": " + Described(other->second) +
                                     " and " + Described(document));

@@ -26,6 +26,9 @@ struct PlannedDocument {
 // Throws std::invalid_argument for a placeholder that does not exist and a name with a folder in it.
 std::string PathOf(const OutputOptions& options, const PlannedDocument& document);
 
+// The path as one text, however it was written, for comparison.
+std::string NormalPath(const std::string& path);
+
 // Throws std::invalid_argument when two documents would get one path, or several would go to standard
 // output.
 void RequireOwnPaths(const OutputOptions& options, const std::vector<PlannedDocument>& documents);

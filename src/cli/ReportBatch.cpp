@@ -7,11 +7,13 @@
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <sstream>
+#include <unordered_set>
 
 #include "cli/FindingJson.h"
 #include "cli/ReportDriver.h"
 #include "cli/RunStamps.h"
 #include "export/TableWriter.h"
+#include "framework/WholeFile.h"
 #include "script/Border.h"
 #include "session/OutputFiles.h"
 #include "session/ReportState.h"
@@ -165,6 +167,20 @@ ExitStatus ReportToStandardOutput(ReportRequest options, const ProjectName& proj
     return report.status;
 }
 
+// Throws std::invalid_argument when two documents would get one path. The documents of thousands of projects
+// would be most of the program's memory, so they are all listed only if two paths have the same hash.
+void RequireOwnDocuments(const ReportRequest& options, const std::vector<ProjectName>& projects) {
+    std::unordered_set<std::size_t> hashes;
+    bool mayClash = options.output.ToStandardOutput();
+    for (const ProjectName& project : projects) {
+        for (const PlannedDocument& document : DocumentsOf(options, {project})) {
+            const std::string path = NormalPath(PathOf(options.output, document));
+            mayClash = !hashes.insert(std::hash<std::string>{}(path)).second || mayClash;
+        }
+    }
+    if (mayClash) RequireOwnPaths(options.output, DocumentsOf(options, projects));
+}
+
 // A project with its paths or its record on `out`.
 ProjectReport ReportAndPrint(const ReportRequest& options, const ProjectName& project,
                              const std::string& place, std::ostream& out, std::ostream& err) {
@@ -202,7 +218,7 @@ void ReportOnce(const ReportRequest& options, const ProjectName& project, const 
 ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostream& err) {
     std::vector<ProjectName> projects;
     for (const std::string& name : options.projects) projects.emplace_back(name);
-    RequireOwnPaths(options.output, DocumentsOf(options, projects));
+    RequireOwnDocuments(options, projects);
     if (options.output.ToStandardOutput()) {
         return ReportToStandardOutput(options, projects.at(0), out, err);
     }
@@ -214,6 +230,7 @@ ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostr
     std::optional<RunStamps> stamps;
     if (!options.stamps.empty()) stamps.emplace(options.stamps, options.resumeOptions);
     BatchSummary summary("done", "incomplete");
+    const WholeFile::Batch batch;
     for (std::size_t i = 0; i < projects.size(); ++i) {
         const std::string place =
             projects.size() > 1 ? std::to_string(i + 1) + " of " + std::to_string(projects.size()) + ": "

@@ -163,9 +163,13 @@ std::string RunStamps::LineAt(const Place& place) const {
 
 std::optional<ProjectOutcome> RunStamps::Earlier(const ProjectName& project,
                                                  const std::string& inputs) const {
-    const auto found = m_places.find(project.basePath);
-    if (found == m_places.end()) return std::nullopt;
-    const std::string line = LineAt(found->second);
+    std::string line;
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto found = m_places.find(project.basePath);
+        if (found == m_places.end()) return std::nullopt;
+        line = LineAt(found->second);
+    }
     const std::optional<std::string_view> rest = Checked(line);
     if (!rest) return std::nullopt;
     const std::vector<std::string> fields = FieldsOf(*rest);
@@ -193,6 +197,7 @@ void RunStamps::Add(const ProjectName& project, const std::string& inputs, const
 }
 
 void RunStamps::Append(const std::string& line, const std::string& project) {
+    const std::lock_guard lock(m_mutex);
     if (!m_fault.empty()) return;
     const ssize_t stored = write(m_handle, line.data(), line.size());
     if (stored != static_cast<ssize_t>(line.size())) {
@@ -225,7 +230,8 @@ std::string GivenOptions(const CLI::App& command) {
     std::string text = command.get_name();
     for (const CLI::Option* option : command.get_options()) {
         const std::string name = option->get_name();
-        if (option->count() == 0 || option->get_positional() || name == "--files-from" || name == "--resume")
+        if (option->count() == 0 || option->get_positional() || name == "--files-from" ||
+            name == "--resume" || name == "--jobs")
             continue;
         text += ' ' + name;
         for (const std::string& value : option->results()) text += '=' + value;

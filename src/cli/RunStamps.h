@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <map>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -45,6 +46,8 @@ class RunStamps {
     RunStamps& operator=(const RunStamps&) = delete;
     ~RunStamps();
 
+    // Earlier and Add may be called in several threads.
+
     // What came of the project earlier. None: it was not done, its files have changed, or a file that was
     // written for it is gone or is another one.
     std::optional<ProjectOutcome> Earlier(const ProjectName& project, const std::string& inputs) const;
@@ -62,6 +65,7 @@ class RunStamps {
     std::string NotStored() const { return "the stamps of --resume could not be stored whole: " + m_file; }
     void Append(const std::string& line, const std::string& project);
 
+    mutable std::mutex m_mutex;  // held while the members below are used
     std::string m_file;
     std::string m_head;
     std::map<std::string, Place> m_places;  // by project; the last line of each

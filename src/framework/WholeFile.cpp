@@ -47,6 +47,7 @@ struct ClearedFolder {
     bool known = false;
     std::string name;
 };
+std::atomic<int> g_batches;
 std::atomic_flag g_clearedFlag;  // held while the value of LastCleared is used
 ClearedFolder& LastCleared() {
     static ClearedFolder folder;
@@ -129,8 +130,18 @@ bool WholeFile::Place() {
 }
 
 void WholeFile::BeginRun() noexcept {
+    if (g_batches > 0) return;
     const Turn turn(g_clearedFlag);
     LastCleared().known = false;
+}
+
+WholeFile::Batch::Batch() noexcept {
+    BeginRun();
+    ++g_batches;
+}
+
+WholeFile::Batch::~Batch() {
+    --g_batches;
 }
 
 void WholeFile::Discard() noexcept {

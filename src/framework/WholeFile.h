@@ -35,9 +35,18 @@ class WholeFile {
     // Discards the document; the earlier file is unchanged.
     void Discard() noexcept;
 
-    // Called at the start of a call of the module or of a project of a batch: temporary files of killed
-    // processes are searched for again.
+    // Called at the start of a call of the module: temporary files of killed processes are searched for
+    // again.
     static void BeginRun() noexcept;
+    // While it exists, all calls are one run. Else a batch would list the folder of its documents for each
+    // project, which grows with every project.
+    class Batch {
+      public:
+        Batch() noexcept;
+        Batch(const Batch&) = delete;
+        Batch& operator=(const Batch&) = delete;
+        ~Batch();
+    };
 
   private:
     static constexpr std::intptr_t kNoHandle = -1;

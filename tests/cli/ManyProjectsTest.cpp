@@ -190,6 +190,35 @@ TEST_F(ManyProjects, AFolderWithoutProjectsIsReportedAndStopsNoOther) {
     EXPECT_THAT(report.err, EndsWith("2 projects: 1 done, 1 not loaded\n"));
 }
 
+// The order is that of the arguments, whichever project is done first; the last one is the largest.
+TEST_F(ManyProjects, JobsChangeNoByte) {
+    std::vector<std::string> words{"check", "--limit", "1", "--top", "3"};
+    samples::SampleOptions large;
+    large.preset = "pier";
+    large.name = "large";
+    large.cases = 200;
+    words.push_back(folder.Write(large));
+    for (int i = 0; i < 20; ++i) words.push_back(Write("p" + std::to_string(i)));
+    words.push_back(folder.Base("missing"));
+    fs::resize_file(folder.Base("p7.PLF"), 100);
+    fs::resize_file(folder.Base("p9.vmd"), 2000);
+    for (const char* format : {"text", "csv"}) {
+        std::vector<std::string> one = words;
+        one.insert(one.end(), {"--format", format});
+        const Outcome expected = Lumerin(one);
+        EXPECT_EQ(expected.status, kExitNotLoaded);
+        for (const char* jobs : {"2", "7", "100"}) {
+            std::vector<std::string> many = one;
+            many.insert(many.end(), {"--jobs", jobs});
+            const Outcome outcome = Lumerin(many);
+            EXPECT_EQ(outcome.status, expected.status);
+            EXPECT_EQ(outcome.out, expected.out) << jobs;
+            EXPECT_EQ(outcome.err, expected.err) << jobs;
+        }
+    }
+    EXPECT_EQ(Lumerin({"check", "--jobs", "0", folder.Base("p1")}).status, kExitUsage);
+}
+
 // A link to the folder above would make the search endless.
 TEST_F(ManyProjects, LinksToFoldersAreNotFollowed) {
     Write("a");

@@ -116,6 +116,16 @@ TEST_F(Resume, TheOutputIsThatOfARunOverAllOfThem) {
     }
 }
 
+// The number of jobs is no option of the outcome.
+TEST_F(Resume, JobsPassOverTheSameProjects) {
+    Check({"b"}, {"--limit", "0.001"});
+    EXPECT_EQ(Check(kThree, {"--limit", "0.001", "--jobs", "3"}), "3 projects: 3 fail; 1 unchanged\n");
+    const std::string resumed = Read(Output());
+    Lumerin({"check", "--limit", "0.001"}, kThree);
+    EXPECT_EQ(resumed, out);
+    EXPECT_EQ(Check(kThree, {"--limit", "0.001", "--jobs", "2"}), kAllUnchanged);
+}
+
 TEST_F(Resume, OtherOptionsPassOverNothing) {
     Check(kThree, {"--limit", "0.001"});
     EXPECT_EQ(Check(kThree, {"--limit", "0.002"}), kAllDone);

@@ -249,6 +249,23 @@ TEST_F(WholeFileTest, ClearingLeavesWhatAnotherProcessIsWritingAndWhatIsNotOurs)
     EXPECT_EQ(Read(), "live");
 }
 
+// A batch that lists the folder for each of its projects takes longer with every document that is there.
+TEST_F(WholeFileTest, ABatchIsOneRun) {
+    Put("left over", "~00000C.LML");
+    {
+        const WholeFile::Batch batch;
+        EXPECT_TRUE(WriteDocument("other", "other.txt"));
+        EXPECT_FALSE(fs::exists(Path("~00000C.LML")));
+        Put("left over", "~00000C.LML");
+        WholeFile::BeginRun();
+        EXPECT_TRUE(WriteDocument("other", "other.txt"));
+        EXPECT_TRUE(fs::exists(Path("~00000C.LML")));
+    }
+    WholeFile::BeginRun();
+    EXPECT_TRUE(WriteDocument("other", "other.txt"));
+    EXPECT_FALSE(fs::exists(Path("~00000C.LML")));
+}
+
 // Names that a file or a link to another place has are skipped.
 TEST_F(WholeFileTest, ATemporaryFileIsNewAndFollowsNoLink) {
     bool taken = false;
