@@ -14,11 +14,13 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "MeasuredProject.h"
 #include "ReadyLines.h"
 #include "framework/Backend.h"
+#include "tables/RowText.h"
 #include "text/Format.h"
 #include "writers/PdfSink.h"
 #include "writers/TableSheets.h"
@@ -134,7 +136,8 @@ void RunSheet(const char* path, const char* file) {
 }
 
 void RunPdf(long lines, const char* file) {
-    const std::vector<std::string> ready = MakeReadyLines();
+    std::vector<RowText> ready;
+    for (std::string& line : MakeReadyLines()) ready.emplace_back().line = std::move(line);
     const auto begin = Clock::now();
     StoredStream out(file);
     CPdfWriter pdf(true);

@@ -83,7 +83,7 @@ std::string CutDocument(const std::filesystem::path& folder) {
 TEST(Allocation, NoFailureEndsTheProcessOrCutsADocumentAndTheNextRunIsWhole) {
     const BrokenProject project("pier", 2);
     const std::string report = project.Base() + "_Full_Report.txt";
-    ASSERT_EQ(Report(project.Base()).status, kExitDone);
+    ASSERT_EQ(ReportOf(project.Base()).status, kExitDone);
     const std::string whole = ReadBytesOf(report);
     Presses presses(project.Base());
     long number = 0, runs = 0;
@@ -95,7 +95,7 @@ TEST(Allocation, NoFailureEndsTheProcessOrCutsADocumentAndTheNextRunIsWhole) {
     }
     RecordProperty("runs", static_cast<int>(runs));
     EXPECT_GT(runs, 100);
-    EXPECT_EQ(Report(project.Base()).status, kExitDone);
+    EXPECT_EQ(ReportOf(project.Base()).status, kExitDone);
     EXPECT_EQ(ReadBytesOf(report), whole);
 }
 

@@ -35,7 +35,7 @@ TEST(MemoryLimit, AForceFileMayBeLargerThanTheMemoryOfTheProcess) {
     if (kSanitized) GTEST_SKIP() << "the sanitizers reserve terabytes";
     const BrokenProject project("pier", kManyCases);
     const auto fileBytes = std::filesystem::file_size(project.Base() + ".vmd");
-    ASSERT_EQ(Report(project.Base(), {"axial"}).status, kExitDone);
+    ASSERT_EQ(ReportOf(project.Base(), {"axial"}).status, kExitDone);
     const std::string table = project.Base() + "_Max_Axial_Forces_Pile_Heads.txt";
     const std::string whole = ReadBytesOf(table);
     ASSERT_FALSE(whole.empty());

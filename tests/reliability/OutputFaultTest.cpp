@@ -58,7 +58,7 @@ TEST(OutputFault, AReadOnlyFolderIsNamedAndTheEarlierFileStays) {
                                           fs::perms::others_exec);
     InChild([&] {
         ASSERT_TRUE(GiveUpRoot());
-        const Answer answer = Report(project.Base(), {"axial", "title", "envelopes"});
+        const Answer answer = ReportOf(project.Base(), {"axial", "title", "envelopes"});
         EXPECT_EQ(answer.status, kExitIncomplete);
         EXPECT_EQ(answer.out, "");
         EXPECT_THAT(answer.said, Contains(HasSubstr(project.Base() + kAxialText)));
@@ -73,14 +73,14 @@ TEST(OutputFault, AFullDiskIsNamedForEveryTableInEveryFormatAndTheEarlierFileSta
     const BrokenProject project("pier");
     for (const int format : {kFormatText, kFormatPdf, kFormatSpreadsheet}) {
         for (const std::string& table : kAllTables) {
-            const Answer whole = Report(project.Base(), {table}, {format});
+            const Answer whole = ReportOf(project.Base(), {table}, {format});
             if (whole.status != kExitDone) continue;  // the table has no such form
             const std::string path = whole.out.substr(0, whole.out.find('\n'));
             ASSERT_TRUE(fs::exists(path)) << path;
             WriteBytesOf(path, "earlier");
             InChild([&] {
                 LimitFileSize(0);
-                const Answer answer = Report(project.Base(), {table}, {format});
+                const Answer answer = ReportOf(project.Base(), {table}, {format});
                 EXPECT_EQ(answer.status, kExitIncomplete) << path;
                 EXPECT_EQ(answer.out, "") << path;
                 EXPECT_THAT(answer.said, Contains(HasSubstr(path)));
@@ -100,7 +100,7 @@ TEST(OutputFault, ADiskThatFillsAtAnyPlaceIsNamed) {
             ASSERT_LT(room, rlim_t{1} << 30);
             InChild([&] {
                 LimitFileSize(room);
-                const Answer answer = Report(project.Base(), {"full"}, {format});
+                const Answer answer = ReportOf(project.Base(), {"full"}, {format});
                 if (answer.status == kExitDone) {
                     // Nothing failed, so all files are complete. Only the status shows it.
                     LimitFileSize(RLIM_INFINITY);
@@ -122,13 +122,13 @@ TEST(OutputFault, AnySingleWriteMayFail) {
     for (const int format : {kFormatText, kFormatPdf, kFormatSpreadsheet}) {
         std::vector<std::string> tables;
         for (const std::string& table : kAllTables) {
-            if (Report(project.Base(), {table}, {format}).status == kExitDone) tables.push_back(table);
+            if (ReportOf(project.Base(), {table}, {format}).status == kExitDone) tables.push_back(table);
         }
         const auto whole = Documents(project);
         long writes = 0;
         for (;; ++writes) {
             faulty::g_writesLeft = writes;
-            const Answer answer = Report(project.Base(), tables, {format});
+            const Answer answer = ReportOf(project.Base(), tables, {format});
             const bool failed = faulty::g_writesLeft < 0;
             faulty::g_writesLeft = -1;
             if (!failed) break;
@@ -151,7 +151,7 @@ TEST(OutputFault, AKillAtAnyWriteLeavesEveryFileWhole) {
     const BrokenProject project("pier", 300);
     const std::vector<std::string> tables{"axial", "cap-shear", "title", "envelopes", "full"};
     for (const int format : {kFormatText, kFormatPdf, kFormatSpreadsheet}) {
-        Report(project.Base(), tables, {format});
+        ReportOf(project.Base(), tables, {format});
         const auto whole = Documents(project);
         std::size_t leftOvers = 0;
         bool clean = false;
@@ -159,7 +159,7 @@ TEST(OutputFault, AKillAtAnyWriteLeavesEveryFileWhole) {
             ASSERT_LT(writes, 1000);
             const int status = StatusOfChild([&] {
                 faulty::g_writesToDeath = writes;
-                Report(project.Base(), tables, {format});
+                ReportOf(project.Base(), tables, {format});
             });
             clean = WIFEXITED(status);
             ASSERT_TRUE(clean || WTERMSIG(status) == SIGKILL) << WTERMSIG(status);
@@ -175,7 +175,7 @@ TEST(OutputFault, AKillAtAnyWriteLeavesEveryFileWhole) {
 
 TEST(OutputFault, LinksAndPipesInThePlaceOfFilesAreReplaced) {
     const BrokenProject project("pier");
-    ASSERT_EQ(Report(project.Base(), kAllTables).status, kExitIncomplete);  // the pile heads have no text
+    ASSERT_EQ(ReportOf(project.Base(), kAllTables).status, kExitIncomplete);  // the pile heads have no text
     const auto whole = Documents(project);
     ASSERT_GT(whole.size(), 8U);
     const fs::path outside = project.Folder() / "outside";
@@ -194,7 +194,7 @@ TEST(OutputFault, LinksAndPipesInThePlaceOfFilesAreReplaced) {
         }
         const int status = StatusOfChild([&] {
             alarm(60);
-            Report(project.Base(), kAllTables);
+            ReportOf(project.Base(), kAllTables);
         });
         ASSERT_EQ(status, 0) << "it waited for a reader";
         EXPECT_TRUE(Documents(project) == whole);
@@ -208,7 +208,7 @@ TEST(OutputFault, LinksAndPipesInThePlaceOfFilesAreReplaced) {
 TEST(OutputFault, AFolderInThePlaceOfAFileIsNamed) {
     const BrokenProject project("pier");
     fs::create_directory(project.Base() + kAxialText);
-    const Answer answer = Report(project.Base(), {"axial", "pile-dc"});
+    const Answer answer = ReportOf(project.Base(), {"axial", "pile-dc"});
     EXPECT_EQ(answer.status, kExitIncomplete);
     EXPECT_THAT(answer.said, Contains(HasSubstr(project.Base() + kAxialText)));
     EXPECT_THAT(answer.out, HasSubstr("_Max_DC_For_Pile_Sections.txt"));
@@ -223,7 +223,7 @@ TEST(OutputFault, AFileHeldOpenIsReplaced) {
     const int held = open(path.c_str(), O_RDWR);
     ASSERT_GE(held, 0);
     ASSERT_EQ(flock(held, LOCK_EX), 0);
-    EXPECT_EQ(Report(project.Base(), {"axial"}).status, kExitDone);
+    EXPECT_EQ(ReportOf(project.Base(), {"axial"}).status, kExitDone);
     close(held);
     EXPECT_THAT(ReadBytesOf(path), HasSubstr("Maximum Axial Forces at All Pile Heads"));
 }
@@ -296,7 +296,7 @@ TEST(OutputFault, ThePictureMayGoToADevice) {
 TEST(OutputFault, PathsOfAnyWordsGiveTheSameFiles) {
     const BrokenProject plain("pier");
     const auto formats = std::vector<int>{kFormatText, kFormatPdf, kFormatSpreadsheet};
-    ASSERT_EQ(Report(plain.Base(), {"full", "cap-shear"}, formats).status, kExitDone);
+    ASSERT_EQ(ReportOf(plain.Base(), {"full", "cap-shear"}, formats).status, kExitDone);
     const std::string long250 = std::string(250 - 3, 'a') + "(1)";
     for (const std::string& name : {std::string("two words [1] & more (2)"),
                                     std::string("Br\xFC"
@@ -307,7 +307,7 @@ TEST(OutputFault, PathsOfAnyWordsGiveTheSameFiles) {
         for (const ProjectBytes& file : plain.Files()) {
             if (file.name.find('/') == std::string::npos) WriteBytesOf(folder / file.name, file.bytes);
         }
-        const Answer answer = Report((folder / "p").string(), {"full", "cap-shear"}, formats);
+        const Answer answer = ReportOf((folder / "p").string(), {"full", "cap-shear"}, formats);
         EXPECT_EQ(answer.status, kExitDone) << name;
         EXPECT_TRUE(answer.said.empty()) << answer.said.front();
         for (const char* file :

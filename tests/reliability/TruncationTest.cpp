@@ -72,7 +72,7 @@ testing::AssertionResult IsStudyReadOrReported(const std::string& base) {
 
 testing::AssertionResult Survives(const BrokenProject& project, const ProjectBytes& file) {
     if (IsStudyFile(file.name)) return IsStudyReadOrReported(project.Base());
-    return IsLoadedOrOneClearMessage(Report(project.Base()), project.Base());
+    return IsLoadedOrOneClearMessage(ReportOf(project.Base()), project.Base());
 }
 
 // The pier's files are cut at every byte; the others', which repeat its records, in steps.
@@ -83,7 +83,7 @@ class Truncation : public testing::TestWithParam<const char*> {
 
 TEST_P(Truncation, AFileCutAtAnyByteLoadsOrIsNamed) {
     const BrokenProject project(GetParam());
-    ASSERT_EQ(Report(project.Base()).status, kExitDone);
+    ASSERT_EQ(ReportOf(project.Base()).status, kExitDone);
     InLittleMemory(project.TotalBytes(), [&] {
         for (const ProjectBytes& file : project.Files()) {
             // Force records are all alike: every byte of the first two, then steps that share no divisor
@@ -103,7 +103,7 @@ TEST_P(Truncation, AMissingFileLoadsOrIsNamed) {
     const BrokenProject project(GetParam());
     for (const ProjectBytes& file : project.Files()) {
         std::filesystem::remove(project.Folder() / file.name);
-        const Answer answer = Report(project.Base(), {"full"}, {kFormatPdf});
+        const Answer answer = ReportOf(project.Base(), {"full"}, {kFormatPdf});
         EXPECT_TRUE(IsLoadedOrOneClearMessage(answer, project.Base())) << file.name;
         project.Restore(file);
     }
@@ -127,7 +127,7 @@ TEST_P(Truncation, ACountOfAnySizeLoadsOrIsNamed) {
                         std::string bytes = file.bytes;
                         std::memcpy(bytes.data() + at, &count, sizeof(count));
                         project.Put(file, bytes);
-                        EXPECT_TRUE(IsLoadedOrOneClearMessage(Report(project.Base()), project.Base()))
+                        EXPECT_TRUE(IsLoadedOrOneClearMessage(ReportOf(project.Base()), project.Base()))
                             << file.name << " with " << count << " at " << at;
                     }
                 }
@@ -150,7 +150,7 @@ TEST_P(Truncation, ChangedBytesLoadOrAreNamed) {
                 bytes[random() % bytes.size()] = static_cast<char>(random());
             }
             project.Put(file, bytes);
-            const Answer answer = Report(project.Base(), {"full"}, {kFormats[round % 3]});
+            const Answer answer = ReportOf(project.Base(), {"full"}, {kFormats[round % 3]});
             EXPECT_TRUE(IsLoadedOrOneClearMessage(answer, project.Base()))
                 << file.name << " in round " << round;
             project.Restore(file);

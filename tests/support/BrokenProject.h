@@ -94,8 +94,8 @@ struct Answer {
     std::vector<std::string> findings;  // errors and warnings about the data
 };
 
-inline Answer Report(const std::string& base, const std::vector<std::string>& tables = {"full"},
-                     const std::vector<int>& formats = {kFormatText}) {
+inline Answer ReportOf(const std::string& base, const std::vector<std::string>& tables = {"full"},
+                       const std::vector<int>& formats = {kFormatText}) {
     ReportRequest options;
     options.projects = {base + ".in"};
     options.tables = tables;
