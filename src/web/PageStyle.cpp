@@ -71,11 +71,11 @@ tbody tr:target { background: var(--mark); outline: 2px solid var(--bad); }
 .w { white-space: normal; }
 .over { background: var(--bad-soft); color: var(--bad); font-weight: 700; }
 .over em { font-size: 0.85em; }
-thead button { display: inline; margin: 0; padding: 0; border: 0; background: none; color: inherit; font: inherit; cursor: pointer; }
+thead button { display: inline; margin: 0; padding: 0; border: 0; background: none; color: inherit; font: inherit; text-align: inherit; cursor: pointer; }
 thead button:hover { text-decoration: underline; }
 th[aria-sort="ascending"] button::after { content: " \25b2"; }
 th[aria-sort="descending"] button::after { content: " \25bc"; }
-.filter { display: flex; flex-wrap: wrap; align-items: center; gap: 0.5rem 1rem; margin: 0.5rem 0; font-size: 0.9rem; }
+.filter { display: flex; flex-wrap: wrap; align-items: center; gap: 0.5rem 1rem; margin: 2rem 0 -0.5rem; font-size: 0.9rem; }
 .filter label { display: flex; flex-wrap: wrap; align-items: center; gap: 0.5rem; }
 .filter input { width: 15rem; max-width: 100%; padding: 0.25rem 0.5rem; border: 1px solid var(--soft); border-radius: 4px; background: var(--page); color: var(--ink); font: inherit; }
 .words { display: grid; grid-template-columns: max-content 1fr; gap: 0.15rem 1rem; margin: 0.75rem 0; font-size: 0.9rem; }

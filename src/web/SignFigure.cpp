@@ -54,7 +54,7 @@ void DrawMoment(Svg& svg, double x) {
     svg.Text("tension", {x + 68.0, 120.0}, {kSmall, false, Anchor::start, kLine, false});
     svg.Text("compression", {x, 44.0}, {kSmall, false, Anchor::middle, kOver, false});
     DrawLabels(svg, x, "M33 of the cap positive: tension at the bottom",
-               "A support of the cap has a negative M33.");
+               "M33 with tension at the top is negative.");
 }
 
 }  // namespace

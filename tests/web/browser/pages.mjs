@@ -26,6 +26,11 @@ export function makePage(preset) {
   return pathToFileURL(join(folder, `${preset}_Report.html`)).href;
 }
 
+const started = Date.now();
+export function note(...words) {
+  if (process.env.LUMERIN_WEB_VERBOSE) console.log(`${((Date.now() - started) / 1000).toFixed(1)} s`, ...words);
+}
+
 let passed = 0;
 export function check(holds, words) {
   if (!holds) throw new Error(words);
