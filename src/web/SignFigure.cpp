@@ -37,14 +37,14 @@ void DrawAxial(Svg& svg, double x) {
 
 // A cap that sags: its lower side is drawn out, its upper side pressed together.
 void DrawMoment(Svg& svg, double x) {
-    constexpr int kSteps = 24;
+    constexpr std::size_t kSteps = 24;
     constexpr double kHalf = 120.0, kSag = 26.0, kDepth = 30.0;
     std::array<Point, 2 * (kSteps + 1)> outline{};
-    for (int i = 0; i <= kSteps; ++i) {
-        const double share = 2.0 * i / kSteps - 1.0;
+    for (std::size_t i = 0; i <= kSteps; ++i) {
+        const double share = 2.0 * static_cast<double>(i) / kSteps - 1.0;
         const double y = 46.0 + kSag * (1.0 - share * share);
-        outline.at(static_cast<std::size_t>(i)) = {x + share * kHalf, y};
-        outline.at(outline.size() - 1 - static_cast<std::size_t>(i)) = {x + share * kHalf, y + kDepth};
+        outline.at(i) = {x + share * kHalf, y};
+        outline.at(outline.size() - 1 - i) = {x + share * kHalf, y + kDepth};
     }
     svg.Polygon(outline, {kConcrete, kAxis, 1.0, {}});
     DrawArrow(svg, {x - 4.0, 116.0}, {x - 60.0, 116.0}, kLine);
