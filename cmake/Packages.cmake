@@ -40,5 +40,7 @@ set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_SOURCE_DIR}/cmake/ClampTimes.cmake)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+# It is loaded by the program, so that no list of the linker names it.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS libxlsxwriter4)
 set(CPACK_PACKAGE_FILE_NAME lumerin-${PROJECT_VERSION}-linux-${CMAKE_SYSTEM_PROCESSOR})
 include(CPack)

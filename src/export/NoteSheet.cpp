@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "export/TableWriter.h"
+#include "export/XlsxLibrary.h"
 
 namespace lumerin {
 
@@ -15,17 +16,17 @@ constexpr std::size_t kNumberWidth = 10, kNarrowest = 8, kWidest = 40;  // in ch
 
 void Check(lxw_error code) {
     if (code != LXW_NO_ERROR)
-        throw ExportError(std::string("a sheet cannot be written: ") + lxw_strerror(code));
+        throw ExportError(std::string("a sheet cannot be written: ") + Xlsx().lxw_strerror(code));
 }
 
 }  // namespace
 
 NoteSheet::NoteSheet(Workbook& workbook, const std::string& name, std::uint8_t paper)
     : m_workbook(workbook), m_sheet(workbook.AddSheet(name)) {
-    worksheet_gridlines(m_sheet, LXW_HIDE_ALL_GRIDLINES);
-    worksheet_set_landscape(m_sheet);
-    worksheet_set_paper(m_sheet, paper);
-    worksheet_fit_to_pages(m_sheet, 1, 0);
+    Xlsx().worksheet_gridlines(m_sheet, LXW_HIDE_ALL_GRIDLINES);
+    Xlsx().worksheet_set_landscape(m_sheet);
+    Xlsx().worksheet_set_paper(m_sheet, paper);
+    Xlsx().worksheet_fit_to_pages(m_sheet, 1, 0);
 }
 
 void NoteSheet::Line(const std::vector<NoteCell>& cells) {
@@ -35,11 +36,11 @@ void NoteSheet::Line(const std::vector<NoteCell>& cells) {
         lxw_format* format = m_workbook.Format(cells[i].style);
         std::size_t width = kNumberWidth;
         if (const auto* number = std::get_if<double>(&cells[i].content)) {
-            Check(worksheet_write_number(m_sheet, m_row, column, *number, format));
+            Check(Xlsx().worksheet_write_number(m_sheet, m_row, column, *number, format));
         } else {
             const auto& text = std::get<std::string>(cells[i].content);
             if (text.empty()) continue;
-            Check(worksheet_write_string(m_sheet, m_row, column, text.c_str(), format));
+            Check(Xlsx().worksheet_write_string(m_sheet, m_row, column, text.c_str(), format));
             width = text.size() + 2;
         }
         // The last cell of a line runs on over the empty ones after it.
@@ -51,7 +52,8 @@ void NoteSheet::Line(const std::vector<NoteCell>& cells) {
 void NoteSheet::Finish() {
     for (std::size_t i = 0; i < m_widths.size(); ++i) {
         const auto column = static_cast<lxw_col_t>(i);
-        Check(worksheet_set_column(m_sheet, column, column, static_cast<double>(m_widths[i]), nullptr));
+        Check(
+            Xlsx().worksheet_set_column(m_sheet, column, column, static_cast<double>(m_widths[i]), nullptr));
     }
 }
 

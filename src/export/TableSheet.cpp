@@ -8,6 +8,7 @@
 
 #include "export/Cells.h"
 #include "export/TableWriter.h"
+#include "export/XlsxLibrary.h"
 
 namespace lumerin {
 
@@ -42,13 +43,13 @@ TableSheet::TableSheet(Workbook& workbook, const SheetLook& look, std::span<cons
 
 void TableSheet::Check(int code) const {
     if (code == LXW_NO_ERROR) return;
-    throw ExportError("sheet " + m_look.name + ": " + lxw_strerror(static_cast<lxw_error>(code)));
+    throw ExportError("sheet " + m_look.name + ": " + Xlsx().lxw_strerror(static_cast<lxw_error>(code)));
 }
 
 void TableSheet::WriteHead() {
     if (!m_look.title.empty()) {
-        Check(
-            worksheet_write_string(m_sheet, 0, 0, m_look.title.c_str(), m_workbook.Format(CellStyle::title)));
+        Check(Xlsx().worksheet_write_string(m_sheet, 0, 0, m_look.title.c_str(),
+                                            m_workbook.Format(CellStyle::title)));
         m_headRow = 2;
     }
     const std::uint32_t unitRow = m_headRow + 1;
@@ -59,17 +60,17 @@ void TableSheet::WriteHead() {
             m_text = row == 0 ? column.name : UnitName(column.quantity, m_look.system);
             const std::size_t arrow = row == 0 ? 0 : kFilterArrow;
             m_widths[i] = std::max(m_widths[i], CharactersOf(m_text) + 1 + arrow);
-            Check(worksheet_write_string(m_sheet, row == 0 ? m_headRow : unitRow, static_cast<lxw_col_t>(i),
-                                         m_text.c_str(),
-                                         m_workbook.Format(row == 0 ? CellStyle::head : CellStyle::unit)));
+            Check(Xlsx().worksheet_write_string(
+                m_sheet, row == 0 ? m_headRow : unitRow, static_cast<lxw_col_t>(i), m_text.c_str(),
+                m_workbook.Format(row == 0 ? CellStyle::head : CellStyle::unit)));
         }
     }
-    worksheet_freeze_panes(m_sheet, m_firstRow, 0);
-    Check(worksheet_repeat_rows(m_sheet, m_headRow, unitRow));
-    worksheet_set_landscape(m_sheet);
-    worksheet_set_paper(m_sheet, m_look.system == UnitSystem::us ? 1 : 9);  // Letter, A4
-    worksheet_fit_to_pages(m_sheet, 1, 0);
-    Check(worksheet_set_footer(m_sheet, "&L&A&RPage &P of &N"));
+    Xlsx().worksheet_freeze_panes(m_sheet, m_firstRow, 0);
+    Check(Xlsx().worksheet_repeat_rows(m_sheet, m_headRow, unitRow));
+    Xlsx().worksheet_set_landscape(m_sheet);
+    Xlsx().worksheet_set_paper(m_sheet, m_look.system == UnitSystem::us ? 1 : 9);  // Letter, A4
+    Xlsx().worksheet_fit_to_pages(m_sheet, 1, 0);
+    Check(Xlsx().worksheet_set_footer(m_sheet, "&L&A&RPage &P of &N"));
 }
 
 void TableSheet::Row(std::span<const Value* const> row) {
@@ -93,7 +94,8 @@ void TableSheet::WriteCell(std::size_t column, const Value& value) {
         WriteText(column, *text);
     } else if (const auto* flag = std::get_if<bool>(&value)) {
         const auto line = static_cast<lxw_row_t>(m_firstRow + m_rows - 1);
-        Check(worksheet_write_boolean(m_sheet, line, static_cast<lxw_col_t>(column), *flag ? 1 : 0, nullptr));
+        Check(Xlsx().worksheet_write_boolean(m_sheet, line, static_cast<lxw_col_t>(column), *flag ? 1 : 0,
+                                             nullptr));
     }
 }
 
@@ -101,8 +103,8 @@ void TableSheet::WriteNumber(std::size_t column, double number, CellStyle style)
     const auto line = static_cast<lxw_row_t>(m_firstRow + m_rows - 1);
     const std::size_t decimals = style == CellStyle::real ? kDecimals : 0;
     m_widths[column] = std::max(m_widths[column], CharactersOf(number) + decimals + 1);
-    Check(worksheet_write_number(m_sheet, line, static_cast<lxw_col_t>(column), number,
-                                 m_workbook.Format(style)));
+    Check(Xlsx().worksheet_write_number(m_sheet, line, static_cast<lxw_col_t>(column), number,
+                                        m_workbook.Format(style)));
 }
 
 void TableSheet::WriteText(std::size_t column, std::string_view text) {
@@ -110,8 +112,8 @@ void TableSheet::WriteText(std::size_t column, std::string_view text) {
     const auto line = static_cast<lxw_row_t>(m_firstRow + m_rows - 1);
     m_text = text;
     m_widths[column] = std::max(m_widths[column], CharactersOf(text) + 1);
-    Check(worksheet_write_string(m_sheet, line, static_cast<lxw_col_t>(column), m_text.c_str(),
-                                 m_workbook.Format(CellStyle::text)));
+    Check(Xlsx().worksheet_write_string(m_sheet, line, static_cast<lxw_col_t>(column), m_text.c_str(),
+                                        m_workbook.Format(CellStyle::text)));
 }
 
 void TableSheet::Finish() {
@@ -122,18 +124,18 @@ void TableSheet::Finish() {
     }
     const auto last = static_cast<lxw_row_t>(m_firstRow + std::max(m_rows, 1LL) - 1);
     const auto lastColumn = static_cast<lxw_col_t>(m_columns.size() - 1);
-    Check(worksheet_autofilter(m_sheet, m_firstRow - 1, 0, last, lastColumn));
+    Check(Xlsx().worksheet_autofilter(m_sheet, m_firstRow - 1, 0, last, lastColumn));
     for (std::size_t i = 0; i < m_columns.size(); ++i) {
         const auto column = static_cast<lxw_col_t>(i);
         const auto width = static_cast<double>(std::min(m_widths[i], kWidest));
-        Check(worksheet_set_column(m_sheet, column, column, width, nullptr));
+        Check(Xlsx().worksheet_set_column(m_sheet, column, column, width, nullptr));
         if (m_columns[i]->quantity != Quantity::ratio) continue;
         lxw_conditional_format over{};
         over.type = LXW_CONDITIONAL_TYPE_CELL;
         over.criteria = LXW_CONDITIONAL_CRITERIA_GREATER_THAN;
         over.value = m_look.limit;
         over.format = m_workbook.OverLimit();
-        Check(worksheet_conditional_format_range(m_sheet, m_firstRow, column, last, column, &over));
+        Check(Xlsx().worksheet_conditional_format_range(m_sheet, m_firstRow, column, last, column, &over));
     }
 }
 

@@ -12,6 +12,7 @@
 #include "export/ByteSink.h"
 #include "export/Cells.h"
 #include "export/TableWriter.h"
+#include "export/XlsxLibrary.h"
 
 namespace lumerin {
 
@@ -33,8 +34,8 @@ std::time_t SecondsOf(const LocalTime& time) {
 }
 
 void FillWith(lxw_format* format, lxw_color_t color) {
-    format_set_pattern(format, LXW_PATTERN_SOLID);
-    format_set_bg_color(format, color);
+    Xlsx().format_set_pattern(format, LXW_PATTERN_SOLID);
+    Xlsx().format_set_bg_color(format, color);
 }
 
 }  // namespace
@@ -59,52 +60,52 @@ Workbook::Workbook(const std::string& path, const LocalTime& created) : m_path(p
     options.constant_memory = LXW_TRUE;
     options.tmpdir = m_folderName.data();
     options.use_zip64 = LXW_FALSE;
-    m_workbook = workbook_new_opt(m_stored.c_str(), &options);
+    m_workbook = Xlsx().workbook_new_opt(m_stored.c_str(), &options);
     if (m_workbook == nullptr) throw ExportError("there is not enough memory for the workbook " + path);
     MakeFormats();
     SetTitle("");
 }
 
 Workbook::~Workbook() {
-    if (m_workbook != nullptr) lxw_workbook_free(m_workbook);
+    if (m_workbook != nullptr) Xlsx().lxw_workbook_free(m_workbook);
 }
 
 void Workbook::MakeFormats() {
     for (lxw_format*& format : m_formats) {
-        format = workbook_add_format(m_workbook);
+        format = Xlsx().workbook_add_format(m_workbook);
         if (format == nullptr) throw ExportError("there is not enough memory for the workbook " + m_path);
     }
-    format_set_num_format(Format(CellStyle::integer), "0");
-    format_set_num_format(Format(CellStyle::real), "0.00");
-    format_set_num_format(Format(CellStyle::bad), "0.00");
+    Xlsx().format_set_num_format(Format(CellStyle::integer), "0");
+    Xlsx().format_set_num_format(Format(CellStyle::real), "0.00");
+    Xlsx().format_set_num_format(Format(CellStyle::bad), "0.00");
     // A text after a column of numbers would touch them.
-    format_set_indent(Format(CellStyle::text), 1);
+    Xlsx().format_set_indent(Format(CellStyle::text), 1);
     for (const CellStyle style : {CellStyle::head, CellStyle::unit}) {
         FillWith(Format(style), kHeadFill);
     }
-    format_set_bold(Format(CellStyle::head));
-    format_set_italic(Format(CellStyle::unit));
-    format_set_font_color(Format(CellStyle::unit), kUnitColor);
-    format_set_bottom(Format(CellStyle::unit), LXW_BORDER_THIN);
-    format_set_bottom_color(Format(CellStyle::unit), kLine);
-    format_set_bold(Format(CellStyle::title));
-    format_set_font_size(Format(CellStyle::title), kTitleSize);
-    format_set_bold(Format(CellStyle::label));
-    format_set_bold(Format(CellStyle::good));
-    format_set_font_color(Format(CellStyle::good), kGreen);
+    Xlsx().format_set_bold(Format(CellStyle::head));
+    Xlsx().format_set_italic(Format(CellStyle::unit));
+    Xlsx().format_set_font_color(Format(CellStyle::unit), kUnitColor);
+    Xlsx().format_set_bottom(Format(CellStyle::unit), LXW_BORDER_THIN);
+    Xlsx().format_set_bottom_color(Format(CellStyle::unit), kLine);
+    Xlsx().format_set_bold(Format(CellStyle::title));
+    Xlsx().format_set_font_size(Format(CellStyle::title), kTitleSize);
+    Xlsx().format_set_bold(Format(CellStyle::label));
+    Xlsx().format_set_bold(Format(CellStyle::good));
+    Xlsx().format_set_font_color(Format(CellStyle::good), kGreen);
     FillWith(Format(CellStyle::good), kGreenFill);
-    format_set_bold(Format(CellStyle::bad));
-    format_set_font_color(Format(CellStyle::bad), kRed);
+    Xlsx().format_set_bold(Format(CellStyle::bad));
+    Xlsx().format_set_font_color(Format(CellStyle::bad), kRed);
     FillWith(Format(CellStyle::bad), kRedFill);
-    m_overLimit = workbook_add_format(m_workbook);
+    m_overLimit = Xlsx().workbook_add_format(m_workbook);
     if (m_overLimit == nullptr) throw ExportError("there is not enough memory for the workbook " + m_path);
-    format_set_bold(m_overLimit);
-    format_set_font_color(m_overLimit, kRed);
-    format_set_bg_color(m_overLimit, kRedFill);
+    Xlsx().format_set_bold(m_overLimit);
+    Xlsx().format_set_font_color(m_overLimit, kRed);
+    Xlsx().format_set_bg_color(m_overLimit, kRedFill);
 }
 
 lxw_worksheet* Workbook::AddSheet(const std::string& name) {
-    lxw_worksheet* sheet = workbook_add_worksheet(m_workbook, name.c_str());
+    lxw_worksheet* sheet = Xlsx().workbook_add_worksheet(m_workbook, name.c_str());
     if (sheet == nullptr) throw ExportError(m_path + ": no sheet can be made: " + name);
     return sheet;
 }
@@ -116,7 +117,7 @@ void Workbook::SetTitle(const std::string& title) {
     properties.author = program.data();
     properties.company = program.data();
     properties.created = SecondsOf(m_created);
-    workbook_set_properties(m_workbook, &properties);
+    Xlsx().workbook_set_properties(m_workbook, &properties);
 }
 
 void Workbook::CheckTemporaryFiles() const {
@@ -141,9 +142,9 @@ void Workbook::CheckTemporaryFiles() const {
 
 void Workbook::Close() {
     CheckTemporaryFiles();
-    const lxw_error code = workbook_close(m_workbook);
+    const lxw_error code = Xlsx().workbook_close(m_workbook);
     m_workbook = nullptr;
-    if (code != LXW_NO_ERROR) throw ExportError(m_path + ": " + lxw_strerror(code));
+    if (code != LXW_NO_ERROR) throw ExportError(m_path + ": " + Xlsx().lxw_strerror(code));
     FileSink file(m_path);
     std::ifstream stored(m_stored, std::ios::binary);
     std::vector<char> piece(kFlushBytes);
