@@ -105,7 +105,7 @@ footer { margin-top: 3rem; padding-top: 0.75rem; border-top: 1px solid var(--rul
   #tables > h2 { position: absolute; left: -100rem; }
   .words { display: block; columns: 3; }
   .words dt { float: left; clear: left; width: 6rem; }
-  .words dd { break-inside: avoid; }
+  .words dd { margin-left: 6rem; break-inside: avoid; }
   .scroll { overflow: visible; }
   figure { break-inside: avoid; margin: 0; }
   figure .scroll { border: 0; }

@@ -188,13 +188,16 @@ void AppendPrintedTables(const Evaluation& evaluation, Links& links, Html& html)
     const Report report{data,    evaluation.Selection(), evaluation.Results(), enabled,
                         options, evaluation.Rows()};
     for (const TableId table : kPrintedTables) {
-        html.Raw("<section class=\"sheet\" id=\"s-" + PrintedTableId(table) + "\">\n");
         const std::string reason = WhyTableDoesNotApply(data, evaluation.Selection(), table);
         const std::optional<TableId> writable = WritableTable(report, table);
-        if (!reason.empty() || writable != table) html.Element("h3", PrintedTableName(data, table));
+        // A table begins a page; a sentence does not.
+        const bool isThere = reason.empty() && writable == table;
+        html.Raw(isThere ? "<section class=\"sheet\"" : "<section");
+        html.Raw(" id=\"s-" + PrintedTableId(table) + "\">\n");
+        if (!isThere) html.Element("h3", PrintedTableName(data, table));
         if (!reason.empty()) {
             html.Element("p", "This table does not apply: " + reason + ".");
-        } else if (writable != table) {
+        } else if (!isThere) {
             html.Element("p", "The members of the first substructure are listed with the piles.");
         } else {
             TableSink sink(evaluation, table, links, html);
