@@ -101,6 +101,7 @@ renice -n 10 $$ >/dev/null
 step "web report" web_report
 step "sanitizer build, tests and fuzz targets" build sanitize --target all fuzz
 step "functions that nobody calls" tools/check-dead-code
+step "each source by itself" tools/check-alone
 step "tests under the sanitizers" run_tests sanitize
 # From a fixed seed, so that a run is like the one before it.
 LUMERIN_FUZZ_SEED=1 step "fuzz targets, a few seconds each" tools/fuzz.sh all 2

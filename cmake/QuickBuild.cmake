@@ -1,7 +1,9 @@
 # Shorter builds: headers that are read once for many files, and several sources compiled as one.
 option(LUMERIN_PRECOMPILE "Precompile the headers of GoogleTest and those of the standard library in tests" ON)
-# A file that lacks an include, or says the same name twice, is found by a build without this one.
-option(LUMERIN_UNITY "Compile several sources of a target as one" OFF)
+# A file that lacks an include is found where it is compiled by itself: the libraries in a build with TESTS, the tests by
+# tools/check-alone.
+set(LUMERIN_UNITY OFF CACHE STRING "Compile several sources of a target as one: OFF, TESTS (those of tests alone) or ON")
+set_property(CACHE LUMERIN_UNITY PROPERTY STRINGS OFF TESTS ON)
 
 # Where there is a compiler cache, builds in several folders share their work.
 find_program(LUMERIN_CCACHE ccache)
@@ -24,17 +26,33 @@ if(LUMERIN_UNITY)
     find_package(Python3 REQUIRED COMPONENTS Interpreter)
 endif()
 
-# lumerin_quick_build(TARGET): compiles the target's sources by sixes where LUMERIN_UNITY is on. A source that shares a
-# local name with another one is compiled by itself.
+# lumerin_quick_build(TARGET): compiles the target's sources by LUMERIN_UNITY_SIZE, as LUMERIN_UNITY says. Sources that share
+# a local name are never compiled as one.
+set(LUMERIN_UNITY_SIZE 12)
 function(lumerin_quick_build target)
-    if(NOT LUMERIN_UNITY)
+    get_target_property(is_test ${target} LUMERIN_TEST)
+    if(NOT LUMERIN_UNITY OR (LUMERIN_UNITY STREQUAL "TESTS" AND NOT is_test))
         return()
     endif()
-    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_BATCH_SIZE 6)
+    set_target_properties(${target} PROPERTIES UNITY_BUILD ON UNITY_BUILD_MODE GROUP)
     get_target_property(sources ${target} SOURCES)
-    execute_process(COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tools/local_names.py ${sources}
-        OUTPUT_VARIABLE alone COMMAND_ERROR_IS_FATAL ANY)
     # A test takes its own function in the place of this file, which is therefore an object of its own.
-    list(APPEND alone ${CMAKE_SOURCE_DIR}/src/embedment/dialog/headless/ReadScreen.cpp)
-    set_source_files_properties(${alone} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+    list(REMOVE_ITEM sources ${CMAKE_SOURCE_DIR}/src/embedment/dialog/headless/ReadScreen.cpp)
+    if(WIN32)
+        # The headers of Windows define thousands of macros.
+        list(FILTER sources EXCLUDE REGEX "/win32/")
+    endif()
+    execute_process(COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tools/local_names.py ${LUMERIN_UNITY_SIZE} ${sources}
+        OUTPUT_VARIABLE groups COMMAND_ERROR_IS_FATAL ANY OUTPUT_STRIP_TRAILING_WHITESPACE)
+    string(REPLACE ";" "|" groups "${groups}")
+    string(REPLACE "\n" ";" groups "${groups}")
+    set(number 0)
+    foreach(group ${groups})
+        string(REPLACE "|" ";" files "${group}")
+        list(LENGTH files count)
+        if(count GREATER 1)
+            math(EXPR number "${number} + 1")
+            set_source_files_properties(${files} PROPERTIES UNITY_GROUP ${number})
+        endif()
+    endforeach()
 endfunction()

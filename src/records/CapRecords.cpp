@@ -161,7 +161,7 @@ void EnvelopeRows(const Evaluation& evaluation, const RowTaker& take) {
     }
 }
 
-constexpr std::array<Table, 3> kTables{{
+constexpr std::array<Table, 3> kTablesOfCap{{
     {"cap_shear",
      "a design place of the cap, side, limit class and extreme of the shear F22",
      kCapColumns,
@@ -181,6 +181,6 @@ constexpr std::array<Table, 3> kTables{{
 
 }  // namespace
 
-const std::span<const Table> kCapTables = kTables;
+const std::span<const Table> kCapTables = kTablesOfCap;
 
 }  // namespace lumerin

@@ -120,7 +120,7 @@ void ElementForceRows(const Evaluation& evaluation, const RowTaker& take) {
     }
 }
 
-constexpr std::array<Table, 3> kTables{{
+constexpr std::array<Table, 3> kTablesOfElement{{
     {"pile_heads", "a pile head and case", kPileHeadColumns, {}, PileHeadRows},
     {"element_dc", "an element end and limit class", kElementDcColumns, {0, true, false}, ElementDcRows},
     {"element_forces",
@@ -132,6 +132,6 @@ constexpr std::array<Table, 3> kTables{{
 
 }  // namespace
 
-const std::span<const Table> kElementTables = kTables;
+const std::span<const Table> kElementTables = kTablesOfElement;
 
 }  // namespace lumerin

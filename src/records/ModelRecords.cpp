@@ -87,7 +87,7 @@ void ElementRows(const Evaluation& evaluation, const RowTaker& take) {
     }
 }
 
-constexpr std::array<Table, 2> kTables{{
+constexpr std::array<Table, 2> kTablesOfModel{{
     {"cases", "a case", kCaseTableColumns, {}, CaseRows},
     {"elements",
      "an element with forces, or a masked element of the cap",
@@ -98,6 +98,6 @@ constexpr std::array<Table, 2> kTables{{
 
 }  // namespace
 
-const std::span<const Table> kModelTables = kTables;
+const std::span<const Table> kModelTables = kTablesOfModel;
 
 }  // namespace lumerin

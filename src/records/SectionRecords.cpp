@@ -160,7 +160,7 @@ void SectionRows(const Evaluation& evaluation, bool forces, const RowTaker& take
     }
 }
 
-constexpr std::array<Table, 3> kTables{{
+constexpr std::array<Table, 3> kTablesOfSection{{
     {"pile_axial",
      "a pile and limit class (no fatigue)",
      kPileAxialColumns,
@@ -181,6 +181,6 @@ constexpr std::array<Table, 3> kTables{{
 
 }  // namespace
 
-const std::span<const Table> kSectionTables = kTables;
+const std::span<const Table> kSectionTables = kTablesOfSection;
 
 }  // namespace lumerin

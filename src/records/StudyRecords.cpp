@@ -100,7 +100,7 @@ void EmbedmentRows(const Evaluation& evaluation, const RowTaker& take) {
     StudyRows(evaluation, study, take).Run();
 }
 
-constexpr std::array<Table, 1> kTables{{
+constexpr std::array<Table, 1> kTablesOfStudy{{
     {"embedment",
      "a trial of the embedment study, a quantity, and a case or envelope",
      kEmbedmentColumns,
@@ -110,6 +110,6 @@ constexpr std::array<Table, 1> kTables{{
 
 }  // namespace
 
-const std::span<const Table> kStudyTables = kTables;
+const std::span<const Table> kStudyTables = kTablesOfStudy;
 
 }  // namespace lumerin

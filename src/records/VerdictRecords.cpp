@@ -176,7 +176,7 @@ void ProjectRows(const Evaluation& evaluation, const RowTaker& take) {
     row.Text(ProgramVersion()).Integer(kTablesVersion).Hand();
 }
 
-constexpr std::array<Table, 3> kTables{{
+constexpr std::array<Table, 3> kTablesOfVerdict{{
     {"findings", "a finding about the data", kFindingColumns, {0, false, true}, FindingRows},
     {"verdict", "a family of members of a substructure", kVerdictColumns, {0, true, true}, VerdictRows},
     {"projects", "a project", kProjectColumns, {0, true, true}, ProjectRows},
@@ -184,6 +184,6 @@ constexpr std::array<Table, 3> kTables{{
 
 }  // namespace
 
-const std::span<const Table> kVerdictTables = kTables;
+const std::span<const Table> kVerdictTables = kTablesOfVerdict;
 
 }  // namespace lumerin

@@ -37,7 +37,7 @@ constexpr const char* kBentHeading =
 constexpr const char* kCapOpening = "    LOCATION  ELEM  PROP       NODE  ";
 constexpr const char* kCapLower = "      & SIDE   NO.   NO.        NO.  ";
 
-constexpr TableLayout kMaxAxial{
+constexpr TableLayout kMaxAxialLayout{
     .table = kTableMaxAxial,
     .text = {.wide = {false, 41}, .narrow = {true, 13}, .furtherWide = {40, 36}, .furtherNarrow = {20, 16}},
     .pdf = {.wide = {false, 38}, .narrow = {true, 19}, .furtherWide = {37, 32}, .furtherNarrow = {20, 16}},
@@ -206,8 +206,8 @@ constexpr TableLayout kExtraMembers{
                .pierHeadingType8 = "Extra Member Properties Data for Substructure %d"},
 };
 
-constexpr std::array<TableLayout, 8> kLayouts{kMaxAxial,  kPileDc,     kColumnDc,     kCapShear,
-                                              kCapMoment, kPileForces, kColumnForces, kExtraMembers};
+constexpr std::array<TableLayout, 8> kLayouts{kMaxAxialLayout, kPileDc,     kColumnDc,     kCapShear,
+                                              kCapMoment,      kPileForces, kColumnForces, kExtraMembers};
 
 }  // namespace
 

@@ -21,7 +21,7 @@ constexpr const char* kWallDc = "Maximum Demand/Capacity Ratio For All Wall Prop
 constexpr const char* kPileForces = "Maximum Forces for All Pile Properties (Cross Sections)";
 constexpr const char* kColumnForces = "Maximum Forces for All Column Properties (Cross Sections)";
 constexpr const char* kWallForces = "Maximum Forces for All Wall Properties (Cross Sections)";
-constexpr const char* kAxial = "Maximum Axial Forces at All Pile Heads";
+constexpr const char* kAxialHeading = "Maximum Axial Forces at All Pile Heads";
 constexpr const char* kHeads = "Internal Forces at Pile Heads";
 
 }  // namespace
@@ -42,7 +42,8 @@ const TextList11 g_TableFileNames = {
 };
 
 const std::array<TextByType, kTableCount> g_TableTitles = {{
-    {kAxial, kAxial, kAxial, kAxial, kAxial, kAxial, kAxial, kAxial, ""},
+    {kAxialHeading, kAxialHeading, kAxialHeading, kAxialHeading, kAxialHeading, kAxialHeading, kAxialHeading,
+     kAxialHeading, ""},
     {kPileDc, kPileDc, kPileDc, kPileDc, kPileDc, kPileDc, kPileDc, kPileDc, kColumnDc},
     {kColumnDc, "", "", kColumnDc, kWallDc, kWallDc, "", "", kColumnDc},
     {"Pier Cap Shear F22 Design", "", "", "Pier Cap Shear Design", "", "", "", "Bent Cap Shear Design", ""},

@@ -18,8 +18,6 @@ class EmbedmentFilesTest : public StudyFileTest {
 // "PROBLEM" and the eight lines after it; the ninth is the first that may be the section's marker.
 const std::string kProblem = "PROBLEM\n1\n2\n3\n4\n5\n6\n7\n8\n";
 
-}  // namespace
-
 TEST_F(EmbedmentFilesTest, TheBaseFileHasTheInputFilesNameWithItsOwnExtension) {
     EXPECT_FALSE(HasEmbedmentFile(inputFile));
     WriteBase("");
@@ -63,5 +61,7 @@ TEST_F(EmbedmentFilesTest, ALineOfMoreThan256CharactersEndsTheSearch) {
 TEST_F(EmbedmentFilesTest, AProjectWithoutInputFileAsksForNothing) {
     EXPECT_FALSE(IsEmbedmentRequested(inputFile));
 }
+
+}  // namespace
 
 }  // namespace lumerin

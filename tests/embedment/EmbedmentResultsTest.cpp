@@ -19,8 +19,6 @@ constexpr const char* kCaseOne = "  1  1.5 1  2.5 2  3.5 3  4.5 4  5.5 5\n";
 
 class EmbedmentResultsTest : public StudyFileTest {};
 
-}  // namespace
-
 TEST_F(EmbedmentResultsTest, ReadsTheFiveValuesAndTheirPiles) {
     WriteBase(std::string(" 7  1  0  2  10.5\n") + kCaseOne +
               "2, -1.25, 9, 0, 8, 0, 7, 1e3, 6, -2e3, 5\nEOF\n");
@@ -237,5 +235,7 @@ TEST_F(EmbedmentResultsTest, TheOrderIsThatOfTheFirstTwoCompleteTrials) {
     one.LoadTrials();
     EXPECT_EQ(one.GetTrialOrder(), CEmbedmentResults::kNoOrder);
 }
+
+}  // namespace
 
 }  // namespace lumerin

@@ -42,8 +42,6 @@ class ElementSearchTest : public testing::Test {
     RecordedMessages messages;
 };
 
-}  // namespace
-
 TEST_F(ElementSearchTest, OfEqualValuesTheEarliestCaseIsKept) {
     for (const int c : {1, 2}) {
         Set(c, Cap(), kEndJ, kF22, 5.0F);
@@ -102,5 +100,7 @@ TEST_F(ElementSearchTest, ClassesAndTheChoiceOfCasesKeepTheirValuesApart) {
     EXPECT_EQ(results.Ratio(kService, 0, kEndI).value, 0.2F);
     EXPECT_EQ(results.Ratio(kExtreme, 0, kEndI).loadCase, -1);
 }
+
+}  // namespace
 
 }  // namespace lumerin

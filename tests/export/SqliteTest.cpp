@@ -36,8 +36,6 @@ class Sqlite : public testing::Test {
     ScratchFolder m_folder;
 };
 
-}  // namespace
-
 TEST_F(Sqlite, KeepsTypesAndShortestNumbers) {
     Export("pier", kSampleTable, 2);
     EXPECT_EQ(
@@ -147,5 +145,7 @@ TEST_F(Sqlite, RefusesTablesOfAnotherVersion) {
     Database(Path(), Database::Access::create).Run("PRAGMA user_version = 99");
     EXPECT_THAT([&] { SqliteWriter(Path(), "1"); }, ThrowsMessage<ExportError>(HasSubstr("version 99")));
 }
+
+}  // namespace
 
 }  // namespace lumerin

@@ -59,8 +59,6 @@ std::string FaultOf(const std::string& text) {
     return {};
 }
 
-}  // namespace
-
 TEST_F(CaseChoiceTest, NothingGivenChoosesEveryCase) {
     EXPECT_THAT(Chosen(CaseChoice()), ElementsAre(1, 2, 3, 4, 5));
 }
@@ -125,5 +123,7 @@ TEST_F(CaseChoiceTest, APatternOfManyStarsIsHeldAgainstALongTitleAtOnce) {
     EXPECT_THROW(Chosen(pattern + "b"), std::invalid_argument);
     EXPECT_THAT(Chosen(pattern), ElementsAre(1));
 }
+
+}  // namespace
 
 }  // namespace lumerin

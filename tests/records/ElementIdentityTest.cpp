@@ -34,8 +34,6 @@ class IdentityTest : public testing::Test {
     RecordsProject project;
 };
 
-}  // namespace
-
 TEST_F(IdentityTest, ElementsAreInTheOrderOfTheirRecords) {
     const Evaluation& evaluation = project.Evaluate(TableNeeds{});
     std::vector<long long> records;
@@ -93,5 +91,7 @@ TEST_F(IdentityTest, LocationsAlongTheCapAreThoseOfThePrintedTables) {
     pier.m_nUnits = 1;
     EXPECT_DOUBLE_EQ(CapLocation(pier, 60.0), 60.0);
 }
+
+}  // namespace
 
 }  // namespace lumerin

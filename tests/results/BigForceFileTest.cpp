@@ -54,8 +54,6 @@ class BigForceFile : public testing::Test {
     std::vector<float> m_words;
 };
 
-}  // namespace
-
 TEST_F(BigForceFile, EveryPileElementOfEveryCaseHasItsRecord) {
     const std::optional<Project> project = Load(m_folder);
     ASSERT_TRUE(project);
@@ -96,5 +94,7 @@ TEST_F(BigForceFile, ANumberThatIsNotFiniteIsNoticedAnywhereInTheFile) {
         put(before);
     }
 }
+
+}  // namespace
 
 }  // namespace lumerin

@@ -84,8 +84,6 @@ class TwoCaseModel : public SearchedCap {
     }
 };
 
-}  // namespace
-
 TEST_F(EnvelopeFile, PlainCasesInUsUnits) {
     TwoCaseModel model;
     Add(model);
@@ -296,5 +294,7 @@ TEST_F(EnvelopeFile, StreamThatCannotBeOpenedTakesNothing) {
     EXPECT_FALSE(out.IsOpen());
     EXPECT_FALSE(scratch.Has("no such folder"));
 }
+
+}  // namespace
 
 }  // namespace lumerin
