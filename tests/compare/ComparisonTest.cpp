@@ -124,6 +124,7 @@ TEST_F(ComparisonTest, AValueThatOneRunDoesNotHaveIsADifference) {
     EXPECT_EQ(changed.results[0].values[0].column, "compression");
     EXPECT_EQ(changed.results[0].values[0].after, std::nullopt);
     EXPECT_EQ(changed.results[0].caseAfter.number, 0);
+    EXPECT_EQ(changed.results[1].values[0].column, "tension");
     EXPECT_EQ(changed.results[1].values[0].before, std::nullopt);
 }
 
@@ -235,10 +236,8 @@ TEST_F(ComparisonTest, ANewPileIsListedAndTheOthersAreStillThemselves) {
     for (const ResultChange& result : changed.results) EXPECT_EQ(result.table->name, "verdict");
 }
 
-TEST_F(ComparisonTest, SubstructuresAndNodesAreCompared) {
+TEST_F(ComparisonTest, ASubstructureThatIsGoneIsListedWithItsRows) {
     before.substructures.push_back(before.substructures[0]);
-    after.substructures[0].nodes = {{0, 0, 0}, {12, 0, 0}, {24, 0, 0}};
-    before.substructures[0].nodes = {{0, 0, 0}, {12, 0, 0}, {30, 0, 0}};
     const Comparison changed = Run();
     EXPECT_THAT(LinesOf(changed.structure), Contains("gone substructure: substructure 2"));
     for (const RowChange& row : changed.rows) {
@@ -246,6 +245,23 @@ TEST_F(ComparisonTest, SubstructuresAndNodesAreCompared) {
         EXPECT_EQ(row.presence, Presence::removed);
     }
     EXPECT_THAT(changed.results, IsEmpty());
+}
+
+// Two of the nodes are those of the foundation. A foot has twelve inches.
+TEST_F(ComparisonTest, NodesThatMovedAreCountedAndARoundingIsNone) {
+    before.substructures[0] = MakePier();
+    after.substructures[0] = MakePier();
+    after.substructures[0].nodes[7][0] += 0.01;
+    EXPECT_THAT(Run().structure, IsEmpty());
+    after.substructures[0].nodes[7][0] += 6.0;
+    after.substructures[0].nodes[8][2] += 0.5;
+    const Comparison changed = Run();
+    EXPECT_THAT(LinesOf(changed.structure), Contains("changed nodes: node 6 above the foundation x2"));
+    const auto nodes = std::ranges::find(changed.structure, "nodes", &StructureChange::kind);
+    ASSERT_NE(nodes, changed.structure.end());
+    EXPECT_EQ(nodes->before, "8.917, 0.000, 0.000 ft");
+    EXPECT_EQ(nodes->after, "9.418, 0.000, 0.000 ft");
+    EXPECT_TRUE(changed.Differs());
 }
 
 // Lengths of the model in metres, forces in kN.
