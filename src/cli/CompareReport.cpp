@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CompareReport.h"
 
-#include <set>
 #include <sstream>
-#include <tuple>
 #include <utility>
 
 #include "cli/TextTable.h"
@@ -35,7 +33,7 @@ class Page {
         AddLines("rows of results", RowLines(m_comparison));
         AddResults(m_comparison.results, true);
         AddResults(m_comparison.governing, false);
-        AddCases();
+        AddTitles();
         return m_out.str();
     }
 
@@ -61,7 +59,6 @@ class Page {
         if (run.answer != RunVerdict::Answer::none) {
             m_out << "  D/C " << RatioText(run.ratio, m_result.limit) << "  " << run.place << "  case "
                   << ShortText(run.loadCase);
-            m_used.insert(run.loadCase);
         }
         if (own != m_comparison.units) {
             m_out << "  (" << UnitSystemName(own) << ", shown in " << UnitSystemName(m_comparison.units)
@@ -103,24 +100,16 @@ class Page {
         for (const ResultChange& result : results) {
             if (IsBeyond(number++)) continue;
             table.Add(ResultTexts(result, m_comparison.units));
-            for (const CaseName* name : {&result.caseBefore, &result.caseAfter}) {
-                if (name->number > 0) m_used.insert(*name);
-            }
         }
         table.Print(m_out, kIndent);
         AddRest(number);
     }
 
-    // The titles of the cases above, once each.
-    void AddCases() {
-        std::vector<std::string> lines;
-        for (const CaseName& name : m_used) {
-            const std::string line = std::string(kIndent) + ShortText(name) + ": " + name.title;
-            if (!name.title.empty() && (lines.empty() || lines.back() != line)) lines.push_back(line);
-        }
-        if (lines.empty() || !m_comparison.Differs()) return;
+    void AddTitles() {
+        const std::vector<std::string> lines = TitleLines(m_comparison, m_top);
+        if (lines.empty()) return;
         m_out << '\n' << kIndent << "titles of these cases\n";
-        for (const std::string& line : lines) m_out << line << '\n';
+        for (const std::string& line : lines) m_out << kIndent << line << '\n';
     }
 
     bool IsBeyond(std::size_t number) const { return m_top > 0 && number >= m_top; }
@@ -135,12 +124,6 @@ class Page {
     std::size_t m_top;
     bool m_colour;
     std::ostringstream m_out;
-    struct ByNumber {
-        bool operator()(const CaseName& a, const CaseName& b) const {
-            return std::tie(a.number, a.limitState, a.title) < std::tie(b.number, b.limitState, b.title);
-        }
-    };
-    std::set<CaseName, ByNumber> m_used;  // cases of the page
 };
 
 class TextPrinter : public ComparePrinter {

@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <map>
+#include <set>
 #include <tuple>
 #include <utility>
 
@@ -169,6 +170,25 @@ std::vector<std::string> RowLines(const Comparison& comparison) {
         lines.push_back(std::move(line));
     }
     return lines;
+}
+
+std::vector<std::string> TitleLines(const Comparison& comparison, std::size_t top) {
+    if (!comparison.Differs()) return {};
+    std::set<std::pair<int, std::string>> lines;  // by number
+    const auto add = [&](const CaseName& name) {
+        if (!name.title.empty()) lines.emplace(name.number, ShortText(name) + ": " + name.title);
+    };
+    add(comparison.before.loadCase);
+    add(comparison.after.loadCase);
+    for (const auto* results : {&comparison.results, &comparison.governing}) {
+        for (std::size_t i = 0; i < results->size() && (top == 0 || i < top); ++i) {
+            add((*results)[i].caseBefore);
+            add((*results)[i].caseAfter);
+        }
+    }
+    std::vector<std::string> texts;
+    for (const auto& [number, line] : lines) texts.push_back(line);
+    return texts;
 }
 
 std::string Summary(const Comparison& comparison) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +27,10 @@ std::vector<std::string> VerdictLines(const Comparison& comparison);
 std::vector<std::string> StructureLines(const Comparison& comparison);
 // New rows and rows that are gone, counted by table and substructure.
 std::vector<std::string> RowLines(const Comparison& comparison);
+
+// The titles of the cases of the verdicts and of the first `top` results of each list (0: all), once each by
+// number; none where nothing differs.
+std::vector<std::string> TitleLines(const Comparison& comparison, std::size_t top);
 
 // "12 results are over the tolerances, 3 others govern in another case or place alone; 812 values compared"
 std::string Summary(const Comparison& comparison);

@@ -94,6 +94,11 @@ void ComparePage::AddComparison(const ComparedPair& pair) {
     AddLines("Rows of results", RowLines(comparison));
     AddResults(pair, true);
     AddResults(pair, false);
+    // Every title of a case that is shown is listed.
+    const std::vector<std::string> titles = TitleLines(comparison, m_top);
+    if (!titles.empty()) m_html.Element("h3", "Titles of these cases").Raw("<ul>\n");
+    for (const std::string& title : titles) m_html.Element("li", title);
+    if (!titles.empty()) m_html.Raw("</ul>\n");
     if (pair.figures != nullptr) AddFigures(*pair.figures);
 }
 

@@ -180,6 +180,7 @@ TEST(ComparePage, HasTheDifferencesAndTheEnvelopesOfBothRuns) {
     EXPECT_THAT(outcome.out,
                 HasSubstr("<td>pile 3, extreme</td><td>tension kips</td><td>52.33</td><td>none</td>"));
     EXPECT_THAT(outcome.out, HasSubstr("Cap moment M33 of both runs"));
+    EXPECT_THAT(outcome.out, HasSubstr("<li>13 EXTREME-II: Extreme Event II, load position 1</li>"));
     EXPECT_THAT(outcome.out, HasSubstr("is in the old folder alone"));
     EXPECT_THAT(outcome.out, testing::EndsWith("</html>\n"));
 }
