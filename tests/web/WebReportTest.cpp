@@ -311,10 +311,11 @@ TEST_F(WebReport, TheRangeOfAPileHeadIsThatOfItsFigure) {
 
 TEST_F(WebReport, AFileOfAFigureThatCannotBeReadLeavesTheReport) {
     const std::string base = m_folder.Write("pier");
-    std::ofstream(base + ".PEL", std::ios::binary) << "no study";
+    std::ofstream(base + ".PEL", std::ios::binary) << " 1  2000000000  0  26  60.00\n";
     Open(base);
     const std::string page = Page();
-    EXPECT_THAT(page, HasSubstr("id=\"figure-embedment-1\""));
+    EXPECT_THAT(page, HasSubstr("The files of this figure cannot be read."));
+    EXPECT_THAT(page, HasSubstr("embedment trial count 2000000000 is out of range"));
     EXPECT_THAT(page, HasSubstr("<table id=\"t0\""));
 }
 
