@@ -187,6 +187,7 @@ std::vector<std::string> TitleLines(const Comparison& comparison, std::size_t to
         }
     }
     std::vector<std::string> texts;
+    texts.reserve(lines.size());
     for (const auto& [number, line] : lines) texts.push_back(line);
     return texts;
 }

@@ -27,9 +27,14 @@ constexpr const char* kPresets[] = {"pier", "bent", "group", "walls", "bridge", 
 // A table of a page: for each row its cells, without markup and without the word of a mark.
 using Rows = std::vector<std::vector<std::string>>;
 
-std::string WithoutMarkup(std::string text) {
-    text = std::regex_replace(text, std::regex(" <em>over</em>"), "");
-    text = std::regex_replace(text, std::regex("<[^>]*>"), "");
+std::string WithoutMarkup(const std::string& markup) {
+    const std::string marked = ReplaceAll(markup, " <em>over</em>", "");
+    std::string text;
+    for (std::size_t at = 0; at < marked.size();) {
+        const std::size_t tag = std::min(marked.find('<', at), marked.size());
+        text.append(marked, at, tag - at);
+        at = std::min(marked.find('>', tag), marked.size() - 1) + 1;
+    }
     text = ReplaceAll(ReplaceAll(text, "&lt;", "<"), "&gt;", ">");
     return ReplaceAll(ReplaceAll(text, "&quot;", "\""), "&amp;", "&");
 }
@@ -108,6 +113,29 @@ class WebReport : public testing::Test {
     std::unique_ptr<Evaluation> m_evaluation;
 };
 
+// Whether a line without blanks has a number with two decimals, or a word in place of a result.
+bool HasResult(const std::string& line) {
+    if (line.find("***") != std::string::npos || line.find("Novalidloadcase") != std::string::npos)
+        return true;
+    const auto isDigit = [&line](std::size_t at) {
+        return at < line.size() && line[at] >= '0' && line[at] <= '9';
+    };
+    for (std::size_t at = line.find('.'); at != std::string::npos; at = line.find('.', at + 1)) {
+        if (at > 0 && isDigit(at - 1) && isDigit(at + 1) && isDigit(at + 2)) return true;
+    }
+    return false;
+}
+
+// The values of an attribute that begins so, in the order of the page.
+std::vector<std::string> ValuesOf(const std::string& page, const std::string& attribute) {
+    std::vector<std::string> values;
+    for (std::size_t at = page.find(attribute); at != std::string::npos; at = page.find(attribute, at)) {
+        at += attribute.size();
+        values.push_back(page.substr(at, page.find('"', at) - at));
+    }
+    return values;
+}
+
 // Columns that the page has besides those of the text form: substructure, class and sign of a row's block.
 std::size_t BlockColumns(const std::string& page, TableId table) {
     const std::string head =
@@ -121,7 +149,6 @@ std::size_t BlockColumns(const std::string& page, TableId table) {
 
 TEST_F(WebReport, TheRowsOfTheTablesAreTheLinesOfTheTextReport) {
     int compared = 0;
-    const std::regex number("\\d\\.\\d\\d|\\*\\*\\*|Novalidloadcase");
     for (const char* preset : kPresets) {
         OpenSample(preset);
         const std::string page = Page();
@@ -129,7 +156,7 @@ TEST_F(WebReport, TheRowsOfTheTablesAreTheLinesOfTheTextReport) {
             SCOPED_TRACE(std::string(preset) + " " + PrintedTableId(table));
             std::vector<std::string> printed = TextLines(table);
             // Head lines and headings have no number with two decimals, and rows have one or three stars.
-            std::erase_if(printed, [&](const std::string& line) { return !std::regex_search(line, number); });
+            std::erase_if(printed, [](const std::string& line) { return !HasResult(line); });
             const std::size_t skipped = BlockColumns(page, table);
             std::vector<std::string> shown;
             for (const auto& row : RowsOfTable(page, PrintedTableId(table))) {
@@ -181,20 +208,18 @@ TEST_F(WebReport, EachRowHasACellForEachColumn) {
 }
 
 TEST_F(WebReport, EveryLinkLeadsToAPlaceOfThePageAndNoPlaceIsThereTwice) {
-    const std::regex id("\\bid=\"([^\"]*)\""), link("\\bhref=\"#([^\"]*)\"");
     for (const char* preset : kPresets) {
         OpenSample(preset);
         const std::string page = Page();
         std::set<std::string> ids;
-        for (std::sregex_iterator at(page.begin(), page.end(), id), end; at != end; ++at) {
-            EXPECT_TRUE(ids.insert((*at)[1]).second) << preset << ": twice " << (*at)[1];
+        for (const std::string& id : ValuesOf(page, " id=\"")) {
+            EXPECT_TRUE(ids.insert(id).second) << preset << ": twice " << id;
         }
-        int links = 0;
-        for (std::sregex_iterator at(page.begin(), page.end(), link), end; at != end; ++at) {
-            EXPECT_TRUE(ids.contains((*at)[1])) << preset << ": no place " << (*at)[1];
-            ++links;
+        const std::vector<std::string> links = ValuesOf(page, " href=\"#");
+        for (const std::string& link : links) {
+            EXPECT_TRUE(ids.contains(link)) << preset << ": no place " << link;
         }
-        EXPECT_GT(links, 10) << preset;
+        EXPECT_GT(links.size(), 10U) << preset;
         EXPECT_THAT(page, Not(HasSubstr("href=\"http")));
     }
 }
