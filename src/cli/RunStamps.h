@@ -19,7 +19,7 @@ class Option;
 
 namespace lumerin {
 
-// What --resume stands on: a file with a line for each project that a run has done, so that a later run with
+// What --resume reads: a file with a line for each project that a run has done, so that a later run with
 // the same options passes over the projects whose files are unchanged. docs/formats.md describes it. A line
 // is appended when its project is done, so that a run that was ended has the lines of what it did. Only the
 // places of the lines are in memory.
