@@ -12,6 +12,7 @@
 #include "records/TableReason.h"
 #include "tables/Words.h"
 #include "text/Paths.h"
+#include "text/SilentMessages.h"
 #include "text/Utf8.h"
 
 namespace lumerin {
@@ -79,11 +80,9 @@ void CountClasses(const CDataSet& data, const CaseSelection& selection, ProjectI
 }
 
 void DescribeStudy(const std::string& inputFile, ProjectInfo& info) {
-    info.hasStudy = HasEmbedmentFile(inputFile) && IsEmbedmentRequested(inputFile);
+    info.hasStudy = HasEmbedmentStudy(inputFile);
     if (!info.hasStudy) return;
-    class Silent : public Messages {
-        void Show(const std::string&) override {}
-    } messages;
+    SilentMessages messages;
     try {
         info.trials = CEmbedmentResults(inputFile, messages).GetTrialCount();
     } catch (const CFileException&) {

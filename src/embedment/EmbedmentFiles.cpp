@@ -77,4 +77,8 @@ bool IsEmbedmentRequested(const std::string& inputFile) {
     return lines.Next() && ReadKeyedInt(lines.Line(), "M=", requested) && requested == 1;
 }
 
+bool HasEmbedmentStudy(const std::string& inputFile) {
+    return HasEmbedmentFile(inputFile) && IsEmbedmentRequested(inputFile);
+}
+
 }  // namespace lumerin

@@ -12,5 +12,7 @@ std::string EmbedmentBaseFile(const std::string& inputFile);
 bool HasEmbedmentFile(const std::string& inputFile);
 // Whether the project's input file asks for the study, in the section that follows its problem section.
 bool IsEmbedmentRequested(const std::string& inputFile);
+// Both.
+bool HasEmbedmentStudy(const std::string& inputFile);
 
 }  // namespace lumerin

@@ -4,6 +4,7 @@
 #include "embedment/EmbedmentFiles.h"
 #include "figures/FigureList.h"
 #include "figures/Frame.h"
+#include "text/SilentMessages.h"
 
 namespace lumerin {
 
@@ -31,13 +32,11 @@ void RequireCase(const StudyView& view, const CEmbedmentResults& results) {
 
 std::string DrawEmbedment(const Evaluation& evaluation, const FigureRequest& request) {
     const std::string& input = evaluation.Opened().name.inputFile;
-    if (!HasEmbedmentFile(input) || !IsEmbedmentRequested(input)) {
+    if (!HasEmbedmentStudy(input)) {
         return figure::Sentence(evaluation, "Embedment study", request.substructure,
                                 "The project has no embedment study.");
     }
-    class Silent : public Messages {
-        void Show(const std::string&) override {}  // the findings name what is incomplete
-    } messages;
+    SilentMessages messages;
     CEmbedmentResults results(input, messages);
     results.LoadTrials();
     RequireCase(request.study, results);

@@ -15,6 +15,7 @@
 #include "records/ElementIdentity.h"
 #include "results/ProjectFiles.h"
 #include "text/Paths.h"
+#include "text/SilentMessages.h"
 #include "text/Utf8.h"
 
 namespace lumerin {
@@ -258,10 +259,8 @@ std::vector<Finding> FindInForces(const CDataSet& data, const ForceSources& forc
 }
 
 std::vector<Finding> FindInStudy(const std::string& inputFile) {
-    if (!HasEmbedmentFile(inputFile) || !IsEmbedmentRequested(inputFile)) return {};
-    class Silent : public Messages {
-        void Show(const std::string&) override {}
-    } messages;
+    if (!HasEmbedmentStudy(inputFile)) return {};
+    SilentMessages messages;
     const std::string file = NameOf(EmbedmentBaseFile(inputFile));
     try {
         CEmbedmentResults study(inputFile, messages);

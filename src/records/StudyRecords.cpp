@@ -6,6 +6,7 @@
 #include "records/Columns.h"
 #include "records/RowBuffer.h"
 #include "records/TableRows.h"
+#include "text/SilentMessages.h"
 
 namespace lumerin {
 
@@ -91,10 +92,8 @@ class StudyRows {
 
 void EmbedmentRows(const Evaluation& evaluation, const RowTaker& take) {
     const std::string& input = evaluation.Opened().name.inputFile;
-    if (!HasEmbedmentFile(input) || !IsEmbedmentRequested(input)) return;
-    class Silent : public Messages {
-        void Show(const std::string&) override {}
-    } messages;
+    if (!HasEmbedmentStudy(input)) return;
+    SilentMessages messages;
     CEmbedmentResults study(input, messages);
     study.LoadTrials();
     StudyRows(evaluation, study, take).Run();

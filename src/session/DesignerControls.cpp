@@ -30,7 +30,7 @@ void CDesignerDlg::RefreshCaptions() {
 }
 
 void CDesignerDlg::EnableEmbedment() {
-    EnableItem(IDC_EMBEDMENT, HasEmbedmentFile(g_InputFilePath) && IsEmbedmentRequested(g_InputFilePath));
+    EnableItem(IDC_EMBEDMENT, HasEmbedmentStudy(g_InputFilePath));
 }
 
 void CDesignerDlg::RefreshOnePier(StructureType type) {
