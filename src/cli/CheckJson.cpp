@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include <array>
 #include <nlohmann/json.hpp>
+#include <utility>
 
 #include "cli/CheckReport.h"
-#include "cli/FindingJson.h"
+#include "cli/JsonRecord.h"
 
 namespace lumerin {
 
@@ -80,9 +81,7 @@ void PrintCheckJson(const CheckResult& result, std::ostream& out) {
     }
     json["findings"] = FindingsJson(result.findings);
     json["milliseconds"] = result.milliseconds;
-    json["version"] = ProgramVersion();
-    json["tables_version"] = kTablesVersion;
-    out << json.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+    out << RecordLine(std::move(json));
 }
 
 }  // namespace lumerin

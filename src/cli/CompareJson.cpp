@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "cli/CompareReport.h"
-#include "cli/FindingJson.h"
+#include "cli/JsonRecord.h"
 
 namespace lumerin {
 
@@ -140,9 +140,7 @@ class JsonPrinter : public ComparePrinter {
             json["differs"] = result.comparison->Differs();
             AddComparison(result, m_top, json);
         }
-        json["version"] = ProgramVersion();
-        json["tables_version"] = kTablesVersion;
-        m_sink->Write(json.dump(-1, ' ', false, Json::error_handler_t::replace) + "\n");
+        m_sink->Write(RecordLine(std::move(json)));
     }
     void Close() override { m_sink->Commit(); }
 

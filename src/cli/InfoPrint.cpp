@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <nlohmann/json.hpp>
+#include <utility>
 
-#include "cli/FindingJson.h"
 #include "cli/InfoReport.h"
+#include "cli/JsonRecord.h"
 #include "cli/TextTable.h"
 
 namespace lumerin {
@@ -158,9 +159,7 @@ void PrintInfoJson(const ProjectInfo& info, std::ostream& out) {
         json["forces_read"] = info.hasReadForces;
     }
     json["findings"] = FindingsJson(info.findings);
-    json["version"] = ProgramVersion();
-    json["tables_version"] = kTablesVersion;
-    out << json.dump(-1, ' ', false, Json::error_handler_t::replace) << '\n';
+    out << RecordLine(std::move(json));
 }
 
 }  // namespace lumerin

@@ -8,8 +8,9 @@
 #include <optional>
 #include <sstream>
 #include <unordered_set>
+#include <utility>
 
-#include "cli/FindingJson.h"
+#include "cli/JsonRecord.h"
 #include "cli/ReportDriver.h"
 #include "cli/RunStamps.h"
 #include "export/TableWriter.h"
@@ -63,7 +64,7 @@ std::string RecordOf(const ProjectName& project, const ProjectReport& report, lo
     record["findings"] = FindingsJson(report.findings);
     record["messages"] = report.messages;
     record["milliseconds"] = milliseconds;
-    return record.dump(-1, ' ', false, Json::error_handler_t::replace);
+    return RecordLine(std::move(record));
 }
 
 // Writes the documents that the dialogs do not have, from one pass over the forces.
@@ -189,7 +190,7 @@ ProjectReport ReportAndPrint(const ReportRequest& options, const ProjectName& pr
     ProjectReport report = ReportProject(options, project, place, out, err);
     if (options.json) {
         const auto took = std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - start);
-        out << RecordOf(project, report, took.count()) << std::endl;
+        out << RecordOf(project, report, took.count()) << std::flush;
     }
     return report;
 }

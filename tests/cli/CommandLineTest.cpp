@@ -9,6 +9,7 @@
 #include <iterator>
 #include <nlohmann/json.hpp>
 
+#include "records/Table.h"
 #include "support/SampleFolder.h"
 
 namespace lumerin {
@@ -203,6 +204,8 @@ TEST_F(CommandLine, ARecordAProjectHasStatusFilesAndFindings) {
     EXPECT_EQ(records[0]["files"], nlohmann::json::array({kAxialFile}));
     EXPECT_EQ(records[0]["findings"][0]["code"], "missing-records");
     EXPECT_GE(records[0]["milliseconds"], 0);
+    EXPECT_EQ(records[0]["version"], ProgramVersion());
+    EXPECT_EQ(records[0]["tables_version"], 1);
     EXPECT_EQ(records[1]["status"], 3);
     EXPECT_EQ(records[1]["files"], nlohmann::json::array());
     EXPECT_EQ(records[2]["status"], 0);

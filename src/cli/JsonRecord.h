@@ -6,8 +6,11 @@
 #include <string>
 
 #include "records/Findings.h"
+#include "records/Table.h"
 
 namespace lumerin {
+
+// What the records that commands print as JSON have in common.
 
 // Findings as JSON: an array of objects. Substructure, file and place are null where a finding has none.
 inline nlohmann::ordered_json FindingsJson(std::span<const Finding> findings) {
@@ -24,6 +27,14 @@ inline nlohmann::ordered_json FindingsJson(std::span<const Finding> findings) {
                          {"first_place", text(finding.firstPlace)}});
     }
     return array;
+}
+
+// The record on one line, after the versions of the program and of the tables. Bytes that are no UTF-8 are
+// replaced.
+inline std::string RecordLine(nlohmann::ordered_json record) {
+    record["version"] = ProgramVersion();
+    record["tables_version"] = kTablesVersion;
+    return record.dump(-1, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + '\n';
 }
 
 }  // namespace lumerin
