@@ -100,15 +100,18 @@ void Cover::WriteProject() {
 
 void Cover::WriteVerdict() {
     const Verdict verdict = Judge(m_evaluation);
-    std::string words = "no element has a ratio in the chosen cases";
-    if (const FamilyVerdict* worst = verdict.Worst()) {
-        words = std::string(verdict.passes ? "PASSES" : "FAILS") + "   D/C " +
-                RatioText(AsDouble(worst->worst.ratio), worst->limit) + " at " + worst->worst.place +
-                ", case " + std::to_string(worst->worst.loadCase) +
-                (worst->worst.limitState.empty() ? "" : " " + worst->worst.limitState);
-    }
     m_sheet.Line({Text("Verdict", CellStyle::title)});
-    m_sheet.Line({Text(words, verdict.passes ? CellStyle::good : CellStyle::bad)});
+    if (const FamilyVerdict* worst = verdict.Worst()) {
+        const EndRatio& end = worst->worst;
+        m_sheet.Line(
+            {Text(verdict.passes ? "PASSES" : "FAILS", verdict.passes ? CellStyle::good : CellStyle::bad),
+             Text("D/C " + RatioText(AsDouble(end.ratio), worst->limit) + " at " + end.place + ", case " +
+                      std::to_string(end.loadCase) + (end.limitState.empty() ? "" : " " + end.limitState),
+                  CellStyle::label)});
+    } else {
+        m_sheet.Line({Text("NONE", CellStyle::bad),
+                      Text("no element has a ratio in the chosen cases", CellStyle::label)});
+    }
     m_sheet.Gap();
     std::vector<NoteCell> head;
     for (const char* name : {"Substructure", "Family", "D/C", "Limit", "Place", "Element", "End", "Case",
