@@ -1,25 +1,48 @@
 # Makes the static library lumerin-FOLDER of each folder of cmake/layers.txt that has no CMakeLists.txt of its own.
-# Backend folders (win32, headless) are chosen by the platform.
+# The folders posix and windows have what is done in another way on each platform. The folders headless and win32 are the
+# two backends of the user interface: on Linux there is the one without a screen; on Windows each is a library of its own,
+# and a program links lumerin-FOLDER-headless where its property LUMERIN_HEADLESS is on, else lumerin-FOLDER-win32.
 function(lumerin_library name)
     cmake_parse_arguments(LIBRARY "" "" "FOLDERS;LINKS" ${ARGN})
-    if(WIN32)
-        set(backend win32)
-    else()
-        set(backend headless)
-    endif()
-    set(sources "")
-    foreach(folder ${LIBRARY_FOLDERS})
-        file(GLOB here CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${folder}/*.cpp
-            ${CMAKE_SOURCE_DIR}/src/${folder}/${backend}/*.cpp)
-        list(APPEND sources ${here})
-    endforeach()
-    add_library(lumerin-${name} STATIC ${sources})
-    set_target_properties(lumerin-${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
-    target_include_directories(lumerin-${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
-    target_link_libraries(lumerin-${name} PUBLIC lumerin-numbers lumerin-instruments PRIVATE lumerin-warnings)
-    lumerin_quick_build(lumerin-${name})
     list(TRANSFORM LIBRARY_LINKS PREPEND lumerin-)
+    if(NOT WIN32)
+        lumerin_archive(lumerin-${name} "${LIBRARY_FOLDERS}" ";/posix;/headless")
+        target_link_libraries(lumerin-${name} PUBLIC ${LIBRARY_LINKS})
+        return()
+    endif()
+    lumerin_archive(lumerin-${name} "${LIBRARY_FOLDERS}" ";/windows")
     target_link_libraries(lumerin-${name} PUBLIC ${LIBRARY_LINKS})
+    foreach(backend win32 headless)
+        lumerin_archive(lumerin-${name}-${backend} "${LIBRARY_FOLDERS}" "/${backend}")
+        if(TARGET lumerin-${name}-${backend})
+            # Each calls the other.
+            target_link_libraries(lumerin-${name}-${backend} PUBLIC lumerin-${name})
+        endif()
+    endforeach()
+    if(TARGET lumerin-${name}-win32)
+        target_link_libraries(lumerin-${name} PUBLIC
+            lumerin-${name}-$<IF:$<BOOL:$<TARGET_PROPERTY:LUMERIN_HEADLESS>>,headless,win32>)
+    endif()
+endfunction()
+
+# lumerin_archive(TARGET FOLDERS PARTS): a static library of the sources in the parts ("", "/headless") of these folders of
+# src/; none where there are no sources.
+function(lumerin_archive target folders parts)
+    set(sources "")
+    foreach(folder ${folders})
+        foreach(part IN LISTS parts)
+            file(GLOB here CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/src/${folder}${part}/*.cpp)
+            list(APPEND sources ${here})
+        endforeach()
+    endforeach()
+    if(NOT sources)
+        return()
+    endif()
+    add_library(${target} STATIC ${sources})
+    set_target_properties(${target} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    target_link_libraries(${target} PUBLIC lumerin-numbers lumerin-instruments PRIVATE lumerin-warnings)
+    lumerin_quick_build(${target})
 endfunction()
 
 file(STRINGS ${CMAKE_SOURCE_DIR}/cmake/layers.txt LUMERIN_LAYERS REGEX "^[0-9]")

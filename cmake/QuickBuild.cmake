@@ -40,7 +40,7 @@ function(lumerin_quick_build target)
     list(REMOVE_ITEM sources ${CMAKE_SOURCE_DIR}/src/embedment/dialog/headless/ReadScreen.cpp)
     if(WIN32)
         # The headers of Windows define thousands of macros.
-        list(FILTER sources EXCLUDE REGEX "/win32/")
+        list(FILTER sources EXCLUDE REGEX "/(win32|windows)/")
     endif()
     execute_process(COMMAND ${Python3_EXECUTABLE} ${CMAKE_SOURCE_DIR}/tools/local_names.py ${LUMERIN_UNITY_SIZE} ${sources}
         OUTPUT_VARIABLE groups COMMAND_ERROR_IS_FATAL ANY OUTPUT_STRIP_TRAILING_WHITESPACE)

@@ -1,6 +1,6 @@
 #!/bin/bash
 # tools/coverage.sh [PERCENT]: builds with counters in build/coverage, runs the native tests and prints the share of the
-# lines of src/ that they reach, by folder, and the lines that none reaches. win32/ and host/ are not part of the native
+# lines of src/ that they reach, by folder, and the lines that none reaches. win32/, windows/ and host/ are not part of the native
 # build. Exit status 1 if the share is below PERCENT (default 95).
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -13,7 +13,7 @@ cmake --build "$build" -j "$(nproc)" -- --quiet
 find "$build" -name '*.gcda' -delete
 ctest --test-dir "$build" -j "$(nproc)" --output-on-failure >"$build/tests.log" || { tail -40 "$build/tests.log"; exit 1; }
 # The clean-up of a throw does not count as a line; headers are summed over the files that include them.
-gcovr --root . --filter 'src/' --exclude 'src/host/' --exclude '.*/win32/' --object-directory "$build" \
+gcovr --root . --filter 'src/' --exclude 'src/host/' --exclude '.*/win32/' --exclude '.*/windows/' --object-directory "$build" \
     --json-summary "$build/coverage.json" --json "$build/lines.json" --gcov-ignore-parse-errors -j "$(nproc)" "$build" >/dev/null
 python3 - "$build/coverage.json" "$build/lines.json" "$wanted" <<'PYTHON'
 import collections

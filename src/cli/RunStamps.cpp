@@ -13,7 +13,7 @@
 #include "export/ByteSink.h"
 #include "export/TableWriter.h"
 #include "framework/File.h"
-#include "framework/headless/FolderNames.h"
+#include "framework/FolderNames.h"
 #include "records/Table.h"
 #include "text/Paths.h"
 

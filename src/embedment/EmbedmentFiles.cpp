@@ -5,6 +5,7 @@
 
 #include "framework/Backend.h"
 #include "framework/File.h"
+#include "framework/NativePath.h"
 #include "text/KeyedLine.h"
 
 namespace lumerin {
@@ -17,7 +18,7 @@ constexpr int kProblemLines = 9;  // the lines after "PROBLEM" that are skipped
 // The lines of the input file. A line longer than the host's ends the reading after its first part.
 class InputLines {
   public:
-    explicit InputLines(const std::string& path) : m_stream(path, std::ios::binary) {}
+    explicit InputLines(const std::string& path) : m_stream(NativePath(path), std::ios::binary) {}
 
     bool IsOpen() const { return m_stream.is_open(); }
     bool Next() {

@@ -54,7 +54,7 @@ bool CFile::Open(const std::string& path, CFileException* error) {
     if (osError == 0 && IsFolder(found)) osError = EISDIR;
     if (osError == 0) {
         errno = 0;
-        m_file.reset(std::fopen(found.c_str(), "rb"));
+        m_file.reset(OpenForReading(found));
         if (m_file != nullptr) return true;
         osError = errno;
     }

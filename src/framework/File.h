@@ -6,6 +6,7 @@
 #include <exception>
 #include <memory>
 #include <string>
+#include <system_error>
 
 namespace lumerin {
 
@@ -29,6 +30,13 @@ class CFileException : public std::exception {
 // folders and name differ from it in case alone. Empty: there is none.
 std::string FindFileAnyCase(const std::string& path);
 bool IsFolder(const std::string& path);
+
+// Null: it cannot be opened, for the reason in errno. The caller closes it.
+std::FILE* OpenForReading(const std::string& path);
+
+// Why an existing file cannot be written, or a new one not be made in its folder; none where it can be.
+// Nothing is changed.
+std::error_code ErrorOfWriting(const std::string& path);
 
 // Identifies a file and its version without reading it.
 struct FileStamp {

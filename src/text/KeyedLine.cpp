@@ -7,6 +7,7 @@
 
 #include "framework/File.h"
 #include "framework/Index.h"
+#include "framework/NativePath.h"
 #include "text/Format.h"
 
 namespace lumerin {
@@ -91,7 +92,7 @@ ifstreamex::ifstreamex(const std::string& path) {
     if (found.empty() || IsFolder(found)) {
         setstate(std::ios::failbit);
     } else {
-        open(found, std::ios::in | std::ios::binary);
+        open(NativePath(found), std::ios::in | std::ios::binary);
     }
 }
 

@@ -1,16 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include <sys/mman.h>
-#include <unistd.h>
-
-#include <array>
 #include <cstdint>
-#include <ctime>
+#include <filesystem>
 #include <map>
 #include <string>
 #include <utility>
 
 #include "framework/Clock.h"
-#include "framework/Index.h"
+#include "framework/Platform.h"
 #include "framework/headless/Headless.h"
 
 namespace lumerin {
@@ -18,12 +14,6 @@ namespace lumerin {
 // Message boxes, wait cursor and the services of the platform, from the settings and the sink.
 
 namespace {
-
-std::string RunningProgram() {
-    std::array<char, 4096> path{};
-    const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
-    return std::string(path.data(), length > 0 ? Index(length) : 0);
-}
 
 // False: there is no such value.
 template <class Value>
@@ -79,12 +69,12 @@ int StartProgram(const std::string& program, const std::string& document) {
 
 std::string ProgramPath() {
     const std::string& path = headless::State().programPath;
-    return path.empty() ? RunningProgram() : path;
+    return path.empty() ? platform::RunningProgram() : path;
 }
 
 std::string ModulePath() {
     const std::string& path = headless::State().modulePath;
-    return path.empty() ? RunningProgram() : path;
+    return path.empty() ? platform::RunningProgram() : path;
 }
 
 bool ReadUserNumber(const char* key, const char* name, int& value) {
@@ -101,19 +91,8 @@ bool ReadUserText(const char* key, const char* name, unsigned capacity, std::str
 
 LocalTime Now(const char* fixedTimeVariable) {
     if (headless::State().clock) return *headless::State().clock;
-    LocalTime now;
-    if (ReadClockFromEnvironment(fixedTimeVariable, now)) return now;
-    const std::time_t seconds = std::time(nullptr);
-    std::tm local{};
-    if (localtime_r(&seconds, &local) == nullptr) return now;
-    now.year = local.tm_year + 1900;
-    now.month = local.tm_mon + 1;
-    now.day = local.tm_mday;
-    now.weekday = local.tm_wday;
-    now.hour = local.tm_hour;
-    now.minute = local.tm_min;
-    now.second = local.tm_sec;
-    return now;
+    LocalTime fixed;
+    return ReadClockFromEnvironment(fixedTimeVariable, fixed) ? fixed : platform::LocalNow();
 }
 
 void ReportOutputFailed(const std::string& path) {
@@ -128,12 +107,14 @@ bool PathsAreUtf8() {
     return true;
 }
 
+// A path that was written on the other platform is understood as well. "C:name" is in the current folder of a
+// drive.
 bool IsFolderSeparator(char c) {
-    return c == '/' || c == '\\';
+    return c == '/' || c == '\\' || (c == ':' && FolderSeparator() == '\\');
 }
 
 char FolderSeparator() {
-    return '/';
+    return static_cast<char>(std::filesystem::path::preferred_separator);
 }
 
 }  // namespace services

@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "framework/Clock.h"
+#include "framework/Platform.h"
 #include "framework/win32/InstalledFiles.h"
 
 namespace lumerin {
@@ -87,18 +88,8 @@ bool ReadUserText(const char* key, const char* name, unsigned capacity, std::str
 void ReportOutputFailed(const std::string& /*path*/) {}
 
 LocalTime Now(const char* fixedTimeVariable) {
-    LocalTime now;
-    if (ReadClockFromEnvironment(fixedTimeVariable, now)) return now;
-    SYSTEMTIME time{};
-    GetLocalTime(&time);
-    now.year = time.wYear;
-    now.month = time.wMonth;
-    now.day = time.wDay;
-    now.weekday = time.wDayOfWeek;
-    now.hour = time.wHour;
-    now.minute = time.wMinute;
-    now.second = time.wSecond;
-    return now;
+    LocalTime fixed;
+    return ReadClockFromEnvironment(fixedTimeVariable, fixed) ? fixed : platform::LocalNow();
 }
 
 bool PathsAreUtf8() {

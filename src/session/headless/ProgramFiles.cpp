@@ -3,6 +3,7 @@
 
 #include "framework/headless/Headless.h"
 #include "session/Constants.h"
+#include "text/Paths.h"
 
 namespace lumerin {
 
@@ -10,7 +11,7 @@ namespace {
 
 std::string BesideProgram(const char* name) {
     const std::string program = services::ProgramPath();
-    return program.substr(0, program.rfind('/') + 1) + name;
+    return FolderOf(program) + name;
 }
 
 }  // namespace

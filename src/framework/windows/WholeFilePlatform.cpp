@@ -10,7 +10,8 @@
 #include <vector>
 
 #include "framework/Index.h"
-#include "framework/win32/Windows32.h"
+#include "framework/windows/System.h"
+#include "framework/windows/WidePath.h"
 
 namespace lumerin {
 
@@ -19,6 +20,8 @@ namespace wholefile {
 const std::string_view kTemporaryEnding = ".LMW";
 
 namespace {
+
+using windows::WidePath;
 
 constexpr DWORD kAllShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
 constexpr DWORD kPiece = 16384;
@@ -30,17 +33,6 @@ HANDLE ToHandle(Handle handle) {
 
 Handle FromHandle(HANDLE handle) {
     return handle == INVALID_HANDLE_VALUE ? kNoHandle : reinterpret_cast<Handle>(handle);
-}
-
-// From the code page in which the platform's file functions read names. Those functions accept no path of
-// more than 260 characters; their wide forms may.
-std::wstring Wide(const std::string& path) {
-    const UINT page = AreFileApisANSI() ? CP_ACP : CP_OEMCP;
-    std::wstring wide(path.size(), L'\0');
-    const auto length = static_cast<int>(path.size());
-    const int got = MultiByteToWideChar(page, 0, path.data(), length, wide.data(), length);
-    wide.resize(Index(got));
-    return wide;
 }
 
 // For file names among which our temporary files are searched; those are plain ASCII.
@@ -55,7 +47,7 @@ struct SearchCloser {
 };
 
 HANDLE OpenForWriting(const std::string& path) {
-    return CreateFileW(Wide(path).c_str(), GENERIC_WRITE, kAllShared, nullptr, OPEN_EXISTING,
+    return CreateFileW(WidePath(path).c_str(), GENERIC_WRITE, kAllShared, nullptr, OPEN_EXISTING,
                        FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
 }
 
@@ -66,7 +58,7 @@ bool IsPlainFile(DWORD attributes) {
 }  // namespace
 
 Target LookAt(const std::string& path) {
-    const DWORD attributes = GetFileAttributesW(Wide(path).c_str());
+    const DWORD attributes = GetFileAttributesW(WidePath(path).c_str());
     if (attributes == INVALID_FILE_ATTRIBUTES) {
         // Under Wine the folder may contain files that Windows does not have, such as a pipe. It cannot be
         // removed from here, and opening it could block for ever.
@@ -92,19 +84,19 @@ std::string FolderPart(const std::string& path) {
 
 // Sharing of deletion is refused, so that no other process removes it as a left-over.
 Handle CreateNew(const std::string& path, bool& taken) {
-    const HANDLE file = CreateFileW(Wide(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE,
+    const HANDLE file = CreateFileW(WidePath(path).c_str(), GENERIC_READ | GENERIC_WRITE | DELETE,
                                     FILE_SHARE_READ, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
     taken = file == INVALID_HANDLE_VALUE && GetLastError() == ERROR_FILE_EXISTS;
     return FromHandle(file);
 }
 
 Handle CreateNameless() {
-    std::array<char, MAX_PATH> folder{}, path{};
-    if (GetTempPathA(static_cast<DWORD>(folder.size()), folder.data()) == 0) return kNoHandle;
-    if (GetTempFileNameA(folder.data(), "lum", 0, path.data()) == 0) return kNoHandle;
-    const HANDLE file = CreateFileA(path.data(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+    std::array<wchar_t, MAX_PATH> folder{}, path{};
+    if (GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()) == 0) return kNoHandle;
+    if (GetTempFileNameW(folder.data(), L"lum", 0, path.data()) == 0) return kNoHandle;
+    const HANDLE file = CreateFileW(path.data(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
                                     FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
-    if (file == INVALID_HANDLE_VALUE) DeleteFileA(path.data());
+    if (file == INVALID_HANDLE_VALUE) DeleteFileW(path.data());
     return FromHandle(file);
 }
 
@@ -130,7 +122,7 @@ bool Settle(Handle handle) noexcept {
 
 // By the handle, so that the file is never closed under its temporary name.
 bool Rename(Handle handle, const std::string&, const std::string& to) {
-    const std::wstring name = Wide(to);
+    const std::wstring name = WidePath(to);
     const std::size_t nameBytes = name.size() * sizeof(wchar_t);
     std::vector<std::byte> memory(sizeof(FILE_RENAME_INFO) + nameBytes);
     auto* info = reinterpret_cast<FILE_RENAME_INFO*>(memory.data());
@@ -170,16 +162,16 @@ void Remove(Handle handle, const std::string&) noexcept {
 }
 
 void RemoveLeftOvers(const std::string& folder) {
-    const std::wstring wideFolder = Wide(folder);
-    const std::wstring pattern = Wide("~??????" + std::string(kTemporaryEnding));
     WIN32_FIND_DATAW found{};
-    const HANDLE first = FindFirstFileW((wideFolder + pattern).c_str(), &found);
+    const std::string pattern = folder + "~??????" + std::string(kTemporaryEnding);
+    const HANDLE first = FindFirstFileW(WidePath(pattern).c_str(), &found);
     if (first == INVALID_HANDLE_VALUE) return;
     const std::unique_ptr<void, SearchCloser> search(first);
     do {
+        const std::string name = Narrow(found.cFileName);
         // A file that is still being written cannot be deleted.
-        if (IsPlainFile(found.dwFileAttributes) && IsTemporaryName(Narrow(found.cFileName)))
-            DeleteFileW((wideFolder + found.cFileName).c_str());
+        if (IsPlainFile(found.dwFileAttributes) && IsTemporaryName(name))
+            DeleteFileW(WidePath(folder + name).c_str());
     } while (FindNextFileW(search.get(), &found));
 }
 

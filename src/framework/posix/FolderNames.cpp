@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "framework/headless/FolderNames.h"
+#include "framework/posix/FolderNames.h"
 
 #include <dirent.h>
 #include <sys/stat.h>

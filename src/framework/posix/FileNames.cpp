@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <system_error>
 #include <utility>
 
 #include "framework/File.h"
-#include "framework/headless/FolderNames.h"
+#include "framework/WholeFilePlatform.h"
+#include "framework/posix/FolderNames.h"
 
 namespace lumerin {
 
@@ -41,6 +45,22 @@ FileStamp StampOf(const std::string& path) {
 bool IsFolder(const std::string& path) {
     std::error_code ignored;
     return fs::is_directory(path, ignored);
+}
+
+std::FILE* OpenForReading(const std::string& path) {
+    return std::fopen(path.c_str(), "rb");
+}
+
+std::error_code ErrorOfWriting(const std::string& path) {
+    std::error_code ignored;
+    const bool isThere = fs::exists(path, ignored);
+    std::string made = wholefile::FolderPart(path) + ".new-XXXXXX";
+    const int file =
+        isThere ? open(path.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC) : mkostemp(made.data(), O_CLOEXEC);
+    if (file < 0) return {errno, std::generic_category()};
+    if (!isThere) unlink(made.c_str());
+    close(file);
+    return {};
 }
 
 }  // namespace lumerin

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <cstdint>
 
-#include "framework/win32/Windows32.h"
+#include "framework/windows/System.h"
 
 // What the compiler's checks for overwritten stacks and buffers need. Its own library has the same, but asks
 // the system's cryptography for the number while the module is being loaded, when no other library may be

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace lumerin {
+
+// The names of the entries of `folder` that begin with `start`, without regard to the case of the letters A
+// to Z, sorted. An empty folder is the current one. May be called in several threads.
+std::vector<std::string> EntriesStartingWith(const std::string& folder, const std::string& start);
+
+}  // namespace lumerin
