@@ -10,6 +10,7 @@
 
 #include "cli/ProjectArguments.h"
 #include "framework/File.h"
+#include "framework/NativePath.h"
 #include "text/Utf8.h"
 
 namespace lumerin {
@@ -24,14 +25,14 @@ std::set<std::string> ProjectsIn(const std::string& folder) {
     for (const ProjectName& project : ReadProjects({{folder}, {}})) {
         // A folder without projects is in the list itself.
         if (project.basePath != folder) {
-            names.insert(fs::path(project.basePath).lexically_relative(folder).string());
+            names.insert(FromNativePath(NativePath(project.basePath).lexically_relative(NativePath(folder))));
         }
     }
     return names;
 }
 
 std::string FileName(const std::string& name) {
-    return fs::path(name).filename().string();
+    return FromNativePath(NativePath(name).filename());
 }
 
 // The only name of the set with that file name; empty: there is none, or several.
@@ -72,7 +73,7 @@ std::vector<std::pair<std::string, std::string>> MatchNames(std::set<std::string
 }
 
 ProjectName NameIn(const std::string& folder, const std::string& name) {
-    return ProjectName((fs::path(folder) / (name + ".in")).string());
+    return ProjectName(FromNativePath(NativePath(folder) / NativePath(name + ".in")));
 }
 
 bool IsFolderOfProjects(const std::string& given) {

@@ -9,6 +9,7 @@
 
 #include "cli/CommonArguments.h"
 #include "cli/ScriptDriver.h"
+#include "framework/NativePath.h"
 #include "records/OpenProject.h"
 #include "script/Border.h"
 #include "session/DesignerDlg.h"
@@ -23,7 +24,7 @@ bool ReadScript(const std::string& path, std::string& script) {
         script.assign(std::istreambuf_iterator<char>(std::cin), {});
         return true;
     }
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(NativePath(path), std::ios::binary);
     if (!file) return false;
     script.assign(std::istreambuf_iterator<char>(file), {});
     return !file.bad();

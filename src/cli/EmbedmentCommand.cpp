@@ -16,6 +16,7 @@
 #include "cli/StudyArguments.h"
 #include "embedment/dialog/MPTEDlg.h"
 #include "framework/Index.h"
+#include "framework/NativePath.h"
 #include "framework/WholeFile.h"
 #include "records/OpenProject.h"
 #include "script/Border.h"
@@ -46,9 +47,9 @@ std::vector<std::size_t> ColumnWidths(const Rows& rows) {
 // directly.
 bool WritePictureFile(const std::string& path, const std::string& picture) {
     std::error_code ignored;
-    const std::filesystem::file_status status = std::filesystem::status(path, ignored);
+    const std::filesystem::file_status status = std::filesystem::status(NativePath(path), ignored);
     if (std::filesystem::is_character_file(status) || std::filesystem::is_fifo(status)) {
-        std::ofstream device(path, std::ios::binary);
+        std::ofstream device(NativePath(path), std::ios::binary);
         device << picture;
         device.close();
         return !device.fail();

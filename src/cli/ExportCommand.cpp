@@ -17,6 +17,7 @@
 #include "export/Description.h"
 #include "export/FilePerTable.h"
 #include "framework/File.h"
+#include "framework/NativePath.h"
 #include "records/Findings.h"
 #include "script/Border.h"
 
@@ -74,7 +75,7 @@ void ExportRun::OpenWriter() {
         return;
     }
     std::error_code fault;
-    std::filesystem::create_directories(m_request.output, fault);
+    std::filesystem::create_directories(NativePath(m_request.output), fault);
     if (fault) throw ExportError("the folder cannot be made: " + m_request.output);
     m_writer = std::make_unique<FilePerTable>([this](const Table& table) {
         m_files.push_back(FileOf(m_request, *m_project, table));

@@ -2,7 +2,6 @@
 #include "cli/ExportRequest.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <set>
 #include <stdexcept>
 
@@ -12,6 +11,7 @@
 #include "export/SqliteWriter.h"
 #include "export/WorkbookWriter.h"
 #include "framework/Backend.h"
+#include "framework/File.h"
 #include "text/Clock.h"
 #include "text/Lists.h"
 #include "text/Paths.h"
@@ -27,9 +27,7 @@ bool IsTextForm(ExportForm form) {
 }
 
 bool IsFolderName(const std::string& path) {
-    std::error_code ignored;
-    return (!path.empty() && services::IsFolderSeparator(path.back())) ||
-           std::filesystem::is_directory(path, ignored);
+    return (!path.empty() && services::IsFolderSeparator(path.back())) || IsFolder(path);
 }
 
 std::string FolderPath(const std::string& folder) {

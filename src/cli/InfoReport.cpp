@@ -8,6 +8,7 @@
 #include "embedment/EmbedmentResults.h"
 #include "framework/File.h"
 #include "framework/Index.h"
+#include "framework/NativePath.h"
 #include "model/CapChain.h"
 #include "records/TableReason.h"
 #include "tables/Words.h"
@@ -61,7 +62,7 @@ SubstructureInfo DescribeSubstructure(const Evaluation& evaluation, std::size_t 
     const std::string path = evaluation.Opened().project.forces[p]->Name();
     info.forceFile = ToUtf8(path.substr(FolderOf(path).size()));
     std::error_code fault;
-    const auto bytes = std::filesystem::file_size(FindFileAnyCase(path), fault);
+    const auto bytes = std::filesystem::file_size(NativePath(FindFileAnyCase(path)), fault);
     info.bytes = fault ? 0 : static_cast<long long>(bytes);
     return info;
 }

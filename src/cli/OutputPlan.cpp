@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include "cli/OutputPlan.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
-#include <cerrno>
 #include <filesystem>
 #include <map>
 #include <stdexcept>
 #include <system_error>
 
 #include "cli/Suggest.h"
+#include "framework/File.h"
+#include "framework/NativePath.h"
+#include "text/Paths.h"
 
 namespace lumerin {
 
@@ -30,7 +29,7 @@ std::string FilledName(const std::string& pattern, const PlannedDocument& docume
         if (end == std::string::npos) throw std::invalid_argument("--name has a { without its }");
         const std::string word = pattern.substr(at + 1, end - at - 1);
         if (word == "project") {
-            name += fs::path(document.project).filename().string();
+            name += FromNativePath(NativePath(document.project).filename());
         } else if (word == "table") {
             name += document.table;
         } else {
@@ -40,7 +39,7 @@ std::string FilledName(const std::string& pattern, const PlannedDocument& docume
         }
         at = end;
     }
-    if (name.empty() || name.find('/') != std::string::npos) {
+    if (name.empty() || !FolderOf(name).empty()) {
         throw std::invalid_argument("--name makes no file name: \"" + name + "\"; folders go to -o");
     }
     return name;
@@ -50,28 +49,18 @@ std::string Described(const PlannedDocument& document) {
     return "the table " + document.table + " of " + document.project;
 }
 
-// The error of making a file in the folder; 0: none.
-int ErrorOfNewFile(const std::string& folder) {
-    std::string path = folder + "/.lumerin-XXXXXX";
-    const int file = mkostemp(path.data(), O_CLOEXEC);
-    if (file < 0) return errno;
-    unlink(path.c_str());
-    close(file);
-    return 0;
-}
-
 }  // namespace
 
 std::string PathOf(const OutputOptions& options, const PlannedDocument& document) {
-    const fs::path usual(document.path);
-    fs::path path = options.folder.empty() ? usual.parent_path() : fs::path(options.folder);
+    const fs::path usual = NativePath(document.path);
+    fs::path path = options.folder.empty() ? usual.parent_path() : NativePath(options.folder);
     path /= options.name.empty() ? usual.filename()
-                                 : fs::path(FilledName(options.name, document) + usual.extension().string());
-    return path.string();
+                                 : NativePath(FilledName(options.name, document)) += usual.extension();
+    return FromNativePath(path);
 }
 
 std::string NormalPath(const std::string& path) {
-    return fs::absolute(path).lexically_normal().string();
+    return FromNativePath(fs::absolute(NativePath(path)).lexically_normal());
 }
 
 void RequireOwnPaths(const OutputOptions& options, const std::vector<PlannedDocument>& documents) {
@@ -90,37 +79,16 @@ void RequireOwnPaths(const OutputOptions& options, const std::vector<PlannedDocu
 }
 
 std::string WriteFault(const std::string& path) {
-    std::error_code ignored;
-    if (fs::is_directory(path, ignored)) return "a folder has this name: " + path;
-    const fs::path parent = fs::path(path).parent_path();
-    const std::string folder = parent.empty() ? "." : parent.string();
-    if (!fs::is_directory(folder, ignored)) {
-        return (fs::exists(folder, ignored) ? "not a folder: " : "no such folder: ") + folder;
+    if (IsFolder(path)) return "a folder has this name: " + path;
+    const fs::path parent = NativePath(path).parent_path();
+    const std::string folder = parent.empty() ? "." : FromNativePath(parent);
+    if (!IsFolder(folder)) {
+        std::error_code ignored;
+        return (fs::exists(NativePath(folder), ignored) ? "not a folder: " : "no such folder: ") + folder;
     }
-    int error = 0;
-    if (fs::exists(path, ignored)) {
-        const int file = open(path.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
-        if (file < 0) error = errno;
-        if (file >= 0) close(file);
-    } else {
-        error = ErrorOfNewFile(folder);
-    }
-    if (error == EACCES || error == EPERM || error == EROFS) return "permission denied: " + path;
-    return error == 0 ? "" : std::generic_category().message(error) + ": " + path;
-}
-
-DocumentFolder::DocumentFolder() {
-    std::error_code failure;
-    const fs::path parent = fs::temp_directory_path(failure);
-    m_path = (failure ? fs::path("/tmp") : parent) / "lumerin-XXXXXX";
-    if (mkdtemp(m_path.data()) == nullptr) {
-        throw std::runtime_error("no temporary folder could be made: " + m_path);
-    }
-}
-
-DocumentFolder::~DocumentFolder() {
-    std::error_code ignored;
-    fs::remove_all(m_path, ignored);
+    const std::error_code fault = ErrorOfWriting(path);
+    if (IsForbidden(fault)) return "permission denied: " + path;
+    return fault ? fault.message() + ": " + path : "";
 }
 
 }  // namespace lumerin

@@ -37,17 +37,4 @@ void RequireOwnPaths(const OutputOptions& options, const std::vector<PlannedDocu
 // found; the disk may be full.
 std::string WriteFault(const std::string& path);
 
-// A folder for documents on their way to standard output; removed with everything in it.
-class DocumentFolder {
-  public:
-    DocumentFolder();  // throws std::runtime_error
-    DocumentFolder(const DocumentFolder&) = delete;
-    DocumentFolder& operator=(const DocumentFolder&) = delete;
-    ~DocumentFolder();
-    const std::string& Path() const { return m_path; }
-
-  private:
-    std::string m_path;
-};
-
 }  // namespace lumerin

@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "framework/File.h"
+#include "framework/NativePath.h"
 
 namespace lumerin {
 
@@ -35,12 +36,12 @@ void AddProjectsBelow(const fs::path& folder, std::vector<std::string>& names) {
         entries.push_back(entry->path());
     }
     if (fault) {
-        names.push_back(folder.string());
+        names.push_back(FromNativePath(folder));
         return;
     }
     std::sort(entries.begin(), entries.end());
     for (const fs::path& entry : entries) {
-        const std::string path = entry.string();
+        const std::string path = FromNativePath(entry);
         std::error_code ignored;
         const bool isFolder = fs::is_directory(fs::symlink_status(entry, ignored));
         const bool isInputFile = IsInputFile(path);
@@ -59,7 +60,7 @@ void AddName(const std::string& name, std::vector<std::string>& names) {
         return;
     }
     const std::size_t before = names.size();
-    AddProjectsBelow(name, names);
+    AddProjectsBelow(NativePath(name), names);
     if (names.size() == before) names.push_back(name);
 }
 
@@ -82,7 +83,7 @@ std::vector<ProjectName> ReadProjects(const ProjectArguments& arguments) {
     if (arguments.listFile == "-") {
         ReadLines(std::cin, names);
     } else if (!arguments.listFile.empty()) {
-        std::ifstream list(arguments.listFile);
+        std::ifstream list(NativePath(arguments.listFile), std::ios::binary);
         if (!list) throw std::invalid_argument("the list " + arguments.listFile + " could not be read");
         ReadLines(list, names);
         if (list.bad()) throw std::invalid_argument("the list " + arguments.listFile + " could not be read");

@@ -14,6 +14,8 @@
 #include "cli/ReportDriver.h"
 #include "cli/RunStamps.h"
 #include "export/TableWriter.h"
+#include "framework/NativePath.h"
+#include "framework/TemporaryFolder.h"
 #include "framework/WholeFile.h"
 #include "script/Border.h"
 #include "session/OutputFiles.h"
@@ -155,13 +157,13 @@ ProjectReport ReportProject(const ReportRequest& options, const ProjectName& pro
 
 ExitStatus ReportToStandardOutput(ReportRequest options, const ProjectName& project, std::ostream& out,
                                   std::ostream& err) {
-    const DocumentFolder folder;
+    const TemporaryFolder folder;
     options.output.folder = folder.Path();
     // The document goes to `out`, so the path of its temporary file is printed nowhere.
     options.json = true;
     const ProjectReport report = ReportProject(options, project, "", out, err);
     for (const std::string& path : report.files) {
-        std::ifstream document(path, std::ios::binary);
+        std::ifstream document(NativePath(path), std::ios::binary);
         out << document.rdbuf();
     }
     out.flush();
@@ -226,7 +228,7 @@ ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostr
     if (!options.output.folder.empty()) {
         // Each document says why it cannot be written there.
         std::error_code ignored;
-        std::filesystem::create_directories(options.output.folder, ignored);
+        std::filesystem::create_directories(NativePath(options.output.folder), ignored);
     }
     std::optional<RunStamps> stamps;
     if (!options.stamps.empty()) stamps.emplace(options.stamps, options.resumeOptions);

@@ -1,19 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "cli/RunStamps.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <CLI/CLI.hpp>
 #include <array>
 #include <charconv>
-#include <fstream>
+#include <filesystem>
 #include <stdexcept>
 
 #include "export/ByteSink.h"
 #include "export/TableWriter.h"
 #include "framework/File.h"
 #include "framework/FolderNames.h"
+#include "framework/NativePath.h"
 #include "records/Table.h"
 #include "text/Paths.h"
 
@@ -127,19 +125,17 @@ RunStamps::RunStamps(std::string file, const std::string& options)
     } catch (const ExportError& fault) {
         throw std::invalid_argument(std::string("--resume keeps its stamps in a file: ") + fault.what());
     }
-    m_handle = open(m_file.c_str(), O_RDWR | O_APPEND | O_CLOEXEC);
-    if (m_handle < 0) throw std::invalid_argument("the stamps of --resume cannot be written: " + m_file);
     // What a run that was ended has left of a line.
-    if (ftruncate(m_handle, m_length) != 0) m_fault = NotStored();
-}
-
-RunStamps::~RunStamps() {
-    if (m_handle >= 0) close(m_handle);
+    std::error_code fault;
+    std::filesystem::resize_file(NativePath(m_file), static_cast<std::uintmax_t>(m_length), fault);
+    m_stream.open(NativePath(m_file), std::ios::in | std::ios::out | std::ios::binary);
+    if (!m_stream) throw std::invalid_argument("the stamps of --resume cannot be written: " + m_file);
+    if (fault) m_fault = NotStored();
 }
 
 // False: the file is not one that can be used.
 bool RunStamps::ReadLines(const std::string& head) {
-    std::ifstream file(m_file, std::ios::binary);
+    std::ifstream file(NativePath(m_file), std::ios::binary);
     std::string line;
     if (!std::getline(file, line) || file.eof() || line + '\n' != head) return false;
     m_length = static_cast<std::int64_t>(head.size());
@@ -157,8 +153,10 @@ bool RunStamps::ReadLines(const std::string& head) {
 
 std::string RunStamps::LineAt(const Place& place) const {
     std::string line(static_cast<std::size_t>(place.length), '\0');
-    const ssize_t got = pread(m_handle, line.data(), line.size(), place.offset);
-    return got == static_cast<ssize_t>(line.size()) ? line : std::string();
+    m_stream.clear();
+    m_stream.seekg(place.offset);
+    m_stream.read(line.data(), static_cast<std::streamsize>(line.size()));
+    return m_stream ? line : std::string();
 }
 
 std::optional<ProjectOutcome> RunStamps::Earlier(const ProjectName& project,
@@ -199,8 +197,10 @@ void RunStamps::Add(const ProjectName& project, const std::string& inputs, const
 void RunStamps::Append(const std::string& line, const std::string& project) {
     const std::lock_guard lock(m_mutex);
     if (!m_fault.empty()) return;
-    const ssize_t stored = write(m_handle, line.data(), line.size());
-    if (stored != static_cast<ssize_t>(line.size())) {
+    m_stream.clear();
+    m_stream.seekp(m_length);
+    m_stream << line << std::flush;
+    if (!m_stream) {
         m_fault = NotStored();
         return;
     }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <fstream>
 #include <map>
 #include <mutex>
 #include <optional>
@@ -44,7 +45,7 @@ class RunStamps {
     RunStamps(std::string file, const std::string& options);
     RunStamps(const RunStamps&) = delete;
     RunStamps& operator=(const RunStamps&) = delete;
-    ~RunStamps();
+    ~RunStamps() = default;
 
     // Earlier and Add may be called in several threads.
 
@@ -69,7 +70,7 @@ class RunStamps {
     std::string m_file;
     std::string m_head;
     std::map<std::string, Place> m_places;  // by project; the last line of each
-    int m_handle = -1;
+    mutable std::fstream m_stream;          // the file, open for its whole life
     std::int64_t m_length = 0;
     std::size_t m_lines = 0;
     std::string m_fault;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ScriptDriver.h"
+#include "framework/NativePath.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -34,7 +35,7 @@ std::string OpenedDocument(const std::string& file, const std::string& parameter
 
 bool IsDocumentThere(const std::string& path) {
     std::error_code ignored;
-    return std::filesystem::exists(path, ignored);
+    return std::filesystem::exists(NativePath(path), ignored);
 }
 
 int ShellCodeOfDocument(const std::string& file, const std::string& parameters) {

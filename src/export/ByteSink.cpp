@@ -1,24 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "export/ByteSink.h"
 
-#include <unistd.h>
-
-#include <filesystem>
-
 #include "export/TableWriter.h"
+#include "framework/File.h"
 #include "text/Paths.h"
 
 namespace lumerin {
 
 std::string WhyNotWritten(const std::string& path) {
-    std::error_code ignored;
     const std::string folder = FolderOf(path).empty() ? "." : FolderOf(path);
-    if (!std::filesystem::is_directory(folder, ignored)) return "there is no folder " + folder;
-    if (std::filesystem::is_directory(path, ignored)) return "it is a folder: " + path;
-    const bool isThere = std::filesystem::exists(path, ignored);
-    if (access(folder.c_str(), W_OK) != 0 || (isThere && access(path.c_str(), W_OK) != 0)) {
-        return "permission denied: " + path;
-    }
+    if (!IsFolder(folder)) return "there is no folder " + folder;
+    if (IsFolder(path)) return "it is a folder: " + path;
+    const std::error_code fault = ErrorOfWriting(path);
+    if (IsForbidden(fault)) return "permission denied: " + path;
     return "cannot be written: " + path;
 }
 

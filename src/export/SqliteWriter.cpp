@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <vector>
 
+#include "framework/NativePath.h"
+
 namespace lumerin {
 
 namespace {
@@ -57,7 +59,9 @@ bool IsDatabaseOfExports(Database& database) {
 // Opens a database for a look. None: there is nothing yet.
 std::optional<Database> OpenExisting(const std::string& path) {
     std::error_code ignored;
-    if (!std::filesystem::exists(path, ignored) || std::filesystem::file_size(path, ignored) == 0) return {};
+    if (!std::filesystem::exists(NativePath(path), ignored) ||
+        std::filesystem::file_size(NativePath(path), ignored) == 0)
+        return {};
     return Database(path, Database::Access::read);
 }
 
@@ -85,7 +89,7 @@ SqliteWriter::~SqliteWriter() {
     m_database.Rollback();
     std::error_code ignored;
     // A file without a project would look like a result.
-    if (m_isNew) std::filesystem::remove(m_path, ignored);
+    if (m_isNew) std::filesystem::remove(NativePath(m_path), ignored);
 }
 
 void SqliteWriter::CheckFile() {

@@ -6,13 +6,16 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <filesystem>
 #include <fstream>
+#include <stdexcept>
 #include <vector>
 
 #include "export/ByteSink.h"
 #include "export/Cells.h"
 #include "export/TableWriter.h"
 #include "export/XlsxLibrary.h"
+#include "framework/NativePath.h"
 
 namespace lumerin {
 
@@ -40,22 +43,15 @@ void FillWith(lxw_format* format, lxw_color_t color) {
 
 }  // namespace
 
-TemporaryFolder::TemporaryFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "lumerin-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw ExportError("no temporary folder can be made: " + name);
-    m_path = name;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(m_path, ignored);
-}
-
 Workbook::Workbook(const std::string& path, const LocalTime& created) : m_path(path), m_created(created) {
     // Whether the file can be written is known before any row is.
     FileSink probe(path);
-    m_folderName = m_folder.Path().string();
-    m_stored = (m_folder.Path() / "workbook.xlsx").string();
+    try {
+        m_folderName = m_folder.emplace().Path();
+    } catch (const std::runtime_error& fault) {
+        throw ExportError(fault.what());
+    }
+    m_stored = m_folderName + services::FolderSeparator() + "workbook.xlsx";
     lxw_workbook_options options{};
     options.constant_memory = LXW_TRUE;
     options.tmpdir = m_folderName.data();
@@ -133,7 +129,7 @@ void Workbook::CheckTemporaryFiles() const {
         bytes += static_cast<std::uintmax_t>(size);
     }
     std::error_code ignored;
-    const auto space = std::filesystem::space(m_folder.Path(), ignored);
+    const auto space = std::filesystem::space(NativePath(m_folderName), ignored);
     // A second form of the largest sheet, and the workbook.
     if (!ignored && space.available < 2 * bytes) {
         throw ExportError("there is not enough space for temporary files in " + m_folderName);
@@ -146,7 +142,7 @@ void Workbook::Close() {
     m_workbook = nullptr;
     if (code != LXW_NO_ERROR) throw ExportError(m_path + ": " + Xlsx().lxw_strerror(code));
     FileSink file(m_path);
-    std::ifstream stored(m_stored, std::ios::binary);
+    std::ifstream stored(NativePath(m_stored), std::ios::binary);
     std::vector<char> piece(kFlushBytes);
     while (stored.read(piece.data(), static_cast<std::streamsize>(piece.size())) || stored.gcount() > 0) {
         file.Write({piece.data(), static_cast<std::size_t>(stored.gcount())});

@@ -2,33 +2,19 @@
 #pragma once
 
 #include <array>
-#include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "framework/Backend.h"
+#include "framework/TemporaryFolder.h"
 
 struct lxw_format;
 struct lxw_workbook;
 struct lxw_worksheet;
 
 namespace lumerin {
-
-// A folder for files that nobody else looks for, removed with the object.
-class TemporaryFolder {
-  public:
-    // Throws ExportError.
-    TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    ~TemporaryFolder();
-
-    const std::filesystem::path& Path() const { return m_path; }
-
-  private:
-    std::filesystem::path m_path;
-};
 
 // How a cell looks.
 enum class CellStyle {
@@ -69,7 +55,7 @@ class Workbook {
 
     std::string m_path;
     LocalTime m_created;
-    TemporaryFolder m_folder;
+    std::optional<TemporaryFolder> m_folder;
     std::string m_folderName, m_stored;
     lxw_workbook* m_workbook = nullptr;  // the library frees it with its close
     std::array<lxw_format*, kCellStyles> m_formats{};

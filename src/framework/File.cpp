@@ -36,6 +36,11 @@ bool SeekTo(std::FILE* file, std::int64_t offset, int origin) {
 
 }  // namespace
 
+bool IsForbidden(const std::error_code& fault) {
+    return fault == std::errc::permission_denied || fault == std::errc::operation_not_permitted ||
+           fault == std::errc::read_only_file_system;
+}
+
 CFileException::CFileException(Cause cause, std::string fileName, const std::string& fault, long osError)
     : m_cause(cause), m_lOsError(osError), m_strFileName(std::move(fileName)) {
     m_strText = m_strFileName + ": " + fault;

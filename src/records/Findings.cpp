@@ -10,6 +10,7 @@
 #include "embedment/EmbedmentResults.h"
 #include "framework/File.h"
 #include "framework/Index.h"
+#include "framework/NativePath.h"
 #include "model/CapChain.h"
 #include "model/LimitStates.h"
 #include "records/ElementIdentity.h"
@@ -171,9 +172,9 @@ class FileFindings {
             return;
         }
         std::error_code fault;
-        const auto changed = fs::last_write_time(input, fault);
+        const auto changed = fs::last_write_time(NativePath(input), fault);
         for (std::size_t p = 0; p < m_forces.size() && !fault; ++p) {
-            const auto written = fs::last_write_time(FindFileAnyCase(m_forces[p]->Name()), fault);
+            const auto written = fs::last_write_time(NativePath(FindFileAnyCase(m_forces[p]->Name())), fault);
             if (fault || changed - written <= kGrace) continue;
             Add({"old-results",
                  Severity::note,

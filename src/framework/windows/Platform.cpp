@@ -37,7 +37,7 @@ std::string MakeFolder(const std::string& start) {
     LARGE_INTEGER counter{};
     for (int i = 0; i < kTries; ++i) {
         QueryPerformanceCounter(&counter);
-        const std::string name =
+        std::string name =
             start + std::to_string(GetCurrentProcessId()) + '-' + std::to_string(counter.QuadPart);
         if (CreateDirectoryW(windows::WidePath(name).c_str(), nullptr)) return name;
         if (GetLastError() != ERROR_ALREADY_EXISTS) break;
