@@ -3,6 +3,7 @@
 
 #include <sqlite3.h>
 
+#include "export/LibraryPaths.h"
 #include "export/TableWriter.h"
 
 namespace lumerin {
@@ -26,7 +27,8 @@ Database::Database(const std::string& path, Access access) : m_path(path) {
     const int flags =
         access == Access::read ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
     sqlite3* opened = nullptr;
-    const int code = sqlite3_open_v2(path.c_str(), &opened, flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    const int code = sqlite3_open_v2(PathForSqlite(path).c_str(), &opened, flags | SQLITE_OPEN_NOMUTEX,
+                                     SqliteFileFunctions());
     m_database.reset(opened);
     if (code != SQLITE_OK) Fail();
     sqlite3_busy_timeout(opened, kBusyMilliseconds);

@@ -55,6 +55,8 @@ class Database {
     std::int64_t Number(const std::string& sql);
     // Undoes the open transaction, if there is one. Never throws.
     void Rollback() noexcept;
+    // Nothing may be asked of it afterwards, and no statement of it exist.
+    void Close() noexcept { m_database.reset(); }
 
     sqlite3* Handle() const { return m_database.get(); }
     [[noreturn]] void Fail() const;

@@ -87,8 +87,9 @@ SqliteWriter::SqliteWriter(const std::string& path, const std::string& programVe
 SqliteWriter::~SqliteWriter() {
     m_insert.reset();
     m_database.Rollback();
+    m_database.Close();
     std::error_code ignored;
-    // A file without a project would look like a result.
+    // A file without a project would look like a result. On Windows an open file stays.
     if (m_isNew) std::filesystem::remove(NativePath(m_path), ignored);
 }
 

@@ -3,8 +3,8 @@
 
 #include <xlsxwriter.h>
 
+#include <chrono>
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
@@ -13,6 +13,7 @@
 
 #include "export/ByteSink.h"
 #include "export/Cells.h"
+#include "export/LibraryPaths.h"
 #include "export/TableWriter.h"
 #include "export/XlsxLibrary.h"
 #include "framework/NativePath.h"
@@ -26,14 +27,18 @@ constexpr lxw_color_t kRed = 0x9C0006, kRedFill = 0xFFC7CE, kGreen = 0x006100, k
 constexpr double kTitleSize = 14.0;
 
 std::time_t SecondsOf(const LocalTime& time) {
-    std::tm parts{};
-    parts.tm_year = time.year - 1900;
-    parts.tm_mon = time.month - 1;
-    parts.tm_mday = time.day;
-    parts.tm_hour = time.hour;
-    parts.tm_min = time.minute;
-    parts.tm_sec = time.second;
-    return timegm(&parts);
+    using std::chrono::sys_days, std::chrono::year, std::chrono::month, std::chrono::day;
+    const sys_days date =
+        year(time.year) / month(static_cast<unsigned>(time.month)) / day(static_cast<unsigned>(time.day));
+    const std::chrono::seconds seconds = date.time_since_epoch() + std::chrono::hours(time.hour) +
+                                         std::chrono::minutes(time.minute) +
+                                         std::chrono::seconds(time.second);
+    return seconds.count();
+}
+
+// The workbook as the library writes it.
+std::string StoredIn(const std::string& folder) {
+    return folder + services::FolderSeparator() + "workbook.xlsx";
 }
 
 void FillWith(lxw_format* format, lxw_color_t color) {
@@ -51,12 +56,18 @@ Workbook::Workbook(const std::string& path, const LocalTime& created) : m_path(p
     } catch (const std::runtime_error& fault) {
         throw ExportError(fault.what());
     }
-    m_stored = m_folderName + services::FolderSeparator() + "workbook.xlsx";
+    m_libraryFolder = FolderForFopen(m_folderName);
+    if (m_libraryFolder.empty()) {
+        throw ExportError(
+            "workbooks need a folder for temporary files whose name has letters of the code page alone, "
+            "not " +
+            m_folderName + "; set TMP to one");
+    }
     lxw_workbook_options options{};
     options.constant_memory = LXW_TRUE;
-    options.tmpdir = m_folderName.data();
+    options.tmpdir = m_libraryFolder.data();
     options.use_zip64 = LXW_FALSE;
-    m_workbook = Xlsx().workbook_new_opt(m_stored.c_str(), &options);
+    m_workbook = Xlsx().workbook_new_opt(StoredIn(m_libraryFolder).c_str(), &options);
     if (m_workbook == nullptr) throw ExportError("there is not enough memory for the workbook " + path);
     MakeFormats();
     SetTitle("");
@@ -142,7 +153,7 @@ void Workbook::Close() {
     m_workbook = nullptr;
     if (code != LXW_NO_ERROR) throw ExportError(m_path + ": " + Xlsx().lxw_strerror(code));
     FileSink file(m_path);
-    std::ifstream stored(NativePath(m_stored), std::ios::binary);
+    std::ifstream stored(NativePath(StoredIn(m_folderName)), std::ios::binary);
     std::vector<char> piece(kFlushBytes);
     while (stored.read(piece.data(), static_cast<std::streamsize>(piece.size())) || stored.gcount() > 0) {
         file.Write({piece.data(), static_cast<std::size_t>(stored.gcount())});

@@ -56,8 +56,8 @@ class Workbook {
     std::string m_path;
     LocalTime m_created;
     std::optional<TemporaryFolder> m_folder;
-    std::string m_folderName, m_stored;
-    lxw_workbook* m_workbook = nullptr;  // the library frees it with its close
+    std::string m_folderName, m_libraryFolder;  // the same, the second as the library takes it
+    lxw_workbook* m_workbook = nullptr;         // the library frees it with its close
     std::array<lxw_format*, kCellStyles> m_formats{};
     lxw_format* m_overLimit = nullptr;
 };
