@@ -18,7 +18,7 @@ target_compile_options(lumerin-precompiled INTERFACE
     # GCC 12 no longer knows then that strings are the system's, and gives false alarms in their copies.
     $<IF:$<CXX_COMPILER_ID:GNU>,-fpch-preprocess;-Wno-array-bounds;-Wno-stringop-overflow,SHELL:-Xclang -fno-pch-timestamp>)
 
-# For sources that read a command line. CLI11 is all templates, which run once and cost more to optimise than the rest of
+# For the two sources that include CLI11. It is all templates, which run once and cost more to optimise than the rest of
 # a library.
 set(LUMERIN_PARSER_OPTIONS $<IF:$<OR:$<BOOL:${LUMERIN_SANITIZE}>,$<CONFIG:Debug>>,-O0,-O1>)
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CheckCommand.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <chrono>
 #include <memory>
@@ -226,34 +225,32 @@ ExitStatus RunCheck(const CheckRequest& request, std::ostream& out, std::ostream
     return Checker(request, out, err).Run();
 }
 
-ProgramCommand AddCheckCommand(CLI::App& program) {
+ProgramCommand AddCheckCommand(CommandParser& program) {
     const auto arguments = std::make_shared<CheckArguments>();
-    CLI::App& command =
-        *program.add_subcommand("check", "Report whether projects pass: their greatest D/C ratios");
+    CommandParser command =
+        program.AddCommand("check", "Report whether projects pass: their greatest D/C ratios");
     AddProjectArguments(command, arguments->projects);
     AddEvaluationArguments(command, arguments->evaluation);
-    command.add_option("--top", arguments->request.top, "List this many of the greatest ratios")
-        ->type_name("N");
+    command.Add("--top", arguments->request.top, "List this many of the greatest ratios").Takes("N");
     command
-        .add_option_function<std::string>(
+        .OnText(
             "--format",
             [arguments](const std::string& text) { arguments->request.format = ReadCheckFormat(text); },
             "text, json or csv (default text)")
-        ->type_name("FORMAT");
-    command.add_flag("--brief", arguments->request.brief, "Print one line for each project");
+        .Takes("FORMAT");
+    command.AddFlag("--brief", arguments->request.brief, "Print one line for each project");
     command
-        .add_option(
-            "-o,--output", arguments->request.output,
-            "A file, which is replaced when all projects are done, or - for standard output (default)")
-        ->type_name("FILE|-");
+        .Add("-o,--output", arguments->request.output,
+             "A file, which is replaced when all projects are done, or - for standard output (default)")
+        .Takes("FILE|-");
     AddResumeOption(command, arguments->resume, "-o FILE");
     command
-        .add_option("--jobs", arguments->request.jobs,
-                    "Check this many projects at once (default 1); the output is the same")
-        ->check(CLI::Range(1, 256))
-        ->type_name("N");
-    command.footer(kCheckFooter);
-    return {&command, [arguments, &command](std::ostream& out, std::ostream& err) {
+        .Add("--jobs", arguments->request.jobs,
+             "Check this many projects at once (default 1); the output is the same")
+        .InRange(1, 256)
+        .Takes("N");
+    command.SetFooter(kCheckFooter);
+    return {command, [arguments, command](std::ostream& out, std::ostream& err) {
                 CheckRequest& request = arguments->request;
                 request.projects = ReadProjects(arguments->projects);
                 request.cases = arguments->evaluation.cases;

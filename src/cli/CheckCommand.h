@@ -35,6 +35,6 @@ struct CheckRequest {
 // std::invalid_argument when no stamps can be kept.
 ExitStatus RunCheck(const CheckRequest& request, std::ostream& out, std::ostream& err);
 
-ProgramCommand AddCheckCommand(CLI::App& program);
+ProgramCommand AddCheckCommand(CommandParser& program);
 
 }  // namespace lumerin

@@ -5,15 +5,12 @@
 #include <ostream>
 
 #include "cli/ExitStatus.h"
-
-namespace CLI {
-class App;
-}
+#include "script/CommandParser.h"
 
 namespace lumerin {
 
 // A command of the program. Each has a pair of files with a function that adds its parser to the program's:
-//     ProgramCommand AddReportCommand(CLI::App& program);
+//     ProgramCommand AddReportCommand(CommandParser& program);
 // and a line in Program.cpp. Parser, help, manual pages and completion are made from the same options.
 
 // Runs the command with the options that were parsed. Results go to `out`, everything else to `err`. Throws
@@ -21,7 +18,7 @@ namespace lumerin {
 using CommandRun = std::function<ExitStatus(std::ostream& out, std::ostream& err)>;
 
 struct ProgramCommand {
-    CLI::App* parser = nullptr;  // owned by the program's parser
+    CommandParser parser;
     CommandRun run;
 };
 

@@ -4,19 +4,15 @@
 #include <string>
 
 #include "cli/Options.h"
-
-namespace CLI {
-class App;
-class Option;
-}  // namespace CLI
+#include "script/CommandParser.h"
 
 namespace lumerin {
 
 // Options that several commands have. The variables must live as long as the parser.
 
 // An option whose text the product shows or passes on; `text` is in its code page.
-CLI::Option* AddText(CLI::App& command, const char* name, std::string& text, const char* help);
+void AddText(CommandParser& command, const char* name, std::string& text, const char* help);
 // The host's version, the viewer's font size and the clock.
-void AddCommonOptions(CLI::App& command, CommonOptions& options);
+void AddCommonOptions(CommandParser& command, CommonOptions& options);
 
 }  // namespace lumerin

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/CompareCommand.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cmath>
 #include <memory>
@@ -179,9 +178,10 @@ void ReadComparedTables(const std::string& text, std::vector<const Table*>& tabl
     }
 }
 
-void AddTolerance(CLI::App& command, const std::string& option, double& tolerance, const std::string& help) {
+void AddTolerance(CommandParser& command, const std::string& option, double& tolerance,
+                  const std::string& help) {
     command
-        .add_option_function<double>(
+        .OnNumber(
             option,
             [option, &tolerance](double value) {
                 if (!std::isfinite(value) || value < 0.0) {
@@ -190,7 +190,7 @@ void AddTolerance(CLI::App& command, const std::string& option, double& toleranc
                 tolerance = value;
             },
             help)
-        ->type_name("NUMBER");
+        .Takes("NUMBER");
 }
 
 constexpr const char* kCompareFooter =
@@ -217,14 +217,10 @@ struct CompareArguments {
     CompareRequest request;
 };
 
-void AddCompareOptions(CLI::App& command, CompareArguments& arguments) {
+void AddCompareOptions(CommandParser& command, CompareArguments& arguments) {
     CompareRequest& request = arguments.request;
-    command.add_option("OLD", request.before, "The earlier run: a project or a folder")
-        ->required()
-        ->type_name("");
-    command.add_option("NEW", request.after, "The later run: a project or a folder")
-        ->required()
-        ->type_name("");
+    command.Add("OLD", request.before, "The earlier run: a project or a folder").Required();
+    command.Add("NEW", request.after, "The later run: a project or a folder").Required();
     AddTolerance(command, "--rel", request.tolerances.relative,
                  "Changes of this part of the greater value are none (default 0.01)");
     AddTolerance(command, "--abs-force", request.tolerances.force,
@@ -234,7 +230,7 @@ void AddCompareOptions(CLI::App& command, CompareArguments& arguments) {
     AddTolerance(command, "--abs-dc", request.tolerances.ratio,
                  "Changes of a D/C ratio up to this are none (default 0.01)");
     command
-        .add_option_function<std::vector<std::string>>(
+        .OnTexts(
             "--table",
             [&request](const std::vector<std::string>& texts) {
                 for (const std::string& text : texts) ReadComparedTables(text, request.tables);
@@ -242,21 +238,21 @@ void AddCompareOptions(CLI::App& command, CompareArguments& arguments) {
             "The tables of results to compare, such as verdict,cap_moment; all for every one (default: "
             "verdict, "
             "pile_axial, section_dc, section_forces, cap_shear, cap_moment)")
-        ->allow_extra_args(false)
-        ->type_name("LIST");
+        .OneValueEach()
+        .Takes("LIST");
     AddEvaluationArguments(command, arguments.evaluation);
     command
-        .add_option("--top", request.top,
-                    "List this many rows at most, the worst ones; 0 for all (default: 20 in text, 200 in "
-                    "html, else all)")
-        ->type_name("N");
+        .Add("--top", request.top,
+             "List this many rows at most, the worst ones; 0 for all (default: 20 in text, 200 in "
+             "html, else all)")
+        .Takes("N");
     command
-        .add_option_function<std::string>(
+        .OnText(
             "--format", [&request](const std::string& text) { request.format = ReadCompareFormat(text); },
             "text (default), json, csv or html")
-        ->type_name("FORMAT");
-    command.add_option("-o,--output", request.output, "The file to write; - for standard output (default)")
-        ->type_name("FILE");
+        .Takes("FORMAT");
+    command.Add("-o,--output", request.output, "The file to write; - for standard output (default)")
+        .Takes("FILE");
 }
 
 }  // namespace
@@ -270,13 +266,13 @@ ExitStatus RunCompare(const CompareRequest& request, std::ostream& out, std::ost
     }
 }
 
-ProgramCommand AddCompareCommand(CLI::App& program) {
+ProgramCommand AddCompareCommand(CommandParser& program) {
     const auto arguments = std::make_shared<CompareArguments>();
-    CLI::App& command =
-        *program.add_subcommand("compare", "Report what changed from one run of a project to the next");
+    CommandParser command =
+        program.AddCommand("compare", "Report what changed from one run of a project to the next");
     AddCompareOptions(command, *arguments);
-    command.footer(kCompareFooter);
-    return {&command, [arguments](std::ostream& out, std::ostream& err) {
+    command.SetFooter(kCompareFooter);
+    return {command, [arguments](std::ostream& out, std::ostream& err) {
                 CompareRequest& request = arguments->request;
                 request.cases = arguments->evaluation.cases;
                 request.limits = arguments->evaluation.limits;

@@ -32,6 +32,6 @@ struct CompareRequest {
 // Compares each pair. A pair that fails in any way does not stop the others.
 ExitStatus RunCompare(const CompareRequest& request, std::ostream& out, std::ostream& err);
 
-ProgramCommand AddCompareCommand(CLI::App& program);
+ProgramCommand AddCompareCommand(CommandParser& program);
 
 }  // namespace lumerin

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/DriveCommand.h"
 
-#include <CLI/CLI.hpp>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -125,27 +124,26 @@ constexpr const char* kDriveFooter =
 
 }  // namespace
 
-ProgramCommand AddDriveCommand(CLI::App& program) {
+ProgramCommand AddDriveCommand(CommandParser& program) {
     struct Arguments {
         DriveOptions options;
         std::string format = "text";
     };
     const auto arguments = std::make_shared<Arguments>();
     DriveOptions& options = arguments->options;
-    CLI::App& command = *program.add_subcommand("drive", "Play a script on the dialogs of a project");
-    command.add_option("PROJECT", options.project, "Input file of a project (.in)")->required();
-    command.add_option("SCRIPT", options.script, "File of actions, one a line; - for standard input")
-        ->required();
-    command.add_option("--format", arguments->format,
-                       "Format that the dialog starts on: text, pdf, excel or a number (default text)");
-    command.add_flag("!--without-plot-module", options.hasPlotModule,
-                     "Behave as on a machine without the plot module");
+    CommandParser command = program.AddCommand("drive", "Play a script on the dialogs of a project");
+    command.Add("PROJECT", options.project, "Input file of a project (.in)").Required();
+    command.Add("SCRIPT", options.script, "File of actions, one a line; - for standard input").Required();
+    command.Add("--format", arguments->format,
+                "Format that the dialog starts on: text, pdf, excel or a number (default text)");
+    command.AddFlag("!--without-plot-module", options.hasPlotModule,
+                    "Behave as on a machine without the plot module");
     AddText(command, "--text-a", options.textA, "The fourth argument of the export; nothing shows it");
     AddText(command, "--text-b", options.textB, "The fifth argument; nothing shows it");
     AddText(command, "--plot-argument", options.plotArgument, "The sixth argument, for the plot module");
     AddCommonOptions(command, options.common);
-    command.footer(kDriveFooter);
-    return {&command, [arguments](std::ostream& out, std::ostream& err) {
+    command.SetFooter(kDriveFooter);
+    return {command, [arguments](std::ostream& out, std::ostream& err) {
                 arguments->options.format = ReadStartFormat(arguments->format);
                 std::string& project = arguments->options.project;
                 if (!project.empty()) project = ProjectName(project).inputFile;

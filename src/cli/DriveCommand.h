@@ -26,6 +26,6 @@ ExitStatus DriveScript(const DriveOptions& options, const std::string& script, s
                        std::ostream& err);
 
 // "drive": plays a script on the dialogs.
-ProgramCommand AddDriveCommand(CLI::App& program);
+ProgramCommand AddDriveCommand(CommandParser& program);
 
 }  // namespace lumerin

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/EmbedmentCommand.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
@@ -301,23 +300,22 @@ ExitStatus RunEmbedmentCommand(EmbedmentArguments& arguments, std::ostream& out,
 
 }  // namespace
 
-ProgramCommand AddEmbedmentCommand(CLI::App& program) {
+ProgramCommand AddEmbedmentCommand(CommandParser& program) {
     const auto arguments = std::make_shared<EmbedmentArguments>();
     EmbedmentOptions& options = arguments->options;
-    CLI::App& command = *program.add_subcommand("embedment", "Show the embedment study of a project");
-    command.add_option("PROJECT", arguments->project, "A project: its input file, with or without .in")
-        ->required();
+    CommandParser command = program.AddCommand("embedment", "Show the embedment study of a project");
+    command.Add("PROJECT", arguments->project, "A project: its input file, with or without .in").Required();
     AddStudyOptions(command, options.view);
     command
-        .add_option_function<double>(
+        .OnNumber(
             "--max-displacement", [arguments](double limit) { arguments->options.maxDisplacement = limit; },
             "Print which embedment keeps the displacement at or below this, in in or m")
-        ->type_name("LENGTH");
-    command.add_option("--svg", options.picture, "Write the curve to this file")->type_name("FILE");
-    command.add_flag("--excel", options.workbook, "Write the table as a workbook beside the project");
+        .Takes("LENGTH");
+    command.Add("--svg", options.picture, "Write the curve to this file").Takes("FILE");
+    command.AddFlag("--excel", options.workbook, "Write the table as a workbook beside the project");
     AddCommonOptions(command, options.common);
-    command.footer(kEmbedmentFooter);
-    return {&command, [arguments](std::ostream& out, std::ostream& err) {
+    command.SetFooter(kEmbedmentFooter);
+    return {command, [arguments](std::ostream& out, std::ostream& err) {
                 return RunEmbedmentCommand(*arguments, out, err);
             }};
 }

@@ -61,6 +61,6 @@ class EmbedmentDriver : public headless::Sink {
 ExitStatus RunEmbedment(const EmbedmentOptions& options, std::ostream& out, std::ostream& err);
 
 // "embedment": the study of a project, its curve and its workbook.
-ProgramCommand AddEmbedmentCommand(CLI::App& program);
+ProgramCommand AddEmbedmentCommand(CommandParser& program);
 
 }  // namespace lumerin

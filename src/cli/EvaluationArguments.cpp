@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/EvaluationArguments.h"
 
-#include <CLI/CLI.hpp>
 #include <cmath>
 #include <stdexcept>
 #include <string>
@@ -18,17 +17,17 @@ void RequirePositive(const std::string& option, double value) {
     throw std::invalid_argument(option + " takes a number that is greater than 0");
 }
 
-void AddCapacity(CLI::App& command, const std::string& option, std::optional<double>& capacity,
+void AddCapacity(CommandParser& command, const std::string& option, std::optional<double>& capacity,
                  const std::string& help) {
     command
-        .add_option_function<double>(
+        .OnNumber(
             option,
             [option, &capacity](double value) {
                 RequirePositive(option, value);
                 capacity = value;
             },
             help)
-        ->type_name("FORCE");
+        .Takes("FORCE");
 }
 
 // As ReadClasses, with the nearest class for a wrong word.
@@ -46,57 +45,57 @@ void ReadKnownClasses(const std::string& text, CaseChoice& cases) {
 
 }  // namespace
 
-void AddCaseOptions(CLI::App& command, CaseChoice& cases) {
+void AddCaseOptions(CommandParser& command, CaseChoice& cases) {
     command
-        .add_option_function<std::vector<std::string>>(
+        .OnTexts(
             "--cases",
             [&cases](const std::vector<std::string>& texts) {
                 for (const std::string& text : texts) ReadCases(text, cases);
             },
             "Consider these cases alone: numbers, ranges and patterns of limit states and titles, such as "
             "1,3,5-9 or 'STRENGTH-*'")
-        ->allow_extra_args(false)
-        ->type_name("LIST");
+        .OneValueEach()
+        .Takes("LIST");
     command
-        .add_option_function<std::vector<std::string>>(
+        .OnTexts(
             "--class",
             [&cases](const std::vector<std::string>& texts) {
                 for (const std::string& text : texts) ReadKnownClasses(text, cases);
             },
             "Consider the cases of these limit classes alone, such as strength,service")
-        ->allow_extra_args(false)
-        ->type_name("LIST");
+        .OneValueEach()
+        .Takes("LIST");
 }
 
-void AddLimitOptions(CLI::App& command, Limits& limits) {
+void AddLimitOptions(CommandParser& command, Limits& limits) {
     command
-        .add_option_function<double>(
+        .OnNumber(
             "--limit",
             [&limits](double value) {
                 RequirePositive("--limit", value);
                 limits.ratio = value;
             },
             "The greatest D/C ratio that passes (default 1.0)")
-        ->type_name("RATIO");
+        .Takes("RATIO");
     AddCapacity(command, "--pile-compression", limits.pileCompression,
                 "Hold pile heads against this capacity in compression, in units of the project");
     AddCapacity(command, "--pile-tension", limits.pileTension,
                 "Hold pile heads against this capacity in tension, in units of the project");
 }
 
-void AddUnitsOption(CLI::App& command, std::optional<UnitSystem>& units) {
+void AddUnitsOption(CommandParser& command, std::optional<UnitSystem>& units) {
     command
-        .add_option_function<std::string>(
+        .OnText(
             "--units",
             [&units](const std::string& text) {
                 units = ReadUnitSystem(LowerCase(text));
                 if (!units) throw std::invalid_argument("\"" + text + "\" is no unit system (us, si)");
             },
             "us (kips, ft, in) or si (kN, m); default: those of each project")
-        ->type_name("SYSTEM");
+        .Takes("SYSTEM");
 }
 
-void AddEvaluationArguments(CLI::App& command, EvaluationArguments& arguments) {
+void AddEvaluationArguments(CommandParser& command, EvaluationArguments& arguments) {
     AddCaseOptions(command, arguments.cases);
     AddLimitOptions(command, arguments.limits);
     AddUnitsOption(command, arguments.units);

@@ -6,10 +6,7 @@
 #include "records/CaseChoice.h"
 #include "records/Evaluation.h"
 #include "records/Units.h"
-
-namespace CLI {
-class App;
-}
+#include "script/CommandParser.h"
 
 namespace lumerin {
 
@@ -17,17 +14,17 @@ namespace lumerin {
 // value is reported while the command line is parsed (std::invalid_argument).
 
 // --cases and --class.
-void AddCaseOptions(CLI::App& command, CaseChoice& cases);
+void AddCaseOptions(CommandParser& command, CaseChoice& cases);
 // --limit, --pile-compression and --pile-tension.
-void AddLimitOptions(CLI::App& command, Limits& limits);
+void AddLimitOptions(CommandParser& command, Limits& limits);
 // --units; none: those of each project.
-void AddUnitsOption(CLI::App& command, std::optional<UnitSystem>& units);
+void AddUnitsOption(CommandParser& command, std::optional<UnitSystem>& units);
 
 struct EvaluationArguments {
     CaseChoice cases;
     Limits limits;
     std::optional<UnitSystem> units;
 };
-void AddEvaluationArguments(CLI::App& command, EvaluationArguments& arguments);
+void AddEvaluationArguments(CommandParser& command, EvaluationArguments& arguments);
 
 }  // namespace lumerin

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ExportCommand.h"
 
-#include <CLI/CLI.hpp>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -232,31 +231,30 @@ constexpr const char* kExportFooter =
     "could not be loaded (the others are exported all the same), 4 the data of a project have errors (they\n"
     "are exported all the same). Of several the first of 2, 3, 4, 1, 0.";
 
-void AddExportOptions(CLI::App& command, ExportArguments& arguments) {
+void AddExportOptions(CommandParser& command, ExportArguments& arguments) {
     ExportRequest& request = arguments.request;
     AddProjectArguments(command, arguments.projects);
     command
-        .add_option_function<std::vector<std::string>>(
+        .OnTexts(
             "--table",
             [&request](const std::vector<std::string>& texts) {
                 for (const std::string& text : texts) ReadTables(text, request);
             },
             "The tables, such as element_dc,cap_moment; all for every table")
-        ->allow_extra_args(false)
-        ->type_name("LIST");
+        .OneValueEach()
+        .Takes("LIST");
     command
-        .add_option_function<std::string>(
+        .OnText(
             "--format", [&request](const std::string& text) { request.form = ReadForm(text); },
             "csv (default), jsonl, sqlite or xlsx")
-        ->type_name("FORMAT");
+        .Takes("FORMAT");
     command
-        .add_option(
-            "-o,--output", request.output,
-            "A file, a folder (a file for each project and table; text forms alone), or - for standard "
-            "output (default)")
-        ->type_name("FILE|DIR|-");
+        .Add("-o,--output", request.output,
+             "A file, a folder (a file for each project and table; text forms alone), or - for standard "
+             "output (default)")
+        .Takes("FILE|DIR|-");
     command
-        .add_option_function<std::string>(
+        .OnText(
             "--separator",
             [&request](const std::string& text) {
                 const std::optional<char> separator = ReadSeparator(text);
@@ -264,15 +262,15 @@ void AddExportOptions(CLI::App& command, ExportArguments& arguments) {
                 request.separator = *separator;
             },
             "Character between the fields of CSV (default ,); tab for the tabulator")
-        ->type_name("CHARACTER");
+        .Takes("CHARACTER");
     AddEvaluationArguments(command, arguments.evaluation);
-    command.add_option("--clock", arguments.common.clock, "Date and time of a workbook, YYYY-MM-DDTHH:MM:SS")
-        ->type_name("TIME");
+    command.Add("--clock", arguments.common.clock, "Date and time of a workbook, YYYY-MM-DDTHH:MM:SS")
+        .Takes("TIME");
     AddResumeOption(command, request.resume, "-o DIR");
-    command.add_flag("--describe", arguments.describe, "Print the description of all tables (Markdown)");
+    command.AddFlag("--describe", arguments.describe, "Print the description of all tables (Markdown)");
 }
 
-ExitStatus RunArguments(const CLI::App& command, ExportArguments& arguments, std::ostream& out,
+ExitStatus RunArguments(const CommandParser& command, ExportArguments& arguments, std::ostream& out,
                         std::ostream& err) {
     if (arguments.describe) {
         out << DescribeTables(AllTables()) << std::flush;
@@ -294,12 +292,12 @@ ExitStatus RunExport(const ExportRequest& request, std::ostream& out, std::ostre
     return ExportRun(request, out, err).Run();
 }
 
-ProgramCommand AddExportCommand(CLI::App& program) {
+ProgramCommand AddExportCommand(CommandParser& program) {
     const auto arguments = std::make_shared<ExportArguments>();
-    CLI::App& command = *program.add_subcommand("export", "Write results as tables of data");
+    CommandParser command = program.AddCommand("export", "Write results as tables of data");
     AddExportOptions(command, *arguments);
-    command.footer(kExportFooter);
-    return {&command, [arguments, &command](std::ostream& out, std::ostream& err) {
+    command.SetFooter(kExportFooter);
+    return {command, [arguments, command](std::ostream& out, std::ostream& err) {
                 return RunArguments(command, *arguments, out, err);
             }};
 }

@@ -6,7 +6,7 @@
 
 namespace lumerin {
 
-ProgramCommand AddExportCommand(CLI::App& program);
+ProgramCommand AddExportCommand(CommandParser& program);
 
 // Exports the tables of all projects. Rows for standard output go to `out`, otherwise the paths of what was
 // written; messages go to `err`. A project that fails does not stop the others. Throws std::invalid_argument

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/InfoCommand.h"
 
-#include <CLI/CLI.hpp>
 #include <memory>
 #include <stdexcept>
 
@@ -77,21 +76,20 @@ ExitStatus RunInfo(const InfoRequest& request, std::ostream& out, std::ostream& 
     return summary.Worst();
 }
 
-ProgramCommand AddInfoCommand(CLI::App& program) {
+ProgramCommand AddInfoCommand(CommandParser& program) {
     const auto arguments = std::make_shared<InfoArguments>();
-    CLI::App& command =
-        *program.add_subcommand("info", "Describe projects: members, cases, tables, findings");
+    CommandParser command = program.AddCommand("info", "Describe projects: members, cases, tables, findings");
     AddProjectArguments(command, arguments->projects);
     InfoRequest& request = arguments->request;
-    command.add_flag("--cases", request.listCases, "List the cases with titles and limit states");
-    command.add_flag("--findings", request.findings, "Read the forces too, for what is wrong with them");
+    command.AddFlag("--cases", request.listCases, "List the cases with titles and limit states");
+    command.AddFlag("--findings", request.findings, "Read the forces too, for what is wrong with them");
     command
-        .add_option_function<std::string>(
+        .OnText(
             "--format", [arguments](const std::string& text) { ReadInfoFormat(text, arguments->request); },
             "text or json (default text)")
-        ->type_name("FORMAT");
-    command.footer(kInfoFooter);
-    return {&command, [arguments](std::ostream& out, std::ostream& err) {
+        .Takes("FORMAT");
+    command.SetFooter(kInfoFooter);
+    return {command, [arguments](std::ostream& out, std::ostream& err) {
                 arguments->request.projects = ReadProjects(arguments->projects);
                 return RunInfo(arguments->request, out, err);
             }};

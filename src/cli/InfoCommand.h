@@ -19,6 +19,6 @@ struct InfoRequest {
 // Describes each project. A project that fails in any way does not stop the others.
 ExitStatus RunInfo(const InfoRequest& request, std::ostream& out, std::ostream& err);
 
-ProgramCommand AddInfoCommand(CLI::App& program);
+ProgramCommand AddInfoCommand(CommandParser& program);
 
 }  // namespace lumerin

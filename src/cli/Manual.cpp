@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Manual.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <sstream>
 
@@ -43,9 +42,9 @@ std::string Head(const std::string& page, const std::string& meaning) {
            Escaped(page) + " \\- " + Escaped(lower) + '\n';
 }
 
-std::string Options(const CLI::App& parser) {
+std::string Options(const CommandParser& parser) {
     std::string text;
-    for (const OptionText& option : OptionsOf(parser)) {
+    for (const OptionText& option : parser.Options()) {
         text += ".TP\n";
         const char* separator = "";
         for (const std::string& name : option.names) {
@@ -93,20 +92,20 @@ std::string Quoted(const std::vector<std::string>& words) {
     return text + "'";
 }
 
-std::string OptionNames(const CLI::App& parser) {
+std::string OptionNames(const CommandParser& parser) {
     std::vector<std::string> names;
-    for (const OptionText& option : OptionsOf(parser)) {
+    for (const OptionText& option : parser.Options()) {
         if (!option.isArgument) names.insert(names.end(), option.names.begin(), option.names.end());
     }
     return Quoted(names);
 }
 
 // What follows an option: its words, a folder, a file.
-std::string ValueBranches(const CommandText& command) {
+std::string ValueBranches(const CommandParser& command) {
     std::string text;
-    for (const OptionText& option : OptionsOf(*command.parser)) {
+    for (const OptionText& option : command.Options()) {
         if (option.isArgument || option.value.empty()) continue;
-        const std::vector<std::string> words = WordsOf(command.name, option.names.back());
+        const std::vector<std::string> words = WordsOf(command.Name(), option.names.back());
         std::string answer = "COMPREPLY=()";
         if (!words.empty()) {
             answer = "_lumerin_list " + Quoted(words);
@@ -116,7 +115,7 @@ std::string ValueBranches(const CommandText& command) {
             answer = "compopt -o filenames; COMPREPLY=($(compgen -f -- \"$cur\"))";
         }
         for (const std::string& name : option.names) {
-            text.append("        ").append(command.name).append(":").append(name).append(") ");
+            text.append("        ").append(command.Name()).append(":").append(name).append(") ");
             text.append(answer).append("; return ;;\n");
         }
     }
@@ -125,36 +124,35 @@ std::string ValueBranches(const CommandText& command) {
 
 }  // namespace
 
-std::string ProgramPage(const CLI::App& program) {
-    std::string page = Head("lumerin", program.get_description());
+std::string ProgramPage(const CommandParser& program) {
+    std::string page = Head("lumerin", program.Description());
     page += ".SH SYNOPSIS\n.B lumerin\n" + Escaped(UsageOf(program)) + "\n.SH COMMANDS\n";
-    for (const CommandText& command : CommandsOf(program)) {
-        page += ".TP\n\\fB" + Escaped(command.name) + "\\fR\n" + Escaped(command.meaning) + '\n';
+    for (const CommandParser& command : program.Commands()) {
+        page += ".TP\n\\fB" + Escaped(command.Name()) + "\\fR\n" + Escaped(command.Description()) + '\n';
     }
-    page += ".SH OPTIONS\n" + Options(program) + Footer(program.get_footer()) + ".SH SEE ALSO\n";
+    page += ".SH OPTIONS\n" + Options(program) + Footer(program.Footer()) + ".SH SEE ALSO\n";
     const char* separator = "";
-    for (const CommandText& command : CommandsOf(program)) {
-        if (command.name == "help") continue;
-        page += separator + (".BR lumerin\\-" + Escaped(command.name)) + " (1)";
+    for (const CommandParser& command : program.Commands()) {
+        if (command.Name() == "help") continue;
+        page += separator + (".BR lumerin\\-" + Escaped(command.Name())) + " (1)";
         separator = ",\n";
     }
     return page + '\n';
 }
 
-std::string CommandPage(const CommandText& command) {
-    const CLI::App& parser = *command.parser;
-    return Head("lumerin-" + command.name, command.meaning) + ".SH SYNOPSIS\n.B lumerin " +
-           Escaped(command.name) + '\n' + Escaped(UsageOf(parser)) + "\n.SH OPTIONS\n" + Options(parser) +
-           Footer(parser.get_footer()) + ".SH SEE ALSO\n.BR lumerin (1)\n";
+std::string CommandPage(const CommandParser& command) {
+    return Head("lumerin-" + command.Name(), command.Description()) + ".SH SYNOPSIS\n.B lumerin " +
+           Escaped(command.Name()) + '\n' + Escaped(UsageOf(command)) + "\n.SH OPTIONS\n" + Options(command) +
+           Footer(command.Footer()) + ".SH SEE ALSO\n.BR lumerin (1)\n";
 }
 
-std::string BashCompletion(const CLI::App& program) {
+std::string BashCompletion(const CommandParser& program) {
     std::vector<std::string> names;
     std::string values, options;
-    for (const CommandText& command : CommandsOf(program)) {
-        names.push_back(command.name);
+    for (const CommandParser& command : program.Commands()) {
+        names.push_back(command.Name());
         values += ValueBranches(command);
-        options += "            " + command.name + ") options=" + OptionNames(*command.parser) + " ;;\n";
+        options += "            " + command.Name() + ") options=" + OptionNames(command) + " ;;\n";
     }
     const std::string commands = Quoted(names);
     return "# Completion of lumerin for bash; made from the program's own options.\n"

@@ -26,9 +26,9 @@ int main(int argc, char** argv) {
         const std::filesystem::path folder = argv[1];
         const lumerin::Program program;
         Write(folder / "man" / "lumerin.1", lumerin::ProgramPage(program.Parser()));
-        for (const lumerin::CommandText& command : lumerin::CommandsOf(program.Parser())) {
-            if (command.name == "help") continue;
-            Write(folder / "man" / ("lumerin-" + command.name + ".1"), lumerin::CommandPage(command));
+        for (const lumerin::CommandParser& command : program.Parser().Commands()) {
+            if (command.Name() == "help") continue;
+            Write(folder / "man" / ("lumerin-" + command.Name() + ".1"), lumerin::CommandPage(command));
         }
         Write(folder / "completion" / "lumerin", lumerin::BashCompletion(program.Parser()));
     } catch (const std::exception& error) {

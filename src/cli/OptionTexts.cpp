@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "cli/OptionTexts.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "cli/Options.h"
+#include "cli/OwnDocuments.h"
 #include "cli/Terminal.h"
 #include "compare/ResultColumns.h"
 #include "records/Table.h"
@@ -15,25 +15,6 @@ namespace lumerin {
 namespace {
 
 constexpr std::size_t kMeaningColumn = 24;
-
-OptionText TextOf(const CLI::Option& option) {
-    OptionText text;
-    text.isArgument = option.get_positional();
-    text.isRequired = option.get_required();
-    text.isRepeated = option.get_expected_max() > 1;
-    text.meaning = option.get_description();
-    if (text.isArgument) {
-        text.names.push_back(option.get_name(true));
-        return text;
-    }
-    for (const std::string& name : option.get_snames()) text.names.push_back("-" + name);
-    for (const std::string& name : option.get_lnames()) text.names.push_back("--" + name);
-    if (option.get_items_expected_max() == 0) return text;
-    // A check appends its own words after a colon.
-    const std::string type = option.get_type_name();
-    text.value = type.substr(0, type.find(':'));
-    return text;
-}
 
 std::string Joined(const std::vector<std::string>& words, const char* between) {
     std::string text;
@@ -62,31 +43,14 @@ std::string Entry(const std::string& name, const std::string& meaning, std::size
 
 }  // namespace
 
-std::vector<OptionText> OptionsOf(const CLI::App& parser) {
-    std::vector<OptionText> texts;
-    for (const CLI::Option* option : parser.get_options()) {
-        if (!option->get_group().empty()) texts.push_back(TextOf(*option));
-    }
-    std::stable_partition(texts.begin(), texts.end(), [](const OptionText& text) { return text.isArgument; });
-    return texts;
-}
-
-std::vector<CommandText> CommandsOf(const CLI::App& program) {
-    std::vector<CommandText> commands;
-    for (const CLI::App* command : program.get_subcommands([](const CLI::App*) { return true; })) {
-        commands.push_back({command->get_name(), command->get_description(), command});
-    }
-    return commands;
-}
-
-std::string UsageOf(const CLI::App& parser) {
+std::string UsageOf(const CommandParser& parser) {
     std::string usage = "[OPTIONS]";
-    for (const OptionText& option : OptionsOf(parser)) {
+    for (const OptionText& option : parser.Options()) {
         if (!option.isArgument) continue;
         const std::string name = option.names.front() + (option.isRepeated ? "..." : "");
         usage += option.isRequired ? ' ' + name : " [" + name + ']';
     }
-    return CommandsOf(parser).empty() ? usage : usage + " COMMAND ...";
+    return parser.Commands().empty() ? usage : usage + " COMMAND ...";
 }
 
 std::vector<std::string> WordsOf(std::string_view command, std::string_view option) {
@@ -95,16 +59,16 @@ std::vector<std::string> WordsOf(std::string_view command, std::string_view opti
         if (command == "compare") return {"text", "json", "csv", "html"};
         if (command == "info") return {"text", "json"};
         if (command == "export") return {"csv", "jsonl", "sqlite", "xlsx"};
-        if (command == "report") return {"text", "pdf", "excel", "xlsx"};
+        if (command == "report") return ReportFormats();
         return {"text", "pdf", "excel"};
     }
     if (option == "--table" && command == "export") {
-        std::vector<std::string> names;
+        std::vector<std::string> names{"all"};
         for (const Table& table : AllTables()) names.emplace_back(table.name);
         return names;
     }
     if (option == "--table" && command == "compare") {
-        std::vector<std::string> names;
+        std::vector<std::string> names{"all"};
         for (const Table* table : ComparableTables()) names.emplace_back(table->name);
         return names;
     }
@@ -119,16 +83,17 @@ std::vector<std::string> WordsOf(std::string_view command, std::string_view opti
     if (option == "--class") return {"strength", "service", "extreme", "fatigue"};
     if (option == "--units") return {"us", "si"};
     if (option == "--footer") return {"none", "date", "time", "version", "filename"};
+    if (option == "--end") return {"I", "J"};
     if (option == "--envelope") return {"max", "min"};
     if (option == "--quantity") return QuantityWords();
     return {};
 }
 
-std::string HelpOf(const CLI::App& parser, const std::string& name, std::size_t width) {
-    std::string text = Wrapped(parser.get_description(), width) + "\n\n";
+std::string HelpOf(const CommandParser& parser, const std::string& name, std::size_t width) {
+    std::string text = Wrapped(parser.Description(), width) + "\n\n";
     text += Wrapped("Usage: " + name + ' ' + UsageOf(parser), width, 2) + '\n';
     std::string arguments, options;
-    for (const OptionText& option : OptionsOf(parser)) {
+    for (const OptionText& option : parser.Options()) {
         const std::string value = option.value.empty() ? "" : ' ' + option.value;
         (option.isArgument ? arguments : options) +=
             Entry(Joined(option.names, ", ") + value, option.meaning, width);
@@ -136,11 +101,11 @@ std::string HelpOf(const CLI::App& parser, const std::string& name, std::size_t 
     if (!arguments.empty()) text += "\nArguments:\n" + arguments;
     if (!options.empty()) text += "\nOptions:\n" + options;
     std::string commands;
-    for (const CommandText& command : CommandsOf(parser)) {
-        commands += Entry(command.name, command.meaning, width);
+    for (const CommandParser& command : parser.Commands()) {
+        commands += Entry(command.Name(), command.Description(), width);
     }
     if (!commands.empty()) text += "\nCommands:\n" + commands;
-    const std::string footer = parser.get_footer();
+    const std::string footer = parser.Footer();
     return footer.empty() ? text : text + '\n' + Wrapped(footer, width) + '\n';
 }
 

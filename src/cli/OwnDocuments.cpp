@@ -41,6 +41,12 @@ const OwnDocument* FindOwnDocument(std::string_view format) {
     return found == kDocuments.end() ? nullptr : &*found;
 }
 
+std::vector<std::string> ReportFormats() {
+    std::vector<std::string> formats{"text", "pdf", "excel"};
+    for (const OwnDocument& document : OwnDocuments()) formats.emplace_back(document.format);
+    return formats;
+}
+
 TableNeeds NeedsOf(std::span<const OwnDocument* const> documents) {
     TableNeeds needs;
     for (const OwnDocument* document : documents) needs.Add(document->needs());

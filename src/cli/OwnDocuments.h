@@ -27,6 +27,9 @@ std::span<const OwnDocument> OwnDocuments();
 // Null: there is no such document.
 const OwnDocument* FindOwnDocument(std::string_view format);
 
+// What --format of report takes: the formats of the dialogs and these documents.
+std::vector<std::string> ReportFormats();
+
 // The needs of several of them together.
 TableNeeds NeedsOf(std::span<const OwnDocument* const> documents);
 

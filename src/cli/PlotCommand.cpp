@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/PlotCommand.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
 #include <stdexcept>
@@ -167,42 +166,39 @@ int ReadEnd(const std::string& word) {
     throw std::invalid_argument("\"" + word + "\" is no end of an element (I, J)");
 }
 
-void AddElementOptions(CLI::App& command, FigureRequest& drawing) {
+void AddElementOptions(CommandParser& command, FigureRequest& drawing) {
     command
-        .add_option("--element", drawing.element,
-                    "The element of case-scan by its number; default: that with the greatest D/C")
-        ->type_name("N")
-        ->check(CLI::PositiveNumber);
+        .Add("--element", drawing.element,
+             "The element of case-scan by its number; default: that with the greatest D/C")
+        .Takes("N")
+        .Positive();
     command
-        .add_option_function<std::string>(
+        .OnText(
             "--end", [&drawing](const std::string& word) { drawing.end = ReadEnd(word); },
             "Its end, I or J; default: that with the greater D/C")
-        ->type_name("END");
+        .Takes("END");
 }
 
 }  // namespace
 
-ProgramCommand AddPlotCommand(CLI::App& program) {
+ProgramCommand AddPlotCommand(CommandParser& program) {
     const auto request = std::make_shared<PlotRequest>();
-    CLI::App& command = *program.add_subcommand("plot", "Draw a figure of a substructure");
-    command.add_option("PROJECT", request->project, "A project: its input file, with or without .in")
-        ->required()
-        ->type_name("");
-    command.add_option("FIGURE", request->figure, FigureNames())->required()->type_name("");
+    CommandParser command = program.AddCommand("plot", "Draw a figure of a substructure");
+    command.Add("PROJECT", request->project, "A project: its input file, with or without .in").Required();
+    command.Add("FIGURE", request->figure, FigureNames()).Required();
     command
-        .add_option("--substructure", request->drawing.substructure,
-                    "The substructure, from 1; needed where the project has several")
-        ->type_name("N");
+        .Add("--substructure", request->drawing.substructure,
+             "The substructure, from 1; needed where the project has several")
+        .Takes("N");
     AddElementOptions(command, request->drawing);
     AddStudyOptions(command, request->drawing.study);
     AddCaseOptions(command, request->cases);
     AddLimitOptions(command, request->limits);
-    command.add_option("-o,--output", request->output, "The file to write; - for standard output (default)")
-        ->type_name("FILE");
-    command.add_flag("--data", request->data, "Print the numbers of the figure as CSV");
-    command.footer(PlotFooter());
-    return {&command,
-            [request](std::ostream& out, std::ostream& err) { return RunPlot(*request, out, err); }};
+    command.Add("-o,--output", request->output, "The file to write; - for standard output (default)")
+        .Takes("FILE");
+    command.AddFlag("--data", request->data, "Print the numbers of the figure as CSV");
+    command.SetFooter(PlotFooter());
+    return {command, [request](std::ostream& out, std::ostream& err) { return RunPlot(*request, out, err); }};
 }
 
 }  // namespace lumerin

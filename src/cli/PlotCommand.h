@@ -22,6 +22,6 @@ struct PlotRequest {
 // Draws a figure of a substructure, or prints its numbers. Throws std::invalid_argument for wrong usage.
 ExitStatus RunPlot(const PlotRequest& request, std::ostream& out, std::ostream& err);
 
-ProgramCommand AddPlotCommand(CLI::App& program);
+ProgramCommand AddPlotCommand(CommandParser& program);
 
 }  // namespace lumerin

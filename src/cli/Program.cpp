@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Program.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
-#include <sstream>
 #include <stdexcept>
 
 #include "cli/CheckCommand.h"
@@ -25,7 +23,7 @@ namespace lumerin {
 
 namespace {
 
-using AddCommand = ProgramCommand (*)(CLI::App&);
+using AddCommand = ProgramCommand (*)(CommandParser&);
 
 // In the order of the help.
 constexpr AddCommand kCommands[] = {
@@ -52,6 +50,12 @@ constexpr const char* kProgramFooter =
 
 namespace {
 
+std::vector<ProgramCommand> AddCommands(CommandParser& program) {
+    std::vector<ProgramCommand> commands;
+    for (const AddCommand add : kCommands) commands.push_back(add(program));
+    return commands;
+}
+
 // "lumerin 1.0.0 (commit 0123456789ab)"
 std::string VersionText() {
     std::string text = "lumerin " + std::string(ProgramVersion());
@@ -61,55 +65,59 @@ std::string VersionText() {
 
 }  // namespace
 
-Program::Program() : m_parser(std::make_unique<CLI::App>("Report tables of bridge substructure results")) {
-    m_parser->name("lumerin");
-    // The parsers of the commands take it over.
-    m_parser->formatter_fn([](const CLI::App* parser, const std::string&, CLI::AppFormatMode) {
-        const bool isProgram = parser->get_parent() == nullptr;
-        return HelpOf(*parser, isProgram ? "lumerin" : "lumerin " + parser->get_name(), TerminalWidth());
-    });
-    m_parser->footer(kProgramFooter);
-    m_parser->set_version_flag("--version", VersionText());
-    m_parser->require_subcommand(1);
-    for (const AddCommand add : kCommands) m_commands.push_back(add(*m_parser));
-    m_help = m_parser->add_subcommand("help", "Print the help of the program or of a command");
-    m_help->footer("");
-    m_help->add_option("COMMAND", m_helpTopic, "The command; none: the program");
+Program::Program()
+    : m_parser("lumerin", "Report tables of bridge substructure results"),
+      m_commands(AddCommands(m_parser)),
+      m_help(m_parser.AddCommand("help", "Print the help of the program or of a command")) {
+    m_parser.SetFooter(kProgramFooter);
+    m_parser.AddVersion(VersionText());
+    m_parser.RequireCommand();
+    m_help.Add("COMMAND", m_helpTopic, "The command; none: the program");
 }
-
-Program::~Program() = default;
 
 ExitStatus Program::Run(int argc, const char* const* argv, std::ostream& out, std::ostream& err) {
     try {
         if (argc > 1 && argv[1][0] != '-') RequireCommand(argv[1]);
-        m_parser->parse(argc, argv);
-        return RunCommand(out, err);
-    } catch (const CLI::ExtrasError& error) {
-        PrintLine(err, "lumerin: " + ExtraWord(error.what()));
-        return kExitUsage;
-    } catch (const CLI::ParseError& error) {
-        std::ostringstream help, fault;
-        const int status = m_parser->exit(error, help, fault);
-        out << ForUser(help.str()) << std::flush;
-        err << ForUser(fault.str());
-        return status == 0 ? kExitDone : kExitUsage;
+        const ParseResult result = m_parser.Parse(argc, argv);
+        switch (result.outcome) {
+            case ParseOutcome::parsed:
+                return RunCommand(out, err);
+            case ParseOutcome::help:
+                return PrintHelp(ParsedCommand(), out);
+            case ParseOutcome::text:
+                out << ForUser(result.text) << std::flush;
+                return kExitDone;
+            case ParseOutcome::extra:
+                PrintLine(err, "lumerin: " + ExtraWord(result.reason));
+                break;
+            case ParseOutcome::wrong:
+                err << ForUser(result.text);
+                break;
+        }
     } catch (const std::exception& error) {
         PrintLine(err, std::string("lumerin: ") + error.what());
-        return kExitUsage;
-    }
-}
-
-ExitStatus Program::RunCommand(std::ostream& out, std::ostream& err) {
-    if (m_help->parsed()) return PrintHelp(m_helpTopic, out);
-    for (const ProgramCommand& command : m_commands) {
-        if (command.parser->parsed()) return command.run(out, err);
     }
     return kExitUsage;
 }
 
+ExitStatus Program::RunCommand(std::ostream& out, std::ostream& err) {
+    if (m_help.IsParsed()) return PrintHelp(m_helpTopic, out);
+    for (const ProgramCommand& command : m_commands) {
+        if (command.parser.IsParsed()) return command.run(out, err);
+    }
+    return kExitUsage;
+}
+
+std::string Program::ParsedCommand() const {
+    for (const CommandParser& command : m_parser.Commands()) {
+        if (command.IsParsed()) return command.Name();
+    }
+    return {};
+}
+
 void Program::RequireCommand(const std::string& word) const {
     std::vector<std::string> names;
-    for (const CommandText& command : CommandsOf(*m_parser)) names.push_back(command.name);
+    for (const CommandParser& command : m_parser.Commands()) names.push_back(command.Name());
     if (std::find(names.begin(), names.end(), word) != names.end()) return;
     std::string list;
     for (const std::string& name : names) list += (list.empty() ? "" : ", ") + name;
@@ -118,28 +126,30 @@ void Program::RequireCommand(const std::string& word) const {
 }
 
 std::string Program::ExtraWord(const std::string& usual) const {
-    for (const CommandText& command : CommandsOf(*m_parser)) {
-        if (!command.parser->parsed()) continue;
+    for (const CommandParser& command : m_parser.Commands()) {
+        if (!command.IsParsed()) continue;
         std::vector<std::string> names;
-        for (const OptionText& option : OptionsOf(*command.parser)) {
+        for (const OptionText& option : command.Options()) {
             if (!option.isArgument) names.insert(names.end(), option.names.begin(), option.names.end());
         }
-        const std::vector<std::string> words = command.parser->remaining();
+        const std::vector<std::string> words = command.Remaining();
         if (words.empty()) continue;
         const std::string word = words.front().substr(0, words.front().find('='));
-        if (word.starts_with('-')) return command.name + " has no option " + word + Suggestion(word, names);
-        return command.name + " takes no further argument: \"" + word + "\"";
+        if (word.starts_with('-')) return command.Name() + " has no option " + word + Suggestion(word, names);
+        return command.Name() + " takes no further argument: \"" + word + "\"";
     }
     return usual;
 }
 
-ExitStatus Program::PrintHelp(const std::string& command, std::ostream& out) const {
-    if (command.empty()) {
-        out << HelpOf(*m_parser, "lumerin", TerminalWidth()) << std::flush;
+ExitStatus Program::PrintHelp(const std::string& name, std::ostream& out) const {
+    if (name.empty()) {
+        out << HelpOf(m_parser, "lumerin", TerminalWidth()) << std::flush;
         return kExitDone;
     }
-    RequireCommand(command);
-    out << m_parser->get_subcommand(command)->help() << std::flush;
+    RequireCommand(name);
+    for (const CommandParser& command : m_parser.Commands()) {
+        if (command.Name() == name) out << HelpOf(command, "lumerin " + name, TerminalWidth()) << std::flush;
+    }
     return kExitDone;
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ProjectArguments.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -66,16 +65,14 @@ void AddName(const std::string& name, std::vector<std::string>& names) {
 
 }  // namespace
 
-void AddProjectArguments(CLI::App& command, ProjectArguments& arguments) {
+void AddProjectArguments(CommandParser& command, ProjectArguments& arguments) {
+    command.Add("PROJECT", arguments.given,
+                "A project: its input file, with or without .in; or a folder, for all projects in it and "
+                "in the folders below (*.in)");
     command
-        .add_option("PROJECT", arguments.given,
-                    "A project: its input file, with or without .in; or a folder, for all projects in it and "
-                    "in the folders below (*.in)")
-        ->type_name("");
-    command
-        .add_option("--files-from", arguments.listFile,
-                    "Read more projects and folders from a file, one a line; - for standard input")
-        ->type_name("FILE");
+        .Add("--files-from", arguments.listFile,
+             "Read more projects and folders from a file, one a line; - for standard input")
+        .Takes("FILE");
 }
 
 std::vector<ProjectName> ReadProjects(const ProjectArguments& arguments) {

@@ -5,10 +5,7 @@
 #include <vector>
 
 #include "records/OpenProject.h"
-
-namespace CLI {
-class App;
-}
+#include "script/CommandParser.h"
 
 namespace lumerin {
 
@@ -19,7 +16,7 @@ struct ProjectArguments {
 };
 
 // The variables must live as long as the parser.
-void AddProjectArguments(CLI::App& command, ProjectArguments& arguments);
+void AddProjectArguments(CommandParser& command, ProjectArguments& arguments);
 
 // The projects in order, first those of the command line; those of a folder are sorted by their paths. Throws
 // std::invalid_argument with a text for the user when there is none, a name is empty, or the list cannot be

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ReportCommand.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <memory>
 #include <stdexcept>
@@ -48,19 +47,19 @@ constexpr const char* kReportFooter =
     "     same, unless --strict is given)";
 
 // The options that say where documents go.
-void AddOutputOptions(CLI::App& command, ReportRequest& request) {
+void AddOutputOptions(CommandParser& command, ReportRequest& request) {
     command
-        .add_option("-o,--output", request.output.folder,
-                    "Write the files to this folder, which is made if it is missing; - writes one document "
-                    "to standard output")
-        ->type_name("DIR");
+        .Add("-o,--output", request.output.folder,
+             "Write the files to this folder, which is made if it is missing; - writes one document "
+             "to standard output")
+        .Takes("DIR");
     command
-        .add_option("--name", request.output.name,
-                    "Name the files after this pattern of {project} and {table}; the extension is added")
-        ->type_name("PATTERN");
-    command.add_flag("--json", request.json,
-                     "Print one record a project: status, files, findings, messages, milliseconds");
-    command.add_flag("--open", request.open, "Open each file that was written");
+        .Add("--name", request.output.name,
+             "Name the files after this pattern of {project} and {table}; the extension is added")
+        .Takes("PATTERN");
+    command.AddFlag("--json", request.json,
+                    "Print one record a project: status, files, findings, messages, milliseconds");
+    command.AddFlag("--open", request.open, "Open each file that was written");
 }
 
 std::vector<std::string> PartsOf(const std::vector<std::string>& lists) {
@@ -77,14 +76,13 @@ void AddOnce(std::vector<Value>& values, Value value) {
 }
 
 void RequireFormat(const std::string& word) {
-    std::vector<std::string> formats{"text", "pdf", "excel"};
-    for (const OwnDocument& document : OwnDocuments()) formats.emplace_back(document.format);
+    const std::vector<std::string> formats = ReportFormats();
     if (std::find(formats.begin(), formats.end(), LowerCase(word)) != formats.end()) return;
     throw std::invalid_argument(UnknownWord(word, "format", formats));
 }
 
 // Documents beside their projects would be in as many folders, so the stamps have theirs in that of -o.
-void Resume(const CLI::App& command, ReportRequest& request) {
+void Resume(const CommandParser& command, ReportRequest& request) {
     if (request.output.folder.empty() || request.output.ToStandardOutput()) {
         throw std::invalid_argument("--resume needs -o DIR");
     }
@@ -92,7 +90,7 @@ void Resume(const CLI::App& command, ReportRequest& request) {
     request.resumeOptions = GivenOptions(command);
 }
 
-ExitStatus RunReport(const CLI::App& command, ReportArguments& arguments, std::ostream& out,
+ExitStatus RunReport(const CommandParser& command, ReportArguments& arguments, std::ostream& out,
                      std::ostream& err) {
     ReportRequest& request = arguments.request;
     for (const std::string& word : PartsOf(arguments.formats)) {
@@ -128,37 +126,33 @@ ExitStatus RunReport(const CLI::App& command, ReportArguments& arguments, std::o
 
 }  // namespace
 
-ProgramCommand AddReportCommand(CLI::App& program) {
+ProgramCommand AddReportCommand(CommandParser& program) {
     const auto arguments = std::make_shared<ReportArguments>();
     ReportRequest& request = arguments->request;
-    CLI::App& command = *program.add_subcommand("report", "Write tables of one or more projects");
+    CommandParser command = program.AddCommand("report", "Write tables of one or more projects");
     AddProjectArguments(command, arguments->projects);
     command
-        .add_option(
-            "--table", arguments->tables,
-            "Tables, separated by commas or with the option repeated: " + TableNames() + " (default full)")
-        ->allow_extra_args(false)
-        ->type_name("LIST");
+        .Add("--table", arguments->tables,
+             "Tables, separated by commas or with the option repeated: " + TableNames() + " (default full)")
+        .OneValueEach()
+        .Takes("LIST");
     command
-        .add_option(
-            "--format", arguments->formats,
-            "Formats, likewise: text, pdf, excel, and with all tables in one file xlsx, html (default text)")
-        ->allow_extra_args(false)
-        ->type_name("LIST");
+        .Add("--format", arguments->formats,
+             "Formats, likewise: text, pdf, excel, and with all tables in one file xlsx, html (default text)")
+        .OneValueEach()
+        .Takes("LIST");
     AddCaseOptions(command, request.cases);
     AddLimitOptions(command, request.limits);
-    command
-        .add_option("--footer", arguments->footer,
-                    "none, or a list of date,time,version,filename (default all)")
-        ->type_name("LIST");
+    command.Add("--footer", arguments->footer, "none, or a list of date,time,version,filename (default all)")
+        .Takes("LIST");
     AddOutputOptions(command, request);
     AddResumeOption(command, arguments->resume, "-o DIR");
-    command.add_flag("--findings", request.findings,
-                     "Look for faults in the forces, although no table needs them");
-    command.add_flag("--strict", request.strict, "Write nothing for a project whose data have errors");
+    command.AddFlag("--findings", request.findings,
+                    "Look for faults in the forces, although no table needs them");
+    command.AddFlag("--strict", request.strict, "Write nothing for a project whose data have errors");
     AddCommonOptions(command, request.common);
-    command.footer(kReportFooter);
-    return {&command, [arguments, &command](std::ostream& out, std::ostream& err) {
+    command.SetFooter(kReportFooter);
+    return {command, [arguments, command](std::ostream& out, std::ostream& err) {
                 return RunReport(command, *arguments, out, err);
             }};
 }

@@ -6,6 +6,6 @@
 namespace lumerin {
 
 // "report": writes tables of projects by the buttons of the report dialog.
-ProgramCommand AddReportCommand(CLI::App& program);
+ProgramCommand AddReportCommand(CommandParser& program);
 
 }  // namespace lumerin

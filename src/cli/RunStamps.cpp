@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/RunStamps.h"
 
-#include <CLI/CLI.hpp>
 #include <array>
 #include <charconv>
 #include <filesystem>
@@ -226,21 +225,18 @@ std::string RunStamps::Close() {
     return {};
 }
 
-std::string GivenOptions(const CLI::App& command) {
-    std::string text = command.get_name();
-    for (const CLI::Option* option : command.get_options()) {
-        const std::string name = option->get_name();
-        if (option->count() == 0 || option->get_positional() || name == "--files-from" ||
-            name == "--resume" || name == "--jobs")
-            continue;
-        text += ' ' + name;
-        for (const std::string& value : option->results()) text += '=' + value;
+std::string GivenOptions(const CommandParser& command) {
+    std::string text = command.Name();
+    for (const GivenOption& option : command.Given()) {
+        if (option.name == "--files-from" || option.name == "--resume" || option.name == "--jobs") continue;
+        text += ' ' + option.name;
+        for (const std::string& value : option.values) text += '=' + value;
     }
     return text;
 }
 
-CLI::Option* AddResumeOption(CLI::App& command, bool& resume, const char* needs) {
-    return command.add_flag(
+void AddResumeOption(CommandParser& command, bool& resume, const char* needs) {
+    command.AddFlag(
         "--resume", resume,
         std::string("Pass over projects that an earlier run with --resume and the same options has done, and "
                     "whose files are unchanged; their results are kept (needs ") +

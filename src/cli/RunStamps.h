@@ -12,11 +12,7 @@
 
 #include "cli/ExitStatus.h"
 #include "records/OpenProject.h"
-
-namespace CLI {
-class App;
-class Option;
-}  // namespace CLI
+#include "script/CommandParser.h"
 
 namespace lumerin {
 
@@ -78,8 +74,8 @@ class RunStamps {
 
 // The options of a command that were given, with their values, in the order of its help. Those that change no
 // outcome are left out: the projects, --files-from and --resume.
-std::string GivenOptions(const CLI::App& command);
+std::string GivenOptions(const CommandParser& command);
 
-CLI::Option* AddResumeOption(CLI::App& command, bool& resume, const char* needs);
+void AddResumeOption(CommandParser& command, bool& resume, const char* needs);
 
 }  // namespace lumerin

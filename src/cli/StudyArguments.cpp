@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/StudyArguments.h"
 
-#include <CLI/CLI.hpp>
 #include <stdexcept>
 
 #include "cli/Options.h"
@@ -18,26 +17,26 @@ int ReadEnvelope(std::string_view text) {
                                 Suggestion(text, {"max", "min"}) + " (max, min)");
 }
 
-void AddStudyOptions(CLI::App& command, StudyView& view) {
+void AddStudyOptions(CommandParser& command, StudyView& view) {
     command
-        .add_option_function<int>(
+        .OnInteger(
             "--case",
             [&view](int loadCase) {
                 view.loadCase = loadCase;
                 view.hasCase = true;
             },
             "Number of the load case (default 1)")
-        ->type_name("N");
+        .Takes("N");
     command
-        .add_option_function<std::string>(
+        .OnText(
             "--envelope", [&view](const std::string& word) { view.envelope = ReadEnvelope(word); },
             "max or min over all cases; with --case beside that case")
-        ->type_name("WORD");
+        .Takes("WORD");
     command
-        .add_option_function<std::string>(
+        .OnText(
             "--quantity", [&view](const std::string& word) { view.quantity = ReadQuantity(word); },
             "lateral displacement (default), lateral-x, lateral-y, max-axial or min-axial force")
-        ->type_name("WORD");
+        .Takes("WORD");
 }
 
 }  // namespace lumerin

@@ -4,10 +4,7 @@
 #include <string_view>
 
 #include "embedment/StudyCurves.h"
-
-namespace CLI {
-class App;
-}
+#include "script/CommandParser.h"
 
 namespace lumerin {
 
@@ -16,6 +13,6 @@ int ReadEnvelope(std::string_view text);
 
 // --case, --envelope and --quantity. `view` must live as long as the parser. A wrong value is reported while
 // the command line is parsed.
-void AddStudyOptions(CLI::App& command, StudyView& view);
+void AddStudyOptions(CommandParser& command, StudyView& view);
 
 }  // namespace lumerin

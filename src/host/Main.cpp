@@ -2,7 +2,6 @@
 #include <fcntl.h>
 #include <io.h>
 
-#include <CLI/CLI.hpp>
 #include <array>
 #include <cstdlib>
 #include <fstream>
@@ -16,6 +15,7 @@
 #include "host/Resources.h"
 #include "host/Token.h"
 #include "host/WindowDriver.h"
+#include "script/CommandParser.h"
 #include "text/Paths.h"
 #include "text/Product.h"
 #include "text/Utf8.h"
@@ -209,32 +209,39 @@ HostExit Run(const HostOptions& options) {
 // The exit status.
 int RunCommandLine(int argc, char** argv) {
     HostOptions options;
-    CLI::App program("Stand-in for the host program of Lumerin.dll");
-    program.add_option("PROJECT", options.project, "Input file of a project (.in), or \"\" for none")
-        ->required();
-    CLI::Option* script =
-        program.add_option("SCRIPT", options.script, "File of actions for the dialogs, one a line");
-    program.add_option("--format", options.format, "Format to start on: text, pdf, excel, or a number");
-    program.add_option("--version-text", options.version, "The host's version");
-    program.add_option("--text-a", options.textA, "The fourth argument of the export; nothing shows it");
-    program.add_option("--text-b", options.textB, "The fifth argument; nothing shows it");
-    program.add_option("--plot-argument", options.plotArgument, "The sixth argument, for the plot module");
-    program.add_flag("--waits", options.waits,
-                     "Report the time to each dialog and the longest wait after each action");
+    ProgramParser program("", "Stand-in for the host program of Lumerin.dll");
+    program.Add("PROJECT", options.project, "Input file of a project (.in), or \"\" for none").Required();
+    const CommandOption script =
+        program.Add("SCRIPT", options.script, "File of actions for the dialogs, one a line");
+    program.Add("--format", options.format, "Format to start on: text, pdf, excel, or a number");
+    program.Add("--version-text", options.version, "The host's version");
+    program.Add("--text-a", options.textA, "The fourth argument of the export; nothing shows it");
+    program.Add("--text-b", options.textB, "The fifth argument; nothing shows it");
+    program.Add("--plot-argument", options.plotArgument, "The sixth argument, for the plot module");
+    program.AddFlag("--waits", options.waits,
+                    "Report the time to each dialog and the longest wait after each action");
     program
-        .add_option("--rounds", options.rounds,
-                    "Play the script this many times and report what the process holds after each")
-        ->check(CLI::PositiveNumber)
-        ->needs(script);
-    program.add_flag("--leak", options.leaks, "Leak one of each with every round, to try the counts");
-    program.add_option("--font-size", options.fontSize, "Font size of the text viewer in points");
-    program.add_option("--clock", options.clock, "Date and time to print, YYYY-MM-DDTHH:MM:SS");
-    try {
-        program.parse(argc, argv);
-    } catch (const CLI::ParseError& error) {
-        return program.exit(error) == 0 ? kDone : kUsage;
+        .Add("--rounds", options.rounds,
+             "Play the script this many times and report what the process holds after each")
+        .Positive()
+        .Needs(script);
+    program.AddFlag("--leak", options.leaks, "Leak one of each with every round, to try the counts");
+    program.Add("--font-size", options.fontSize, "Font size of the text viewer in points");
+    program.Add("--clock", options.clock, "Date and time to print, YYYY-MM-DDTHH:MM:SS");
+    const ParseResult result = program.Parse(argc, argv);
+    switch (result.outcome) {
+        case ParseOutcome::parsed:
+            return Run(options);
+        case ParseOutcome::help:
+        case ParseOutcome::text:
+            std::cout << result.text;
+            return kDone;
+        case ParseOutcome::extra:
+        case ParseOutcome::wrong:
+            break;
     }
-    return Run(options);
+    std::cerr << result.text;
+    return kUsage;
 }
 
 }  // namespace
