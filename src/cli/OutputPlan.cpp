@@ -87,8 +87,7 @@ std::string WriteFault(const std::string& path) {
         return (fs::exists(NativePath(folder), ignored) ? "not a folder: " : "no such folder: ") + folder;
     }
     const std::error_code fault = ErrorOfWriting(path);
-    if (IsForbidden(fault)) return "permission denied: " + path;
-    return fault ? fault.message() + ": " + path : "";
+    return fault ? FaultInWords(fault) + ": " + path : "";
 }
 
 }  // namespace lumerin

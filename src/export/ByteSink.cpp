@@ -12,8 +12,7 @@ std::string WhyNotWritten(const std::string& path) {
     if (!IsFolder(folder)) return "there is no folder " + folder;
     if (IsFolder(path)) return "it is a folder: " + path;
     const std::error_code fault = ErrorOfWriting(path);
-    if (IsForbidden(fault)) return "permission denied: " + path;
-    return "cannot be written: " + path;
+    return (fault ? FaultInWords(fault) : "cannot be written") + ": " + path;
 }
 
 FileSink::FileSink(const std::string& path) : m_path(path) {
@@ -27,7 +26,9 @@ void FileSink::Write(std::string_view bytes) {
 }
 
 void FileSink::Commit() {
-    if (!m_file.Commit()) throw ExportError("the file could not be stored whole: " + m_path);
+    if (m_file.Commit()) return;
+    const std::error_code fault = ErrorOfWriting(m_path);
+    throw ExportError((fault ? FaultInWords(fault) : "the file could not be stored whole") + ": " + m_path);
 }
 
 void StreamSink::Write(std::string_view bytes) {

@@ -36,9 +36,12 @@ bool SeekTo(std::FILE* file, std::int64_t offset, int origin) {
 
 }  // namespace
 
-bool IsForbidden(const std::error_code& fault) {
-    return fault == std::errc::permission_denied || fault == std::errc::operation_not_permitted ||
-           fault == std::errc::read_only_file_system;
+std::string FaultInWords(const std::error_code& fault) {
+    if (fault == std::errc::device_or_resource_busy) return "another program has it open";
+    const bool forbidden = fault == std::errc::permission_denied ||
+                           fault == std::errc::operation_not_permitted ||
+                           fault == std::errc::read_only_file_system;
+    return forbidden ? "permission denied" : fault.message();
 }
 
 CFileException::CFileException(Cause cause, std::string fileName, const std::string& fault, long osError)

@@ -37,8 +37,8 @@ std::FILE* OpenForReading(const std::string& path);
 // Why an existing file cannot be written, or a new one not be made in its folder; none where it can be.
 // Nothing is changed.
 std::error_code ErrorOfWriting(const std::string& path);
-// Whether the user may not write it.
-bool IsForbidden(const std::error_code& fault);
+// That fault for a message which names the file: "permission denied", "another program has it open".
+std::string FaultInWords(const std::error_code& fault);
 
 // Identifies a file and its version without reading it.
 struct FileStamp {

@@ -140,6 +140,13 @@ TEST_F(Sqlite, RefusesFilesThatAreNotItsOwn) {
     EXPECT_EQ(Number("SELECT count(*) FROM mine"), 0);
 }
 
+TEST_F(Sqlite, AFileThatCannotBeMadeIsReportedWithTheReason) {
+    EXPECT_THAT([&] { SqliteWriter(m_folder.PathOf("missing/results.sqlite"), "1"); },
+                ThrowsMessage<ExportError>(HasSubstr("there is no folder " + m_folder.PathOf("missing"))));
+    std::filesystem::create_directory(Path());
+    EXPECT_THAT([&] { SqliteWriter(Path(), "1"); }, ThrowsMessage<ExportError>("it is a folder: " + Path()));
+}
+
 TEST_F(Sqlite, RefusesTablesOfAnotherVersion) {
     Export("a", kSampleTable, 1);
     Database(Path(), Database::Access::create).Run("PRAGMA user_version = 99");

@@ -59,8 +59,10 @@ std::error_code ErrorOfWriting(const std::string& path) {
         return {};
     }
     switch (GetLastError()) {
-        case ERROR_ACCESS_DENIED:
         case ERROR_SHARING_VIOLATION:
+        case ERROR_LOCK_VIOLATION:
+            return std::make_error_code(std::errc::device_or_resource_busy);
+        case ERROR_ACCESS_DENIED:
         case ERROR_WRITE_PROTECT:
             return std::make_error_code(std::errc::permission_denied);
         case ERROR_DISK_FULL:
