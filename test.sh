@@ -47,6 +47,11 @@ install() {
     tools/install sanitize && tools/install windows
 }
 
+# What is installed and what the documents and the notices say of it; packaging/check of tools/release uses the packages.
+packaged() {
+    packaging/check-files build/native && packaging/check-sbom --notices
+}
+
 # The test of two projects in two threads alone; tools/nightly runs the others under the thread sanitizer too.
 two_threads() {
     build threads && TMPDIR=$scratch build/threads/test-threads --gtest_brief=1
@@ -94,6 +99,7 @@ step "formatter" format
 step "native build" build native
 step "layers of the libraries" tools/check-layers build/native
 step "native tests" run_tests native
+step "what is packaged" packaged
 step "speed ratios" bench/check-ratios
 start_windows
 # Its short bursts of work come first; everything else fills the time in between.

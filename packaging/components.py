@@ -78,10 +78,10 @@ def release_version():
 
 
 def debian_version(component):
-    """The version of Debian's package, as it is installed here or pinned for Windows."""
+    """The version of Debian's package, as it is installed here or pinned for Windows; empty where it is not installed."""
     if component.source:
         return re.search(rf"\b{component.source}=([^\s)]+)", (ROOT / "tools" / "windows-libraries").read_text(encoding="utf-8"))[1]
-    done = subprocess.run(["dpkg-query", "-W", "-f", "${Version}\n", component.package], capture_output=True, text=True, check=True)
+    done = subprocess.run(["dpkg-query", "-W", "-f", "${Version}\n", component.package], capture_output=True, text=True)
     return done.stdout.split("\n")[0]
 
 
