@@ -1,19 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Progress.h"
 
-#include <unistd.h>
-
 #include <chrono>
 #include <utility>
+
+#include "cli/Console.h"
 
 namespace lumerin {
 
 Progress::Progress(std::ostream& err, std::string text) : m_err(err) {
-    if (isatty(STDERR_FILENO) == 0) return;
-    m_thread = std::thread([this, line = std::move(text)] {
+    if (!console::IsConsole(console::Stream::error)) return;
+    m_line = std::move(text) + " ...";
+    m_thread = std::thread([this] {
         std::unique_lock lock(m_mutex);
         if (m_ending.wait_for(lock, std::chrono::seconds(1), [this] { return m_ended; })) return;
-        m_err << line << " ..." << std::flush;
+        m_err << m_line << std::flush;
         m_shown = true;
     });
 }
@@ -26,7 +27,12 @@ void Progress::End() {
     }
     m_ending.notify_one();
     m_thread.join();
-    if (m_shown) m_err << "\r\033[K" << std::flush;
+    if (!m_shown) return;
+    if (console::TakesEscapes(console::Stream::error)) {
+        m_err << "\r\033[K" << std::flush;
+    } else {
+        m_err << '\r' << std::string(m_line.size(), ' ') << '\r' << std::flush;
+    }
 }
 
 }  // namespace lumerin

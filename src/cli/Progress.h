@@ -22,6 +22,7 @@ class Progress {
 
   private:
     std::ostream& m_err;
+    std::string m_line;
     std::mutex m_mutex;
     std::condition_variable m_ending;
     bool m_ended = false;

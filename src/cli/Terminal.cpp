@@ -1,16 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Terminal.h"
 
-#include <fcntl.h>
-#include <sys/ioctl.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>
 #include <iostream>
 #include <vector>
 
+#include "cli/Console.h"
 #include "framework/Index.h"
 
 namespace lumerin {
@@ -47,16 +44,8 @@ std::string WrappedLine(std::string_view line, std::size_t width, std::size_t in
 
 }  // namespace
 
-bool IsTerminal(const std::ostream& stream) {
-    if (&stream == &std::cout) return isatty(STDOUT_FILENO) != 0;
-    if (&stream == &std::cerr) return isatty(STDERR_FILENO) != 0;
-    return false;
-}
-
 std::size_t TerminalWidth() {
-    std::size_t width = 0;
-    winsize size{};
-    if (ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0) width = size.ws_col;
+    std::size_t width = console::Width();
     if (width == 0) {
         const char* text = std::getenv("COLUMNS");
         const std::string_view columns = text == nullptr ? "" : text;
@@ -67,7 +56,10 @@ std::size_t TerminalWidth() {
 
 bool UsesColour(const std::ostream& stream) {
     const char* forbidden = std::getenv("NO_COLOR");
-    return IsTerminal(stream) && (forbidden == nullptr || *forbidden == '\0');
+    const bool isOutput = &stream == &std::cout;
+    if (!isOutput && &stream != &std::cerr) return false;
+    return console::TakesEscapes(isOutput ? console::Stream::output : console::Stream::error) &&
+           (forbidden == nullptr || *forbidden == '\0');
 }
 
 std::string Painted(std::string_view text, Paint paint, const std::ostream& stream) {
@@ -101,13 +93,6 @@ std::string Wrapped(std::string_view text, std::size_t width, std::size_t indent
     }
     end(false);
     return wrapped;
-}
-
-void OpenStandardStreams() {
-    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-        // The lowest free number is given, which is that of the stream.
-        if (fcntl(stream, F_GETFD) == -1) open("/dev/null", O_RDONLY);
-    }
 }
 
 }  // namespace lumerin

@@ -168,6 +168,8 @@ std::vector<GivenOption> CommandParser::Given() const {
 ProgramParser::ProgramParser(const std::string& name, const std::string& description)
     : CommandParser(nullptr), m_owned(std::make_unique<CLI::App>(description, name)) {
     m_parser = m_owned.get();
+    // A path of Linux begins as an option of Windows does.
+    m_parser->allow_windows_style_options(false);
 }
 
 ProgramParser::~ProgramParser() = default;

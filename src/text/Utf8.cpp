@@ -87,4 +87,16 @@ std::string ToWestern(std::string_view text) {
     return out;
 }
 
+std::size_t WholeCharacters(std::string_view text) {
+    constexpr std::size_t kLongest = 4;
+    for (std::size_t back = 1; back < kLongest && back <= text.size(); ++back) {
+        const auto byte = static_cast<unsigned char>(text[text.size() - back]);
+        if (byte < 0x80) break;
+        if (byte < 0xC0) continue;
+        const std::size_t length = byte >= 0xF0 ? 4 : byte >= 0xE0 ? 3 : 2;
+        return text.size() - (length > back ? back : 0);
+    }
+    return text.size();
+}
+
 }  // namespace lumerin

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -16,5 +17,8 @@ std::string ToUtf8(std::string_view text);
 // A UTF-8 text in the code page, with a "?" for each character that the code page does not have. Bytes that
 // are not a UTF-8 sequence are taken as bytes of the code page.
 std::string ToWestern(std::string_view text);
+
+// The bytes of a UTF-8 text without a character at its end that has only begun.
+std::size_t WholeCharacters(std::string_view text);
 
 }  // namespace lumerin

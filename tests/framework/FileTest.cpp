@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "framework/TemporaryFolder.h"
 #include "support/ScratchFolder.h"
 
 namespace lumerin {
@@ -138,6 +139,29 @@ TEST_F(FileTest, OpeningAgainLeavesTheFileBefore) {
     EXPECT_EQ(file.ReadBytes(&c, 1), 1U);
     EXPECT_EQ(c, '2');
     EXPECT_EQ(file.Path(), Path("two"));
+}
+
+TEST_F(FileTest, SaysWhyAFileCannotBeWritten) {
+    const std::string there = Write("there", "content");
+    EXPECT_FALSE(ErrorOfWriting(there));
+    EXPECT_FALSE(ErrorOfWriting(Path("new")));
+    EXPECT_EQ(m_scratch.Read("there"), "content");
+    EXPECT_FALSE(m_scratch.Has("new"));
+    EXPECT_EQ(std::distance(fs::directory_iterator(m_scratch.Path()), {}), 2) << "something was left";
+    EXPECT_EQ(ErrorOfWriting(Path("no folder/new")), std::errc::no_such_file_or_directory);
+}
+
+TEST(TemporaryFolder, IsForItsUserAndGoesWithWhatIsInIt) {
+    std::string path;
+    {
+        const TemporaryFolder folder, other;
+        path = folder.Path();
+        EXPECT_NE(path, other.Path());
+        EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_all);
+        std::ofstream(path + "/file") << "x";
+        fs::create_directory(path + "/folder");
+    }
+    EXPECT_FALSE(fs::exists(path));
 }
 
 }  // namespace

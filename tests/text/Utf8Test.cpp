@@ -72,6 +72,21 @@ TEST(ToWestern, BringsEachByteOfTheCodePageBack) {
     }
 }
 
+TEST(WholeCharacters, LeavesOutACharacterThatHasOnlyBegun) {
+    const std::string bridge = "a\xF0\x9F\x8C\x89", stroke = "a\xE2\x80\x93", umlaut = "a\xC3\xBC";
+    for (const std::string& text : {bridge, stroke, umlaut}) {
+        for (std::size_t bytes = 2; bytes < text.size(); ++bytes) {
+            EXPECT_EQ(WholeCharacters(text.substr(0, bytes)), 1U) << bytes << " of " << text;
+        }
+        EXPECT_EQ(WholeCharacters(text), text.size());
+    }
+    EXPECT_EQ(WholeCharacters(""), 0U);
+    EXPECT_EQ(WholeCharacters("\xC3"), 0U);
+    EXPECT_EQ(WholeCharacters("plain"), 5U);
+    // What is no UTF-8 does not wait for more.
+    EXPECT_EQ(WholeCharacters("\x80\x80\x80\x80"), 4U);
+}
+
 }  // namespace
 
 }  // namespace lumerin
