@@ -31,8 +31,8 @@ Database::Database(const std::string& path, Access access) : m_path(path) {
     const int code = sqlite3_open_v2(PathForSqlite(path).c_str(), &opened, flags | SQLITE_OPEN_NOMUTEX,
                                      SqliteFileFunctions());
     m_database.reset(opened);
-    // The library does not say why.
-    if (code == SQLITE_CANTOPEN && access == Access::create) throw ExportError(WhyNotWritten(path));
+    // The library does not say why. What is read is to be written to.
+    if (code == SQLITE_CANTOPEN) throw ExportError(WhyNotWritten(path));
     if (code != SQLITE_OK) Fail();
     sqlite3_busy_timeout(opened, kBusyMilliseconds);
     // Limits of the file system and of its rights are better reported than guessed.
