@@ -29,6 +29,7 @@ def without_field(document):
 def licence_of(text):
     def change(document):
         component(document, "zlib")["licenseDeclared"] = text
+
     return change
 
 
@@ -42,18 +43,26 @@ FAULTS = {
     "a namespace with a fragment": (lambda d: d.update(documentNamespace="urn:uuid:1#2"), "documentNamespace"),
     "an identifier with a blank": (lambda d: d["files"][0].update(SPDXID="SPDXRef-File 1"), "wrong form"),
     "one identifier twice": (lambda d: d["files"][0].update(SPDXID=d["files"][1]["SPDXID"]), "twice"),
-    "a relationship to nothing": (lambda d: d["relationships"][3].update(relatedSpdxElement="SPDXRef-None"), "refers to nothing"),
+    "a relationship to nothing": (
+        lambda d: d["relationships"][3].update(relatedSpdxElement="SPDXRef-None"),
+        "refers to nothing",
+    ),
     "an unknown relationship": (lambda d: d["relationships"][3].update(relationshipType="LINKS"), "relationshipType"),
     "a licence that is none": (licence_of("ZLIB-Licence"), "ZLIB-Licence"),
     "an expression that ends early": (licence_of("MIT AND"), "licenseDeclared"),
     "a licence without its text": (licence_of("LicenseRef-other"), "without its text"),
     "an exception in the place of a licence": (licence_of("GCC-exception-3.1"), "licenseDeclared"),
-    "a checksum of another file": (lambda d: d["files"][0]["checksums"][0].update(checksumValue="0" * 40), "verification code"),
+    "a checksum of another file": (
+        lambda d: d["files"][0]["checksums"][0].update(checksumValue="0" * 40),
+        "verification code",
+    ),
     "a checksum in capitals": (lambda d: d["files"][0]["checksums"][1].update(checksumValue="A" * 64), "wrong form"),
     "a list without entries": (lambda d: d["packages"][0].update(checksums=[]), "empty"),
     "a number for a text": (lambda d: d["packages"][0].update(versionInfo=1.1), "no text"),
-    "a file of no package": (lambda d: d["relationships"].remove(next(r for r in d["relationships"] if r["relationshipType"] == "CONTAINS")),
-                             "verification code"),
+    "a file of no package": (
+        lambda d: d["relationships"].remove(next(r for r in d["relationships"] if r["relationshipType"] == "CONTAINS")),
+        "verification code",
+    ),
 }
 
 
