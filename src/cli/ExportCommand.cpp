@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ExportCommand.h"
 
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <stdexcept>
@@ -16,7 +15,6 @@
 #include "export/Description.h"
 #include "export/FilePerTable.h"
 #include "framework/File.h"
-#include "framework/NativePath.h"
 #include "records/Findings.h"
 #include "script/Border.h"
 
@@ -73,9 +71,7 @@ void ExportRun::OpenWriter() {
         m_writer = MakeWriter(m_request, m_out);
         return;
     }
-    std::error_code fault;
-    std::filesystem::create_directories(NativePath(m_request.output), fault);
-    if (fault) throw ExportError("the folder cannot be made: " + m_request.output);
+    if (!MakeFolders(m_request.output)) throw ExportError("the folder cannot be made: " + m_request.output);
     m_writer = std::make_unique<FilePerTable>([this](const Table& table) {
         m_files.push_back(FileOf(m_request, *m_project, table));
         return MakeFileWriter(m_request, m_files.back());

@@ -2,13 +2,11 @@
 #include "cli/InfoReport.h"
 
 #include <algorithm>
-#include <filesystem>
 
 #include "embedment/EmbedmentFiles.h"
 #include "embedment/EmbedmentResults.h"
 #include "framework/File.h"
 #include "framework/Index.h"
-#include "framework/NativePath.h"
 #include "model/CapChain.h"
 #include "records/TableReason.h"
 #include "tables/Words.h"
@@ -61,9 +59,7 @@ SubstructureInfo DescribeSubstructure(const Evaluation& evaluation, std::size_t 
     info.nodes = pier.m_nNodes;
     const std::string path = evaluation.Opened().project.forces[p]->Name();
     info.forceFile = ToUtf8(path.substr(FolderOf(path).size()));
-    std::error_code fault;
-    const auto bytes = std::filesystem::file_size(NativePath(FindFileAnyCase(path)), fault);
-    info.bytes = fault ? 0 : static_cast<long long>(bytes);
+    info.bytes = std::max<std::int64_t>(StampOf(path).length, 0);
     return info;
 }
 

@@ -83,8 +83,7 @@ std::string WriteFault(const std::string& path) {
     const fs::path parent = NativePath(path).parent_path();
     const std::string folder = parent.empty() ? "." : FromNativePath(parent);
     if (!IsFolder(folder)) {
-        std::error_code ignored;
-        return (fs::exists(NativePath(folder), ignored) ? "not a folder: " : "no such folder: ") + folder;
+        return (FindFileAnyCase(folder).empty() ? "no such folder: " : "not a folder: ") + folder;
     }
     const std::error_code fault = ErrorOfWriting(path);
     return fault ? FaultInWords(fault) + ": " + path : "";

@@ -1,21 +1,18 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ProjectArguments.h"
 
-#include <algorithm>
-#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
-#include <system_error>
 
+#include "framework/Backend.h"
 #include "framework/File.h"
+#include "framework/FolderNames.h"
 #include "framework/NativePath.h"
 
 namespace lumerin {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 // Empty lines are passed over; a list that was written on Windows ends its lines with two characters.
 void ReadLines(std::istream& list, std::vector<std::string>& names) {
@@ -28,26 +25,24 @@ void ReadLines(std::istream& list, std::vector<std::string>& names) {
 // The projects in the folder and the folders in it, sorted. A folder that cannot be listed stays in the list
 // under its own name: it is reported as a project that was not loaded, and the others are done. Links to
 // folders are not followed, so that a search always ends.
-void AddProjectsBelow(const fs::path& folder, std::vector<std::string>& names) {
-    std::vector<fs::path> entries;
-    std::error_code fault;
-    for (fs::directory_iterator entry(folder, fault), end; !fault && entry != end; entry.increment(fault)) {
-        entries.push_back(entry->path());
-    }
-    if (fault) {
-        names.push_back(FromNativePath(folder));
+void AddProjectsBelow(const std::string& folder, std::vector<std::string>& names) {
+    const std::vector<std::string> entries = EntriesStartingWith(folder, "");
+    if (entries.empty()) {
+        names.push_back(folder);
         return;
     }
-    std::sort(entries.begin(), entries.end());
-    for (const fs::path& entry : entries) {
-        const std::string path = FromNativePath(entry);
-        std::error_code ignored;
-        const bool isFolder = fs::is_directory(fs::symlink_status(entry, ignored));
+    const bool ends = services::IsFolderSeparator(folder.back());
+    for (const std::string& entry : entries) {
+        if (entry == "." || entry == "..") continue;
+        std::string path = folder;
+        if (!ends) path += services::FolderSeparator();
+        path += entry;
+        const bool isFolder = IsRealFolder(path);
         const bool isInputFile = IsInputFile(path);
         if (isInputFile && (!isFolder || ProjectExists(ProjectName(path)))) {
             names.push_back(path);
         } else if (isFolder) {
-            AddProjectsBelow(entry, names);
+            AddProjectsBelow(path, names);
         }
     }
 }
@@ -59,7 +54,7 @@ void AddName(const std::string& name, std::vector<std::string>& names) {
         return;
     }
     const std::size_t before = names.size();
-    AddProjectsBelow(NativePath(name), names);
+    AddProjectsBelow(name, names);
     if (names.size() == before) names.push_back(name);
 }
 

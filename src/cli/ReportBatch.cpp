@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <chrono>
-#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <nlohmann/json.hpp>
@@ -14,6 +13,7 @@
 #include "cli/ReportDriver.h"
 #include "cli/RunStamps.h"
 #include "export/TableWriter.h"
+#include "framework/File.h"
 #include "framework/NativePath.h"
 #include "framework/TemporaryFolder.h"
 #include "framework/WholeFile.h"
@@ -227,8 +227,7 @@ ExitStatus RunReports(const ReportRequest& options, std::ostream& out, std::ostr
     }
     if (!options.output.folder.empty()) {
         // Each document says why it cannot be written there.
-        std::error_code ignored;
-        std::filesystem::create_directories(NativePath(options.output.folder), ignored);
+        MakeFolders(options.output.folder);
     }
     std::optional<RunStamps> stamps;
     if (!options.stamps.empty()) stamps.emplace(options.stamps, options.resumeOptions);

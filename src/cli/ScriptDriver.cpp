@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/ScriptDriver.h"
-#include "framework/NativePath.h"
+#include "framework/File.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <utility>
 
 namespace lumerin {
@@ -34,8 +33,7 @@ std::string OpenedDocument(const std::string& file, const std::string& parameter
 }
 
 bool IsDocumentThere(const std::string& path) {
-    std::error_code ignored;
-    return std::filesystem::exists(NativePath(path), ignored);
+    return !FindFileAnyCase(path).empty();
 }
 
 int ShellCodeOfDocument(const std::string& file, const std::string& parameters) {

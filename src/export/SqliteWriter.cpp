@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "framework/File.h"
 #include "framework/NativePath.h"
 
 namespace lumerin {
@@ -59,9 +60,7 @@ bool IsDatabaseOfExports(Database& database) {
 // Opens a database for a look. None: there is nothing yet.
 std::optional<Database> OpenExisting(const std::string& path) {
     std::error_code ignored;
-    if (!std::filesystem::exists(NativePath(path), ignored) ||
-        std::filesystem::file_size(NativePath(path), ignored) == 0)
-        return {};
+    if (StampOf(path).length <= 0) return {};
     return Database(path, Database::Access::read);
 }
 

@@ -2,8 +2,11 @@
 #include "framework/File.h"
 
 #include <cerrno>
+#include <filesystem>
 #include <system_error>
 #include <utility>
+
+#include "framework/NativePath.h"
 
 namespace lumerin {
 
@@ -35,6 +38,16 @@ bool SeekTo(std::FILE* file, std::int64_t offset, int origin) {
 }
 
 }  // namespace
+
+bool MakeFolders(const std::string& path) {
+    if (path.empty() || IsFolder(path)) return true;
+    const std::filesystem::path native = NativePath(path);
+    const std::filesystem::path parent = native.parent_path();
+    if (parent != native && !MakeFolders(FromNativePath(parent))) return false;
+    std::error_code ignored;
+    std::filesystem::create_directory(native, ignored);
+    return IsFolder(path);
+}
 
 std::string FaultInWords(const std::error_code& fault) {
     if (fault == std::errc::device_or_resource_busy) return "another program has it open";

@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <cstdio>
 #include <exception>
 #include <memory>
+#include <optional>
 #include <string>
 #include <system_error>
 
@@ -30,6 +32,10 @@ class CFileException : public std::exception {
 // folders and name differ from it in case alone. Empty: there is none.
 std::string FindFileAnyCase(const std::string& path);
 bool IsFolder(const std::string& path);
+// A folder itself, not a link to one.
+bool IsRealFolder(const std::string& path);
+// Makes the folder, and those above it that are missing. False: it is not there afterwards.
+bool MakeFolders(const std::string& path);
 
 // Null: it cannot be opened, for the reason in errno. The caller closes it.
 std::FILE* OpenForReading(const std::string& path);
@@ -50,6 +56,8 @@ struct FileStamp {
 };
 // The stamp of the file at the path, found whatever the case of its name.
 FileStamp StampOf(const std::string& path);
+// When the file was written last; nothing where there is none.
+std::optional<std::chrono::system_clock::time_point> LastChange(const std::string& path);
 
 // A file that is opened for reading; other programs may open it meanwhile, too. Reading fails with
 // CFileException.

@@ -4,13 +4,11 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <filesystem>
 
 #include "embedment/EmbedmentFiles.h"
 #include "embedment/EmbedmentResults.h"
 #include "framework/File.h"
 #include "framework/Index.h"
-#include "framework/NativePath.h"
 #include "model/CapChain.h"
 #include "model/LimitStates.h"
 #include "records/ElementIdentity.h"
@@ -22,8 +20,6 @@
 namespace lumerin {
 
 namespace {
-
-namespace fs = std::filesystem;
 
 // An input file that is saved again right after the analysis started is no sign of old results.
 constexpr std::chrono::minutes kGrace{2};
@@ -171,11 +167,11 @@ class FileFindings {
                  {}});
             return;
         }
-        std::error_code fault;
-        const auto changed = fs::last_write_time(NativePath(input), fault);
-        for (std::size_t p = 0; p < m_forces.size() && !fault; ++p) {
-            const auto written = fs::last_write_time(NativePath(FindFileAnyCase(m_forces[p]->Name())), fault);
-            if (fault || changed - written <= kGrace) continue;
+        const auto changed = LastChange(input);
+        for (std::size_t p = 0; p < m_forces.size() && changed; ++p) {
+            const auto written = LastChange(m_forces[p]->Name());
+            if (!written) return;
+            if (*changed - *written <= kGrace) continue;
             Add({"old-results",
                  Severity::note,
                  static_cast<int>(p) + 1,

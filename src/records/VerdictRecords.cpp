@@ -3,12 +3,10 @@
 #include <array>
 #include <chrono>
 #include <cstdio>
-#include <filesystem>
 #include <set>
 
 #include "framework/File.h"
 #include "framework/Index.h"
-#include "framework/NativePath.h"
 #include "records/Columns.h"
 #include "records/RowBuffer.h"
 #include "records/TableRows.h"
@@ -136,10 +134,9 @@ std::string TypesOf(const CDataSet& data) {
 
 // The time of a file as "2026-11-22T03:44:21Z"; empty where there is none.
 std::string TimeOf(const std::string& path) {
-    std::error_code fault;
-    const auto written = std::filesystem::last_write_time(NativePath(FindFileAnyCase(path)), fault);
-    if (fault) return {};
-    const auto second = std::chrono::floor<std::chrono::seconds>(std::chrono::file_clock::to_sys(written));
+    const auto written = LastChange(path);
+    if (!written) return {};
+    const auto second = std::chrono::floor<std::chrono::seconds>(*written);
     const auto day = std::chrono::floor<std::chrono::days>(second);
     const std::chrono::year_month_day date(day);
     const std::chrono::hh_mm_ss time(second - day);

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "framework/File.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <array>
@@ -9,6 +11,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "framework/FolderNames.h"
 #include "framework/TemporaryFolder.h"
 #include "support/ScratchFolder.h"
 
@@ -149,6 +152,47 @@ TEST_F(FileTest, SaysWhyAFileCannotBeWritten) {
     EXPECT_FALSE(m_scratch.Has("new"));
     EXPECT_EQ(std::distance(fs::directory_iterator(m_scratch.Path()), {}), 2) << "something was left";
     EXPECT_EQ(ErrorOfWriting(Path("no folder/new")), std::errc::no_such_file_or_directory);
+}
+
+TEST_F(FileTest, MakesAFolderWithThoseAboveIt) {
+    EXPECT_TRUE(MakeFolders(Path("one/two/three")));
+    EXPECT_TRUE(fs::is_directory(Path("one/two/three")));
+    EXPECT_TRUE(MakeFolders(Path("one/two/four/")));
+    EXPECT_TRUE(fs::is_directory(Path("one/two/four")));
+    EXPECT_TRUE(MakeFolders(Path("one")));
+    EXPECT_TRUE(MakeFolders(""));
+    EXPECT_FALSE(MakeFolders(Write("file", "x") + "/folder"));
+}
+
+TEST_F(FileTest, ALinkToAFolderIsNoRealOne) {
+    fs::create_directory_symlink(Path("Sub"), Path("link"));
+    EXPECT_TRUE(IsFolder(Path("link")));
+    EXPECT_FALSE(IsRealFolder(Path("link")));
+    EXPECT_TRUE(IsRealFolder(Path("Sub")));
+    EXPECT_FALSE(IsRealFolder(Write("file", "x")));
+}
+
+TEST_F(FileTest, HasTheTimeOfItsLastChange) {
+    const std::string path = Write("Dated", "x");
+    // 2026-11-14T08:30:05Z
+    const timespec time{1794645005, 500000000};
+    const std::array<timespec, 2> times{time, time};
+    ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), times.data(), 0), 0);
+    const auto changed = LastChange(Path("dated"));
+    ASSERT_TRUE(changed);
+    EXPECT_EQ(std::chrono::duration_cast<std::chrono::milliseconds>(changed->time_since_epoch()).count(),
+              1794645005500);
+    EXPECT_FALSE(LastChange(Path("none")));
+}
+
+TEST_F(FileTest, AFolderNamesItsEntries) {
+    Write("Sub/b.in", "");
+    Write("Sub/A.in", "");
+    Write("Sub/a.out", "");
+    using testing::ElementsAre;
+    EXPECT_THAT(EntriesStartingWith(Path("Sub"), ""), ElementsAre(".", "..", "A.in", "a.out", "b.in"));
+    EXPECT_THAT(EntriesStartingWith(Path("Sub"), "A."), ElementsAre("A.in", "a.out"));
+    EXPECT_THAT(EntriesStartingWith(Path("none"), ""), ElementsAre());
 }
 
 TEST(TemporaryFolder, IsForItsUserAndGoesWithWhatIsInIt) {

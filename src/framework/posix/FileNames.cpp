@@ -47,6 +47,19 @@ bool IsFolder(const std::string& path) {
     return fs::is_directory(path, ignored);
 }
 
+bool IsRealFolder(const std::string& path) {
+    struct stat found {};
+    return lstat(path.c_str(), &found) == 0 && S_ISDIR(found.st_mode);
+}
+
+std::optional<std::chrono::system_clock::time_point> LastChange(const std::string& path) {
+    using std::chrono::system_clock;
+    const FileStamp stamp = StampOf(path);
+    if (stamp.length < 0) return std::nullopt;
+    const std::chrono::nanoseconds since1970(stamp.modified);
+    return system_clock::time_point(std::chrono::duration_cast<system_clock::duration>(since1970));
+}
+
 std::FILE* OpenForReading(const std::string& path) {
     return std::fopen(path.c_str(), "rb");
 }

@@ -42,6 +42,23 @@ FileStamp StampOf(const std::string& path) {
             found.dwVolumeSerialNumber, join(found.nFileIndexHigh, found.nFileIndexLow)};
 }
 
+bool IsRealFolder(const std::string& path) {
+    const DWORD attributes = AttributesOf(path);
+    return attributes != INVALID_FILE_ATTRIBUTES &&
+           (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT)) ==
+               FILE_ATTRIBUTE_DIRECTORY;
+}
+
+std::optional<std::chrono::system_clock::time_point> LastChange(const std::string& path) {
+    using std::chrono::system_clock;
+    using Ticks = std::chrono::duration<std::int64_t, std::ratio<1, 10000000>>;
+    constexpr Ticks kFrom1601To1970 = std::chrono::seconds(11644473600);
+    const FileStamp stamp = StampOf(path);
+    if (stamp.length < 0) return std::nullopt;
+    const Ticks since1970 = Ticks(stamp.modified) - kFrom1601To1970;
+    return system_clock::time_point(std::chrono::duration_cast<system_clock::duration>(since1970));
+}
+
 std::FILE* OpenForReading(const std::string& path) {
     return _wfopen(windows::WidePath(path).c_str(), L"rb");
 }
