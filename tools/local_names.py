@@ -13,7 +13,8 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 LOCAL_BLOCK = re.compile(r"^namespace \{$(.*?)^\}  // namespace$", re.M | re.S)
 SCOPED = re.compile(r"^enum class .*?\};", re.M | re.S)
 CONSTANTS = re.compile(r"^(?:constexpr|const|constinit|static) .*$", re.M)  # more than one of them in a line, perhaps
-LOCAL_NAME = re.compile(r"^(?!template|extern|using |TEST|INSTANTIATE|MATCHER)[A-Za-z].*?(\w+)(?:\[.*?\])*(?: final)?(?: ?[=({;]| : |$)", re.M)
+# An alias such as fs is the same in each of them, or the compiler says so.
+LOCAL_NAME = re.compile(r"^(?!template|extern|using |namespace |TEST|INSTANTIATE|MATCHER)[A-Za-z].*?(\w+)(?:\[.*?\])*(?: final)?(?: ?[=({;]| : |$)", re.M)
 
 
 @functools.cache

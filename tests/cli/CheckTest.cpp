@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "cli/CheckReport.h"
+#include "support/ProgramRun.h"
 #include "support/RecordsProject.h"
 
 namespace lumerin {
@@ -20,20 +21,9 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 
-struct Outcome {
-    ExitStatus status = kExitDone;
-    std::string out, err;
-    nlohmann::json Json() const { return nlohmann::json::parse(out); }
-};
-
-Outcome Check(CheckRequest request, const std::vector<std::string>& projects) {
+ProgramRun Check(CheckRequest request, const std::vector<std::string>& projects) {
     for (const std::string& project : projects) request.projects.emplace_back(project);
-    std::ostringstream out, err;
-    Outcome outcome;
-    outcome.status = RunCheck(request, out, err);
-    outcome.out = out.str();
-    outcome.err = err.str();
-    return outcome;
+    return RunCommand([&](std::ostream& out, std::ostream& err) { return RunCheck(request, out, err); });
 }
 
 CheckRequest As(CheckFormat format) {
@@ -54,10 +44,8 @@ class CheckTest : public testing::Test {
     RecordsProject project;
 };
 
-}  // namespace
-
 TEST_F(CheckTest, TheFirstLineIsTheVerdict) {
-    const Outcome outcome = Check({}, {project.Base()});
+    const ProgramRun outcome = Check({}, {project.Base()});
     EXPECT_EQ(outcome.status, kExitDone);
     EXPECT_THAT(outcome.out, testing::StartsWith(project.Base() +
                                                  ".in  PASS  D/C 0.875  pile 2 head (pile, substructure 1)  "
@@ -68,7 +56,7 @@ TEST_F(CheckTest, TheFirstLineIsTheVerdict) {
 TEST_F(CheckTest, OverTheLimitIsStatusOneAndMarked) {
     CheckRequest request;
     request.limits.ratio = 0.8;
-    const Outcome outcome = Check(request, {project.Base() + ".in"});
+    const ProgramRun outcome = Check(request, {project.Base() + ".in"});
     EXPECT_EQ(outcome.status, kExitIncomplete);
     EXPECT_THAT(outcome.out, HasSubstr("  FAIL  D/C 0.875"));
     EXPECT_THAT(outcome.out, HasSubstr("  over    1  pile "));
@@ -85,7 +73,7 @@ TEST_F(CheckTest, ARatioJustOverTheLimitIsShownWithAllItsDigits) {
 
 TEST_F(CheckTest, UnsoundDataAreStatusFourAndTheVerdictIsPrinted) {
     std::filesystem::resize_file(project.Path(".vmd"), 14 * 68);
-    const Outcome outcome = Check({}, {project.Base()});
+    const ProgramRun outcome = Check({}, {project.Base()});
     EXPECT_EQ(outcome.status, kExitUnsound);
     EXPECT_THAT(outcome.out, HasSubstr("  PASS  D/C 0.875"));
     EXPECT_THAT(outcome.out, HasSubstr("  NOT SOUND\n"));
@@ -94,7 +82,7 @@ TEST_F(CheckTest, UnsoundDataAreStatusFourAndTheVerdictIsPrinted) {
 
 TEST_F(CheckTest, AProjectThatFailsStopsNoOther) {
     const std::string none = project.Path("-none");
-    const Outcome outcome = Check({}, {none, project.Base()});
+    const ProgramRun outcome = Check({}, {none, project.Base()});
     EXPECT_EQ(outcome.status, kExitNotLoaded);
     EXPECT_THAT(outcome.out, HasSubstr(none + ".in  ERROR  no project " + none + ".in\n"));
     EXPECT_THAT(outcome.out, HasSubstr(project.Base() + ".in  PASS"));
@@ -104,7 +92,7 @@ TEST_F(CheckTest, AProjectThatFailsStopsNoOther) {
 TEST_F(CheckTest, AChoiceThatFitsNoCaseIsWrongUsage) {
     CheckRequest request;
     ReadCases("4", request.cases);
-    const Outcome outcome = Check(request, {project.Base()});
+    const ProgramRun outcome = Check(request, {project.Base()});
     EXPECT_EQ(outcome.status, kExitUsage);
     EXPECT_THAT(outcome.out, HasSubstr("ERROR  there is no case 4, the project has 3"));
 }
@@ -120,7 +108,7 @@ TEST_F(CheckTest, ProjectsWithoutAnyElementAreNoPass) {
     project.substructures[0].pileSections.clear();
     project.substructures[0].rows.clear();
     project.WriteAll();
-    const Outcome outcome = Check({}, {project.Base()});
+    const ProgramRun outcome = Check({}, {project.Base()});
     EXPECT_EQ(outcome.status, kExitUnsound);
     EXPECT_THAT(outcome.out, HasSubstr("  NONE  no element has a D/C ratio in the chosen cases\n"));
 }
@@ -129,8 +117,8 @@ TEST_F(CheckTest, JsonHasTheSameNumbers) {
     CheckRequest request = As(CheckFormat::json);
     request.top = 1;
     request.limits.pileCompression = 50.0;
-    const Outcome outcome = Check(request, {project.Base()});
-    const nlohmann::json json = outcome.Json();
+    const ProgramRun outcome = Check(request, {project.Base()});
+    const nlohmann::json json = nlohmann::json::parse(outcome.out);
     EXPECT_EQ(outcome.status, kExitIncomplete);
     EXPECT_EQ(json["status"], 1);
     EXPECT_EQ(json["passes"], false);
@@ -147,7 +135,7 @@ TEST_F(CheckTest, JsonHasTheSameNumbers) {
 }
 
 TEST_F(CheckTest, JsonOfAProjectThatWasNotLoadedSaysWhy) {
-    const nlohmann::json json = Check(As(CheckFormat::json), {"none"}).Json();
+    const nlohmann::json json = nlohmann::json::parse(Check(As(CheckFormat::json), {"none"}).out);
     EXPECT_EQ(json["status"], 3);
     EXPECT_EQ(json["error"], "no project none.in");
     EXPECT_EQ(json["passes"], nullptr);
@@ -156,14 +144,14 @@ TEST_F(CheckTest, JsonOfAProjectThatWasNotLoadedSaysWhy) {
 TEST_F(CheckTest, ForcesAreConvertedAndRatiosAreNot) {
     CheckRequest request = As(CheckFormat::json);
     request.units = UnitSystem::si;
-    const nlohmann::json json = Check(request, {project.Base()}).Json();
+    const nlohmann::json json = nlohmann::json::parse(Check(request, {project.Base()}).out);
     EXPECT_EQ(json["units"], "si");
     EXPECT_NEAR(json["families"][0]["fax"].get<double>(), -444.822, 0.001);
     EXPECT_EQ(json["dc"], 0.875);
 }
 
 TEST_F(CheckTest, CsvIsTheTableOfVerdictsWithOneHeadLine) {
-    const Outcome outcome = Check(As(CheckFormat::csv), {project.Base(), "none", project.Base()});
+    const ProgramRun outcome = Check(As(CheckFormat::csv), {project.Base(), "none", project.Base()});
     EXPECT_EQ(outcome.status, kExitNotLoaded);
     EXPECT_THAT(outcome.out, testing::StartsWith("project,substructure,family,dc,place,"));
     EXPECT_THAT(outcome.out, HasSubstr(",1,pile,0.875,pile 2 head,4,2,J,2,,1,8,0,true\r\n"));
@@ -174,9 +162,11 @@ TEST_F(CheckTest, CsvIsTheTableOfVerdictsWithOneHeadLine) {
 TEST_F(CheckTest, BriefIsOneLineAProject) {
     CheckRequest request;
     request.brief = true;
-    const Outcome outcome = Check(request, {project.Base(), project.Base()});
+    const ProgramRun outcome = Check(request, {project.Base(), project.Base()});
     EXPECT_EQ(std::ranges::count(outcome.out, '\n'), 2);
     EXPECT_THAT(outcome.out, Not(HasSubstr("\033")));
 }
+
+}  // namespace
 
 }  // namespace lumerin

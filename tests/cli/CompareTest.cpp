@@ -8,7 +8,7 @@
 #include <sstream>
 
 #include "cli/ComparePairs.h"
-#include "cli/Program.h"
+#include "support/ProgramRun.h"
 #include "support/RecordsProject.h"
 #include "support/SampleFolder.h"
 
@@ -21,25 +21,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
-
-struct Outcome {
-    ExitStatus status = kExitDone;
-    std::string out, err;
-    nlohmann::json Json() const { return nlohmann::json::parse(out); }
-};
-
-// The command as it is typed.
-Outcome Compare(const std::vector<std::string>& arguments) {
-    std::vector<const char*> words{"lumerin", "compare"};
-    for (const std::string& argument : arguments) words.push_back(argument.c_str());
-    std::ostringstream out, err;
-    Outcome outcome;
-    Program program;
-    outcome.status = program.Run(static_cast<int>(words.size()), words.data(), out, err);
-    outcome.out = out.str();
-    outcome.err = err.str();
-    return outcome;
-}
 
 // The fields of the lines; none of the texts has a quotation mark in it.
 std::vector<std::vector<std::string>> Fields(const std::string& csv) {
@@ -73,19 +54,22 @@ class CompareTest : public testing::Test {
             run->WriteAll();
         }
     }
-    Outcome Run(std::vector<std::string> arguments = {}) const {
-        arguments.push_back(before.Base());
-        arguments.push_back(after.Base());
-        return Compare(arguments);
+    ProgramRun Run(const std::vector<std::string>& arguments = {}) const {
+        std::vector<std::string> words{"compare"};
+        words.insert(words.end(), arguments.begin(), arguments.end());
+        words.push_back(before.Base());
+        words.push_back(after.Base());
+        return RunLumerin(words);
+    }
+    nlohmann::json Json(const std::vector<std::string>& arguments) const {
+        return nlohmann::json::parse(Run(arguments).out);
     }
 
     RecordsProject before, after;
 };
 
-}  // namespace
-
 TEST_F(CompareTest, RunsThatAreTheSameAreStatusZero) {
-    const Outcome outcome = Run();
+    const ProgramRun outcome = Run();
     EXPECT_EQ(outcome.status, kExitDone);
     EXPECT_THAT(outcome.out, StartsWith(after.Base() + ".in  SAME  0 results are over the tolerances; "));
     EXPECT_THAT(outcome.out,
@@ -97,7 +81,7 @@ TEST_F(CompareTest, AFlippedVerdictIsStatusOneAndOnTheFirstLines) {
     after.Set(1, 3, kRatioJ, 1.02F);
     after.Set(1, 3, kFaxWordJ, -120.0F);
     after.WriteAll();
-    const Outcome outcome = Run({"--table", "pile_axial"});
+    const ProgramRun outcome = Run({"--table", "pile_axial"});
     EXPECT_EQ(outcome.status, kExitIncomplete);
     EXPECT_THAT(outcome.out, HasSubstr(".in  DIFFERS  1 result is over the tolerances; "));
     EXPECT_THAT(outcome.out, HasSubstr("  verdict: PASS before, FAIL now\n"));
@@ -125,8 +109,8 @@ TEST_F(CompareTest, TolerancesAreOptions) {
 TEST_F(CompareTest, JsonHasBothValuesAndBothCases) {
     after.Set(0, 3, kFaxWordJ, -120.0F);
     after.WriteAll();
-    const Outcome outcome = Run({"--format", "json", "--table", "pile_axial"});
-    const nlohmann::json json = outcome.Json();
+    const ProgramRun outcome = Run({"--format", "json", "--table", "pile_axial"});
+    const nlohmann::json json = nlohmann::json::parse(outcome.out);
     EXPECT_EQ(outcome.status, kExitIncomplete);
     EXPECT_EQ(json["status"], 1);
     EXPECT_EQ(json["differs"], true);
@@ -171,8 +155,8 @@ TEST(ComparePage, HasTheDifferencesAndTheEnvelopesOfBothRuns) {
     options.seed = 2;
     after.Write(options);
     before.Write("group");
-    const Outcome outcome =
-        Compare({"--format", "html", "--top", "3", before.Path().string(), after.Path().string()});
+    const ProgramRun outcome = RunLumerin(
+        {"compare", "--format", "html", "--top", "3", before.Path().string(), after.Path().string()});
     EXPECT_EQ(outcome.status, kExitIncomplete);
     EXPECT_THAT(outcome.out, StartsWith("<!DOCTYPE html>"));
     EXPECT_THAT(outcome.out, HasSubstr("<h2>pier.in</h2>"));
@@ -190,12 +174,12 @@ TEST_F(CompareTest, TopShortensEveryList) {
     after.WriteAll();
     EXPECT_THAT(Run({"--top", "1"}).out, HasSubstr(" more (--top 0 lists all)\n"));
     EXPECT_THAT(Run({"--top", "0"}).out, Not(HasSubstr("--top 0")));
-    EXPECT_EQ(Run({"--top", "1", "--format", "json"}).Json()["results"].size(), 1U);
+    EXPECT_EQ(Json({"--top", "1", "--format", "json"})["results"].size(), 1U);
 }
 
 TEST_F(CompareTest, UnsoundDataAreStatusFourAndTheComparisonIsPrinted) {
     std::filesystem::resize_file(after.Path(".vmd"), 14 * 68);
-    const Outcome outcome = Run();
+    const ProgramRun outcome = Run();
     EXPECT_EQ(outcome.status, kExitUnsound);
     EXPECT_THAT(outcome.out, HasSubstr("  NOT SOUND\n"));
     EXPECT_THAT(outcome.err, HasSubstr("error: missing-records: p.vmd"));
@@ -203,11 +187,11 @@ TEST_F(CompareTest, UnsoundDataAreStatusFourAndTheComparisonIsPrinted) {
 
 TEST_F(CompareTest, ARunThatCannotBeLoadedIsStatusThree) {
     after.WriteFile(".PLF", "no such bytes");
-    const Outcome outcome = Run();
+    const ProgramRun outcome = Run();
     EXPECT_EQ(outcome.status, kExitNotLoaded);
     EXPECT_THAT(outcome.out, HasSubstr(".in  ERROR  "));
-    EXPECT_EQ(Run({"--format", "json"}).Json()["differs"], nullptr);
-    const Outcome csv = Run({"--format", "csv"});
+    EXPECT_EQ(Json({"--format", "json"})["differs"], nullptr);
+    const ProgramRun csv = Run({"--format", "csv"});
     EXPECT_THAT(Fields(csv.out).at(1), testing::Contains("error"));
     EXPECT_THAT(csv.err, HasSubstr("p.PLF"));
     after.Remove(".TWR");
@@ -219,18 +203,18 @@ TEST_F(CompareTest, WrongUsageIsStatusTwo) {
     EXPECT_THAT(Run({"--table", "verdit"}).err, HasSubstr("do you mean verdict?"));
     EXPECT_THAT(Run({"--table", "cases"}).err, HasSubstr("\"cases\" is no table of results"));
     EXPECT_THAT(Run({"--format", "jsn"}).err, HasSubstr("do you mean json?"));
-    EXPECT_EQ(Compare({before.Base()}).status, kExitUsage);
-    const Outcome mixed = Compare({before.Folder().string(), after.Base()});
+    EXPECT_EQ(RunLumerin({"compare", before.Base()}).status, kExitUsage);
+    const ProgramRun mixed = RunLumerin({"compare", before.Folder().string(), after.Base()});
     EXPECT_EQ(mixed.status, kExitUsage);
     EXPECT_THAT(mixed.err, HasSubstr(before.Folder().string() + " is a folder, and "));
 }
 
 TEST_F(CompareTest, TheOutputGoesToAFile) {
     const std::string file = after.Path("-changes.csv");
-    const Outcome outcome = Run({"--format", "csv", "-o", file});
+    const ProgramRun outcome = Run({"--format", "csv", "-o", file});
     EXPECT_EQ(outcome.out, file + "\n");
     EXPECT_TRUE(std::filesystem::exists(file));
-    const Outcome nowhere = Run({"-o", after.Path("-none/changes.txt")});
+    const ProgramRun nowhere = Run({"-o", after.Path("-none/changes.txt")});
     EXPECT_EQ(nowhere.status, kExitIncomplete);
     EXPECT_THAT(nowhere.err, HasSubstr("lumerin: "));
 }
@@ -240,14 +224,12 @@ TEST_F(CompareTest, CapacitiesAreInUnitsOfTheLaterRun) {
     after.substructures[0].units = 1;
     after.Set(1, 3, kFaxWordJ, -444.82216F);
     after.WriteAll();
-    const nlohmann::json json =
-        Run({"--format", "json", "--pile-compression", "445", "--table", "verdict"}).Json();
+    const nlohmann::json json = Json({"--format", "json", "--pile-compression", "445", "--table", "verdict"});
     EXPECT_EQ(json["verdicts"].size(), 0U);
     EXPECT_EQ(json["results"].size(), 0U);
     EXPECT_EQ(json["old"]["passes"], true);
     EXPECT_EQ(json["new"]["passes"], true);
-    const nlohmann::json over =
-        Run({"--format", "json", "--pile-compression", "444", "--table", "verdict"}).Json();
+    const nlohmann::json over = Json({"--format", "json", "--pile-compression", "444", "--table", "verdict"});
     EXPECT_EQ(over["old"]["passes"], false);
     EXPECT_EQ(over["new"]["passes"], false);
 }
@@ -282,13 +264,15 @@ TEST(ComparePairs, AFailedPairStopsNoOther) {
     }
     std::filesystem::remove(after.Base("bent.PLF"));
     std::filesystem::remove(after.Base("walls.in"));
-    const Outcome outcome = Compare({before.Path().string(), after.Path().string()});
+    const ProgramRun outcome = RunLumerin({"compare", before.Path().string(), after.Path().string()});
     EXPECT_EQ(outcome.status, kExitNotLoaded);
     EXPECT_THAT(outcome.out, HasSubstr("bent.in  ERROR  "));
     EXPECT_THAT(outcome.out, HasSubstr("group.in  SAME  "));
     EXPECT_THAT(outcome.out, HasSubstr("walls.in  DIFFERS  is in the old folder alone\n"));
     EXPECT_THAT(outcome.err, HasSubstr("3 projects: 1 the same, 1 different, 1 not loaded\n"));
-    EXPECT_EQ(Compare({before.Path().string(), before.Path().string()}).status, kExitDone);
+    EXPECT_EQ(RunLumerin({"compare", before.Path().string(), before.Path().string()}).status, kExitDone);
 }
+
+}  // namespace
 
 }  // namespace lumerin

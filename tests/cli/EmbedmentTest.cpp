@@ -49,8 +49,6 @@ class EmbedmentCommandTest : public testing::Test {
     std::ostringstream out, err;
 };
 
-}  // namespace
-
 TEST_F(EmbedmentCommandTest, PrintsTheTableOfTheFirstCase) {
     ASSERT_EQ(Run(), kExitDone) << err.str();
     std::ifstream study(base + ".PEL");
@@ -218,5 +216,7 @@ TEST(StudyCurves, AxesHaveRoundTicksAndHoldTheirData) {
         EXPECT_LE(axis.ticks, 10);
     }
 }
+
+}  // namespace
 
 }  // namespace lumerin

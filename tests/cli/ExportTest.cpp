@@ -46,8 +46,6 @@ class Export : public testing::Test {
     std::ostringstream m_out, m_err;
 };
 
-}  // namespace
-
 TEST_F(Export, RowsGoToStandardOutput) {
     EXPECT_EQ(Run(Request({m_folder.Write("group")}, "cases", "-")), kExitDone);
     EXPECT_THAT(m_out.str(), StartsWith("project,substructure,case,"));
@@ -134,5 +132,7 @@ TEST_F(Export, ADatabaseKeepsItsUnitSystem) {
     request.units = UnitSystem::si;
     EXPECT_EQ(Run(request), kExitDone);
 }
+
+}  // namespace
 
 }  // namespace lumerin

@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
+#include "support/ProgramRun.h"
 #include "support/RecordsProject.h"
 #include "support/SampleFolder.h"
 
@@ -16,17 +17,8 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-struct Outcome {
-    ExitStatus status = kExitDone;
-    std::string out;
-};
-
-Outcome Info(const InfoRequest& request) {
-    std::ostringstream out, err;
-    Outcome outcome;
-    outcome.status = RunInfo(request, out, err);
-    outcome.out = out.str();
-    return outcome;
+ProgramRun Info(const InfoRequest& request) {
+    return RunCommand([&](std::ostream& out, std::ostream& err) { return RunInfo(request, out, err); });
 }
 
 InfoRequest Of(const std::string& project) {
@@ -40,7 +32,7 @@ InfoRequest Of(const std::string& project) {
 // The bridge: a pier, a pile bent and a pile group under 22 combinations of AASHTO-LFD.
 TEST(Info, DescribesTheSubstructures) {
     const SampleFolder folder;
-    const Outcome outcome = Info(Of(folder.Write("bridge")));
+    const ProgramRun outcome = Info(Of(folder.Write("bridge")));
     EXPECT_EQ(outcome.status, kExitDone);
     for (const char* text :
          {"design code      AASHTO-LFD", "22 load combinations", "pile bent", "pile group", "(1 masked)",
@@ -103,7 +95,7 @@ TEST(Info, JsonHasTheSameFacts) {
 }
 
 TEST(Info, AProjectThatIsNotThereIsStatusThree) {
-    const Outcome outcome = Info(Of("none"));
+    const ProgramRun outcome = Info(Of("none"));
     EXPECT_EQ(outcome.status, kExitNotLoaded);
     EXPECT_EQ(outcome.out, "none.in  no project none.in\n");
 }

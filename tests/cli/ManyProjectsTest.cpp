@@ -6,7 +6,7 @@
 #include <functional>
 #include <sstream>
 
-#include "cli/Program.h"
+#include "support/ProgramRun.h"
 #include "support/SampleFolder.h"
 
 namespace lumerin {
@@ -17,37 +17,11 @@ namespace {
 
 using testing::EndsWith;
 using testing::HasSubstr;
-namespace fs = std::filesystem;
-
-struct Outcome {
-    ExitStatus status = kExitDone;
-    std::string out, err;
-};
-
-Outcome Lumerin(const std::vector<std::string>& words) {
-    std::vector<const char*> argv{"lumerin"};
-    for (const std::string& word : words) argv.push_back(word.c_str());
-    std::ostringstream out, err;
-    Outcome outcome;
-    outcome.status = Program().Run(static_cast<int>(argv.size()), argv.data(), out, err);
-    outcome.out = out.str();
-    outcome.err = err.str();
-    return outcome;
-}
 
 class ManyProjects : public testing::Test {
   protected:
-    std::string Write(const std::string& name) const {
-        samples::SampleOptions options;
-        options.preset = "bent";
-        options.name = name;
-        options.cases = 2;
-        options.rows = 1;
-        options.columns = 2;
-        return folder.Write(options);
-    }
     // The first words of the lines that `check --brief` prints, without the folder of the samples.
-    static std::vector<std::string> Names(const Outcome& outcome, const std::string& root) {
+    static std::vector<std::string> Names(const ProgramRun& outcome, const std::string& root) {
         std::vector<std::string> names;
         std::istringstream lines(outcome.out);
         for (std::string line; std::getline(lines, line);) {
@@ -67,35 +41,38 @@ struct Fault {
 };
 
 void Replace(const std::string& path, const std::function<void(const std::string&)>& make) {
-    fs::remove(path);
+    std::filesystem::remove(path);
     make(path);
 }
 
 // A file that can be opened and not read; the rights of files do not hold for the administrator.
 void MakeUnreadable(const std::string& path) {
-    fs::permissions(path, fs::perms::none);
+    std::filesystem::permissions(path, std::filesystem::perms::none);
     if (geteuid() == 0) {
-        Replace(path, [](const std::string& name) { fs::create_symlink("/proc/self/mem", name); });
+        Replace(path,
+                [](const std::string& name) { std::filesystem::create_symlink("/proc/self/mem", name); });
     }
 }
 
 const Fault kFaults[] = {
-    {"Missing", [](const std::string& base) { fs::remove(base + ".PLF"); }, "b.PLF: the file"},
-    {"MissingAltogether", [](const std::string& base) { fs::remove(base + ".TWR"); }, "no project "},
-    {"Truncated", [](const std::string& base) { fs::resize_file(base + ".PLF", 100); }, "b.PLF: ends before"},
-    {"Empty", [](const std::string& base) { fs::resize_file(base + ".PIL", 0); }, "b.PIL: "},
+    {"Missing", [](const std::string& base) { std::filesystem::remove(base + ".PLF"); }, "b.PLF: the file"},
+    {"MissingAltogether", [](const std::string& base) { std::filesystem::remove(base + ".TWR"); },
+     "no project "},
+    {"Truncated", [](const std::string& base) { std::filesystem::resize_file(base + ".PLF", 100); },
+     "b.PLF: ends before"},
+    {"Empty", [](const std::string& base) { std::filesystem::resize_file(base + ".PIL", 0); }, "b.PIL: "},
     {"Unreadable", [](const std::string& base) { MakeUnreadable(base + ".PLF"); },
      "b.PLF: the file could not be "},
     {"AFolderInPlaceOfAFile",
      [](const std::string& base) {
-         Replace(base + ".vmd", [](const std::string& path) { fs::create_directory(path); });
+         Replace(base + ".vmd", [](const std::string& path) { std::filesystem::create_directory(path); });
      },
      "b.vmd: the file could not be opened (Is a directory)"},
     // A sparse file of a tebibyte whose first record announces more substructures than any project has.
     {"TooBig",
      [](const std::string& base) {
          std::ofstream(base + ".TWR", std::ios::binary) << std::string("K\x04\xff\xff\xff\x7f\x04\x82", 8);
-         fs::resize_file(base + ".TWR", 1ULL << 40U);
+         std::filesystem::resize_file(base + ".TWR", 1ULL << 40U);
      },
      "b.TWR: substructure count 2147483647 is out of range"},
 };
@@ -104,13 +81,11 @@ class BrokenAmongMany : public ManyProjects, public testing::WithParamInterface<
   protected:
     BrokenAmongMany() { GetParam().make(b); }
 
-    const std::string a = Write("a"), b = Write("b"), c = Write("c");
+    const std::string a = folder.WriteSmall("a"), b = folder.WriteSmall("b"), c = folder.WriteSmall("c");
 };
 
-}  // namespace
-
 TEST_P(BrokenAmongMany, CheckJudgesTheOthers) {
-    const Outcome outcome = Lumerin({"check", "--limit", "100", "--format", "json", a, b, c});
+    const ProgramRun outcome = RunLumerin({"check", "--limit", "100", "--format", "json", a, b, c});
     EXPECT_EQ(outcome.status, kExitNotLoaded);
     EXPECT_THAT(outcome.out, HasSubstr("{\"project\":\"" + a + "\",\"status\":0,\"passes\":true,"));
     EXPECT_THAT(outcome.out, HasSubstr("{\"project\":\"" + b + "\",\"status\":3,\"passes\":null,"));
@@ -120,7 +95,7 @@ TEST_P(BrokenAmongMany, CheckJudgesTheOthers) {
 }
 
 TEST_P(BrokenAmongMany, ExportWritesTheRowsOfTheOthers) {
-    const Outcome outcome = Lumerin({"export", "--table", "projects", a, b, c});
+    const ProgramRun outcome = RunLumerin({"export", "--table", "projects", a, b, c});
     EXPECT_EQ(outcome.status, kExitNotLoaded);
     EXPECT_THAT(outcome.out, HasSubstr("\r\n" + a + ","));
     EXPECT_THAT(outcome.out, testing::Not(HasSubstr("\r\n" + b + ",")));
@@ -131,31 +106,31 @@ TEST_P(BrokenAmongMany, ExportWritesTheRowsOfTheOthers) {
 
 TEST_P(BrokenAmongMany, ReportWritesTheTablesOfTheOthers) {
     const std::string output = folder.Base("out");
-    const Outcome outcome = Lumerin({"report", "--json", "--table", "axial", "-o", output, a, b, c});
+    const ProgramRun outcome = RunLumerin({"report", "--json", "--table", "axial", "-o", output, a, b, c});
     EXPECT_EQ(outcome.status, kExitNotLoaded);
     EXPECT_THAT(outcome.out, HasSubstr("{\"project\":\"" + a + "\",\"status\":0,\"files\":[\"" + output));
     EXPECT_THAT(outcome.out, HasSubstr("{\"project\":\"" + b + "\",\"status\":3,\"files\":[],"));
     EXPECT_THAT(outcome.out, HasSubstr("{\"project\":\"" + c + "\",\"status\":0,\"files\":[\"" + output));
     EXPECT_THAT(outcome.out, HasSubstr(GetParam().text));
     EXPECT_THAT(outcome.err, EndsWith("3 projects: 2 done, 1 not loaded\n"));
-    EXPECT_TRUE(fs::exists(output + "/c_Max_Axial_Forces_Pile_Heads.txt"));
+    EXPECT_TRUE(std::filesystem::exists(output + "/c_Max_Axial_Forces_Pile_Heads.txt"));
 }
 
 INSTANTIATE_TEST_SUITE_P(Faults, BrokenAmongMany, testing::ValuesIn(kFaults),
                          [](const testing::TestParamInfo<Fault>& fault) { return fault.param.name; });
 
 TEST_F(ManyProjects, AFolderStandsForAllProjectsBelowIt) {
-    Write("b");
-    Write("a");
+    folder.WriteSmall("b");
+    folder.WriteSmall("a");
     const std::string root = folder.Path().string();
-    fs::create_directories(root + "/deep/er");
-    for (const auto& file : fs::directory_iterator(root)) {
+    std::filesystem::create_directories(root + "/deep/er");
+    for (const auto& file : std::filesystem::directory_iterator(root)) {
         const std::string name = file.path().filename().string();
-        if (name.starts_with("a.")) fs::copy_file(file, root + "/deep/er/z" + name.substr(1));
+        if (name.starts_with("a.")) std::filesystem::copy_file(file, root + "/deep/er/z" + name.substr(1));
     }
-    fs::rename(root + "/deep/er/z.in", root + "/deep/er/z.IN");
+    std::filesystem::rename(root + "/deep/er/z.in", root + "/deep/er/z.IN");
     std::ofstream(root + "/notes.txt") << "no project";
-    const Outcome outcome = Lumerin({"check", "--brief", "--limit", "100", root});
+    const ProgramRun outcome = RunLumerin({"check", "--brief", "--limit", "100", root});
     EXPECT_EQ(outcome.status, kExitDone);
     EXPECT_EQ(
         Names(outcome, root),
@@ -163,29 +138,29 @@ TEST_F(ManyProjects, AFolderStandsForAllProjectsBelowIt) {
 }
 
 TEST_F(ManyProjects, AListNamesFoldersToo) {
-    Write("a");
+    folder.WriteSmall("a");
     const std::string root = folder.Path().string(), list = folder.Base("list.txt");
     std::ofstream(list) << root << "\r\n\n" << folder.Base("a") << '\n';
-    const Outcome outcome = Lumerin({"check", "--brief", "--limit", "100", "--files-from", list});
+    const ProgramRun outcome = RunLumerin({"check", "--brief", "--limit", "100", "--files-from", list});
     EXPECT_EQ(Names(outcome, root), (std::vector<std::string>{"a.in", "a.in"}));
 }
 
 TEST_F(ManyProjects, AProjectComesBeforeAFolderOfItsName) {
-    const std::string a = Write("a");
-    fs::create_directory(a);
-    EXPECT_EQ(Names(Lumerin({"check", "--brief", a}), folder.Path().string()),
+    const std::string a = folder.WriteSmall("a");
+    std::filesystem::create_directory(a);
+    EXPECT_EQ(Names(RunLumerin({"check", "--brief", a}), folder.Path().string()),
               std::vector<std::string>{"a.in"});
 }
 
 // Else a folder that is not mounted would look like one whose bridges all pass.
 TEST_F(ManyProjects, AFolderWithoutProjectsIsReportedAndStopsNoOther) {
-    const std::string a = Write("a"), empty = folder.Base("empty");
-    fs::create_directory(empty);
+    const std::string a = folder.WriteSmall("a"), empty = folder.Base("empty");
+    std::filesystem::create_directory(empty);
     const std::string text = "the folder " + empty + " has no project (*.in) that can be read";
-    const Outcome check = Lumerin({"check", "--brief", "--limit", "100", empty, a});
+    const ProgramRun check = RunLumerin({"check", "--brief", "--limit", "100", empty, a});
     EXPECT_EQ(check.status, kExitNotLoaded);
     EXPECT_THAT(check.out, HasSubstr("ERROR  " + text + "\n" + a + ".in  PASS"));
-    const Outcome report = Lumerin({"report", "--table", "axial", empty, a});
+    const ProgramRun report = RunLumerin({"report", "--table", "axial", empty, a});
     EXPECT_THAT(report.err, HasSubstr("lumerin: " + text + "\n"));
     EXPECT_THAT(report.err, EndsWith("2 projects: 1 done, 1 not loaded\n"));
 }
@@ -198,33 +173,35 @@ TEST_F(ManyProjects, JobsChangeNoByte) {
     large.name = "large";
     large.cases = 200;
     words.push_back(folder.Write(large));
-    for (int i = 0; i < 20; ++i) words.push_back(Write("p" + std::to_string(i)));
+    for (int i = 0; i < 20; ++i) words.push_back(folder.WriteSmall("p" + std::to_string(i)));
     words.push_back(folder.Base("missing"));
-    fs::resize_file(folder.Base("p7.PLF"), 100);
-    fs::resize_file(folder.Base("p9.vmd"), 2000);
+    std::filesystem::resize_file(folder.Base("p7.PLF"), 100);
+    std::filesystem::resize_file(folder.Base("p9.vmd"), 2000);
     for (const char* format : {"text", "csv"}) {
         std::vector<std::string> one = words;
         one.insert(one.end(), {"--format", format});
-        const Outcome expected = Lumerin(one);
+        const ProgramRun expected = RunLumerin(one);
         EXPECT_EQ(expected.status, kExitNotLoaded);
         for (const char* jobs : {"2", "7", "100"}) {
             std::vector<std::string> many = one;
             many.insert(many.end(), {"--jobs", jobs});
-            const Outcome outcome = Lumerin(many);
+            const ProgramRun outcome = RunLumerin(many);
             EXPECT_EQ(outcome.status, expected.status);
             EXPECT_EQ(outcome.out, expected.out) << jobs;
             EXPECT_EQ(outcome.err, expected.err) << jobs;
         }
     }
-    EXPECT_EQ(Lumerin({"check", "--jobs", "0", folder.Base("p1")}).status, kExitUsage);
+    EXPECT_EQ(RunLumerin({"check", "--jobs", "0", folder.Base("p1")}).status, kExitUsage);
 }
 
 // A link to the folder above would make the search endless.
 TEST_F(ManyProjects, LinksToFoldersAreNotFollowed) {
-    Write("a");
+    folder.WriteSmall("a");
     const std::string root = folder.Path().string();
-    fs::create_directory_symlink(root, root + "/again");
-    EXPECT_EQ(Names(Lumerin({"check", "--brief", root}), root), std::vector<std::string>{"a.in"});
+    std::filesystem::create_directory_symlink(root, root + "/again");
+    EXPECT_EQ(Names(RunLumerin({"check", "--brief", root}), root), std::vector<std::string>{"a.in"});
 }
+
+}  // namespace
 
 }  // namespace lumerin

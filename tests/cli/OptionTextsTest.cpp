@@ -4,9 +4,8 @@
 #include <gmock/gmock.h>
 
 #include <algorithm>
-#include <sstream>
 
-#include "cli/Program.h"
+#include "support/ProgramRun.h"
 #include "text/Lists.h"
 
 namespace lumerin {
@@ -17,19 +16,15 @@ using testing::HasSubstr;
 using testing::Not;
 
 // What the program says of a command line whose projects do not exist.
-std::string Fault(const CommandParser& command, const std::string& option, const std::string& word) {
-    std::vector<std::string> words{"lumerin", command.Name()};
+std::string MessageOf(const CommandParser& command, const std::string& option, const std::string& word) {
+    std::vector<std::string> words{command.Name()};
     for (const OptionText& each : command.Options()) {
         if (!each.isArgument) continue;
         words.emplace_back(each.names.front() == "FIGURE" ? "dc" : "/nowhere/pier");
         if (each.isRepeated) break;
     }
     words.insert(words.end(), {option, word});
-    std::vector<const char*> arguments;
-    for (const std::string& each : words) arguments.push_back(each.c_str());
-    std::ostringstream out, err;
-    Program().Run(static_cast<int>(arguments.size()), arguments.data(), out, err);
-    return err.str();
+    return RunLumerin(words).err;
 }
 
 // The words that a message lists at its end, "... is no format (text, json)"; those of several words, which
@@ -65,7 +60,8 @@ TEST(OptionTexts, EachWordThatIsCompletedIsAccepted) {
         for (const OptionText& option : ValueOptions(command)) {
             const std::string& name = option.names.back();
             for (const std::string& word : WordsOf(command.Name(), name)) {
-                EXPECT_THAT(Fault(command, name, word), Not(HasSubstr("\" is no "))) << name << ' ' << word;
+                EXPECT_THAT(MessageOf(command, name, word), Not(HasSubstr("\" is no ")))
+                    << name << ' ' << word;
                 ++tried;
             }
         }
@@ -80,7 +76,7 @@ TEST(OptionTexts, EachWordThatAMessageListsIsCompleted) {
         for (const OptionText& option : ValueOptions(command)) {
             const std::string& name = option.names.back();
             const std::vector<std::string> completed = WordsOf(command.Name(), name);
-            const std::string message = Fault(command, name, "qqqqqq");
+            const std::string message = MessageOf(command, name, "qqqqqq");
             const std::vector<std::string> listed = ListedWords(message);
             EXPECT_THAT(listed, testing::IsSubsetOf(completed)) << command.Name() << ": " << message;
             // A completion whose option lists no words would not be compared with anything.

@@ -10,6 +10,7 @@
 #include <stdexcept>
 
 #include "cli/EmbedmentCommand.h"
+#include "support/ProgramRun.h"
 #include "support/RecordsProject.h"
 #include "support/SampleFolder.h"
 
@@ -21,21 +22,11 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 
-struct Outcome {
-    ExitStatus status = kExitDone;
-    std::string out, err;
-};
-
-Outcome Plot(const PlotRequest& request) {
-    std::ostringstream out, err;
-    Outcome outcome;
-    outcome.status = RunPlot(request, out, err);
-    outcome.out = out.str();
-    outcome.err = err.str();
-    return outcome;
+ProgramRun Plot(const PlotRequest& request) {
+    return RunCommand([&](std::ostream& out, std::ostream& err) { return RunPlot(request, out, err); });
 }
 
-PlotRequest Of(const std::string& project, const std::string& figure) {
+PlotRequest RequestOf(const std::string& project, const std::string& figure) {
     PlotRequest request;
     request.project = project;
     request.figure = figure;
@@ -46,7 +37,7 @@ PlotRequest Of(const std::string& project, const std::string& figure) {
 
 TEST(Plot, APictureGoesToStandardOutputAlone) {
     const SampleFolder folder;
-    const Outcome outcome = Plot(Of(folder.Write("bent"), "cap-moment"));
+    const ProgramRun outcome = Plot(RequestOf(folder.Write("bent"), "cap-moment"));
     EXPECT_EQ(outcome.status, kExitDone);
     EXPECT_THAT(outcome.out, StartsWith("<svg "));
     EXPECT_THAT(outcome.out, HasSubstr("bent.in, substructure 1 (pile bent), all 18 cases"));
@@ -55,9 +46,9 @@ TEST(Plot, APictureGoesToStandardOutputAlone) {
 
 TEST(Plot, AFileIsWrittenWholeAndNamed) {
     const SampleFolder folder;
-    PlotRequest request = Of(folder.Write("bent"), "dc");
+    PlotRequest request = RequestOf(folder.Write("bent"), "dc");
     request.output = (folder.Path() / "dc.svg").string();
-    const Outcome outcome = Plot(request);
+    const ProgramRun outcome = Plot(request);
     EXPECT_EQ(outcome.out, request.output + "\n");
     EXPECT_GT(std::filesystem::file_size(request.output), 1000U);
     request.output = (folder.Path() / "none" / "dc.svg").string();
@@ -66,7 +57,7 @@ TEST(Plot, AFileIsWrittenWholeAndNamed) {
 
 TEST(Plot, OfSeveralSubstructuresOneMustBeNamed) {
     const SampleFolder folder;
-    PlotRequest request = Of(folder.Write("bridge"), "pile-heads");
+    PlotRequest request = RequestOf(folder.Write("bridge"), "pile-heads");
     EXPECT_THROW(Plot(request), std::invalid_argument);
     request.drawing.substructure = 4;
     EXPECT_THROW(Plot(request), std::invalid_argument);
@@ -75,8 +66,8 @@ TEST(Plot, OfSeveralSubstructuresOneMustBeNamed) {
 }
 
 TEST(Plot, AnUnknownFigureIsWrongUsageAndAMissingProjectStatusThree) {
-    EXPECT_THROW(Plot(Of("none", "cap-torsion")), std::invalid_argument);
-    const Outcome outcome = Plot(Of("none", "dc"));
+    EXPECT_THROW(Plot(RequestOf("none", "cap-torsion")), std::invalid_argument);
+    const ProgramRun outcome = Plot(RequestOf("none", "dc"));
     EXPECT_EQ(outcome.status, kExitNotLoaded);
     EXPECT_EQ(outcome.err, "none.in: no project none.in\n");
 }
@@ -84,10 +75,10 @@ TEST(Plot, AnUnknownFigureIsWrongUsageAndAMissingProjectStatusThree) {
 // The limit and the choice of cases are those of `check`.
 TEST(Plot, LimitAndCasesAreNamed) {
     const SampleFolder folder;
-    PlotRequest request = Of(folder.Write("bent"), "dc");
+    PlotRequest request = RequestOf(folder.Write("bent"), "dc");
     request.limits.ratio = 0.9;
     ReadCases("1-6", request.cases);
-    const Outcome outcome = Plot(request);
+    const ProgramRun outcome = Plot(request);
     EXPECT_THAT(outcome.out, HasSubstr("limit 0.9"));
     EXPECT_THAT(outcome.out, HasSubstr("6 of 18 cases"));
     EXPECT_THAT(outcome.out, HasSubstr("1.022 over the limit, pile 2 head, case 6 LFD-GROUP-V"));
@@ -96,10 +87,10 @@ TEST(Plot, LimitAndCasesAreNamed) {
 TEST(Plot, DataAreTheRowsOfTheSubstructure) {
     const SampleFolder folder;
     // All three substructures have piles.
-    PlotRequest request = Of(folder.Write("bridge"), "pile-heads");
+    PlotRequest request = RequestOf(folder.Write("bridge"), "pile-heads");
     request.drawing.substructure = 2;
     request.data = true;
-    const Outcome outcome = Plot(request);
+    const ProgramRun outcome = Plot(request);
     std::istringstream lines(outcome.out);
     std::string line;
     std::getline(lines, line);
@@ -115,11 +106,11 @@ TEST(Plot, DataAreTheRowsOfTheSubstructure) {
 // The rows of the element's end alone, a row a case.
 TEST(Plot, DataOfACaseScanAreTheRowsOfOneEnd) {
     const SampleFolder folder;
-    PlotRequest request = Of(folder.Write("bent"), "case-scan");
+    PlotRequest request = RequestOf(folder.Write("bent"), "case-scan");
     request.data = true;
     request.drawing.element = 4;
     request.drawing.end = kEndJ;
-    const Outcome outcome = Plot(request);
+    const ProgramRun outcome = Plot(request);
     std::istringstream lines(outcome.out);
     std::string line;
     std::getline(lines, line);
@@ -134,7 +125,7 @@ TEST(Plot, DataOfACaseScanAreTheRowsOfOneEnd) {
 TEST(Plot, TheCurveOfTheStudyIsThatOfTheEmbedmentCommand) {
     const SampleFolder folder;
     const std::string base = folder.Write("pier");
-    PlotRequest request = Of(base, "embedment");
+    PlotRequest request = RequestOf(base, "embedment");
     request.drawing.study = {.quantity = kMaxAxial, .loadCase = 3, .envelope = 1, .hasCase = true};
     EmbedmentOptions options;
     options.project = base + ".in";
@@ -148,14 +139,14 @@ TEST(Plot, TheCurveOfTheStudyIsThatOfTheEmbedmentCommand) {
     EXPECT_EQ(Plot(request).out, expected);
     request.drawing.study.loadCase = 27;
     EXPECT_THROW(Plot(request), std::invalid_argument);
-    EXPECT_THAT(Plot(Of(folder.Write("bent"), "embedment")).out,
+    EXPECT_THAT(Plot(RequestOf(folder.Write("bent"), "embedment")).out,
                 HasSubstr("The project has no embedment study."));
 }
 
 // Both envelopes of one chosen case are the curve of that case; case 1 is greater or less than it.
 TEST(Plot, TheCurveOfTheStudyFollowsTheChosenCases) {
     const SampleFolder folder;
-    PlotRequest request = Of(folder.Write("pier"), "embedment");
+    PlotRequest request = RequestOf(folder.Write("pier"), "embedment");
     const auto curve = [&request] {
         const std::string svg = Plot(request).out;
         return svg.substr(svg.find("<polyline"));
@@ -177,7 +168,7 @@ TEST(Plot, UnsoundDataAreStatusFourAndTheFigureIsThere) {
     project.Set(0, 1, kRatioJ, 0.5F);
     project.WriteAll();
     std::filesystem::resize_file(project.Path(".vmd"), 7 * 68);
-    const Outcome outcome = Plot(Of(project.Base(), "pile-heads"));
+    const ProgramRun outcome = Plot(RequestOf(project.Base(), "pile-heads"));
     EXPECT_EQ(outcome.status, kExitUnsound);
     EXPECT_THAT(outcome.out, StartsWith("<svg "));
     EXPECT_THAT(outcome.err, HasSubstr("error: missing-records"));

@@ -17,22 +17,22 @@ namespace {
 
 using testing::HasSubstr;
 
-struct Outcome {
+struct Answer {
     int status = -1;
     std::string output;  // both streams
 };
 
-Outcome RunProgram(const std::string& arguments) {
+Answer RunProgram(const std::string& arguments) {
     const std::string command = std::string(LUMERIN_BINARY_DIR) + "/lumerin 2>&1 " + arguments;
-    Outcome outcome;
+    Answer answer;
     std::FILE* pipe = popen(command.c_str(), "r");
-    if (pipe == nullptr) return outcome;
+    if (pipe == nullptr) return answer;
     char buffer[4096];
     while (const std::size_t got = std::fread(buffer, 1, sizeof buffer, pipe))
-        outcome.output.append(buffer, got);
+        answer.output.append(buffer, got);
     const int code = pclose(pipe);
-    outcome.status = WIFEXITED(code) ? WEXITSTATUS(code) : -1;
-    return outcome;
+    answer.status = WIFEXITED(code) ? WEXITSTATUS(code) : -1;
+    return answer;
 }
 
 // A copy of the program includes the texts that its licences require.
@@ -60,7 +60,7 @@ TEST(Program, HelpAndVersionAreNoFailure) {
     EXPECT_EQ(RunProgram("--help").status, 0);
     EXPECT_EQ(RunProgram("report --help").status, 0);
     EXPECT_THAT(RunProgram("drive --help").output, HasSubstr("SCRIPT"));
-    const Outcome version = RunProgram("--version");
+    const Answer version = RunProgram("--version");
     EXPECT_EQ(version.status, 0);
     EXPECT_THAT(version.output,
                 testing::ContainsRegex("^lumerin [0-9]+\\.[0-9]+\\.[0-9]+( \\(commit [0-9a-f]{12}\\))?\n$"));
@@ -147,14 +147,14 @@ TEST(Program, WhatIsSaidIsUtf8) {
 TEST(Program, ReportsDrivesAndNamesWhatWentWrong) {
     const SampleFolder folder;
     const std::string base = folder.Write("pier");
-    const Outcome report =
+    const Answer report =
         RunProgram("report " + base + ".in --table axial --clock 2026-11-14T08:30:00 2>/dev/null");
     EXPECT_EQ(report.status, 0);
     EXPECT_EQ(report.output, base + "_Max_Axial_Forces_Pile_Heads.txt\n");
     EXPECT_EQ(RunProgram("report " + base + ".in /nowhere/q.in --table axial").status, 3);
     const std::string script = folder.Base("script");
     std::ofstream(script) << "key Esc\n";
-    const Outcome drive = RunProgram("drive " + base + ".in " + script + " --format pdf");
+    const Answer drive = RunProgram("drive " + base + ".in " + script + " --format pdf");
     EXPECT_EQ(drive.status, 0);
     EXPECT_EQ(drive.output, "{\"dialog\":\"Lumerin Generator\"}\n{\"result\":0}\n");
     EXPECT_EQ(RunProgram("drive " + base + ".in - < " + script).output, drive.output);

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "cli/Program.h"
+#include "support/ProgramRun.h"
 #include "support/SampleFolder.h"
 
 namespace lumerin {
@@ -17,30 +17,19 @@ namespace {
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
-namespace fs = std::filesystem;
 
 class Resume : public testing::Test {
   protected:
     Resume() {
-        for (const char* name : {"a", "b", "c"}) {
-            samples::SampleOptions options;
-            options.preset = "bent";
-            options.name = name;
-            options.cases = 2;
-            options.rows = 1;
-            options.columns = 2;
-            folder.Write(options);
-        }
+        for (const char* name : {"a", "b", "c"}) folder.WriteSmall(name);
     }
     // The last line on standard error of a run over the given projects; its standard output is in `out`.
     std::string Lumerin(std::vector<std::string> words, const std::vector<std::string>& projects) {
         for (const std::string& project : projects) words.push_back(folder.Base(project));
-        std::vector<const char*> argv{"lumerin"};
-        for (const std::string& word : words) argv.push_back(word.c_str());
-        std::ostringstream stdOut, err;
-        status = Program().Run(static_cast<int>(argv.size()), argv.data(), stdOut, err);
-        out = stdOut.str();
-        const std::string text = err.str();
+        const ProgramRun run = RunLumerin(words);
+        status = run.status;
+        out = run.out;
+        const std::string& text = run.err;
         const std::size_t end = text.empty() ? 0 : text.rfind('\n', text.size() - 2);
         return end == std::string::npos ? text : text.substr(end == 0 ? 0 : end + 1);
     }
@@ -60,7 +49,8 @@ class Resume : public testing::Test {
     }
     // Another time, the same bytes.
     void Touch(const std::string& file) const {
-        fs::last_write_time(folder.Base(file), fs::file_time_type::clock::now() - std::chrono::hours(1));
+        std::filesystem::last_write_time(
+            folder.Base(file), std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
     }
 
     SampleFolder folder;
@@ -73,8 +63,6 @@ constexpr const char* kAllUnchanged = "3 projects: 3 fail; 3 unchanged\n";
 constexpr const char* kOneDone = "3 projects: 3 fail; 2 unchanged\n";
 
 const std::vector<std::string> kThree{"a", "b", "c"};
-
-}  // namespace
 
 TEST_F(Resume, UnchangedProjectsArePassedOverAndTheirVerdictsCount) {
     EXPECT_EQ(Check(kThree, {"--limit", "0.001"}), kAllDone);
@@ -94,11 +82,11 @@ TEST_F(Resume, AnyChangedNewOrMissingFileOfAProjectCounts) {
     EXPECT_EQ(Check(kThree, limit), kAllUnchanged);
     Write(folder.Base("c.BRG"), "");  // in any letter case
     EXPECT_EQ(Check(kThree, limit), kOneDone);
-    fs::remove(folder.Base("c.BRG"));
+    std::filesystem::remove(folder.Base("c.BRG"));
     EXPECT_EQ(Check(kThree, limit), kOneDone);
-    const auto time = fs::last_write_time(folder.Base("a.PIL"));
-    fs::resize_file(folder.Base("a.PIL"), fs::file_size(folder.Base("a.PIL")) + 1);
-    fs::last_write_time(folder.Base("a.PIL"), time);
+    const auto time = std::filesystem::last_write_time(folder.Base("a.PIL"));
+    std::filesystem::resize_file(folder.Base("a.PIL"), std::filesystem::file_size(folder.Base("a.PIL")) + 1);
+    std::filesystem::last_write_time(folder.Base("a.PIL"), time);
     EXPECT_EQ(Check(kThree, limit), kOneDone);
     EXPECT_EQ(Check(kThree, limit), kAllUnchanged);
 }
@@ -112,7 +100,7 @@ TEST_F(Resume, TheOutputIsThatOfARunOverAllOfThem) {
         const std::string resumed = Read(Output());
         Lumerin({"check", "--format", format, "--limit", "0.001"}, kThree);
         EXPECT_EQ(resumed, out);
-        fs::remove(Stamps());
+        std::filesystem::remove(Stamps());
     }
 }
 
@@ -165,7 +153,7 @@ TEST_F(Resume, ARunThatWasEndedIsGoneOnWith) {
     const std::vector<std::string> limit{"--limit", "0.001"};
     Check(kThree, limit);
     const std::string whole = Read(Stamps()), result = Read(Output());
-    fs::remove(Output());
+    std::filesystem::remove(Output());
     for (std::size_t missing = 1; missing < 100; missing += 9) {
         Write(Stamps(), whole.substr(0, whole.size() - missing));
         ASSERT_EQ(Check(kThree, limit), kOneDone) << missing;
@@ -175,7 +163,7 @@ TEST_F(Resume, ARunThatWasEndedIsGoneOnWith) {
 }
 
 TEST_F(Resume, AProjectThatCouldNotBeLoadedIsTriedAgain) {
-    fs::rename(folder.Base("b.PLF"), folder.Base("kept"));
+    std::filesystem::rename(folder.Base("b.PLF"), folder.Base("kept"));
     EXPECT_EQ(Check(kThree, {"--limit", "0.001"}), "3 projects: 2 fail, 1 not loaded\n");
     EXPECT_EQ(Check(kThree, {"--limit", "0.001"}), "3 projects: 2 fail, 1 not loaded; 2 unchanged\n");
     EXPECT_EQ(status, kExitNotLoaded);
@@ -202,7 +190,7 @@ TEST_F(Resume, ExportsToAFolderKeepTheFilesOfUnchangedProjects) {
     EXPECT_EQ(out, paths);
     // A file that was deleted or written by somebody else is written again.
     const std::string rows = Read(output + "b-verdict.csv");
-    fs::remove(output + "b-verdict.csv");
+    std::filesystem::remove(output + "b-verdict.csv");
     EXPECT_EQ(Lumerin(words, kThree), "3 projects: 3 done; 2 unchanged\n");
     EXPECT_EQ(Read(output + "b-verdict.csv"), rows);
     Write(output + "b-verdict.csv", "other");
@@ -255,9 +243,11 @@ TEST_F(Resume, AnOutputFileOfCheckIsReplacedWhenAllIsDone) {
     EXPECT_EQ(Lumerin({"check", "--limit", "0.001", "-o", Output()}, kThree), kAllDone);
     EXPECT_THAT(Read(Output()), Not(HasSubstr("earlier")));
     EXPECT_EQ(out, Output() + "\n");
-    EXPECT_FALSE(fs::exists(Stamps()));
+    EXPECT_FALSE(std::filesystem::exists(Stamps()));
     EXPECT_THAT(Lumerin({"check", "-o", folder.Base("none/x")}, kThree), HasSubstr("there is no folder"));
     EXPECT_EQ(status, kExitIncomplete);
 }
+
+}  // namespace
 
 }  // namespace lumerin

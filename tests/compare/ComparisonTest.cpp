@@ -62,8 +62,6 @@ class ComparisonTest : public testing::Test {
     RecordsProject before, after;
 };
 
-}  // namespace
-
 TEST(Comparison, AProjectAgainstItselfIsTheSame) {
     const SampleFolder folder;
     for (const char* preset : {"pier", "bent", "group", "walls", "bridge", "history"}) {
@@ -341,5 +339,7 @@ TEST(Comparison, TheWorstComesFirst) {
         EXPECT_GE(a.values[0].change.times, b.values[0].change.times);
     }
 }
+
+}  // namespace
 
 }  // namespace lumerin

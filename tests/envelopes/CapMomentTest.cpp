@@ -8,13 +8,6 @@ namespace lumerin {
 namespace {
 
 constexpr int kLeftFace = 0, kCentre = 1, kRightFace = 2;
-constexpr int kMax = 0, kMin = 1;
-
-CCapRecord Record(int loadCase, int prop, int index, int elem, int end, int node, int kind, int member,
-                  int second = 0, int missing = 0) {
-    return {loadCase, prop, index, elem, end, node, kind, member, second, missing};
-}
-
 // Moments and ratios of the two elements at the first column's top, node 5: element 22 ends there, 23 starts.
 void SetAtTop(SearchedCap& model, int loadCase, float leftMoment, float leftRatio, float rightMoment,
               float rightRatio) {
@@ -34,9 +27,9 @@ TEST(CapMoment, CentrelineComparesBothElements) {
     SetAtTop(model, 1, -50, 0, -60, 0);
     model.ComputeMoment();
     EXPECT_EQ(model.results.momentSupports.At(0, 0, kCentre, kMax).record,
-              Record(0, 2, 1, 22, kEndJ, 5, kCapCantilever, 0));
+              CapRecord(0, 2, 1, 22, kEndJ, 5, kCapCantilever, 0));
     EXPECT_EQ(model.results.momentSupports.At(0, 0, kCentre, kMin).record,
-              Record(1, 3, 0, 23, kEndI, 5, kCapSpan, 0));
+              CapRecord(1, 3, 0, 23, kEndI, 5, kCapSpan, 0));
     EXPECT_DOUBLE_EQ(model.results.momentSupports.At(0, 0, kCentre, kMin).values[kM33], -60);
 }
 
@@ -73,7 +66,7 @@ TEST(CapMoment, EqualSidesGoToTheHigherRatioAndElseToTheRight) {
     SetAtTop(model, 1, 10, 0, 40, 0.9F);
     model.ComputeMoment();
     EXPECT_EQ(model.results.momentSupports.At(0, 0, kCentre, kMax).record,
-              Record(1, 3, 0, 23, kEndI, 5, kCapSpan, 0));
+              CapRecord(1, 3, 0, 23, kEndI, 5, kCapSpan, 0));
 }
 
 TEST(CapMoment, SideThatIsNoNumberIsDecidedByTheRatio) {
@@ -95,7 +88,7 @@ TEST(CapMoment, InsideAnElementTheMomentIsInterpolated) {
     model.Set(1, 3, kM33, 100, 0);
     model.ComputeMoment();
     const CCapEntry& maximum = model.results.momentSupports.At(1, 0, kLeftFace, kMax);
-    EXPECT_EQ(maximum.record, Record(0, 4, 1, 24, kInsideElement, 8, kCapSpan, 0, 11));
+    EXPECT_EQ(maximum.record, CapRecord(0, 4, 1, 24, kInsideElement, 8, kCapSpan, 0, 11));
     EXPECT_DOUBLE_EQ(maximum.values[kM33], 50);  // 10 + 50 * 0.8
     const CCapEntry& minimum = model.results.momentSupports.At(1, 0, kLeftFace, kMin);
     EXPECT_EQ(minimum.record.m_nLoadCase, 1);
@@ -121,9 +114,9 @@ TEST(CapMoment, FaceOnANodeReportsOneNode) {
     model.Set(0, 5, kM33, 4, 0);
     model.ComputeMoment();
     EXPECT_EQ(model.results.momentSupports.At(1, 0, kRightFace, kMax).record,
-              Record(0, 5, 0, 25, kEndJ, 12, kCapCantilever, 1));
+              CapRecord(0, 5, 0, 25, kEndJ, 12, kCapCantilever, 1));
     EXPECT_EQ(model.results.momentSupports.At(1, 0, kRightFace, kMin).record,
-              Record(0, 6, 1, 26, kEndI, 12, kCapCantilever, 1));
+              CapRecord(0, 6, 1, 26, kEndI, 12, kCapCantilever, 1));
 }
 
 TEST(CapMoment, FatigueAloneHasItsSlot) {
@@ -144,7 +137,7 @@ TEST(CapMoment, WithoutCantileversTheLastCentrelineIsMissing) {
     EXPECT_EQ(model.results.momentSupportX, (std::vector<double>{10, 12, 28, 30}));
     // The search uses node 10, which no element has; the column's top is node 9.
     EXPECT_EQ(model.results.momentSupports.At(1, 0, kCentre, kMax).record,
-              Record(-1, 0, -1, 0, 0, 0, -1, -1, 0, 1));
+              CapRecord(-1, 0, -1, 0, 0, 0, -1, -1, 0, 1));
     // The first column's centreline has an element on its right only.
     EXPECT_EQ(model.results.momentSupports.At(0, 0, kCentre, kMax).record.m_nElementNumber, 21);
 }
@@ -157,7 +150,7 @@ TEST(CapMomentBearings, LastNodeOfACapWithoutCantileversHasTheLeftSideAlone) {
     model.ComputeMoment();
     for (int sense : {kMax, kMin}) {
         const CCapEntry& entry = model.results.momentBearings.At(0, 0, 0, sense);
-        EXPECT_EQ(entry.record, Record(0, 2, 1, 22, kEndJ, 9, kCapSpan, 0));
+        EXPECT_EQ(entry.record, CapRecord(0, 2, 1, 22, kEndJ, 9, kCapSpan, 0));
         EXPECT_DOUBLE_EQ(entry.values[kM33], -8);
     }
 }
@@ -171,9 +164,9 @@ TEST(CapMomentBearings, MoreCriticalSideIsReported) {
     SetAtTop(model, 1, -30, 0, -20, 0);
     model.ComputeMoment();
     EXPECT_EQ(model.results.momentBearings.At(0, 0, 0, kMax).record,
-              Record(0, 3, 0, 23, kEndI, 5, kCapSpan, 0));
+              CapRecord(0, 3, 0, 23, kEndI, 5, kCapSpan, 0));
     EXPECT_EQ(model.results.momentBearings.At(0, 0, 0, kMin).record,
-              Record(1, 2, 1, 22, kEndJ, 5, kCapCantilever, 0));
+              CapRecord(1, 2, 1, 22, kEndJ, 5, kCapCantilever, 0));
 }
 
 TEST(CapMomentBearings, MaskedSideGivesWayAndTwoOfThemAreMissing) {
@@ -188,7 +181,7 @@ TEST(CapMomentBearings, MaskedSideGivesWayAndTwoOfThemAreMissing) {
     model.ComputeMoment();
     // Load case and place are cleared; PROP, ELEM, end and NODE of the earlier search stay.
     EXPECT_EQ(model.results.momentBearings.At(0, 0, 0, kMax).record,
-              Record(-1, 2, -1, 22, kEndJ, 5, -1, -1, 0, 1));
+              CapRecord(-1, 2, -1, 22, kEndJ, 5, -1, -1, 0, 1));
 }
 
 TEST(CapMomentBearings, BearingOffTheCapLosesEveryWord) {
@@ -208,7 +201,7 @@ TEST(CapMomentBearings, ClassWithoutCasesGoesToTheRightSide) {
     SearchedCap model(shape);
     model.ComputeMoment();
     EXPECT_EQ(model.results.momentBearings.At(0, 1, 0, kMax).record,
-              Record(-1, 3, 0, 23, kEndI, 5, kCapSpan, 0));
+              CapRecord(-1, 3, 0, 23, kEndI, 5, kCapSpan, 0));
 }
 
 }  // namespace lumerin

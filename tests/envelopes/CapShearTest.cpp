@@ -7,14 +7,7 @@ namespace lumerin {
 
 namespace {
 
-constexpr int kLeftFace = 0, kLeftCentre = 1, kRightCentre = 2, kRightFace = 3;
-constexpr int kMax = 0, kMin = 1;
-
-CCapRecord Record(int loadCase, int prop, int index, int elem, int end, int node, int kind, int member,
-                  int second = 0, int missing = 0) {
-    return {loadCase, prop, index, elem, end, node, kind, member, second, missing};
-}
-
+constexpr int kShearLeftFace = 0, kLeftCentre = 1, kRightCentre = 2, kShearRightFace = 3;
 }  // namespace
 
 TEST(CapShear, FaceOnANodeComparesBothElements) {
@@ -29,12 +22,12 @@ TEST(CapShear, FaceOnANodeComparesBothElements) {
     model.Set(0, 1, kAxial, 7, 8);
     model.ComputeShear();
     // At the node: 10 and 20 from the left, 30 and -5 from the right.
-    const CCapEntry& maximum = model.results.shearSupports.At(0, 0, kLeftFace, kMax);
-    EXPECT_EQ(maximum.record, Record(0, 2, 1, 22, kEndI, 7, kCapCantilever, 0));
+    const CCapEntry& maximum = model.results.shearSupports.At(0, 0, kShearLeftFace, kMax);
+    EXPECT_EQ(maximum.record, CapRecord(0, 2, 1, 22, kEndI, 7, kCapCantilever, 0));
     EXPECT_DOUBLE_EQ(maximum.values[kF22], 30);
     EXPECT_DOUBLE_EQ(maximum.values[kAxial], 7);
-    const CCapEntry& minimum = model.results.shearSupports.At(0, 0, kLeftFace, kMin);
-    EXPECT_EQ(minimum.record, Record(1, 2, 1, 22, kEndI, 7, kCapCantilever, 0));
+    const CCapEntry& minimum = model.results.shearSupports.At(0, 0, kShearLeftFace, kMin);
+    EXPECT_EQ(minimum.record, CapRecord(1, 2, 1, 22, kEndI, 7, kCapCantilever, 0));
     EXPECT_DOUBLE_EQ(minimum.values[kF22], -5);
 }
 
@@ -46,7 +39,7 @@ TEST(CapShear, EqualValuesOnBothSidesGoToTheLeft) {
     model.Set(0, 1, kF22, 40, 0);
     model.ComputeShear();
     for (int sense : {kMax, kMin}) {
-        EXPECT_EQ(model.results.shearSupports.At(0, 0, kLeftFace, sense).record.m_nElementNumber, 21);
+        EXPECT_EQ(model.results.shearSupports.At(0, 0, kShearLeftFace, sense).record.m_nElementNumber, 21);
     }
 }
 
@@ -55,8 +48,8 @@ TEST(CapShear, FaceInsideAnElementInterpolates) {
     model.Set(0, 2, kF22, 100, 50);
     model.Set(0, 2, kDemandCapacity, 1, 0);
     model.ComputeShear();
-    const CCapEntry& entry = model.results.shearSupports.At(0, 0, kRightFace, kMax);
-    EXPECT_EQ(entry.record, Record(0, 3, 0, 23, kInsideElement, 5, kCapSpan, 0, 8));
+    const CCapEntry& entry = model.results.shearSupports.At(0, 0, kShearRightFace, kMax);
+    EXPECT_EQ(entry.record, CapRecord(0, 3, 0, 23, kInsideElement, 5, kCapSpan, 0, 8));
     EXPECT_DOUBLE_EQ(entry.values[kF22], 90);  // 100 - 50 * 0.2
     EXPECT_DOUBLE_EQ(entry.values[kDemandCapacity], 0.8);
 }
@@ -67,7 +60,7 @@ TEST(CapShear, DifferenceOfTheEndsIsFormedInSingleWidth) {
     model.Set(0, 2, kF22, 16777216.0F, -1.0F);
     model.ComputeShear();
     const double t = (12.0 - 10.0) / 10.0;
-    EXPECT_EQ(model.results.shearSupports.At(0, 0, kRightFace, kMax).values[kF22],
+    EXPECT_EQ(model.results.shearSupports.At(0, 0, kShearRightFace, kMax).values[kF22],
               16777216.0 - 16777216.0 * t);
 }
 
@@ -78,10 +71,10 @@ TEST(CapShear, CentrelineEntriesReadOneSideEach) {
     model.ComputeShear();
     for (int sense : {kMax, kMin}) {
         const CCapEntry& left = model.results.shearSupports.At(0, 0, kLeftCentre, sense);
-        EXPECT_EQ(left.record, Record(0, 2, 1, 22, kEndJ, 5, kCapCantilever, 0));
+        EXPECT_EQ(left.record, CapRecord(0, 2, 1, 22, kEndJ, 5, kCapCantilever, 0));
         EXPECT_DOUBLE_EQ(left.values[kF22], -70);
         const CCapEntry& right = model.results.shearSupports.At(0, 0, kRightCentre, sense);
-        EXPECT_EQ(right.record, Record(0, 3, 0, 23, kEndI, 5, kCapSpan, 0));
+        EXPECT_EQ(right.record, CapRecord(0, 3, 0, 23, kEndI, 5, kCapSpan, 0));
         EXPECT_DOUBLE_EQ(right.values[kF22], 90);
     }
 }
@@ -132,8 +125,8 @@ TEST(CapShear, MaskedElementLeavesTheSectionToTheOtherSide) {
     model.Set(0, 1, kF22, 90, 0);
     model.Mask(1);
     model.ComputeShear();
-    EXPECT_EQ(model.results.shearSupports.At(0, 0, kLeftFace, kMax).record,
-              Record(0, 1, 0, 21, kEndJ, 7, kCapCantilever, 0));
+    EXPECT_EQ(model.results.shearSupports.At(0, 0, kShearLeftFace, kMax).record,
+              CapRecord(0, 1, 0, 21, kEndJ, 7, kCapCantilever, 0));
 }
 
 TEST(CapShear, BothSidesMaskedIsMissingAndKeepsTheOtherWords) {
@@ -145,10 +138,10 @@ TEST(CapShear, BothSidesMaskedIsMissingAndKeepsTheOtherWords) {
     model.Mask(0);
     model.Mask(1);
     model.ComputeShear();
-    const CCapEntry& entry = model.results.shearSupports.At(0, 0, kLeftFace, kMax);
+    const CCapEntry& entry = model.results.shearSupports.At(0, 0, kShearLeftFace, kMax);
     // The words for load case, place and member are cleared; PROP, ELEM, end and NODE of the earlier search
     // stay.
-    EXPECT_EQ(entry.record, Record(-1, 1, -1, 21, kEndJ, 7, -1, -1, 0, 1));
+    EXPECT_EQ(entry.record, CapRecord(-1, 1, -1, 21, kEndJ, 7, -1, -1, 0, 1));
     EXPECT_DOUBLE_EQ(entry.values[kF22], 10);
 }
 
@@ -156,8 +149,8 @@ TEST(CapShear, MaskedElementInsideIsMissing) {
     SearchedCap model(TwoColumns());
     model.Mask(2);
     model.ComputeShear();
-    EXPECT_EQ(model.results.shearSupports.At(0, 0, kRightFace, kMax).record,
-              Record(-1, 0, -1, 0, 0, 0, -1, -1, 0, 1));
+    EXPECT_EQ(model.results.shearSupports.At(0, 0, kShearRightFace, kMax).record,
+              CapRecord(-1, 0, -1, 0, 0, 0, -1, -1, 0, 1));
 }
 
 TEST(CapShear, ClassesHaveTheirOwnExtremes) {
@@ -187,7 +180,7 @@ TEST(CapShear, ClassWithoutCasesGivesNoLoadCaseButAPlace) {
     model.Set(0, 2, kF22, 5, 0);
     model.ComputeShear();
     const CCapEntry& entry = model.results.shearSupports.At(0, 1, kRightCentre, kMax);
-    EXPECT_EQ(entry.record, Record(-1, 3, 0, 23, kEndI, 5, kCapSpan, 0));
+    EXPECT_EQ(entry.record, CapRecord(-1, 3, 0, 23, kEndI, 5, kCapSpan, 0));
     EXPECT_DOUBLE_EQ(entry.values[kF22], 0);
 }
 
@@ -213,7 +206,7 @@ TEST(CapShear, WithoutCantileversTheSecondCentrelineLooksAtTheNextNode) {
     model.Set(0, 3, kF22, 4, 5);  // starts there
     model.ComputeShear();
     const CCapEntry& left = model.results.shearSupports.At(1, 0, kLeftCentre, kMax);
-    EXPECT_EQ(left.record, Record(0, 3, 0, 23, kEndJ, 10, kCapSpan, 1));
+    EXPECT_EQ(left.record, CapRecord(0, 3, 0, 23, kEndJ, 10, kCapSpan, 1));
     EXPECT_DOUBLE_EQ(left.values[kF22], 3);
     EXPECT_DOUBLE_EQ(model.results.shearSupports.At(1, 0, kRightCentre, kMax).values[kF22], 4);
     // After the last column there is no further node: 5 9 13 are the tops, and there is no node 14.
@@ -231,10 +224,10 @@ TEST(CapShearBearings, SidesAreTheElementsAroundTheNode) {
     model.Set(1, 3, kF22, 8, 0);
     model.ComputeShear();
     EXPECT_EQ(model.results.shearBearings.At(0, 0, 0, kMax).record,
-              Record(1, 3, 0, 23, kEndJ, 8, kCapSpan, 0));
+              CapRecord(1, 3, 0, 23, kEndJ, 8, kCapSpan, 0));
     EXPECT_EQ(model.results.shearBearings.At(0, 0, 0, kMin).record.m_nLoadCase, 0);
     EXPECT_EQ(model.results.shearBearings.At(0, 0, 1, kMax).record,
-              Record(0, 4, 1, 24, kEndI, 8, kCapSpan, 0));
+              CapRecord(0, 4, 1, 24, kEndI, 8, kCapSpan, 0));
     EXPECT_DOUBLE_EQ(model.results.shearBearings.At(0, 0, 1, kMin).values[kF22], 8);
 }
 
@@ -259,7 +252,7 @@ TEST(CapShearBearings, MaskedElementIsSearchedButHasNoForces) {
     model.Mask(2);
     model.ComputeShear();
     const CCapEntry& entry = model.results.shearBearings.At(0, 0, 0, kMax);
-    EXPECT_EQ(entry.record, Record(1, 3, 0, 23, kEndJ, 8, kCapSpan, 0));
+    EXPECT_EQ(entry.record, CapRecord(1, 3, 0, 23, kEndJ, 8, kCapSpan, 0));
     EXPECT_DOUBLE_EQ(entry.values[kF22], 0);
 }
 

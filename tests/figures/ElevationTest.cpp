@@ -17,7 +17,7 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-const FigureKind& Kind() {
+const FigureKind& ElevationKind() {
     return *FindFigure("elevation");
 }
 
@@ -49,7 +49,7 @@ TEST(Elevation, BarsAndPilesHaveTheirPlaceAndTheirGreatestRatio) {
     project.Set(0, 3, kRatioI, 1.25F);
     project.Set(1, 5, kRatioJ, 0.5F);
     project.WriteAll();
-    const Evaluation& evaluation = project.Evaluate(Kind().needs);
+    const Evaluation& evaluation = project.Evaluate(ElevationKind().needs);
     const ElevationPicture picture = DescribeElevation(evaluation, 0);
     ASSERT_EQ(picture.frame.size(), 1U);
     const ElevationBar& bar = picture.frame[0];
@@ -65,7 +65,7 @@ TEST(Elevation, BarsAndPilesHaveTheirPlaceAndTheirGreatestRatio) {
     EXPECT_EQ(picture.piles[1].place, "pile 2 element 4 end I");
     EXPECT_EQ(picture.Worst(), &picture.piles[1]);
     EXPECT_EQ(picture.nodes.size(), 7U);
-    EXPECT_THAT(Kind().draw(evaluation, {}),
+    EXPECT_THAT(ElevationKind().draw(evaluation, {}),
                 HasSubstr("Greatest D/C 1.250 over the limit, pile 2 element 4 end I, case 1<"));
 }
 
@@ -75,15 +75,15 @@ TEST(Elevation, TheCapIsAboveTheColumnsWhicheverWayZPoints) {
     const auto opened = LoadByName(ProjectName(folder.Write("pier")));
     std::string upright;
     {
-        const Evaluation evaluation(*opened, {}, {}, Kind().needs);
+        const Evaluation evaluation(*opened, {}, {}, ElevationKind().needs);
         EXPECT_FALSE(DescribeElevation(evaluation, 0).zFalls);
-        upright = Kind().draw(evaluation, {});
+        upright = ElevationKind().draw(evaluation, {});
     }
     EXPECT_THAT(upright, HasSubstr("up is +z, from the foot of a column to its top"));
     for (auto& node : opened->project.data.m_Piers[0].m_Lists.m_Nodes) node[2] = -node[2];
-    const Evaluation evaluation(*opened, {}, {}, Kind().needs);
+    const Evaluation evaluation(*opened, {}, {}, ElevationKind().needs);
     EXPECT_TRUE(DescribeElevation(evaluation, 0).zFalls);
-    const std::string reversed = Kind().draw(evaluation, {});
+    const std::string reversed = ElevationKind().draw(evaluation, {});
     EXPECT_THAT(reversed, HasSubstr("up is -z, from the foot of a column to its top"));
     EXPECT_GT(Bars(upright).size(), 20U);
     EXPECT_EQ(Bars(upright), Bars(reversed));
@@ -94,13 +94,13 @@ TEST(Elevation, ElementsWithoutAPlaceAreCountedAndLeftOut) {
     FramedProject project;
     project.substructures[0].rows.push_back({2, 6, 8, 1});
     project.WriteAll();
-    EXPECT_EQ(DescribeElevation(project.Evaluate(Kind().needs), 0).withoutPlace, 1);
+    EXPECT_EQ(DescribeElevation(project.Evaluate(ElevationKind().needs), 0).withoutPlace, 1);
     for (const double broken : {1e30, std::numeric_limits<double>::quiet_NaN()}) {
         project.substructures[0].nodes[6][2] = broken;
         project.WriteAll();
-        const Evaluation& evaluation = project.Evaluate(Kind().needs);
+        const Evaluation& evaluation = project.Evaluate(ElevationKind().needs);
         EXPECT_EQ(DescribeElevation(evaluation, 0).withoutPlace, 2);
-        const std::string svg = Kind().draw(evaluation, {});
+        const std::string svg = ElevationKind().draw(evaluation, {});
         EXPECT_THAT(svg, HasSubstr("2 elements are left out"));
         EXPECT_THAT(svg, Not(HasSubstr("nan")));
     }
@@ -109,7 +109,7 @@ TEST(Elevation, ElementsWithoutAPlaceAreCountedAndLeftOut) {
 TEST(Elevation, AModelWithoutNodesIsASentence) {
     RecordsProject project;
     project.WriteAll();
-    EXPECT_THAT(Kind().draw(project.Evaluate(Kind().needs), {}),
+    EXPECT_THAT(ElevationKind().draw(project.Evaluate(ElevationKind().needs), {}),
                 HasSubstr("The model of this substructure lists no nodes for its elements."));
 }
 
@@ -125,7 +125,7 @@ TEST(Elevation, ManyElementsAreDrawnInRunsOfOneColour) {
         project.Set(0, 4 + i, kRatioJ, i == 600 ? 1.5F : 0.25F);
     }
     project.WriteAll();
-    const std::string svg = Kind().draw(project.Evaluate(Kind().needs), {});
+    const std::string svg = ElevationKind().draw(project.Evaluate(ElevationKind().needs), {});
     const std::vector<std::string> bars = Bars(svg);
     // Edge and colour of each line, and the mark of the one over the limit.
     EXPECT_EQ(bars.size(), 7U);

@@ -268,7 +268,7 @@ TEST_F(GridEdit, LossOfFocusEndsTheEditOnce) {
 }
 
 // Counts the ends of edits.
-class CountingGrid : public CGridCtrl {
+class EditCountingGrid : public CGridCtrl {
   public:
     void FinishCellEdit(int row, int column, const std::string& text) override {
         ++finished;
@@ -291,7 +291,7 @@ class ClosingHost : public HeadlessGrid {
 };
 
 TEST(GridEditEnd, AnEditThatEndsByAKeyEndsOnceThoughItLosesTheFocusToo) {
-    CountingGrid grid;
+    EditCountingGrid grid;
     auto made = std::make_unique<ClosingHost>(grid);
     ClosingHost& host = *made;
     grid.SetHost(std::move(made));
@@ -304,7 +304,7 @@ TEST(GridEditEnd, AnEditThatEndsByAKeyEndsOnceThoughItLosesTheFocusToo) {
 }
 
 TEST(GridEditEnd, ATextThatIsNotAcceptedKeepsTheOldOne) {
-    CountingGrid grid;
+    EditCountingGrid grid;
     auto made = std::make_unique<ClosingHost>(grid);
     ClosingHost& host = *made;
     grid.SetHost(std::move(made));

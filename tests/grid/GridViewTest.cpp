@@ -11,7 +11,7 @@ namespace lumerin {
 
 namespace {
 
-class GridView : public GridFixture {};
+class GridViewing : public GridFixture {};
 
 // A surface that records what is drawn on it.
 class RecordingDC : public CDC {
@@ -44,7 +44,7 @@ class RecordingDC : public CDC {
     std::string m_name;
 };
 
-TEST_F(GridView, PaintingReachesTheWindowInOneStep) {
+TEST_F(GridViewing, PaintingReachesTheWindowInOneStep) {
     Build(1, 1);
     std::vector<std::string> log;
     RecordingDC dc(log);
@@ -55,7 +55,7 @@ TEST_F(GridView, PaintingReachesTheWindowInOneStep) {
     EXPECT_THAT(log, testing::Contains("bitmap text r0c0"));
 }
 
-TEST_F(GridView, OnlyVisibleRowsAreDrawn) {
+TEST_F(GridViewing, OnlyVisibleRowsAreDrawn) {
     Build(1000, 1, {250, 200});
     std::vector<std::string> log;
     RecordingDC dc(log);
@@ -85,7 +85,7 @@ TEST(TitleTip, ATextIsCutOffWhenItIsWiderThanTheCellWithinItsMargins) {
     EXPECT_TRUE(CTitleTip::IsCutOff(45, 50, 3));
 }
 
-TEST_F(GridView, TheTipShowsOverACutOffTextAndGoesWithTheNextKey) {
+TEST_F(GridViewing, TheTipShowsOverACutOffTextAndGoesWithTheNextKey) {
     Build(2, 2);
     m_grid.SetCellText(0, 0, "a text too long for it");
     m_grid.OnMouseMove({10, 10}, false);
@@ -94,7 +94,7 @@ TEST_F(GridView, TheTipShowsOverACutOffTextAndGoesWithTheNextKey) {
     EXPECT_EQ(m_host->Tip(), "");
 }
 
-TEST_F(GridView, TheTipGoesWhenThePointerIsOverAnotherCell) {
+TEST_F(GridViewing, TheTipGoesWhenThePointerIsOverAnotherCell) {
     Build(2, 2);
     m_grid.SetCellText(0, 0, "a text too long for it");
     m_grid.OnMouseMove({10, 10}, false);
@@ -102,7 +102,7 @@ TEST_F(GridView, TheTipGoesWhenThePointerIsOverAnotherCell) {
     EXPECT_EQ(m_host->Tip(), "");
 }
 
-TEST_F(GridView, ATextThatFitsHasNoTip) {
+TEST_F(GridViewing, ATextThatFitsHasNoTip) {
     Build(2, 2);
     m_grid.OnMouseMove({10, 10}, false);
     EXPECT_EQ(m_host->Tip(), "");
@@ -142,7 +142,7 @@ TEST(Label, TheScaleIsNeverBelowOne) {
     EXPECT_DOUBLE_EQ(ScreenScale(), 1.0);
 }
 
-TEST_F(GridView, PrintingMeasures52LettersOfItsAlphabet) {
+TEST_F(GridViewing, PrintingMeasures52LettersOfItsAlphabet) {
     Build(1, 1);
     std::vector<std::string> log;
     RecordingDC dc(log);
@@ -155,7 +155,7 @@ TEST_F(GridView, PrintingMeasures52LettersOfItsAlphabet) {
     EXPECT_EQ(m_grid.PrintCharacterWidth(), 0);
 }
 
-TEST_F(GridView, APrintedPageRepeatsTheHeadingRows) {
+TEST_F(GridViewing, APrintedPageRepeatsTheHeadingRows) {
     Build(11, 2);
     m_grid.SetFixedRowCount(1);
     m_grid.SetPrintTexts("head", "sub", "foot");
@@ -173,7 +173,7 @@ TEST_F(GridView, APrintedPageRepeatsTheHeadingRows) {
     EXPECT_TRUE(log.empty());
 }
 
-TEST_F(GridView, APageThatIsTooLowPrintsARowAtATime) {
+TEST_F(GridViewing, APageThatIsTooLowPrintsARowAtATime) {
     Build(6, 2);
     m_grid.SetFixedRowCount(1);
     std::vector<std::string> log;
@@ -184,7 +184,7 @@ TEST_F(GridView, APageThatIsTooLowPrintsARowAtATime) {
     }
 }
 
-TEST_F(GridView, ShadedCellsAreReadOnlyInTheFaceColour) {
+TEST_F(GridViewing, ShadedCellsAreReadOnlyInTheFaceColour) {
     Build(3, 3);
     ShadeFixedCells(m_grid, 1, 1);
     for (int row = 0; row < 3; ++row) {
@@ -196,7 +196,7 @@ TEST_F(GridView, ShadedCellsAreReadOnlyInTheFaceColour) {
     }
 }
 
-TEST_F(GridView, InTheCornerTheColumnsFormatWins) {
+TEST_F(GridViewing, InTheCornerTheColumnsFormatWins) {
     Build(3, 3);
     SetGridAlignment(m_grid, 1, 1, 0, 1, 2);
     EXPECT_EQ(m_grid.GetCell(0, 0)->GetFormat(), 0u);
@@ -205,7 +205,7 @@ TEST_F(GridView, InTheCornerTheColumnsFormatWins) {
     EXPECT_EQ(m_grid.GetCell(1, 1)->GetFormat(), 2u);
 }
 
-TEST_F(GridView, AlignmentCountsBelowOneTakeTheGridsOwn) {
+TEST_F(GridViewing, AlignmentCountsBelowOneTakeTheGridsOwn) {
     Build(3, 3);
     m_grid.SetFixedRowCount(2);
     SetGridAlignment(m_grid, 0, 0, 0, 1, 2);
@@ -213,7 +213,7 @@ TEST_F(GridView, AlignmentCountsBelowOneTakeTheGridsOwn) {
     EXPECT_EQ(m_grid.GetCell(2, 0)->GetFormat(), 2u);
 }
 
-TEST_F(GridView, FittedColumnsFillTheWindowBesideTheScrollBar) {
+TEST_F(GridViewing, FittedColumnsFillTheWindowBesideTheScrollBar) {
     Build(3, 3, {117, 100});
     const std::array<int, 3> weights{1, 1, 1};
     std::array<int, 3> widths{};

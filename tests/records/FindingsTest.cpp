@@ -44,8 +44,6 @@ class FindingsTest : public testing::Test {
     RecordsProject project;
 };
 
-}  // namespace
-
 TEST_F(FindingsTest, AWholeProjectHasNone) {
     project.WriteAll();
     EXPECT_THAT(Codes(project.Evaluate()), IsEmpty());
@@ -177,5 +175,7 @@ TEST(FindingAdvice, HasTheWordsOfTheUserGuide) {
     EXPECT_EQ(rows, 13);
     EXPECT_EQ(AdviceOn("no-such-code"), "");
 }
+
+}  // namespace
 
 }  // namespace lumerin

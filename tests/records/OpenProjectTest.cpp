@@ -11,7 +11,7 @@ namespace lumerin {
 
 namespace {
 
-std::string FaultOf(const std::string& name) {
+std::string LoadFault(const std::string& name) {
     try {
         LoadByName(ProjectName(name));
     } catch (const std::runtime_error& fault) {
@@ -40,25 +40,25 @@ TEST(ProjectName, TheExtensionMayBeLeftOutAndNothingElseIsCut) {
 
 TEST(OpenProject, AProjectExistsByTheFileThatCountsItsSubstructures) {
     RecordsProject project;
-    EXPECT_EQ(FaultOf(project.Base()), "no project " + project.Base() + ".in");
+    EXPECT_EQ(LoadFault(project.Base()), "no project " + project.Base() + ".in");
     project.WriteAll();
     project.Remove(".in");
-    EXPECT_EQ(FaultOf(project.Base()), "");
-    EXPECT_EQ(FaultOf(project.Base() + "XYZ"), "no project " + project.Base() + "XYZ.in");
+    EXPECT_EQ(LoadFault(project.Base()), "");
+    EXPECT_EQ(LoadFault(project.Base() + "XYZ"), "no project " + project.Base() + "XYZ.in");
 }
 
 TEST(OpenProject, AFileThatIsMissingOrBrokenIsNamed) {
     RecordsProject project;
     project.WriteAll();
     project.Remove(".PLF");
-    EXPECT_THAT(FaultOf(project.Base()), testing::StartsWith(project.Base() + ".PLF: "));
+    EXPECT_THAT(LoadFault(project.Base()), testing::StartsWith(project.Base() + ".PLF: "));
 }
 
 TEST(OpenProject, WhenNothingConvergedTheHostsTextIsTheFault) {
     RecordsProject project;
     project.WriteAll();
     project.WriteFile(".ncv", ResultProject::Convergence(0).End());
-    EXPECT_EQ(FaultOf(project.Base()), "No load cases converged. Results cannot be viewed.");
+    EXPECT_EQ(LoadFault(project.Base()), "No load cases converged. Results cannot be viewed.");
 }
 
 TEST(OpenProject, MessagesOfTheLoadAreKept) {

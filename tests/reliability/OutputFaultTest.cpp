@@ -26,9 +26,9 @@ using testing::IsEmpty;
 using testing::Not;
 
 constexpr const char* kAxialText = "_Max_Axial_Forces_Pile_Heads.txt";
-const std::vector<std::string> kAllTables{"axial",      "pile-dc",     "column-dc",     "cap-shear",
-                                          "cap-moment", "pile-forces", "column-forces", "extra-members",
-                                          "pile-heads", "title",       "envelopes",     "full"};
+const std::vector<std::string> kTableWords{"axial",      "pile-dc",     "column-dc",     "cap-shear",
+                                           "cap-moment", "pile-forces", "column-forces", "extra-members",
+                                           "pile-heads", "title",       "envelopes",     "full"};
 
 // The bytes of all files of the project's tables, by name.
 std::map<std::string, std::string> Documents(const BrokenProject& project) {
@@ -72,7 +72,7 @@ TEST(OutputFault, AReadOnlyFolderIsNamedAndTheEarlierFileStays) {
 TEST(OutputFault, AFullDiskIsNamedForEveryTableInEveryFormatAndTheEarlierFileStays) {
     const BrokenProject project("pier");
     for (const int format : {kFormatText, kFormatPdf, kFormatSpreadsheet}) {
-        for (const std::string& table : kAllTables) {
+        for (const std::string& table : kTableWords) {
             const Answer whole = ReportOf(project.Base(), {table}, {format});
             if (whole.status != kExitDone) continue;  // the table has no such form
             const std::string path = whole.out.substr(0, whole.out.find('\n'));
@@ -121,7 +121,7 @@ TEST(OutputFault, AnySingleWriteMayFail) {
     const BrokenProject project("pier", 300);
     for (const int format : {kFormatText, kFormatPdf, kFormatSpreadsheet}) {
         std::vector<std::string> tables;
-        for (const std::string& table : kAllTables) {
+        for (const std::string& table : kTableWords) {
             if (ReportOf(project.Base(), {table}, {format}).status == kExitDone) tables.push_back(table);
         }
         const auto whole = Documents(project);
@@ -175,7 +175,7 @@ TEST(OutputFault, AKillAtAnyWriteLeavesEveryFileWhole) {
 
 TEST(OutputFault, LinksAndPipesInThePlaceOfFilesAreReplaced) {
     const BrokenProject project("pier");
-    ASSERT_EQ(ReportOf(project.Base(), kAllTables).status, kExitIncomplete);  // the pile heads have no text
+    ASSERT_EQ(ReportOf(project.Base(), kTableWords).status, kExitIncomplete);  // the pile heads have no text
     const auto whole = Documents(project);
     ASSERT_GT(whole.size(), 8U);
     const fs::path outside = project.Folder() / "outside";
@@ -194,7 +194,7 @@ TEST(OutputFault, LinksAndPipesInThePlaceOfFilesAreReplaced) {
         }
         const int status = StatusOfChild([&] {
             alarm(60);
-            ReportOf(project.Base(), kAllTables);
+            ReportOf(project.Base(), kTableWords);
         });
         ASSERT_EQ(status, 0) << "it waited for a reader";
         EXPECT_TRUE(Documents(project) == whole);

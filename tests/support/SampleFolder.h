@@ -27,6 +27,16 @@ class SampleFolder {
         options.preset = preset;
         return Write(options);
     }
+    // A pile bent of two piles under two cases, the smallest project that is whole.
+    std::string WriteSmall(const std::string& name) const {
+        samples::SampleOptions options;
+        options.preset = "bent";
+        options.name = name;
+        options.cases = 2;
+        options.rows = 1;
+        options.columns = 2;
+        return Write(options);
+    }
 
   private:
     ScratchFolder m_scratch;

@@ -101,6 +101,15 @@ inline CMaxRecord RecordAt(int loadCase, int member, int element, int listElemen
     return {loadCase, member, element, listElement + 1, end, NodeOf(listElement, end)};
 }
 
+// Which extreme of a cap's result.
+constexpr int kMax = 0, kMin = 1;
+
+// The record of a place of a cap; `second` and `missing` count where it is between two ends.
+inline CCapRecord CapRecord(int loadCase, int prop, int index, int elem, int end, int node, int kind,
+                            int member, int second = 0, int missing = 0) {
+    return {loadCase, prop, index, elem, end, node, kind, member, second, missing};
+}
+
 // Shown by a failing comparison.
 inline void PrintTo(const CMaxRecord& r, std::ostream* out) {
     *out << "{case " << r.m_nLoadCase << ", member " << r.m_nMember << ", element " << r.m_nElement

@@ -18,15 +18,15 @@ namespace lumerin {
 // the exact binary value, is the reference.
 namespace {
 
-std::string Judge(double value, int width) {
+std::string JudgeTwelve(double value, int width) {
     std::array<char, 512> text{};
     std::snprintf(text.data(), text.size(), "%*.12f", width, value);
     return text.data();
 }
 
-void ExpectAsJudged(double value) {
-    ASSERT_EQ(FormatFixed(value, 12, 20), Judge(value, 20)) << std::hexfloat << value;
-    ASSERT_EQ(FormatFixed(-value, 12), Judge(-value, 0)) << std::hexfloat << value;
+void ExpectTwelveAsJudged(double value) {
+    ASSERT_EQ(FormatFixed(value, 12, 20), JudgeTwelve(value, 20)) << std::hexfloat << value;
+    ASSERT_EQ(FormatFixed(-value, 12), JudgeTwelve(-value, 0)) << std::hexfloat << value;
 }
 
 double Widened(std::uint32_t bits) {
@@ -48,7 +48,7 @@ TEST(TwelveDecimals, ExactHalvesGoToTheEvenDigit) {
     // 7.
     EXPECT_EQ(FormatFixed(0x1p-13, 12), "0.000122070312");
     EXPECT_EQ(FormatFixed(3 * 0x1p-13, 12), "0.000366210938");
-    for (int odd = 1; odd < 20000; odd += 2) ExpectAsJudged(odd * 0x1p-13);
+    for (int odd = 1; odd < 20000; odd += 2) ExpectTwelveAsJudged(odd * 0x1p-13);
 }
 
 TEST(TwelveDecimals, ACarryReachesTheDecimalThatItMust) {
@@ -63,17 +63,17 @@ TEST(TwelveDecimals, SmallNumbersRoundToZeroAndKeepTheirSign) {
     EXPECT_EQ(FormatFixed(-0.0, 12), "-0.000000000000");
     EXPECT_EQ(FormatFixed(static_cast<double>(-1e-13F), 12), "-0.000000000000");
     EXPECT_EQ(FormatFixed(static_cast<double>(6e-13F), 12), "0.000000000001");
-    ExpectAsJudged(static_cast<double>(std::numeric_limits<float>::denorm_min()));
-    ExpectAsJudged(static_cast<double>(std::numeric_limits<float>::min()));
+    ExpectTwelveAsJudged(static_cast<double>(std::numeric_limits<float>::denorm_min()));
+    ExpectTwelveAsJudged(static_cast<double>(std::numeric_limits<float>::min()));
 }
 
 TEST(TwelveDecimals, TheEdgesOfTheShortWayAreSeamless) {
     for (const float edge : {16777215.5F, 16777216.0F, 4e9F, 4294967296.0F, 1e10F, 3.4e38F}) {
-        ExpectAsJudged(static_cast<double>(edge));
-        ExpectAsJudged(static_cast<double>(std::nextafter(edge, 0.0F)));
-        ExpectAsJudged(std::nextafter(static_cast<double>(edge), 0.0));
+        ExpectTwelveAsJudged(static_cast<double>(edge));
+        ExpectTwelveAsJudged(static_cast<double>(std::nextafter(edge, 0.0F)));
+        ExpectTwelveAsJudged(std::nextafter(static_cast<double>(edge), 0.0));
     }
-    for (const double value : {0.1, 1.0 / 3.0, 1234.56789, 1e-12, 5e-13}) ExpectAsJudged(value);
+    for (const double value : {0.1, 1.0 / 3.0, 1234.56789, 1e-12, 5e-13}) ExpectTwelveAsJudged(value);
 }
 
 TEST(TwelveDecimals, ValuesThatAreNotFiniteArePrintedAsTheRunTimeDoes) {
@@ -85,10 +85,11 @@ TEST(TwelveDecimals, ValuesThatAreNotFiniteArePrintedAsTheRunTimeDoes) {
 TEST(TwelveDecimals, EveryExponentAndRandomFractionsAgreeWithTheExactWay) {
     std::mt19937 random(20261114);
     for (std::uint32_t exponent = 0; exponent < 255; ++exponent) {
-        ExpectAsJudged(Widened(exponent << 23));
-        ExpectAsJudged(Widened((exponent << 23) | 0x7FFFFFU));
+        ExpectTwelveAsJudged(Widened(exponent << 23));
+        ExpectTwelveAsJudged(Widened((exponent << 23) | 0x7FFFFFU));
         for (int i = 0; i < 400; ++i) {
-            ExpectAsJudged(Widened((exponent << 23) | (static_cast<std::uint32_t>(random()) & 0x7FFFFFU)));
+            ExpectTwelveAsJudged(
+                Widened((exponent << 23) | (static_cast<std::uint32_t>(random()) & 0x7FFFFFU)));
         }
     }
 }
@@ -98,7 +99,7 @@ TEST(TwelveDecimals, RandomForcesAgreeWithTheExactWay) {
     std::mt19937 random(7);
     for (int i = 0; i < 200000; ++i) {
         const std::uint32_t exponent = 107 + static_cast<std::uint32_t>(random()) % 45;
-        ExpectAsJudged(Widened((exponent << 23) | (static_cast<std::uint32_t>(random()) & 0x7FFFFFU)));
+        ExpectTwelveAsJudged(Widened((exponent << 23) | (static_cast<std::uint32_t>(random()) & 0x7FFFFFU)));
     }
 }
 

@@ -150,7 +150,8 @@ TEST_F(SheetSections, RecordOfNoExistingMemberPrintsLikeNoResult) {
 
 // ---- tables 5, 6 and 7
 
-std::string ForceRow(const std::string& property, const std::string& limitState, const std::string& word) {
+std::string LineOfForces(const std::string& property, const std::string& limitState,
+                         const std::string& word) {
     return "  <Row>\n    <Cell ss:Index=\"2\" ss:StyleID=\"s60\"><Data ss:Type=\"Number\">" + property +
            R"(</Data></Cell>
     <Cell  ss:StyleID="s60"><Data ss:Type="Number">1</Data></Cell>
@@ -189,7 +190,7 @@ TEST_F(SheetSections, ExtraMemberForcesWithAndWithoutResult) {
         "    <Cell  ss:StyleID=\"s60\"><Data ss:Type=\"String\">      SERVICE-I</Data></Cell>\n";
     const char* words[] = {"Min Axial", "Max f22", "Min f22", "Max f33",    "Min f33",   "Max m22",
                            "Min m22",   "Max m33", "Min m33", "Max Torque", "Min Torque"};
-    std::string expected = ForceRow("4", state, "Max Axial");
+    std::string expected = LineOfForces("4", state, "Max Axial");
     for (int k = 1; k < 12; ++k) expected += MissingForceRow("4", 6, words[k - 1], k / 2);
     EXPECT_EQ(Rows(Written(kTableExtraMembers), "  </Row>\n<Row></Row>\n"), expected);
 }
@@ -199,7 +200,7 @@ TEST_F(SheetSections, PlainForceRowsHaveNoLimitState) {
     Results().extraMemberForces.At(0, 0, 11) = Found(kEndI, 2);
     const std::string rows = Rows(Written(kTableExtraMembers), "  </Row>\n<Row></Row>\n");
     EXPECT_THAT(rows, HasSubstr(MissingForceRow("4", 5, "Max m33", 4)));
-    EXPECT_THAT(rows, EndsWith(ForceRow("4", "", "Min Torque")));
+    EXPECT_THAT(rows, EndsWith(LineOfForces("4", "", "Min Torque")));
 }
 
 // An empty row is between two sections and not after the last.
