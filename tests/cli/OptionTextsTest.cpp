@@ -16,7 +16,8 @@ using testing::HasSubstr;
 using testing::Not;
 
 // What the program says of a command line whose projects do not exist.
-std::string MessageOf(const CommandParser& command, const std::string& option, const std::string& word) {
+std::string MessageOf(Program& program, const CommandParser& command, const std::string& option,
+                      const std::string& word) {
     std::vector<std::string> words{command.Name()};
     for (const OptionText& each : command.Options()) {
         if (!each.isArgument) continue;
@@ -24,7 +25,7 @@ std::string MessageOf(const CommandParser& command, const std::string& option, c
         if (each.isRepeated) break;
     }
     words.insert(words.end(), {option, word});
-    return RunLumerin(words).err;
+    return RunLumerin(program, words).err;
 }
 
 // The words that a message lists at its end, "... is no format (text, json)"; those of several words, which
@@ -54,13 +55,14 @@ std::vector<OptionText> ValueOptions(const CommandParser& command) {
 }
 
 TEST(OptionTexts, EachWordThatIsCompletedIsAccepted) {
-    const Program program;
+    const Program parsers;
     std::size_t tried = 0;
-    for (const CommandParser& command : program.Parser().Commands()) {
+    for (const CommandParser& command : parsers.Parser().Commands()) {
         for (const OptionText& option : ValueOptions(command)) {
             const std::string& name = option.names.back();
+            Program program;
             for (const std::string& word : WordsOf(command.Name(), name)) {
-                EXPECT_THAT(MessageOf(command, name, word), Not(HasSubstr("\" is no ")))
+                EXPECT_THAT(MessageOf(program, command, name, word), Not(HasSubstr("\" is no ")))
                     << name << ' ' << word;
                 ++tried;
             }
@@ -70,13 +72,14 @@ TEST(OptionTexts, EachWordThatIsCompletedIsAccepted) {
 }
 
 TEST(OptionTexts, EachWordThatAMessageListsIsCompleted) {
-    const Program program;
+    const Program parsers;
     std::size_t lists = 0;
-    for (const CommandParser& command : program.Parser().Commands()) {
+    for (const CommandParser& command : parsers.Parser().Commands()) {
         for (const OptionText& option : ValueOptions(command)) {
             const std::string& name = option.names.back();
             const std::vector<std::string> completed = WordsOf(command.Name(), name);
-            const std::string message = MessageOf(command, name, "qqqqqq");
+            Program program;
+            const std::string message = MessageOf(program, command, name, "qqqqqq");
             const std::vector<std::string> listed = ListedWords(message);
             EXPECT_THAT(listed, testing::IsSubsetOf(completed)) << command.Name() << ": " << message;
             // A completion whose option lists no words would not be compared with anything.

@@ -24,12 +24,17 @@ ProgramRun RunCommand(const Command& command) {
 }
 
 // A run of the whole program in this process, with the words that are typed after its name.
-inline ProgramRun RunLumerin(const std::vector<std::string>& words) {
+inline ProgramRun RunLumerin(Program& program, const std::vector<std::string>& words) {
     std::vector<const char*> argv{"lumerin"};
     for (const std::string& word : words) argv.push_back(word.c_str());
     return RunCommand([&](std::ostream& out, std::ostream& err) {
-        return Program().Run(static_cast<int>(argv.size()), argv.data(), out, err);
+        return program.Run(static_cast<int>(argv.size()), argv.data(), out, err);
     });
+}
+
+inline ProgramRun RunLumerin(const std::vector<std::string>& words) {
+    Program program;
+    return RunLumerin(program, words);
 }
 
 }  // namespace lumerin
