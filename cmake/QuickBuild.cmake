@@ -18,9 +18,8 @@ target_compile_options(lumerin-precompiled INTERFACE
     # GCC 12 no longer knows then that strings are the system's, and gives false alarms in their copies.
     $<IF:$<CXX_COMPILER_ID:GNU>,-fpch-preprocess;-Wno-array-bounds;-Wno-stringop-overflow,SHELL:-Xclang -fno-pch-timestamp>)
 
-# For the two sources that include CLI11. It is all templates, which run once and cost more to optimise than the rest of
-# a library.
-set(LUMERIN_PARSER_OPTIONS $<IF:$<OR:$<BOOL:${LUMERIN_SANITIZE}>,$<CONFIG:Debug>>,-O0,-O1>)
+# For what runs once a command and is all templates: optimising it costs more than the rest of a library.
+set(LUMERIN_BRIEF_OPTIONS $<IF:$<OR:$<BOOL:${LUMERIN_SANITIZE}>,$<CONFIG:Debug>>,-O0,-O1>)
 
 if(LUMERIN_UNITY)
     find_package(Python3 REQUIRED COMPONENTS Interpreter)
