@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "samples/CommandLine.h"
 
-#include <CLI/CLI.hpp>
-#include <algorithm>
 #include <charconv>
 #include <exception>
+#include <filesystem>
+#include <functional>
 #include <ostream>
 
 #include "samples/OutputFile.h"
 #include "samples/Presets.h"
 #include "samples/Project.h"
+#include "script/CommandParser.h"
 
 namespace lumerin {
 
@@ -47,31 +48,35 @@ std::string PresetHelp() {
 }
 
 struct Arguments {
-    std::string folder, name, cases, filled, piles, seed, trials;
+    std::string folder;
     SampleOptions options;
 };
 
-void AddArguments(CLI::App& app, Arguments& arguments) {
-    app.add_option("DIR", arguments.folder, "folder to write into; made when it is not there")->required();
-    app.add_option("--name", arguments.name, "name of the project (default: that of the preset)");
-    app.add_option("--preset", arguments.options.preset, "kind of project")->capture_default_str();
-    app.add_option("--cases", arguments.cases, "load cases, combinations or time steps");
-    app.add_option("--filled", arguments.filled,
-                   "forces for the first and the last so many cases alone, a hole in the file between them");
-    app.add_option("--piles", arguments.piles, "pile rows and columns, as in 4x6");
-    app.add_option("--trials", arguments.trials, "trials of the embedment study (default: 8)");
-    app.add_option("--seed", arguments.seed, "another seed gives other loads (default: 1)");
-    app.footer(PresetHelp());
+void AddArguments(ProgramParser& parser, Arguments& arguments) {
+    SampleOptions& options = arguments.options;
+    const auto add = [&parser](const char* name, const char* help,
+                               const std::function<void(const std::string&)>& take) {
+        parser.OnText(name, take, help);
+    };
+    parser.Add("DIR", arguments.folder, "folder to write into; made when it is not there").Required();
+    add("--name", "name of the project (default: that of the preset)",
+        [&options](const std::string& text) { options.name = text; });
+    add("--preset", "kind of project (default: pier)",
+        [&options](const std::string& text) { options.preset = text; });
+    add("--cases", "load cases, combinations or time steps",
+        [&options](const std::string& text) { options.cases = ParseNumber<int>(text, "--cases"); });
+    add("--filled", "forces for the first and the last so many cases alone, a hole in the file between them",
+        [&options](const std::string& text) { options.filled = ParseNumber<int>(text, "--filled"); });
+    add("--piles", "pile rows and columns, as in 4x6",
+        [&options](const std::string& text) { ParsePiles(text, options); });
+    add("--trials", "trials of the embedment study (default: 8)",
+        [&options](const std::string& text) { options.trials = ParseNumber<int>(text, "--trials"); });
+    add("--seed", "another seed gives other loads (default: 1)",
+        [&options](const std::string& text) { options.seed = ParseNumber<std::uint64_t>(text, "--seed"); });
+    parser.SetFooter(PresetHelp());
 }
 
-void Run(const CLI::App& app, Arguments& arguments, std::ostream& out) {
-    if (app.count("--name") > 0) arguments.options.name = arguments.name;
-    if (app.count("--cases") > 0) arguments.options.cases = ParseNumber<int>(arguments.cases, "--cases");
-    if (app.count("--filled") > 0) arguments.options.filled = ParseNumber<int>(arguments.filled, "--filled");
-    if (app.count("--piles") > 0) ParsePiles(arguments.piles, arguments.options);
-    if (app.count("--seed") > 0)
-        arguments.options.seed = ParseNumber<std::uint64_t>(arguments.seed, "--seed");
-    if (app.count("--trials") > 0) arguments.options.trials = ParseNumber<int>(arguments.trials, "--trials");
+void Run(const Arguments& arguments, std::ostream& out) {
     const auto project = MakeProject(arguments.options);
     const std::filesystem::path folder = arguments.folder;
     WriteProject(folder, project);
@@ -80,18 +85,23 @@ void Run(const CLI::App& app, Arguments& arguments, std::ostream& out) {
 
 }  // namespace
 
-int RunMakeSample(std::vector<std::string> arguments, std::ostream& out, std::ostream& errors) {
-    CLI::App app("Writes a sample project: an input file with the results of an imagined analysis beside it.",
-                 "make-sample");
+int RunMakeSample(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& errors) {
+    ProgramParser parser(
+        "make-sample",
+        "Writes a sample project: an input file with the results of an imagined analysis beside it.");
     Arguments parsed;
-    AddArguments(app, parsed);
+    AddArguments(parser, parsed);
+    std::vector<const char*> words{"make-sample"};
+    for (const std::string& argument : arguments) words.push_back(argument.c_str());
     try {
-        std::reverse(arguments.begin(), arguments.end());  // the parser takes them from the back
-        app.parse(arguments);
-        Run(app, parsed, out);
+        const ParseResult result = parser.Parse(static_cast<int>(words.size()), words.data());
+        if (result.outcome == ParseOutcome::help) {
+            out << result.text;
+            return kStatusDone;
+        }
+        if (result.outcome != ParseOutcome::parsed) throw SampleError(result.reason);
+        Run(parsed, out);
         return kStatusDone;
-    } catch (const CLI::Success& help) {
-        return app.exit(help, out, errors);
     } catch (const std::exception& error) {
         errors << "make-sample: " << error.what() << '\n';
         return kStatusFailed;

@@ -12,7 +12,7 @@ namespace samples {
 
 // Takes the arguments without the program's name. Prints the path of the input file, or one line about
 // the fault. Returns 0, or 2 for arguments or a folder that cannot be used.
-int RunMakeSample(std::vector<std::string> arguments, std::ostream& out, std::ostream& errors);
+int RunMakeSample(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& errors);
 
 }  // namespace samples
 

@@ -145,10 +145,10 @@ struct Outcome {
     std::string out, errors;
 };
 
-Outcome RunWith(std::vector<std::string> arguments) {
+Outcome RunWith(const std::vector<std::string>& arguments) {
     std::ostringstream out, errors;
     Outcome outcome;
-    outcome.status = samples::RunMakeSample(std::move(arguments), out, errors);
+    outcome.status = samples::RunMakeSample(arguments, out, errors);
     outcome.out = out.str();
     outcome.errors = errors.str();
     return outcome;
