@@ -204,10 +204,10 @@ constexpr const char* kCheckFooter =
     "The first line of a project is its verdict: the greatest D/C ratio of all element ends, foundation\n"
     "included, in the chosen cases, against the limit. A line for each family of members follows, with all\n"
     "forces of that end in that case. Findings about the data go to standard error.\n\n"
-    "json: one object a line for each project. csv: the table \"verdict\" of docs/data.md.\n\n"
+    "json: one object a line for each project. csv: the table \"verdict\" of lumerin export.\n\n"
     "Examples:\n"
     "  lumerin check bridge.in\n"
-    "  lumerin check --limit 0.95 --class strength,service --top 10 bridge\n"
+    "  lumerin check --limit 0.95 --class strength,service --top 10 pier\n"
     "  lumerin check --brief --files-from projects.txt\n\n"
     "Exit status: 0 passes, 1 over the limit, 2 wrong usage, 3 not loaded, 4 the data are not sound (the\n"
     "verdict is printed all the same). Of several projects: the first of 2, 3, 4, 1, 0 that occurred.";

@@ -198,8 +198,9 @@ constexpr const char* kCompareFooter =
     "its\n"
     "change is above the relative tolerance, a part of the greater of both values, and above the absolute "
     "one\n"
-    "of its kind, in the units of the output: those of NEW, or those of --units. Cases are matched by title\n"
-    "(without titles by limit state), then by number; capacities are in units of NEW.\n\n"
+    "of its kind, in the units of the output: those of NEW, or those of --units. Cases are matched by\n"
+    "title, or by limit state where a run has no titles, and several with one title in their order. The\n"
+    "number of a case does not count. Capacities are in units of NEW.\n\n"
     "Examples:\n"
     "  lumerin compare before/bridge.in after/bridge.in\n"
     "  lumerin compare --rel 0.05 --class strength --top 10 before/bridge after/bridge\n"
@@ -222,13 +223,13 @@ void AddCompareOptions(CommandParser& command, CompareArguments& arguments) {
     command.Add("OLD", request.before, "The earlier run: a project or a folder").Required();
     command.Add("NEW", request.after, "The later run: a project or a folder").Required();
     AddTolerance(command, "--rel", request.tolerances.relative,
-                 "Changes of this part of the greater value are none (default 0.01)");
+                 "Smaller relative changes are ignored (default 0.01, a part of the greater value)");
     AddTolerance(command, "--abs-force", request.tolerances.force,
-                 "Changes of a force up to this are none (default 0.5)");
+                 "Changes of a force up to this are ignored (default 0.5)");
     AddTolerance(command, "--abs-moment", request.tolerances.moment,
-                 "Changes of a moment up to this are none (default 1.0)");
+                 "Changes of a moment up to this are ignored (default 1.0)");
     AddTolerance(command, "--abs-dc", request.tolerances.ratio,
-                 "Changes of a D/C ratio up to this are none (default 0.01)");
+                 "Changes of a D/C ratio up to this are ignored (default 0.01)");
     command
         .OnTexts(
             "--table",

@@ -256,9 +256,9 @@ namespace {
 
 constexpr const char* kEmbedmentFooter =
     "Examples:\n"
-    "  lumerin embedment bridge.in --case 3 --svg curve.svg\n"
-    "  lumerin embedment bridge --quantity lateral-x --envelope max --case 3\n"
-    "  lumerin embedment bridge --max-displacement 1.0\n"
+    "  lumerin embedment pier.in --case 3 --svg curve.svg\n"
+    "  lumerin embedment pier --quantity lateral-x --envelope max --case 3\n"
+    "  lumerin embedment pier --max-displacement 1.0\n"
     "\n"
     "Prints the table and the path of each file that was written. With an envelope and a case both tables "
     "are "

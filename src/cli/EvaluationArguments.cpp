@@ -53,7 +53,7 @@ void AddCaseOptions(CommandParser& command, CaseChoice& cases) {
                 for (const std::string& text : texts) ReadCases(text, cases);
             },
             "Consider these cases alone: numbers, ranges and patterns of limit states and titles, such as "
-            "1,3,5-9 or 'STRENGTH-*'")
+            "1,3,5-9 or \"STRENGTH-*\"")
         .OneValueEach()
         .Takes("LIST");
     command
@@ -78,9 +78,9 @@ void AddLimitOptions(CommandParser& command, Limits& limits) {
             "The greatest D/C ratio that passes (default 1.0)")
         .Takes("RATIO");
     AddCapacity(command, "--pile-compression", limits.pileCompression,
-                "Hold pile heads against this capacity in compression, in units of the project");
+                "Compare pile heads with this capacity in compression, in units of the project");
     AddCapacity(command, "--pile-tension", limits.pileTension,
-                "Hold pile heads against this capacity in tension, in units of the project");
+                "Compare pile heads with this capacity in tension, in units of the project");
 }
 
 void AddUnitsOption(CommandParser& command, std::optional<UnitSystem>& units) {

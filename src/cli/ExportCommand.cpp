@@ -215,11 +215,11 @@ struct ExportArguments {
 };
 
 constexpr const char* kExportFooter =
-    "Tables, columns and units are described in docs/data.md.\n\n"
+    "--describe prints what the tables, their columns and units are; so do the documents, under data.\n\n"
     "Examples:\n"
     "  lumerin export pier.in --table element_dc > element_dc.csv\n"
     "  lumerin export pier.in --table section_dc,section_forces -o results/\n"
-    "  lumerin export */pier.in --table verdict --units us -o verdict.csv\n"
+    "  lumerin export bridges/ --table verdict --units us -o verdict.csv\n"
     "  lumerin export pier.in --table all --format sqlite -o results.sqlite\n"
     "  lumerin export pier.in --table pile_axial,cap_moment --format xlsx -o pier.xlsx\n"
     "  lumerin export bridges/ --table all --units us -o data/ --resume\n\n"

@@ -238,7 +238,7 @@ std::string GivenOptions(const CommandParser& command) {
 void AddResumeOption(CommandParser& command, bool& resume, const char* needs) {
     command.AddFlag(
         "--resume", resume,
-        std::string("Pass over projects that an earlier run with --resume and the same options has done, and "
+        std::string("Skip projects that an earlier run with --resume and the same options has done, and "
                     "whose files are unchanged; their results are kept (needs ") +
             needs + ")");
 }
