@@ -2,10 +2,10 @@
 # SPDX-License-Identifier: MIT
 """Checks and exports many projects on a Dask cluster, into one SQLite file.
 
-    fleet.py --lumerin build/native/lumerin -o bridges.sqlite --workers 2 bridges/
+    fleet.py -o bridges.sqlite --workers 2 bridges/
     fleet.py --scheduler tcp://node1:8786 --work /shared/work -o bridges.sqlite --files-from projects.txt
 
-docs/fleet.md describes it. Exit status: 0 all pass, 1 some are over the limit, 2 wrong usage, 3 a project has no
+fleet.md of the documents describes it. Exit status: 0 all pass, 1 some are over the limit, 2 wrong usage, 3 a project has no
 verdict, 4 the data of a project have errors; the first of 3, 4, 1, 0 that occurred.
 """
 from __future__ import annotations
