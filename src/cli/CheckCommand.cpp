@@ -252,6 +252,7 @@ ProgramCommand AddCheckCommand(CommandParser& program) {
     command.SetFooter(kCheckFooter);
     return {command, [arguments, command](std::ostream& out, std::ostream& err) {
                 CheckRequest& request = arguments->request;
+                RequireOtherThanList(arguments->projects, request.output);
                 request.projects = ReadProjects(arguments->projects);
                 request.cases = arguments->evaluation.cases;
                 request.limits = arguments->evaluation.limits;

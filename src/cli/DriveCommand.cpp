@@ -43,6 +43,7 @@ ExitStatus RunDrive(const DriveOptions& options, std::ostream& out, std::ostream
         PrintLine(err, "lumerin: the script " + options.script + " could not be read");
         return kExitUsage;
     }
+    if (script.starts_with(kMarkOfUtf8)) script.erase(0, kMarkOfUtf8.size());
     return DriveScript(options, script, out, err);
 }
 

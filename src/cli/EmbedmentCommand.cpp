@@ -18,6 +18,7 @@
 #include "framework/NativePath.h"
 #include "framework/WholeFile.h"
 #include "records/OpenProject.h"
+#include "results/ProjectFiles.h"
 #include "script/Border.h"
 #include "session/Constants.h"
 #include "session/DesignerDlg.h"
@@ -289,6 +290,10 @@ ExitStatus RunEmbedmentCommand(EmbedmentArguments& arguments, std::ostream& out,
             throw std::invalid_argument("--max-displacement takes a number that is greater than 0");
         }
         if (!options.view.hasCase && options.view.envelope < 0) options.view.envelope = 0;
+    }
+    if (HasNameOfProjectFile(options.picture)) {
+        throw std::invalid_argument("--svg has the name of a file that projects are read from: " +
+                                    options.picture);
     }
     const ProjectName project(arguments.project);
     options.project = project.inputFile;

@@ -273,6 +273,7 @@ ExitStatus RunArguments(const CommandParser& command, ExportArguments& arguments
         return kExitDone;
     }
     ExportRequest request = arguments.request;
+    RequireOtherThanList(arguments.projects, request.output);
     request.projects = ReadProjects(arguments.projects);
     request.options = GivenOptions(command);
     request.cases = arguments.evaluation.cases;

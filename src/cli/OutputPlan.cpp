@@ -60,7 +60,7 @@ std::string PathOf(const OutputOptions& options, const PlannedDocument& document
 }
 
 std::string NormalPath(const std::string& path) {
-    return FromNativePath(fs::absolute(NativePath(path)).lexically_normal());
+    return PathButForCase(FromNativePath(fs::absolute(NativePath(path)).lexically_normal()));
 }
 
 void RequireOwnPaths(const OutputOptions& options, const std::vector<PlannedDocument>& documents) {

@@ -4,19 +4,27 @@
 #include <fstream>
 #include <iostream>
 #include <stdexcept>
+#include <utility>
 
 #include "framework/Backend.h"
 #include "framework/File.h"
 #include "framework/FolderNames.h"
 #include "framework/NativePath.h"
+#include "text/Utf8.h"
 
 namespace lumerin {
 
 namespace {
 
-// Empty lines are passed over; a list that was written on Windows ends its lines with two characters.
+// Empty lines are left out; a list that was written on Windows can begin with the mark of UTF-8 and ends its
+// lines with two characters.
 void ReadLines(std::istream& list, std::vector<std::string>& names) {
-    for (std::string line; std::getline(list, line);) {
+    bool isFirst = true;
+    for (std::string line; std::getline(list, line); isFirst = false) {
+        if (line.find('\0') != std::string::npos) {
+            throw std::invalid_argument("the list of projects is no text in UTF-8");
+        }
+        if (isFirst && line.starts_with(kMarkOfUtf8)) line.erase(0, kMarkOfUtf8.size());
         if (line.ends_with('\r')) line.pop_back();
         if (!line.empty()) names.push_back(line);
     }
@@ -71,7 +79,10 @@ void AddProjectArguments(CommandParser& command, ProjectArguments& arguments) {
 }
 
 std::vector<ProjectName> ReadProjects(const ProjectArguments& arguments) {
-    std::vector<std::string> names = arguments.given;
+    std::vector<std::string> names;
+    for (const std::string& given : arguments.given) {
+        for (std::string& name : FilesNamedBy(given)) names.push_back(std::move(name));
+    }
     if (arguments.listFile == "-") {
         ReadLines(std::cin, names);
     } else if (!arguments.listFile.empty()) {
@@ -87,6 +98,14 @@ std::vector<ProjectName> ReadProjects(const ProjectArguments& arguments) {
         AddName(name, found);
     }
     return {found.begin(), found.end()};
+}
+
+void RequireOtherThanList(const ProjectArguments& arguments, const std::string& output) {
+    if (arguments.listFile.empty() || arguments.listFile == "-") return;
+    const FileStamp list = StampOf(arguments.listFile), other = StampOf(output);
+    if (other.length >= 0 && list.volume == other.volume && list.index == other.index) {
+        throw std::invalid_argument("-o " + output + " is the list of the projects");
+    }
 }
 
 }  // namespace lumerin

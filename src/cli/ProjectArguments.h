@@ -24,4 +24,7 @@ void AddProjectArguments(CommandParser& command, ProjectArguments& arguments);
 // reported in its place.
 std::vector<ProjectName> ReadProjects(const ProjectArguments& arguments);
 
+// Throws std::invalid_argument when the output would replace the list.
+void RequireOtherThanList(const ProjectArguments& arguments, const std::string& output);
+
 }  // namespace lumerin

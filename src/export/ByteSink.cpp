@@ -3,6 +3,7 @@
 
 #include "export/TableWriter.h"
 #include "framework/File.h"
+#include "results/ProjectFiles.h"
 #include "text/Paths.h"
 
 namespace lumerin {
@@ -15,7 +16,20 @@ std::string WhyNotWritten(const std::string& path) {
     return (fault ? FaultInWords(fault) : "cannot be written") + ": " + path;
 }
 
+void RequireDocumentName(const std::string& path) {
+    if (HasNameOfProjectFile(path)) {
+        throw ExportError("projects are read from files of this name, so no result is written to it: " +
+                          path);
+    }
+    // Every other program of the machine would find a file in its place.
+    const std::string folder = FolderOf(path);
+    if (folder == "/dev/" || folder == "/dev/fd/" || folder.starts_with("/proc/")) {
+        throw ExportError("it is a device, and - is standard output: " + path);
+    }
+}
+
 FileSink::FileSink(const std::string& path) : m_path(path) {
+    RequireDocumentName(path);
     if (!m_file.Open(path)) throw ExportError(WhyNotWritten(path));
 }
 

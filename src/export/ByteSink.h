@@ -48,6 +48,10 @@ class StreamSink : public ByteSink {
     std::ostream& m_out;
 };
 
+// Throws ExportError for a name that no result may take: that of a file that projects are read from, which a
+// slip of the user would destroy, and that of a device.
+void RequireDocumentName(const std::string& path);
+
 // Why a file of that path cannot be written: "permission denied: PATH" and the like.
 std::string WhyNotWritten(const std::string& path);
 

@@ -32,6 +32,8 @@ class CFileException : public std::exception {
 // folders and name differ from it in case alone. Empty: there is none.
 std::string FindFileAnyCase(const std::string& path);
 bool IsFolder(const std::string& path);
+// The same text for all paths that the file system takes for one because of the case of their letters alone.
+std::string PathButForCase(const std::string& path);
 // A folder itself, not a link to one.
 bool IsRealFolder(const std::string& path);
 // Makes the folder, and those above it that are missing. False: it is not there afterwards.

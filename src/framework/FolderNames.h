@@ -11,4 +11,9 @@ namespace lumerin {
 // where the folder cannot be listed. An empty folder is the current one. May be called in several threads.
 std::vector<std::string> EntriesStartingWith(const std::string& folder, const std::string& start);
 
+// The files that a path names whose last part has * or ?, as the shell of Linux replaces it before a program
+// sees it: there the path itself. On Windows they are sorted by their bytes; the path itself where there is
+// none.
+std::vector<std::string> FilesNamedBy(const std::string& path);
+
 }  // namespace lumerin

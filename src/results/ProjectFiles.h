@@ -11,4 +11,8 @@ namespace lumerin {
 std::string ProjectFile(const std::string& basePath, const char* suffix);
 std::string SubstructureFile(const std::string& basePath, const char* suffix, int number);
 
+// Whether a file of that name would be one that a project is read from, by its extension in letters of either
+// case, without the number of a substructure.
+bool HasNameOfProjectFile(const std::string& path);
+
 }  // namespace lumerin

@@ -7,6 +7,9 @@
 
 namespace lumerin {
 
+// What some editors write before a text in UTF-8.
+inline constexpr std::string_view kMarkOfUtf8 = "\xEF\xBB\xBF";
+
 // Conversion between UTF-8, the encoding of terminals and of Linux's file names, and the Western code page,
 // that of documents and dialogs: one byte a character, so that the number of bytes is the width of a text.
 

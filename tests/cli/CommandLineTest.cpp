@@ -80,6 +80,45 @@ TEST_F(CommandLine, ProjectsComeFromAFileOrStandardInput) {
     EXPECT_EQ(Run("report").err, "lumerin: no project is given\n");
 }
 
+TEST_F(CommandLine, AListMayBeginWithTheMarkOfUtf8AndIsNoOtherText) {
+    std::ofstream(folder.Base("marked")) << "\xEF\xBB\xBFpier\r\n";
+    EXPECT_EQ(Run("report --table axial --files-from marked").out, std::string(kAxialFile) + "\n");
+    std::ofstream(folder.Base("wide")) << std::string("p\0i\0e\0r\0", 8);
+    const Outcome wide = Run("report --table axial --files-from wide");
+    EXPECT_EQ(wide.status, 2);
+    EXPECT_EQ(wide.err, "lumerin: the list of projects is no text in UTF-8\n");
+}
+
+TEST_F(CommandLine, NoResultIsWrittenOverAFileThatProjectsAreReadFrom) {
+    const auto forces = Content(pier + ".vmd");
+    for (const char* line :
+         {"check pier -o pier.vmd", "check pier -o ./PIER.VMD", "plot pier dc -o pier.vmd",
+          "export pier --table verdict -o pier.vmd", "export pier --table verdict --format xlsx -o pier.vmd",
+          "compare pier bent -o pier.vmd", "embedment pier --svg pier.vmd", "check pier -o other.PIL2"}) {
+        const Outcome outcome = Run(line);
+        EXPECT_NE(outcome.status, 0) << line;
+        EXPECT_THAT(outcome.err, HasSubstr("projects are read from")) << line;
+        EXPECT_EQ(Content(pier + ".vmd"), forces) << line;
+    }
+    EXPECT_FALSE(fs::exists(folder.Base("PIER.VMD")));
+    std::ofstream(folder.Base("list")) << "pier\n";
+    for (const char* line :
+         {"check --files-from list -o list", "export --table verdict --files-from list -o ./list"}) {
+        EXPECT_EQ(Run(line).status, 2) << line;
+        EXPECT_EQ(Content(folder.Base("list")), "pier\n") << line;
+    }
+}
+
+TEST_F(CommandLine, NoDeviceIsReplacedByAFile) {
+    // Below /proc no file can be made, so that a fault of this does no harm to the machine.
+    for (const char* line : {"check pier -o /dev/fd/1", "export pier --table verdict -o /proc/self/fd/1"}) {
+        const Outcome outcome = Run(line);
+        EXPECT_EQ(outcome.status, 1) << line;
+        EXPECT_THAT(outcome.err, HasSubstr("it is a device")) << line;
+        EXPECT_EQ(outcome.out, "") << line;
+    }
+}
+
 TEST_F(CommandLine, TablesAreAListOrARepeatedOptionAndTakeOneValue) {
     const std::string both = std::string(kAxialFile) + "\npier_Title Page.txt\n";
     EXPECT_EQ(Run("report pier --table axial,title").out, both);

@@ -153,9 +153,9 @@ std::size_t Width() {
 std::vector<std::string> CommandLine(int, const char* const*) {
     int count = 0, startInfo = 0;
     wchar_t **words = nullptr, **environment = nullptr;
-    // Names with * and ? become those of the files, as a shell of Linux does it.
+    // Words with * and ? stay as they are: patterns of cases have them, too.
     std::vector<std::string> line;
-    if (__wgetmainargs(&count, &words, &environment, 1, &startInfo) != 0) return line;
+    if (__wgetmainargs(&count, &words, &environment, 0, &startInfo) != 0) return line;
     for (int i = 0; i < count; ++i) line.push_back(windows::FromWide(words[i]));
     return line;
 }

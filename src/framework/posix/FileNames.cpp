@@ -42,6 +42,10 @@ FileStamp StampOf(const std::string& path) {
             static_cast<std::uint64_t>(found.st_dev), static_cast<std::uint64_t>(found.st_ino)};
 }
 
+std::string PathButForCase(const std::string& path) {
+    return path;
+}
+
 bool IsFolder(const std::string& path) {
     std::error_code ignored;
     return fs::is_directory(path, ignored);

@@ -145,4 +145,8 @@ std::vector<std::string> EntriesStartingWith(const std::string& folder, const st
     return names;
 }
 
+std::vector<std::string> FilesNamedBy(const std::string& path) {
+    return {path};
+}
+
 }  // namespace lumerin

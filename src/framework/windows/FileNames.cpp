@@ -20,6 +20,12 @@ std::string FindFileAnyCase(const std::string& path) {
     return AttributesOf(path) == INVALID_FILE_ATTRIBUTES ? std::string() : path;
 }
 
+std::string PathButForCase(const std::string& path) {
+    std::wstring wide = windows::ToWide(path);
+    CharUpperBuffW(wide.data(), static_cast<DWORD>(wide.size()));
+    return windows::FromWide(wide);
+}
+
 bool IsFolder(const std::string& path) {
     const DWORD attributes = AttributesOf(path);
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
