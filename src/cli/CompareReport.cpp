@@ -6,6 +6,7 @@
 
 #include "cli/TextTable.h"
 #include "compare/ComparisonText.h"
+#include "text/Utf8.h"
 
 namespace lumerin {
 
@@ -109,7 +110,7 @@ class Page {
         const std::vector<std::string> lines = TitleLines(m_comparison, m_top);
         if (lines.empty()) return;
         m_out << '\n' << kIndent << "titles of these cases\n";
-        for (const std::string& line : lines) m_out << kIndent << line << '\n';
+        for (const std::string& line : lines) m_out << kIndent << WithoutControls(line) << '\n';
     }
 
     bool IsBeyond(std::size_t number) const { return m_top > 0 && number >= m_top; }

@@ -5,6 +5,7 @@
 #include "cli/InfoReport.h"
 #include "cli/JsonRecord.h"
 #include "cli/TextTable.h"
+#include "text/Utf8.h"
 
 namespace lumerin {
 
@@ -127,7 +128,7 @@ void PrintInfo(const ProjectInfo& info, std::ostream& out) {
         out << "  " << info.fault << '\n';
         return;
     }
-    out << "  " << info.title << '\n';
+    out << "  " << WithoutControls(info.title) << '\n';
     TextTable lines({{"", Align::left}, {"", Align::left}});
     lines.Add({"design code", info.code.empty() ? "none" : info.code});
     lines.Add({"units", info.units == "us" ? "us (kips, ft)" : "si (kN, m)"});

@@ -2,6 +2,9 @@
 #include "cli/TextTable.h"
 
 #include <algorithm>
+#include <utility>
+
+#include "text/Utf8.h"
 
 namespace lumerin {
 
@@ -15,6 +18,11 @@ std::size_t CharacterCount(std::string_view text) {
     // Every character has one byte that is not 10xxxxxx.
     return static_cast<std::size_t>(std::ranges::count_if(
         text, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }));
+}
+
+void TextTable::Add(std::vector<std::string> cells) {
+    for (std::string& cell : cells) cell = WithoutControls(cell);
+    m_rows.push_back(std::move(cells));
 }
 
 void TextTable::Print(std::ostream& out, std::string_view indent) const {

@@ -20,8 +20,8 @@ class TextTable {
 
     explicit TextTable(std::vector<Column> columns) : m_columns(std::move(columns)) {}
 
-    // As many cells as columns.
-    void Add(std::vector<std::string> cells) { m_rows.push_back(std::move(cells)); }
+    // As many cells as columns. A terminal may show them: their control characters are replaced.
+    void Add(std::vector<std::string> cells);
     bool IsEmpty() const { return m_rows.empty(); }
     // The head line, where a column has a head, and the rows, each after `indent`.
     void Print(std::ostream& out, std::string_view indent) const;

@@ -24,7 +24,7 @@ inline std::string ForUser(std::string_view text) {
 }
 
 inline void PrintLine(std::ostream& out, std::string_view text) {
-    out << ForUser(text) << std::endl;
+    out << WithoutControls(ForUser(text)) << std::endl;
 }
 
 }  // namespace lumerin

@@ -23,7 +23,11 @@ CommandOption CommandOption::InRange(int least, int greatest) {
 }
 
 CommandOption CommandOption::Positive() {
-    m_option->check(CLI::PositiveNumber);
+    m_option->check([](const std::string& text) {
+        double number = 0.0;
+        const bool isPositive = CLI::detail::lexical_cast(text, number) && number > 0.0;
+        return isPositive ? std::string() : "\"" + text + "\" is not greater than 0";
+    });
     return *this;
 }
 
@@ -42,6 +46,17 @@ CommandOption CommandOption::Needs(CommandOption other) {
     return *this;
 }
 
+namespace {
+
+// The conversion of the library takes -1 for the greatest number.
+CommandOption NotNegative(CLI::Option* count) {
+    return CommandOption(count->check([](const std::string& text) {
+        return text.starts_with('-') ? "\"" + text + "\" is less than 0" : std::string();
+    }));
+}
+
+}  // namespace
+
 CommandOption CommandParser::Add(const std::string& name, std::string& value, const std::string& help) {
     return CommandOption(m_parser->add_option(name, value, help));
 }
@@ -51,12 +66,12 @@ CommandOption CommandParser::Add(const std::string& name, int& value, const std:
 }
 
 CommandOption CommandParser::Add(const std::string& name, std::size_t& value, const std::string& help) {
-    return CommandOption(m_parser->add_option(name, value, help));
+    return NotNegative(m_parser->add_option(name, value, help));
 }
 
 CommandOption CommandParser::Add(const std::string& name, std::optional<std::size_t>& value,
                                  const std::string& help) {
-    return CommandOption(m_parser->add_option(name, value, help));
+    return NotNegative(m_parser->add_option(name, value, help));
 }
 
 CommandOption CommandParser::Add(const std::string& name, std::vector<std::string>& values,

@@ -99,4 +99,23 @@ std::size_t WholeCharacters(std::string_view text) {
     return text.size();
 }
 
+std::string WithoutControls(std::string_view text) {
+    constexpr unsigned char kDelete = 0x7F, kLeadOfUpper = 0xC2, kEndOfUpper = 0x9F;
+    std::string shown;
+    shown.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        const auto next = i + 1 < text.size() ? static_cast<unsigned char>(text[i + 1]) : kDelete;
+        if (byte == kLeadOfUpper && next > kDelete && next <= kEndOfUpper) {
+            shown += '?';
+            ++i;
+        } else if ((byte < ' ' && byte != '\n' && byte != '\t') || byte == kDelete) {
+            shown += '?';
+        } else {
+            shown += text[i];
+        }
+    }
+    return shown;
+}
+
 }  // namespace lumerin

@@ -25,6 +25,11 @@ class CommandParsing : public testing::Test {
             .Converted([](std::string_view given) { return std::string(given) + "!"; })
             .Takes("WORD");
         command.Add("--list", list, "Words").OneValueEach().Takes("LIST");
+        command.Add("--top", top, "How many").Takes("N");
+        command
+            .OnInteger(
+                "--element", [this](int number) { element = number; }, "Which")
+            .Positive();
         command.AddFlag("--brief", brief, "Prints less");
         command.OnNumber(
             "--limit", [](double) { throw std::invalid_argument("no such limit"); }, "A limit");
@@ -39,9 +44,19 @@ class CommandParsing : public testing::Test {
     CommandParser command;
     std::vector<std::string> files, list;
     std::string name;
-    int count = 0;
+    int count = 0, element = 0;
+    std::size_t top = 0;
     bool brief = false;
 };
+
+TEST_F(CommandParsing, RefusesNumbersBelowWhatTheyCount) {
+    EXPECT_EQ(Parse({"run", "a", "--top", "0", "--element", "1"}).outcome, ParseOutcome::parsed);
+    EXPECT_EQ(Parse({"run", "a", "--top", "-1"}).reason, "--top: \"-1\" is less than 0");
+    for (const char* number : {"0", "-5", "none"}) {
+        EXPECT_EQ(Parse({"run", "a", "--element", number}).reason,
+                  std::string("--element: \"") + number + "\" is not greater than 0");
+    }
+}
 
 TEST_F(CommandParsing, FillsTheVariablesAndRemembersWhatWasGiven) {
     EXPECT_EQ(Parse({"run", "--list", "a", "one", "-c", "3", "--name", "x", "--list", "b", "two"}).outcome,
@@ -85,7 +100,7 @@ TEST_F(CommandParsing, HelpAndVersionAreNoFaults) {
 
 TEST_F(CommandParsing, DescribesItsOptionsArgumentsFirst) {
     const std::vector<OptionText> options = command.Options();
-    ASSERT_EQ(options.size(), 7U);
+    ASSERT_EQ(options.size(), 9U);
     EXPECT_TRUE(options[0].isArgument && options[0].isRequired && options[0].isRepeated);
     EXPECT_THAT(options[0].names, ElementsAre("FILES"));
     EXPECT_THAT(options[1].names, ElementsAre("-h", "--help"));
@@ -93,7 +108,8 @@ TEST_F(CommandParsing, DescribesItsOptionsArgumentsFirst) {
     EXPECT_THAT(options[2].names, ElementsAre("-c", "--count"));
     EXPECT_EQ(options[2].value, "N");  // without the words of its range
     EXPECT_EQ(options[2].meaning, "How often");
-    EXPECT_EQ(options[5].value, "");
+    EXPECT_EQ(options[5].value, "N");
+    EXPECT_EQ(options[7].value, "");  // of --brief
 }
 
 }  // namespace

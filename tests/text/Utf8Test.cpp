@@ -87,6 +87,16 @@ TEST(WholeCharacters, LeavesOutACharacterThatHasOnlyBegun) {
     EXPECT_EQ(WholeCharacters("\x80\x80\x80\x80"), 4U);
 }
 
+TEST(WithoutControls, LeavesATerminalNothingToObey) {
+    EXPECT_EQ(WithoutControls("plain\ttext\n"), "plain\ttext\n");
+    EXPECT_EQ(WithoutControls("\x1B[31mred\x07\r\x7F"), "?[31mred???");
+    // U+009B begins a sequence, too; U+00A0 and the letters after it do not.
+    EXPECT_EQ(WithoutControls("\xC2\x9B"
+                              "2J \xC2\xA0 \xC3\xB6 \xE2\x82\xAC"),
+              "?2J \xC2\xA0 \xC3\xB6 \xE2\x82\xAC");
+    EXPECT_EQ(WithoutControls(std::string_view("a\0b\xC2", 4)), "a?b\xC2");
+}
+
 }  // namespace
 
 }  // namespace lumerin
