@@ -24,8 +24,8 @@ std::string ToWestern(std::string_view text);
 // The bytes of a UTF-8 text without a character at its end that has only begun.
 std::size_t WholeCharacters(std::string_view text);
 
-// A text in UTF-8 for a terminal, with "?" in place of control characters other than tabulators and line feeds:
-// the texts of a project may come from strangers, and a terminal obeys such characters.
+// A text in UTF-8 for a terminal, with "?" in place of control characters other than tabulators and line
+// feeds: the texts of a project may come from strangers, and a terminal obeys such characters.
 std::string WithoutControls(std::string_view text);
 
 }  // namespace lumerin
