@@ -98,7 +98,7 @@ namespace {
 constexpr const char* kDriveFooter =
     "Examples:\n"
     "  lumerin drive bridge.in press.script\n"
-    "  echo 'click 1004' | lumerin drive bridge.in - --format pdf\n"
+    "  echo click 1004 | lumerin drive bridge.in - --format pdf\n"
     "\n"
     "Actions, one a line; # begins a comment:\n"
     "  click ID, text ID TEXT, focus ID, select ID N, spin ID up|down,\n"
