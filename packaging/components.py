@@ -16,6 +16,19 @@ Component = collections.namedtuple(
     "Component", "id name part package source licence copyright mark comment", defaults=("",)
 )
 
+# The same licence and traces for both platforms; each has a version of its own.
+GCC_RUNTIME = Component(
+    "gcc-runtime-linux",
+    "libstdc++ and libgcc",
+    3,
+    "libstdc++-12-dev",
+    None,
+    "GPL-3.0-or-later WITH GCC-exception-3.1 AND MIT AND (Apache-2.0 OR BSL-1.0)",
+    "Copyright (C) Free Software Foundation, Inc.",
+    b"basic_string::append",
+    "The MIT part is the reading of numbers (fast_float), Apache-2.0 OR BSL-1.0 the writing (Ryu).",
+)
+
 COMPONENTS = [
     Component(
         "mingw-w64-runtime",
@@ -37,28 +50,8 @@ COMPONENTS = [
         "Copyright (c) 2011-2016 mingw-w64 project",
         b"(((rwlock_t *)*rwl)->valid == LIFE_RWLOCK)",
     ),
-    Component(
-        "gcc-runtime-linux",
-        "libstdc++ and libgcc",
-        3,
-        "libstdc++-12-dev",
-        None,
-        "GPL-3.0-or-later WITH GCC-exception-3.1 AND MIT AND (Apache-2.0 OR BSL-1.0)",
-        "Copyright (C) Free Software Foundation, Inc.",
-        b"basic_string::append",
-        "The MIT part is the reading of numbers (fast_float), Apache-2.0 OR BSL-1.0 the writing (Ryu).",
-    ),
-    Component(
-        "gcc-runtime-windows",
-        "libstdc++ and libgcc",
-        3,
-        "g++-mingw-w64-i686-posix",
-        None,
-        "GPL-3.0-or-later WITH GCC-exception-3.1 AND MIT AND (Apache-2.0 OR BSL-1.0)",
-        "Copyright (C) Free Software Foundation, Inc.",
-        b"basic_string::append",
-        "The MIT part is the reading of numbers (fast_float), Apache-2.0 OR BSL-1.0 the writing (Ryu).",
-    ),
+    GCC_RUNTIME,
+    GCC_RUNTIME._replace(id="gcc-runtime-windows", package="g++-mingw-w64-i686-posix"),
     Component(
         "cli11",
         "CLI11",

@@ -43,8 +43,7 @@ std::vector<std::size_t> ColumnWidths(const Rows& rows) {
     return widths;
 }
 
-// The only file whose name the user gives. It may be a device or a pipe of the shell, which is written
-// directly.
+// The user gives its name. It may be a device or a pipe of the shell, which is written directly.
 bool WritePictureFile(const std::string& path, const std::string& picture) {
     std::error_code ignored;
     const std::filesystem::file_status status = std::filesystem::status(NativePath(path), ignored);

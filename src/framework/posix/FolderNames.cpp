@@ -11,6 +11,8 @@
 #include <mutex>
 #include <string_view>
 
+#include "framework/AsciiCase.h"
+
 namespace lumerin {
 
 namespace {
@@ -22,10 +24,6 @@ struct FolderCloser {
     void operator()(DIR* folder) const { closedir(folder); }
 };
 
-char LowerAscii(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 // Less than 0, 0, or greater, as the names without regard to case come in byte order.
 int CompareButForCase(std::string_view a, std::string_view b) {
     const std::size_t shared = std::min(a.size(), b.size());
@@ -35,10 +33,6 @@ int CompareButForCase(std::string_view a, std::string_view b) {
         if (difference != 0) return difference;
     }
     return static_cast<int>(a.size() > shared) - static_cast<int>(b.size() > shared);
-}
-
-bool StartsWith(std::string_view name, std::string_view start) {
-    return CompareButForCase(name.substr(0, start.size()), start) == 0;
 }
 
 bool IsBefore(const std::string& a, const std::string& b) {
@@ -93,7 +87,8 @@ class LargeFolder {
         auto name = std::lower_bound(
             m_names.begin(), m_names.end(), start,
             [](const std::string& a, const std::string& b) { return CompareButForCase(a, b) < 0; });
-        for (; name != m_names.end() && StartsWith(*name, start); ++name) take(std::string_view(*name));
+        for (; name != m_names.end() && StartsWithButForCase(*name, start); ++name)
+            take(std::string_view(*name));
     }
 
   private:
@@ -139,7 +134,7 @@ std::string EntryAnyCase(const std::string& folder, const std::string& name) {
 std::vector<std::string> EntriesStartingWith(const std::string& folder, const std::string& start) {
     std::vector<std::string> names;
     EachCandidate(folder, start, [&](std::string_view candidate) {
-        if (StartsWith(candidate, start)) names.emplace_back(candidate);
+        if (StartsWithButForCase(candidate, start)) names.emplace_back(candidate);
     });
     std::sort(names.begin(), names.end());
     return names;

@@ -5,6 +5,7 @@
 #include <memory>
 #include <utility>
 
+#include "framework/AsciiCase.h"
 #include "framework/Backend.h"
 #include "framework/windows/System.h"
 #include "framework/windows/WidePath.h"
@@ -16,16 +17,6 @@ namespace {
 struct SearchCloser {
     void operator()(HANDLE search) const { FindClose(search); }
 };
-
-char LowerAscii(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool StartsWith(const std::string& name, const std::string& start) {
-    return name.size() >= start.size() &&
-           std::equal(start.begin(), start.end(), name.begin(),
-                      [](char a, char b) { return LowerAscii(a) == LowerAscii(b); });
-}
 
 // Calls `take` for the names that the system finds for a path whose last part has * or ?.
 template <class Take>
@@ -47,7 +38,7 @@ std::vector<std::string> EntriesStartingWith(const std::string& folder, const st
     const bool isWhole = folder.empty() || services::IsFolderSeparator(folder.back());
     EachFound(folder + (isWhole ? "" : "\\") + start + '*', [&](std::string name) {
         // A pattern finds the short names of files as well.
-        if (StartsWith(name, start)) names.push_back(std::move(name));
+        if (StartsWithButForCase(name, start)) names.push_back(std::move(name));
     });
     std::sort(names.begin(), names.end());
     return names;
